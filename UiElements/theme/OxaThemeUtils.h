@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+#include <UiElements/theme/OxaCSSData.h>
+#include <UiElements/theme/OxaColorSet.h>
+
+#include <QString>
+
+class QJsonObject;
+class QWidget;
+
+/// Colours by name: documents, the application's stores, and the style language.
+///
+/// The readers of documents and the style language are pure functions on values and need no
+/// application object. What reads or writes a store finds it through the IOxaApplication of the
+/// process; without one, stores are empty and setters do nothing. GUI thread only.
+namespace OxaThemeUtils {
+
+/// How a widget relates to the application's theme.
+enum class AppThemeType {
+    Global = 0,   ///< "global": the application's current theme, whichever it is.
+    Light = 1,    ///< "light": always the light appearance.
+    Dark = 2,     ///< "dark": always the dark appearance.
+    Inverted = 3, ///< "inverted": the opposite of the application's theme.
+};
+
+/// What a colour set is used for: one enumerator for each colour directive of the style language.
+enum class ColorSetType {
+    Background = 0, ///< "$backgroundColors:"
+    Border = 1,     ///< "$borderColors:"
+    Text = 2,       ///< "$textColors:"
+};
+
+/// What the expansion of a style text yields.
+struct CSSParserResult
+{
+    OxaColorSet backgroundColorSet; ///< The background set; not valid when there is none.
+    OxaColorSet borderColorSet;     ///< The border set; not valid when there is none.
+    OxaColorSet textColorSet;       ///< The text set; not valid when there is none.
+    OxaCSSData oxaCSS;              ///< The structured form of the style text.
+    QString expandedStyleSheet;     ///< The finished Qt style sheet.
+};
+
+// Theme types
+
+/// Returns the word for \a themeType; a value outside the enumeration gives "global".
+UIELEMENTS_EXPORT QString themeTypeToString(AppThemeType themeType);
+
+/// Returns the theme type whose word is exactly \a text, compared case-sensitively; every other
+/// text, the empty one included, gives AppThemeType::Global.
+UIELEMENTS_EXPORT AppThemeType stringToThemeType(const QString &text);
+
+/// Returns the effective theme type of \a widget: its own "themeType" property where that names a
+/// type other than global, else the one of its window. Null gives AppThemeType::Global.
+UIELEMENTS_EXPORT AppThemeType getThemeTypeOfWidget(const QWidget *widget);
+
+// Documents
+
+/// Reads the JSON object in the file at \a path. A file that won't open, or that holds no JSON
+/// object, gives an empty object and no warning.
+UIELEMENTS_EXPORT QJsonObject readJsonObject(const QString &path);
+
+/// Reads a colour document. All or nothing: a colour without a name (silently), a colour with a
+/// value out of range or an alias of a colour that isn't there yet (each with a warning) gives an
+/// empty palette.
+UIELEMENTS_EXPORT OxaColorPalette parseOxaColorsFromJson(const QJsonObject &document);
+
+/// Reads the colour document in the file at \a path.
+UIELEMENTS_EXPORT OxaColorPalette parseOxaColorsFromJson(const QString &path);
+
+/// Reads a colour-set document whose states name colours of \a palette; with an empty palette the
+/// states hold their "rgba" themselves. All or nothing: without a "tokens" object, or with a set
+/// that has no usable "normal", the result is empty and a warning tells why. A state that is
+/// missing or unusable silently takes the set's normal colour.
+UIELEMENTS_EXPORT OxaColorSetMap parseOxaColorSetsFromJson(const QJsonObject &document,
+                                                           const OxaColorPalette &palette);
+
+/// Reads the colour-set document in the file at \a path.
+UIELEMENTS_EXPORT OxaColorSetMap parseOxaColorSetsFromJson(const QString &path,
+                                                           const OxaColorPalette &palette);
+
+// Stores. A reference holds until the store is next replaced: keep it for one call only.
+
+/// Returns the application's ordinary store, which shows its current theme.
+UIELEMENTS_EXPORT const OxaColorSetMap &getAppOxaColorSets();
+
+/// Returns the application's inverted store, which shows the opposite of its current theme.
+UIELEMENTS_EXPORT const OxaColorSetMap &getAppInvertedOxaColorSets();
+
+/// Returns the application's token map.
+UIELEMENTS_EXPORT const OxaColorTokenMap &getAppOxaColorTokens();
+
+/// Replaces the ordinary store by a copy of \a colorSets; IOxaApplication::colorSetsChanged
+/// follows, whether or not anything differs.
+UIELEMENTS_EXPORT void setAppOxaColorSets(const OxaColorSetMap &colorSets);
+
+/// Replaces the inverted store by a copy of \a colorSets; IOxaApplication::colorSetsChanged
+/// follows, whether or not anything differs.
+UIELEMENTS_EXPORT void setAppInvertedOxaColorSets(const OxaColorSetMap &colorSets);
+
+/// Replaces the token map by a copy of \a colorTokens. No signal follows.
+UIELEMENTS_EXPORT void setAppOxaColorTokens(const OxaColorTokenMap &colorTokens);
+
+/// Returns the store that shows \a themeType under the application's flags of this moment. In high
+/// contrast that is always the ordinary one.
+UIELEMENTS_EXPORT const OxaColorSetMap &getOxaColorSetsByThemeType(AppThemeType themeType);
+
+/// Returns the set called \a name (UTF-8) in the store for \a themeType. A name that the store
+/// lacks logs a warning and gives a default set; so does an empty name, without the warning.
+UIELEMENTS_EXPORT OxaColorSet getColorSet(const std::string &name, AppThemeType themeType);
+
+/// Returns the set "transparent", with Qt::transparent in all six states. It is valid.
+UIELEMENTS_EXPORT OxaColorSet transparentColourSet();
+
+/// True when the application's high contrast theme is on.
+UIELEMENTS_EXPORT bool isHighContrastEnabled();
+
+// The style language
+
+/// Expands \a styleText into a Qt style sheet whose rules bear \a selector, with the colours of
+/// \a colorSets. An empty style text, selector or store returns the text as it is. A directive
+/// that can't be expanded stays in the sheet; a colour reference that can't, too, with a warning.
+UIELEMENTS_EXPORT CSSParserResult parseCSS(const QString &selector, const QString &styleText,
+                                           const OxaColorSetMap &colorSets);
+
+/// Expands \a styleText for \a widget, which must not be null: the selector is its object name,
+/// else its class. The store is the one of the widget's theme type, and \a colorSets only where
+/// that type is global. Sets the widget's dynamic property "rectangularCornerMask", and
+/// "focusBorderRadius" where the text has a radius.
+UIELEMENTS_EXPORT CSSParserResult parseCSS(QWidget *widget, const QString &styleText,
+                                           const OxaColorSetMap &colorSets);
+
+/// Writes \a data as a style text: the directives first, the plain style sheet after them.
+/// OxaCSSData::noBorder is worked out afresh from the sides and the radius.
+UIELEMENTS_EXPORT QString convertToOxaCSS(OxaCSSData data);
+
+/// Removes the first directive of each kind from \a styleText and trims what is left.
+UIELEMENTS_EXPORT void removeOxaCSSFromStyleSheet(QString &styleText);
+
+/// Returns the trimmed value of the first colour directive of \a type in \a styleText, or an empty
+/// string without one.
+UIELEMENTS_EXPORT QString getColorSetNameFromString(ColorSetType type, const QString &styleText);
+
+/// Returns an HTML style element that gives links the colours of the set "button-hyperlink-text"
+/// under \a themeType: normal for links and visited links, hovered under the pointer.
+UIELEMENTS_EXPORT QString getHyperlinkCSS(AppThemeType themeType);
+
+} // namespace OxaThemeUtils

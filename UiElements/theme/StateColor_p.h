@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/theme/OxaColorSet.h>
+
+#include <QStyle>
+
+/// Returns the colour of \a set for a widget in \a state. What is stronger comes first: disabled
+/// before pressed, hovered, focused and checked.
+inline QColor colorForStyleState(const OxaColorSet &set, QStyle::State state)
+{
+    if (!state.testFlag(QStyle::State_Enabled))
+        return set.disabled;
+    if (state.testFlag(QStyle::State_Sunken))
+        return set.pressed;
+    if (state.testFlag(QStyle::State_MouseOver))
+        return set.hovered;
+    if (state.testFlag(QStyle::State_HasFocus) && set.focused != set.normal)
+        return set.focused;
+    if (state & (QStyle::State_Selected | QStyle::State_On))
+        return set.checked;
+    return set.normal;
+}
