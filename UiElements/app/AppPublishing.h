@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+
+/// What the outer application says of itself as a published product.
+namespace AppPublishing {
+
+/// The texts of an "about" page. The library carries them and reads none.
+struct OxaPublishingInfo
+{
+    QString organizationName;
+    QString organizationDomain;
+    QString productName;
+    QString productVersion;
+    QString buildNumber;
+    QString copyrightNotice;
+    QString supportAddress;
+    QString privacyAddress;
+    QString termsAddress;
+};
+
+} // namespace AppPublishing

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+#include <UiElements/theme/OxaColorSet.h>
+
+#include <QApplication>
+
+class IOxaMovieProviderSource;
+class OxaQmlEngine;
+
+/// The part of the application object that the theme engine and the QML host need: the theme flags
+/// and the colour stores.
+///
+/// Don't derive from it directly: OxaApplication is the class to derive from.
+class UIELEMENTS_EXPORT IOxaApplication : public QApplication
+{
+    Q_OBJECT
+
+public:
+    /// Makes the QApplication of the process and registers the meta-type "OxaColorSet". The stores
+    /// start empty, the flags off. \a argc and \a argv must outlive the object.
+    IOxaApplication(int &argc, char **argv);
+    ~IOxaApplication() override;
+
+    /// Returns where animated images are fetched from.
+    virtual IOxaMovieProviderSource *getMovieProviderSource() = 0;
+
+    /// Called once for each new QML engine, for the outer application to set \a engine up.
+    virtual void onQmlEngineCreated(OxaQmlEngine *engine) = 0;
+
+    /// Returns the QML engine, or null as long as there is none.
+    OxaQmlEngine *getQmlEngine() const;
+
+    /// Returns the ordinary store. The reference holds until the store is next replaced.
+    const OxaColorSetMap &getColorSets() const;
+
+    /// Replaces the ordinary store by a copy of \a colorSets and emits colorSetsChanged(), also
+    /// when nothing differs.
+    void setColorSets(const OxaColorSetMap &colorSets);
+
+    /// Returns the inverted store. The reference holds until the store is next replaced.
+    const OxaColorSetMap &getInvertedColorSets() const;
+
+    /// Replaces the inverted store by a copy of \a colorSets and emits colorSetsChanged(), also
+    /// when nothing differs.
+    void setInvertedColorSets(const OxaColorSetMap &colorSets);
+
+    /// Returns the token map. The reference holds until the map is next replaced.
+    const OxaColorTokenMap &getColorTokens() const;
+
+    /// Replaces the token map by a copy of \a colorTokens. Emits nothing.
+    void setColorTokens(const OxaColorTokenMap &colorTokens);
+
+    /// True when the application's theme is dark. Off by default.
+    bool getIsDarkTheme() const;
+
+    /// True when the application's theme is a high contrast one. Off by default.
+    bool getIsHighContrastTheme() const;
+
+Q_SIGNALS:
+    /// A store was replaced. Widgets don't follow it: they take new colours when their theme type
+    /// is set or their style text is applied again.
+    void colorSetsChanged();
+
+protected:
+    /// Stores the flag; telling of the change is the caller's.
+    void storeIsDarkTheme(bool isDarkTheme);
+
+    /// Stores the flag; telling of the change is the caller's.
+    void storeIsHighContrastTheme(bool isHighContrastTheme);
+
+private:
+    bool m_isHighContrastTheme = false;
+    bool m_isDarkTheme = false;
+    OxaColorSetMap m_colorSets;
+    OxaColorTokenMap m_colorTokens;
+    OxaColorSetMap m_invertedColorSets;
+};

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/app/AppPublishing.h>
+#include <UiElements/app/IOxaApplication.h>
+
+#include <QPointer>
+
+#include <optional>
+
+class OxaAppSignals;
+class OxaFontManager;
+class OxaGlobalSignalListener;
+class OxaMainWindow;
+
+/// The application object: the QApplication of the process, and the root of all that the library
+/// shares. The outer application derives its application class from it and makes one before any
+/// widget.
+///
+/// It owns the colour stores, the theme flags, the font scale and the font manager. The theme's
+/// flags and name have no public setter: the outer application sets them as Qt properties.
+///
+/// Widgets do not follow these signals. After a change of theme or stores, set "themeType" on the
+/// top-level windows: the parent chain takes it to every widget.
+class UIELEMENTS_EXPORT OxaApplication : public IOxaApplication
+{
+    Q_OBJECT
+    Q_PROPERTY(bool isDarkTheme READ getIsDarkTheme WRITE setIsDarkTheme NOTIFY isDarkThemeChanged)
+    Q_PROPERTY(bool isHighContrastTheme READ getIsHighContrastTheme WRITE setIsHighContrastTheme
+                       NOTIFY isHighContrastThemeChanged)
+    Q_PROPERTY(QString theme READ getThemeName WRITE setThemeName NOTIFY themeChanged)
+    Q_PROPERTY(
+            QString logoSvgPath READ getLogoSvgPath WRITE setLogoSvgPath NOTIFY logoSvgPathChanged)
+    Q_PROPERTY(
+            QString logoPngPath READ getLogoPngPath WRITE setLogoPngPath NOTIFY logoPngPathChanged)
+    Q_PROPERTY(float fontScaleFactor READ getFontScaleFactor WRITE setFontScaleFactor NOTIFY
+                       fontScaleFactorChanged)
+
+public:
+    /// Makes the application with its font manager, and installs the application font: the default
+    /// token in "Segoe UI". \a argc and \a argv must outlive the object.
+    OxaApplication(int &argc, char **argv);
+    ~OxaApplication() override;
+
+    IOxaMovieProviderSource *getMovieProviderSource() override;
+
+    /// True when the user wants no animations. False here; the outer application overrides it.
+    Q_INVOKABLE virtual bool animationsDisabled() const;
+
+    /// The outer application's hook for starting itself anew. The library never calls it.
+    virtual void restart() = 0;
+
+    /// Called from the constructor of each main window, for the outer application to register its
+    /// shortcuts on \a window.
+    virtual void registerMainWindowShortcuts(OxaMainWindow *window) = 0;
+
+    /// Returns the signal hub, or null as long as there is none.
+    OxaAppSignals *getAppSignals() const;
+
+    /// Returns the global signal listener, or null as long as there is none.
+    OxaGlobalSignalListener *getGlobalSignalListener() const;
+
+    /// Returns the font manager, or null once it is gone.
+    OxaFontManager *getOxaFontManager() const;
+
+    /// Returns the set called \a colorSetName for the theme type whose word is \a themeType; any
+    /// other word, the empty one included, means "global". Warnings as in
+    /// OxaThemeUtils::getColorSet().
+    Q_INVOKABLE OxaColorSet getColorSet(const QString &colorSetName,
+                                        const QString &themeType = QString());
+
+    /// Returns the name of the theme. Empty by default.
+    QString getThemeName() const;
+
+    /// Returns the resource path of the SVG logo. Empty by default.
+    QString getLogoSvgPath() const;
+
+    /// Stores \a path and emits logoSvgPathChanged(), also when it is the same.
+    void setLogoSvgPath(const QString &path);
+
+    /// Returns the resource path of the PNG logo. Empty by default.
+    QString getLogoPngPath() const;
+
+    /// Stores \a path and emits logoPngPathChanged(), also when it is the same.
+    void setLogoPngPath(const QString &path);
+
+    /// Returns the factor that font tokens are multiplied by. 1.0 by default.
+    float getFontScaleFactor() const;
+
+    /// Stores \a factor, 0.5 to 1.5, and emits fontScaleFactorChanged(), also when it is the same.
+    /// A factor out of range logs a warning and changes nothing. Fonts made before keep their size.
+    void setFontScaleFactor(float factor);
+
+    /// Returns what the outer application says of itself, where it has said anything.
+    std::optional<AppPublishing::OxaPublishingInfo> getPublishingInfo() const;
+
+    /// True when a window of the application is active.
+    static bool isInFocus();
+
+Q_SIGNALS:
+    void themeChanged(const QString &themeName);
+    void isDarkThemeChanged(bool isDarkTheme);
+    void isHighContrastThemeChanged(bool isHighContrastTheme);
+    void fontScaleFactorChanged(float scale);
+    void logoSvgPathChanged(const QString &isDarkTheme);
+    void logoPngPathChanged(const QString &isDarkTheme);
+
+protected:
+    /// Filled by the outer application; nothing in the library sets or reads it.
+    std::optional<AppPublishing::OxaPublishingInfo> m_publishingInfo;
+
+private:
+    void setIsDarkTheme(bool isDarkTheme);
+    void setIsHighContrastTheme(bool isHighContrastTheme);
+    void setThemeName(const QString &themeName);
+
+    QString m_themeName;
+    float m_fontScaleFactor = 1.0F;
+    QString m_logoSvgPath;
+    QString m_logoPngPath;
+    QPointer<OxaFontManager> m_fontManager;
+};

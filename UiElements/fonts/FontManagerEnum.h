@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+
+#include <QObject>
+
+/// Holds the enumerations of the font manager for C++ and QML alike.
+class UIELEMENTS_EXPORT FontManagerEnum : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The view whose scaled fonts a widget follows.
+    enum class FontType {
+        Default = 0,       ///< None: the widget keeps its token's font.
+        MessagingView = 1, ///< The messaging view.
+        MeetingView = 2,   ///< The meeting view.
+    };
+    Q_ENUM(FontType)
+
+    /// How far a view is enlarged.
+    enum class FontScalingFactor {
+        Small = -1,
+        Regular = 0,
+        Medium = 1,
+        Large = 2,
+    };
+    Q_ENUM(FontScalingFactor)
+};
