@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "FontBlock.h"
+
+#include <UiElements/fonts/OxaFontManager.h>
+#include <UiElements/fonts/OxaScaledFonts.h>
+
+#include <QWidget>
+
+FontBlock::FontBlock(QWidget *widget) : m_widget(widget) { setToken(m_token, false); }
+
+void FontBlock::setToken(OxaFont::Token token, bool useFallbackFamilies)
+{
+    m_token = token;
+    m_widget->setFont(OxaFont(token, useFallbackFamilies));
+    update();
+}
+
+void FontBlock::setType(FontManagerEnum::FontType type)
+{
+    if (type == m_type)
+        return;
+    m_type = type;
+    update();
+}
+
+void FontBlock::update()
+{
+    QObject::disconnect(m_connection);
+    if (m_type == FontManagerEnum::FontType::Default)
+        return;
+    OxaFontManager *manager = OxaFontManager::get();
+    if (!manager)
+        return;
+
+    const OxaScaledFonts *scaled = manager->getFont(m_type);
+    const auto takeFont = [this, scaled] { m_widget->setFont(scaled->getFont(m_token)); };
+    takeFont();
+    m_connection = QObject::connect(scaled, &OxaScaledFonts::fontTokenChanged, m_widget, takeFont);
+}

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ThemeBlock.h"
+
+#include <QMetaMethod>
+#include <QVariant>
+
+void ThemeBlock::followTheme()
+{
+    m_class.followTheme(m_widget);
+    followParent();
+}
+
+void ThemeBlock::followObjectName() { m_class.followObjectName(m_widget); }
+
+void ThemeBlock::setCSS(const QString &styleText)
+{
+    m_styleText = styleText;
+    OxaThemeUtils::CSSParserResult result =
+            OxaThemeUtils::parseCSS(m_widget, m_styleText, OxaThemeUtils::getAppOxaColorSets());
+    m_cssData = result.oxaCSS;
+    if (m_keptSets)
+        *m_keptSets = { result.backgroundColorSet, result.borderColorSet, result.textColorSet };
+    if (m_form == Form::StyledBackground)
+        m_widget->setAttribute(Qt::WA_StyledBackground, !result.expandedStyleSheet.isEmpty());
+
+    // Taking an empty sheet from a widget that has none would still make Qt work out its style
+    // anew.
+    if (!result.expandedStyleSheet.isEmpty() || !m_widget->styleSheet().isEmpty())
+        m_widget->QWidget::setStyleSheet(result.expandedStyleSheet);
+    m_class.emitCssChanged(m_widget);
+    if (m_form == Form::Full)
+        followObjectName();
+}
+
+void ThemeBlock::setStyleSheet(const QString &styleSheet)
+{
+    if (m_styleText.isEmpty())
+        m_styleText = styleSheet;
+    m_widget->QWidget::setStyleSheet(styleSheet);
+}
+
+OxaThemeUtils::AppThemeType ThemeBlock::effectiveThemeType() const
+{
+    return OxaThemeUtils::getThemeTypeOfWidget(m_widget);
+}
+
+void ThemeBlock::setThemeType(const QString &themeType)
+{
+    m_themeType = themeType;
+    refreshCSS();
+    m_class.emitThemeTypeChanged(m_widget);
+}
+
+void ThemeBlock::changeEvent(const QEvent *event)
+{
+    if (event->type() != QEvent::ParentChange)
+        return;
+    followParent();
+    onParentThemeTypeChanged();
+}
+
+void ThemeBlock::onParentThemeTypeChanged()
+{
+    const QWidget *parent = m_widget->parentWidget();
+    if (!parent || !takeThemeTypeOf(parent))
+        takeThemeTypeOf(m_widget->window());
+}
+
+/// Connects the widget to its parent's theme type, in addition to those of earlier parents.
+void ThemeBlock::followParent()
+{
+    const QObject *parent = m_widget->parent();
+    if (!parent)
+        return;
+    const QMetaObject *parentClass = parent->metaObject();
+    const int signal = parentClass->indexOfSignal("themeTypeChanged()");
+    if (signal < 0)
+        return;
+    const QMetaObject *ownClass = m_widget->metaObject();
+    QObject::connect(parent, parentClass->method(signal), m_widget,
+                     ownClass->method(ownClass->indexOfSlot("onParentThemeTypeChanged()")));
+}
+
+/// Takes over the theme type of \a other where it differs from the widget's. Words are compared by
+/// what they mean: an unknown word is as good as "global".
+bool ThemeBlock::takeThemeTypeOf(const QWidget *other)
+{
+    const QVariant otherType = other->property("themeType");
+    if (!otherType.isValid()
+        || OxaThemeUtils::stringToThemeType(otherType.toString())
+                == OxaThemeUtils::stringToThemeType(m_themeType))
+        return false;
+    setThemeType(otherType.toString());
+    return true;
+}

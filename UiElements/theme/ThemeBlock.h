@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+#include <UiElements/theme/OxaThemeUtils.h>
+
+#include <QEvent>
+#include <QObject>
+#include <QWidget>
+
+/// The colour sets that a widget's style text names, for widgets that paint with them by
+/// themselves.
+struct StyleColorSets
+{
+    OxaColorSet background;
+    OxaColorSet border;
+    OxaColorSet text;
+};
+
+/// Binds a widget to the theme: the behaviour behind UIELEMENTS_THEME_BLOCK.
+///
+/// A member of the widget that it serves. It holds the style text, expands it for the widget, and
+/// hands theme types down the parent chain. What differs from class to class, the signals and slots
+/// that it reaches, stands in one constant for each class.
+class UIELEMENTS_EXPORT ThemeBlock
+{
+    Q_DISABLE_COPY_MOVE(ThemeBlock)
+
+public:
+    /// How a style text takes hold of the widget.
+    enum class Form {
+        Full,             ///< Follows the object name from the first style text on.
+        StyledBackground, ///< Makes a plain QWidget paint its background; follows no name.
+    };
+
+    /// Serves \a widget, which must outlive the block. With \a keptSets each setCSS() leaves the
+    /// sets of the style text there.
+    template <typename Widget>
+    explicit ThemeBlock(Widget *widget, Form form = Form::Full, StyleColorSets *keptSets = nullptr)
+        : m_widget(widget), m_class(classOf<Widget>), m_form(form), m_keptSets(keptSets)
+    {
+    }
+    ~ThemeBlock() = default;
+
+    /// The part of construction that all classes share, to be called from the constructor's body:
+    /// runs the widget's onThemeChanged(), connects it to the widget's theme type, and connects the
+    /// widget to its parent's.
+    void followTheme();
+
+    /// Connects the widget's object name to refreshCSS(), once however often it is called.
+    void followObjectName();
+
+    QString styleText() const { return m_styleText; }
+    QByteArray styleTextAsUtf8() const { return m_styleText.toUtf8(); }
+    const OxaCSSData &cssData() const { return m_cssData; }
+    void setCSS(const QString &styleText);
+    void refreshCSS() { setCSS(m_styleText); }
+
+    void setStyleSheet(const QString &styleSheet);
+
+    QString themeType() const { return m_themeType; }
+    OxaThemeUtils::AppThemeType effectiveThemeType() const;
+    void setThemeType(const QString &themeType);
+
+    void changeEvent(const QEvent *event);
+    void onParentThemeTypeChanged();
+
+private:
+    /// One widget class's signals and slots, as functions on the widget.
+    struct WidgetClass
+    {
+        void (*emitCssChanged)(QWidget *);
+        void (*emitThemeTypeChanged)(QWidget *);
+        void (*followTheme)(QWidget *);
+        void (*followObjectName)(QWidget *);
+    };
+    template <typename Widget>
+    static const WidgetClass classOf;
+
+    void followParent();
+    bool takeThemeTypeOf(const QWidget *other);
+
+    QWidget *const m_widget;
+    const WidgetClass &m_class;
+    const Form m_form;
+    StyleColorSets *const m_keptSets;
+    QString m_styleText;
+    OxaCSSData m_cssData;
+    QString m_themeType = QStringLiteral("global");
+};
+
+template <typename Widget>
+const ThemeBlock::WidgetClass ThemeBlock::classOf = {
+    [](QWidget *widget) { Q_EMIT static_cast<Widget *>(widget)->cssChanged(); },
+    [](QWidget *widget) { Q_EMIT static_cast<Widget *>(widget)->themeTypeChanged(); },
+    [](QWidget *widget) {
+        auto *self = static_cast<Widget *>(widget);
+        self->onThemeChanged();
+        QObject::connect(self, &Widget::themeTypeChanged, self, &Widget::onThemeChanged);
+    },
+    [](QWidget *widget) {
+        auto *self = static_cast<Widget *>(widget);
+        QObject::connect(self, &QObject::objectNameChanged, self, &Widget::refreshCSS,
+                         Qt::UniqueConnection);
+    },
+};
+
+/// Declares the theme members of a themed widget class. Stands right after Q_OBJECT, without a
+/// semicolon, with the Qt class that the widget derives from as its argument, and leaves the access
+/// at private. Derived widgets inherit it all and override onThemeChanged().
+///
+/// The class defines onThemeChanged() and calls m_themeBlock.followTheme() in its constructor,
+/// where it may also initialise m_themeBlock with a form of its own or a place for its colour sets.
+///
+/// Properties: `css`, the style text as UTF-8; `themeType`, the stored word of the theme type;
+/// `styleSheet`, Qt's, where a sheet given to a widget without a style text becomes that text.
+/// getThemeType() tells the effective type, which may be the window's.
+/// setCSS() expands and applies the style text and emits cssChanged(). setThemeType() stores the
+/// word, applies the style text again, and emits cssChanged() and themeTypeChanged(), also when the
+/// word is the same. Children whose parent has a themeTypeChanged() signal follow it.
+/// onThemeChanged() runs at each change of the type, to fetch what a class paints with by itself.
+#define UIELEMENTS_THEME_BLOCK(QtClass)                                                            \
+    Q_PROPERTY(QString styleSheet READ styleSheet WRITE setStyleSheet)                             \
+    Q_PROPERTY(QByteArray css READ _getCSS WRITE _setCSS NOTIFY cssChanged)                        \
+    Q_PROPERTY(QString themeType READ _getThemeType WRITE setThemeType NOTIFY themeTypeChanged)    \
+                                                                                                   \
+public:                                                                                            \
+    QString getCSS() const { return m_themeBlock.styleText(); }                                    \
+    void setCSS(const QString &styleText) { m_themeBlock.setCSS(styleText); }                      \
+    OxaCSSData getOxaCSS() const { return m_themeBlock.cssData(); }                                \
+    void setCSS(const OxaCSSData &cssData)                                                         \
+    {                                                                                              \
+        m_themeBlock.setCSS(OxaThemeUtils::convertToOxaCSS(cssData));                              \
+    }                                                                                              \
+    void setStyleSheet(const QString &sheet) { m_themeBlock.setStyleSheet(sheet); }                \
+    OxaThemeUtils::AppThemeType getThemeType() const { return m_themeBlock.effectiveThemeType(); } \
+    void setThemeType(const QString &themeType) { m_themeBlock.setThemeType(themeType); }          \
+                                                                                                   \
+Q_SIGNALS:                                                                                         \
+    void cssChanged();                                                                             \
+    void themeTypeChanged();                                                                       \
+                                                                                                   \
+protected:                                                                                         \
+    void changeEvent(QEvent *event) override                                                       \
+    {                                                                                              \
+        QtClass::changeEvent(event);                                                               \
+        m_themeBlock.changeEvent(event);                                                           \
+    }                                                                                              \
+                                                                                                   \
+protected Q_SLOTS:                                                                                 \
+    virtual void onThemeChanged();                                                                 \
+                                                                                                   \
+private Q_SLOTS:                                                                                   \
+    void refreshCSS() { m_themeBlock.refreshCSS(); }                                               \
+    void onParentThemeTypeChanged() { m_themeBlock.onParentThemeTypeChanged(); }                   \
+                                                                                                   \
+private:                                                                                           \
+    friend class ThemeBlock;                                                                       \
+    QByteArray _getCSS() const { return m_themeBlock.styleTextAsUtf8(); }                          \
+    void _setCSS(const QByteArray &utf8) { m_themeBlock.setCSS(QString::fromUtf8(utf8)); }         \
+    QString _getThemeType() const { return m_themeBlock.themeType(); }                             \
+    ThemeBlock m_themeBlock { this };
