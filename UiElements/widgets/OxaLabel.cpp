@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OxaLabel.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTextDocument>
+
+namespace {
+
+constexpr int focusFrameRadius = 4;
+
+QString withLinkColors(const QString &text, const OxaColorSet &colors)
+{
+    // Visited links take the focused colour: meant so.
+    static const QString html = QStringLiteral(
+            "<style type = \"text/css\">a:link{text-decoration: underline; color:%1;} "
+            "a:visited{color:%2;} a:hover{color:%3;}</style>%4");
+    return html.arg(colors.normal.name(), colors.focused.name(), colors.hovered.name(), text);
+}
+
+} // namespace
+
+OxaLabel::OxaLabel(QWidget *parent) : OxaLabel(parent, QAccessible::NoRole) { }
+
+OxaLabel::OxaLabel(QWidget *parent, QAccessible::Role role, Qt::WindowFlags flags)
+    : OxaLabel(QString(), parent, role, flags)
+{
+}
+
+OxaLabel::OxaLabel(const QString &text, QWidget *parent, QAccessible::Role role,
+                   Qt::WindowFlags flags)
+    : QLabel(parent, flags),
+      m_themeBlock(this, ThemeBlock::Form::Full, &m_colorSets),
+      m_accessibleRole(role)
+{
+    OxaLabel::setTextFormat(Qt::PlainText);
+    OxaLabel::setText(text);
+    setProperty("focusBorderRadius", focusFrameRadius);
+    m_themeBlock.followTheme();
+    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this,
+            &OxaLabel::onLayoutDirectionChanged);
+    onLayoutDirectionChanged();
+}
+
+void OxaLabel::setTextFormat(Qt::TextFormat format)
+{
+    const bool changes = format != textFormat();
+    QLabel::setTextFormat(format);
+    if (changes && !m_rawText.isEmpty())
+        setText(m_rawText);
+}
+
+void OxaLabel::setTextInteractionFlags(Qt::TextInteractionFlags flags)
+{
+    QLabel::setTextInteractionFlags(flags);
+    if (flags & (Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard))
+        update();
+}
+
+Qt::TextElideMode OxaLabel::getElideMode() const { return m_elideMode; }
+
+void OxaLabel::setElideMode(Qt::TextElideMode mode)
+{
+    m_elideMode = mode;
+    update();
+}
+
+int OxaLabel::getElidePadding() const { return m_elidePadding; }
+
+void OxaLabel::setElidePadding(int padding)
+{
+    m_elidePadding = padding;
+    update();
+}
+
+QString OxaLabel::getUniqueElementId() const { return m_uniqueElementId; }
+
+void OxaLabel::setUniqueElementId(const QString &id) { m_uniqueElementId = id; }
+
+QAccessible::Role OxaLabel::getAccessibleRole() const { return m_accessibleRole; }
+
+void OxaLabel::setAccessibleRole(QAccessible::Role role) { m_accessibleRole = role; }
+
+void OxaLabel::updateWrapMode(QTextOption::WrapMode mode)
+{
+    m_wrapMode = mode;
+    update();
+}
+
+void OxaLabel::setPixmapColor(const QColor &color)
+{
+    QPixmap pixmap = QLabel::pixmap(Qt::ReturnByValue);
+    if (pixmap.isNull())
+        return;
+
+    QPainter painter(&pixmap);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.setBrush(color);
+    painter.setPen(color);
+    painter.drawRect(pixmap.rect());
+    painter.end();
+    setPixmap(pixmap);
+}
+
+int OxaLabel::getLineWidth() const { return rect().width() - m_elidePadding; }
+
+QString OxaLabel::getElidedText(const QString &text, int indent, int margin) const
+{
+    if (m_elideMode == Qt::ElideNone)
+        return text;
+    return fontMetrics().elidedText(text, m_elideMode, getLineWidth() - 2 * margin - indent);
+}
+
+QPointF OxaLabel::getTextOffset() const
+{
+    const int flags = int(alignment()) | (wordWrap() ? Qt::TextWordWrap : 0);
+    const int top = fontMetrics().boundingRect(rect(), flags, text()).top();
+    return { 0.0, qreal(qMax(0, top)) };
+}
+
+void OxaLabel::setText(const QString &text)
+{
+    m_rawText = text;
+    const bool hasLinks = textFormat() == Qt::RichText && text.contains(QLatin1String("<a"));
+    QLabel::setText(hasLinks ? withLinkColors(text, m_linkColors) : text);
+}
+
+void OxaLabel::onThemeChanged()
+{
+    m_linkColors = OxaThemeUtils::getColorSet("button-hyperlink-text", getThemeType());
+    if (textFormat() == Qt::RichText)
+        setText(m_rawText);
+}
+
+void OxaLabel::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (isInteractive() && !hasSelectedText()) {
+        if (event->button() == Qt::LeftButton)
+            Q_EMIT clicked();
+        else if (event->button() == Qt::RightButton && !text().isEmpty())
+            selectAllText();
+    }
+    QLabel::mouseReleaseEvent(event);
+}
+
+void OxaLabel::keyPressEvent(QKeyEvent *event)
+{
+    const int key = event->key();
+    if (isInteractive() && (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter))
+        Q_EMIT clicked();
+    QLabel::keyPressEvent(event);
+}
+
+void OxaLabel::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event); // NOLINT(bugprone-parent-virtual-call): QLabel adds nothing to it
+    Q_EMIT onVisibilityChanged(true);
+}
+
+void OxaLabel::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event); // NOLINT(bugprone-parent-virtual-call): QLabel adds nothing to it
+    Q_EMIT onVisibilityChanged(false);
+}
+
+void OxaLabel::onLayoutDirectionChanged()
+{
+    const QMargins margins = contentsMargins();
+    setContentsMargins(margins.right(), margins.top(), margins.left(), margins.bottom());
+
+    // "TextDirection" tells the direction of the interface's language, which may differ from that
+    // of its layout.
+    const auto textDirection = static_cast<Qt::LayoutDirection>(
+            qApp->property("TextDirection").toInt());
+    const bool startsAtEnd = textDirection == Qt::LeftToRight && QGuiApplication::isRightToLeft();
+    setAlignment((alignment() & Qt::AlignVertical_Mask)
+                 | (startsAtEnd ? Qt::AlignRight : Qt::AlignLeft));
+}
+
+bool OxaLabel::isInteractive() const { return textInteractionFlags() != Qt::NoTextInteraction; }
+
+/// Selects what the label shows, which for rich text is shorter than text().
+void OxaLabel::selectAllText()
+{
+    // A selection makes QLabel fill its document, which is filled late otherwise.
+    setSelection(0, 0);
+    if (const auto *document = findChild<QTextDocument *>())
+        setSelection(0, document->characterCount() - 1);
+}

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+#include <UiElements/fonts/FontBlock.h>
+#include <UiElements/theme/ThemeBlock.h>
+
+#include <QAccessible>
+#include <QLabel>
+#include <QTextOption>
+
+/// A label that takes part in theming, elides its text, colours its links and can be clicked.
+///
+/// Texts are plain unless setTextFormat() says otherwise. With an elide mode the label paints its
+/// text itself: one elided line, or with word wrap as many lines as there is room for, the last of
+/// them elided at its end. While text is selected it paints as QLabel does, without an ellipsis.
+///
+/// The horizontal alignment follows the layout direction of the application, and is set anew at
+/// each change of it: one that was set before, centring included, is lost then. Set it after
+/// construction.
+class UIELEMENTS_EXPORT OxaLabel : public QLabel
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QLabel)
+    UIELEMENTS_FONT_BLOCK
+    Q_PROPERTY(Qt::TextElideMode elideMode READ getElideMode WRITE setElideMode)
+    Q_PROPERTY(int elidePadding READ getElidePadding WRITE setElidePadding)
+    Q_PROPERTY(QString elementUniqueId READ getUniqueElementId WRITE setUniqueElementId)
+    Q_PROPERTY(QAccessible::Role accessibleRole READ getAccessibleRole WRITE setAccessibleRole)
+    // QLabel's, once more, so that the property system calls the setters below.
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(Qt::TextFormat textFormat READ textFormat WRITE setTextFormat)
+    Q_PROPERTY(Qt::TextInteractionFlags textInteractionFlags READ textInteractionFlags WRITE
+                       setTextInteractionFlags)
+
+public:
+    /// Makes an empty label without an accessible role.
+    explicit OxaLabel(QWidget *parent = nullptr);
+
+    /// Makes an empty label.
+    OxaLabel(QWidget *parent, QAccessible::Role role, Qt::WindowFlags flags = {});
+
+    /// Makes a label with \a text.
+    explicit OxaLabel(const QString &text, QWidget *parent = nullptr,
+                      QAccessible::Role role = QAccessible::NoRole, Qt::WindowFlags flags = {});
+
+    /// Sets how the text is read, Qt::PlainText at first. A change sets the text again.
+    virtual void setTextFormat(Qt::TextFormat format);
+
+    /// Sets what the user can do with the text, QLabel's default at first. Repaints where the text
+    /// becomes selectable.
+    virtual void setTextInteractionFlags(Qt::TextInteractionFlags flags);
+
+    /// Returns where the text is elided. Qt::ElideNone by default: QLabel paints it all.
+    Qt::TextElideMode getElideMode() const;
+
+    /// Sets where the text is elided. With word wrap any mode but Qt::ElideNone elides the last
+    /// line at its end. Repaints.
+    void setElideMode(Qt::TextElideMode mode);
+
+    /// Returns the width in pixels that an elided text keeps free. 0 by default.
+    int getElidePadding() const;
+
+    /// Sets the width in pixels that an elided text keeps free. Repaints.
+    void setElidePadding(int padding);
+
+    /// Returns the stable id by which automation finds the label. Empty by default.
+    QString getUniqueElementId() const;
+
+    /// Stores \a id.
+    void setUniqueElementId(const QString &id);
+
+    /// Returns the role told to assistive technology.
+    QAccessible::Role getAccessibleRole() const;
+
+    /// Stores \a role.
+    void setAccessibleRole(QAccessible::Role role);
+
+    /// Sets where the lines of an eliding label with word wrap may break, QTextOption::WordWrap at
+    /// first. Repaints.
+    void updateWrapMode(QTextOption::WrapMode mode);
+
+    /// Paints the label's pixmap over with \a color, keeping its shape. Without a pixmap it does
+    /// nothing.
+    void setPixmapColor(const QColor &color);
+
+    /// Returns the label's width less the elide padding, in pixels.
+    int getLineWidth() const;
+
+    /// Returns \a text elided to the label's width less \a indent, twice \a margin and the elide
+    /// padding; with Qt::ElideNone, \a text itself.
+    QString getElidedText(const QString &text, int indent, int margin) const;
+
+    /// Returns where the text begins inside the label, by its vertical alignment. Subclasses use it
+    /// to place text.
+    virtual QPointF getTextOffset() const;
+
+public Q_SLOTS:
+    /// Sets the text. Rich text with links gets a style element in the colours of the set
+    /// "button-hyperlink-text", so that text() returns more than was set.
+    virtual void setText(const QString &text);
+
+Q_SIGNALS:
+    /// The label was clicked with the left button, or Space, Return or Enter was pressed on it.
+    /// Does not fire for a label without text interaction, nor for the mouse while text is
+    /// selected.
+    void clicked();
+
+    /// The label was shown or hidden.
+    void onVisibilityChanged(bool isVisible);
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private Q_SLOTS:
+    void onLayoutDirectionChanged();
+
+private:
+    bool isInteractive() const;
+    void selectAllText();
+    void paintText(QPainter &painter, const QStyleOptionFrame &option) const;
+    void paintElidedLine(QPainter &painter) const;
+    void paintWrappedLines(QPainter &painter) const;
+    int paintParagraph(QPainter &painter, const QString &paragraph, int y) const;
+    QColor frameGround() const;
+
+    StyleColorSets m_colorSets;
+    OxaColorSet m_linkColors;
+    QString m_rawText;
+    QString m_uniqueElementId;
+    QTextOption::WrapMode m_wrapMode = QTextOption::WordWrap;
+    Qt::TextElideMode m_elideMode = Qt::ElideNone;
+    int m_elidePadding = 0;
+    QAccessible::Role m_accessibleRole = QAccessible::NoRole;
+};

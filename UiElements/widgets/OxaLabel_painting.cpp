@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OxaLabel.h"
+
+#include <UiElements/svg/DrawUtils.h>
+#include <UiElements/theme/StateColor_p.h>
+
+#include <QPainter>
+#include <QStyleOptionFrame>
+#include <QTextLayout>
+
+namespace {
+
+/// Whether Qt has painted the rule of \a widget's style sheet before it sent the paint event.
+bool isFramePainted(const QWidget &widget)
+{
+    return widget.testAttribute(Qt::WA_StyledBackground)
+            && !widget.testAttribute(Qt::WA_OpaquePaintEvent)
+            && !widget.testAttribute(Qt::WA_NoSystemBackground);
+}
+
+} // namespace
+
+void OxaLabel::paintEvent(QPaintEvent *event)
+{
+    const bool paintsByItself = m_elideMode != Qt::ElideNone && !hasSelectedText();
+    if (!paintsByItself)
+        QLabel::paintEvent(event);
+
+    QPainter painter(this);
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    if (paintsByItself)
+        paintText(painter, option);
+    DrawUtils::drawFocusRect(&painter, option.state, option.rect, frameGround(), this);
+}
+
+void OxaLabel::paintText(QPainter &painter, const QStyleOptionFrame &option) const
+{
+    // Once is enough: a second coat would show through a translucent background.
+    if (!isFramePainted(*this))
+        style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    if (m_colorSets.text.isValid())
+        painter.setPen(colorForStyleState(m_colorSets.text, option.state));
+    if (wordWrap())
+        paintWrappedLines(painter);
+    else
+        paintElidedLine(painter);
+}
+
+void OxaLabel::paintElidedLine(QPainter &painter) const
+{
+    painter.drawText(rect().adjusted(margin(), margin(), -margin(), -margin()), int(alignment()),
+                     getElidedText(text(), indent(), margin()));
+}
+
+void OxaLabel::paintWrappedLines(QPainter &painter) const
+{
+    painter.translate(getTextOffset());
+    int y = margin();
+    const QStringList paragraphs = text().split(QChar::LineSeparator, Qt::SkipEmptyParts);
+    for (const QString &paragraph : paragraphs)
+        y = paintParagraph(painter, paragraph, y);
+    painter.resetTransform();
+}
+
+/// Paints \a paragraph from \a y downwards and returns where the next one begins. The last line
+/// that fits is elided; a paragraph that begins below it is one elided line.
+int OxaLabel::paintParagraph(QPainter &painter, const QString &paragraph, int y) const
+{
+    const int spacing = painter.fontMetrics().lineSpacing();
+    const int lineWidth = width() - 2 * margin() - indent();
+    // A text layout takes its alignment as it is; in a right-to-left label it has to be mirrored.
+    QTextOption option(QStyle::visualAlignment(layoutDirection(), alignment()));
+    option.setWrapMode(m_wrapMode);
+
+    QTextLayout layout(paragraph, painter.font());
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    while (line.isValid()) {
+        const int next = y + spacing;
+        const bool isLast = height() < margin() + next + spacing;
+        if (isLast) {
+            const QString rest = paragraph.mid(line.textStart());
+            layout.endLayout();
+            layout.setText(painter.fontMetrics().elidedText(rest, Qt::ElideRight, lineWidth));
+            layout.setTextOption(option);
+            layout.beginLayout();
+            line = layout.createLine();
+        }
+        line.setLineWidth(lineWidth);
+        line.draw(&painter, QPointF(indent() + margin(), y));
+        line = isLast ? QTextLine() : layout.createLine();
+        y = next;
+    }
+    layout.endLayout();
+    return y;
+}
+
+/// The colour that the focus frame lies on, whose inverse it takes.
+QColor OxaLabel::frameGround() const
+{
+    const QColor background = m_colorSets.background.normal;
+    return background.isValid() && background.alpha() > 0 ? background
+                                                          : palette().color(backgroundRole());
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+#include <UiElements/fonts/FontBlock.h>
+#include <UiElements/theme/ThemeBlock.h>
+
+#include <QPixmap>
+#include <QWidget>
+
+/// A plain container that takes part in theming and paints the rules of its style text.
+///
+/// Contents margins are spoken of in reading direction: "left" means the start of a line, and in a
+/// right-to-left application the two sides are swapped before Qt gets them. A running application
+/// that changes its direction swaps what is in force.
+class UIELEMENTS_EXPORT OxaWidget : public QWidget
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QWidget)
+    UIELEMENTS_FONT_BLOCK
+    Q_PROPERTY(QString elementUniqueId READ getUniqueElementId WRITE setUniqueElementId)
+    Q_PROPERTY(QString pixmap READ getPixmapSrc WRITE setPixmapSrc)
+
+public:
+    /// Makes an empty container.
+    explicit OxaWidget(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
+
+    /// Returns the stable id by which automation finds the widget. Empty by default.
+    QString getUniqueElementId() const;
+
+    /// Stores \a id.
+    void setUniqueElementId(const QString &id);
+
+    /// Returns the path of the background picture. Empty by default.
+    QString getPixmapSrc() const;
+
+    /// Loads the picture at \a path, which is painted stretched over the whole widget. A path that
+    /// gives no picture paints none. Does not repaint.
+    void setPixmapSrc(const QString &path);
+
+    /// Sets the widget's contents margins, in reading direction.
+    void setContentsMargins(const QMargins &margins);
+
+    /// Sets the widget's contents margins, in reading direction.
+    void setContentsMargins(int left, int top, int right, int bottom);
+
+    /// Sets the contents margins of the widget's layout, in reading direction. Without a layout it
+    /// does nothing.
+    void setLayoutContentsMargins(const QMargins &margins);
+
+    /// Sets the contents margins of the widget's layout, in reading direction. Without a layout it
+    /// does nothing.
+    void setLayoutContentsMargins(int left, int top, int right, int bottom);
+
+public Q_SLOTS:
+    /// Swaps the left and right contents margins of the widget and of its layout.
+    void onLayoutDirectionChanged();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString m_uniqueElementId;
+    QString m_pixmapPath;
+    QPixmap m_pixmap;
+};
