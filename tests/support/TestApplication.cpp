@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "support/TestApplication.h"
+
+void TestApplication::onQmlEngineCreated(OxaQmlEngine *) { }
+
+void TestApplication::restart() { }
+
+void TestApplication::registerMainWindowShortcuts(OxaMainWindow *) { }
+
+void TestApplication::setPublishingInfo(const AppPublishing::OxaPublishingInfo &info)
+{
+    m_publishingInfo = info;
+}

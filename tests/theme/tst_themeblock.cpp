@@ -1,0 +1,331 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ThemedWidgets.h"
+#include "support/ColorSets.h"
+#include "support/Guards.h"
+#include "support/SignalLog.h"
+#include "support/TestApplication.h"
+
+#include <QMetaMethod>
+#include <QSignalSpy>
+
+using OxaThemeUtils::AppThemeType;
+
+namespace {
+
+const QString styleText = QStringLiteral("$backgroundColors: panel;");
+
+OxaColorSetMap storeWith(const char *color)
+{
+    return ColorSets::storeOf(
+            { ColorSets::make(QStringLiteral("panel"), { color }),
+              ColorSets::make(QStringLiteral("button-hyperlink-text"), { color }) });
+}
+
+/// The border rule comes first in an expanded sheet: it is inserted at the very start.
+QString sheetOf(const QString &selector, const char *color)
+{
+    return QStringLiteral("%1{border:none;}%1{background-color:%2;}")
+            .arg(selector, QLatin1String(color));
+}
+
+bool hasMethod(const QMetaObject *type, const char *signature, QMetaMethod::MethodType methodType,
+               QMetaMethod::Access access)
+{
+    const QMetaMethod method = type->method(type->indexOfMethod(signature));
+    return method.isValid() && method.methodType() == methodType && method.access() == access;
+}
+
+} // namespace
+
+/// What every themed widget class shows and does alike: a row for each class.
+class tst_ThemeBlock : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_stores = std::make_unique<StoreGuard>(storeWith("#ff112233"), storeWith("#ff445566"));
+    }
+    void cleanup();
+
+    void showsTheSameSignalsAndSlots_data() { addThemedClasses(); }
+    void showsTheSameSignalsAndSlots();
+    void showsTheSameProperties_data() { addThemedClasses(); }
+    void showsTheSameProperties();
+    void startsGlobalWithoutStyleTextInTheDefaultFont_data() { addThemedClasses(); }
+    void startsGlobalWithoutStyleTextInTheDefaultFont();
+
+    void expandsTheStyleTextAndTellsOfIt_data() { addThemedClasses(); }
+    void expandsTheStyleTextAndTellsOfIt();
+    void takesTheStructuredFormAsStyleText_data() { addThemedClasses(); }
+    void takesTheStructuredFormAsStyleText();
+    void takesStyleTextsAsUtf8ThroughTheProperty_data() { addThemedClasses(); }
+    void takesStyleTextsAsUtf8ThroughTheProperty();
+    void givesAnEmptyStyleTextNoSheet_data() { addThemedClasses(); }
+    void givesAnEmptyStyleTextNoSheet();
+    void paintsAStyledBackgroundOnlyForAnExpandedSheet_data();
+    void paintsAStyledBackgroundOnlyForAnExpandedSheet();
+    void expandsAgainUnderANewObjectName_data() { addThemedClasses(); }
+    void expandsAgainUnderANewObjectName();
+    void expandsOnceForOneNewNameAfterManyStyleTexts_data() { addThemedClasses(); }
+    void expandsOnceForOneNewNameAfterManyStyleTexts();
+
+    void makesTheFirstStyleSheetTheStyleText_data() { addThemedClasses(); }
+    void makesTheFirstStyleSheetTheStyleText();
+    void keepsTheStyleTextWhenAStyleSheetIsSet_data() { addThemedClasses(); }
+    void keepsTheStyleTextWhenAStyleSheetIsSet();
+
+    void tellsOfATypeThatIsSetTwiceTwice_data() { addThemedClasses(); }
+    void tellsOfATypeThatIsSetTwiceTwice();
+    void takesItsStoreByItsThemeType_data() { addThemedClasses(); }
+    void takesItsStoreByItsThemeType();
+    void ignoresAReplacedStoreUntilItIsRefreshed_data() { addThemedClasses(); }
+    void ignoresAReplacedStoreUntilItIsRefreshed();
+
+    void keepsItsFontOnTheToken_data();
+    void keepsItsFontOnTheToken();
+
+private:
+    std::unique_ptr<StoreGuard> m_stores;
+};
+
+void tst_ThemeBlock::cleanup()
+{
+    m_stores.reset();
+    QVERIFY2(QApplication::topLevelWidgets().isEmpty(), "A test left a window behind.");
+}
+
+void tst_ThemeBlock::showsTheSameSignalsAndSlots()
+{
+    FETCH_THEMED_CLASS;
+    const QMetaObject *type = themed.metaObject;
+    QCOMPARE(type->superClass(), themed.qtMetaObject);
+    QVERIFY(hasMethod(type, "cssChanged()", QMetaMethod::Signal, QMetaMethod::Public));
+    QVERIFY(hasMethod(type, "themeTypeChanged()", QMetaMethod::Signal, QMetaMethod::Public));
+    QVERIFY(hasMethod(type, "refreshCSS()", QMetaMethod::Slot, QMetaMethod::Private));
+    QVERIFY(hasMethod(type, "onThemeChanged()", QMetaMethod::Slot, QMetaMethod::Protected));
+    QVERIFY(hasMethod(type, "onParentThemeTypeChanged()", QMetaMethod::Slot, QMetaMethod::Private));
+}
+
+void tst_ThemeBlock::showsTheSameProperties()
+{
+    FETCH_THEMED_CLASS;
+    const QMetaObject *type = themed.metaObject;
+    const auto property = [type](const char *name) {
+        return type->property(type->indexOfProperty(name));
+    };
+    const auto description = [&property](const char *name) {
+        const QMetaProperty found = property(name);
+        return QLatin1String(found.typeName()) + QLatin1Char(' ')
+                + QLatin1String(found.notifySignal().name());
+    };
+    QCOMPARE(description("styleSheet"), QStringLiteral("QString "));
+    QVERIFY(property("styleSheet").propertyIndex() >= type->propertyOffset());
+    QCOMPARE(description("css"), QStringLiteral("QByteArray cssChanged"));
+    QCOMPARE(description("themeType"), QStringLiteral("QString themeTypeChanged"));
+    QCOMPARE(description("font"), QStringLiteral("QFont "));
+
+    const bool hasFont = themed.font == ThemedClass::Font::Yes;
+    QCOMPARE(property("fontToken").isValid(), hasFont);
+    QCOMPARE(property("fontType").isValid(), hasFont);
+    if (hasFont) {
+        QCOMPARE(property("fontToken").typeName(), "OxaFont::Token");
+        QCOMPARE(property("fontType").typeName(), "FontManagerEnum::FontType");
+    }
+}
+
+void tst_ThemeBlock::startsGlobalWithoutStyleTextInTheDefaultFont()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    QCOMPARE(widget->property("css"), QVariant(QByteArray()));
+    QCOMPARE(widget->property("themeType").toString(), QStringLiteral("global"));
+    QCOMPARE(themed.themeType(*widget), AppThemeType::Global);
+    QVERIFY(themed.cssData(*widget) == OxaCSSData());
+    QCOMPARE(widget->styleSheet(), QString());
+    if (themed.font == ThemedClass::Font::Yes)
+        QCOMPARE(widget->font().pixelSize(), 16);
+}
+
+void tst_ThemeBlock::expandsTheStyleTextAndTellsOfIt()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    const QSignalSpy cssChanged(widget.get(), SIGNAL(cssChanged()));
+    const QSignalSpy themeTypeChanged(widget.get(), SIGNAL(themeTypeChanged()));
+    QVERIFY(widget->setProperty("css", styleText.toUtf8()));
+    QCOMPARE(widget->styleSheet(), sheetOf(QLatin1String(themed.name), "#ff112233"));
+    QCOMPARE(themed.cssData(*widget).backgroundColorSetName, QStringLiteral("panel"));
+    QCOMPARE(cssChanged.size(), 1);
+    QCOMPARE(themeTypeChanged.size(), 0);
+
+    // Nothing is compared: the same text is expanded again.
+    QVERIFY(widget->setProperty("css", styleText.toUtf8()));
+    QCOMPARE(cssChanged.size(), 2);
+}
+
+void tst_ThemeBlock::takesTheStructuredFormAsStyleText()
+{
+    FETCH_THEMED_CLASS;
+    OxaCSSData data;
+    data.backgroundColorSetName = QStringLiteral("panel");
+    data.borderRadius = 4;
+    const auto widget = themed.make(nullptr);
+    themed.setCSSData(*widget, data);
+    QCOMPARE(widget->property("css").toByteArray(),
+             QByteArray("$borderRadius:4; $backgroundColors: panel;"));
+    QCOMPARE(themed.cssData(*widget).borderRadius, quint8(4));
+    QCOMPARE(widget->property("focusBorderRadius").toInt(), 4);
+}
+
+void tst_ThemeBlock::takesStyleTextsAsUtf8ThroughTheProperty()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    const QByteArray utf8 = QByteArrayLiteral("/* \xc3\xa9 */");
+    QVERIFY(widget->setProperty("css", utf8));
+    QCOMPARE(widget->property("css").toByteArray(), utf8);
+    QCOMPARE(widget->styleSheet(), QString::fromUtf8(utf8));
+}
+
+void tst_ThemeBlock::givesAnEmptyStyleTextNoSheet()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    widget->setProperty("css", styleText.toUtf8());
+    widget->setProperty("css", QByteArray());
+    QCOMPARE(widget->styleSheet(), QString());
+    QVERIFY(themed.cssData(*widget) == OxaCSSData());
+}
+
+void tst_ThemeBlock::paintsAStyledBackgroundOnlyForAnExpandedSheet_data()
+{
+    addThemedClasses([](const ThemedClass &themed) {
+        return themed.form == ThemedClass::Form::StyledBackground;
+    });
+}
+
+void tst_ThemeBlock::paintsAStyledBackgroundOnlyForAnExpandedSheet()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    QVERIFY(!widget->testAttribute(Qt::WA_StyledBackground));
+    widget->setProperty("css", styleText.toUtf8());
+    QVERIFY(widget->testAttribute(Qt::WA_StyledBackground));
+    widget->setProperty("css", QByteArray());
+    QVERIFY(!widget->testAttribute(Qt::WA_StyledBackground));
+}
+
+void tst_ThemeBlock::expandsAgainUnderANewObjectName()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    widget->setProperty("css", styleText.toUtf8());
+    widget->setObjectName(QStringLiteral("w"));
+    QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff112233"));
+}
+
+void tst_ThemeBlock::expandsOnceForOneNewNameAfterManyStyleTexts()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    for (int i = 0; i < 3; ++i)
+        widget->setProperty("css", styleText.toUtf8());
+    const QSignalSpy cssChanged(widget.get(), SIGNAL(cssChanged()));
+    widget->setObjectName(QStringLiteral("w"));
+    QCOMPARE(cssChanged.size(), 1);
+}
+
+void tst_ThemeBlock::makesTheFirstStyleSheetTheStyleText()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    const QSignalSpy cssChanged(widget.get(), SIGNAL(cssChanged()));
+    const QString text = QStringLiteral("$textColors: panel;");
+    QVERIFY(widget->setProperty("styleSheet", text));
+    QCOMPARE(widget->styleSheet(), text);
+    QCOMPARE(widget->property("css").toByteArray(), text.toUtf8());
+    QCOMPARE(cssChanged.size(), 0);
+
+    QVERIFY(QMetaObject::invokeMethod(widget.get(), "refreshCSS"));
+    QCOMPARE(themed.cssData(*widget).textColorSetName, QStringLiteral("panel"));
+    QVERIFY(!widget->styleSheet().contains(QLatin1Char('$')));
+}
+
+void tst_ThemeBlock::keepsTheStyleTextWhenAStyleSheetIsSet()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    widget->setProperty("css", styleText.toUtf8());
+    const QString expanded = widget->styleSheet();
+    QVERIFY(widget->setProperty("styleSheet", QStringLiteral("* { color: red; }")));
+    QCOMPARE(widget->styleSheet(), QStringLiteral("* { color: red; }"));
+    QCOMPARE(widget->property("css").toByteArray(), styleText.toUtf8());
+    QVERIFY(QMetaObject::invokeMethod(widget.get(), "refreshCSS"));
+    QCOMPARE(widget->styleSheet(), expanded);
+}
+
+void tst_ThemeBlock::tellsOfATypeThatIsSetTwiceTwice()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    const QSignalSpy cssChanged(widget.get(), SIGNAL(cssChanged()));
+    const QSignalSpy themeTypeChanged(widget.get(), SIGNAL(themeTypeChanged()));
+    for (int i = 0; i < 2; ++i)
+        QVERIFY(widget->setProperty("themeType", QStringLiteral("dark")));
+    QCOMPARE(themeTypeChanged.size(), 2);
+    QCOMPARE(cssChanged.size(), 2);
+}
+
+void tst_ThemeBlock::takesItsStoreByItsThemeType()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    widget->setObjectName(QStringLiteral("w"));
+    widget->setProperty("css", styleText.toUtf8());
+    widget->setProperty("themeType", QStringLiteral("dark"));
+    QCOMPARE(themed.themeType(*widget), AppThemeType::Dark);
+    QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff445566"));
+    widget->setProperty("themeType", QStringLiteral("light"));
+    QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff112233"));
+    widget->setProperty("themeType", QStringLiteral("no such type"));
+    QCOMPARE(widget->property("themeType").toString(), QStringLiteral("no such type"));
+    QCOMPARE(themed.themeType(*widget), AppThemeType::Global);
+}
+
+void tst_ThemeBlock::ignoresAReplacedStoreUntilItIsRefreshed()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    widget->setObjectName(QStringLiteral("w"));
+    widget->setProperty("css", styleText.toUtf8());
+    OxaThemeUtils::setAppOxaColorSets(storeWith("#ff778899"));
+    QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff112233"));
+    QVERIFY(QMetaObject::invokeMethod(widget.get(), "refreshCSS"));
+    QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff778899"));
+}
+
+void tst_ThemeBlock::keepsItsFontOnTheToken_data()
+{
+    addThemedClasses(
+            [](const ThemedClass &themed) { return themed.font == ThemedClass::Font::Yes; });
+}
+
+void tst_ThemeBlock::keepsItsFontOnTheToken()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    QCOMPARE(widget->property("fontToken").value<OxaFont::Token>(), OxaFont::Token::Default);
+    QCOMPARE(widget->property("fontType").value<FontManagerEnum::FontType>(),
+             FontManagerEnum::FontType::Default);
+    QVERIFY(widget->setProperty("fontToken", QVariant::fromValue(OxaFont::Token::Title)));
+    QCOMPARE(widget->font().pixelSize(), 20);
+    QCOMPARE(widget->font().weight(), int(QFont::DemiBold));
+    QVERIFY(widget->setProperty("fontType",
+                                QVariant::fromValue(FontManagerEnum::FontType::MessagingView)));
+    QCOMPARE(widget->font().pixelSize(), 20);
+}
+
+UIELEMENTS_TEST_MAIN(tst_ThemeBlock)
+#include "tst_themeblock.moc"

@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ThemedWidgets.h"
+#include "support/ColorSets.h"
+#include "support/Guards.h"
+#include "support/SignalLog.h"
+#include "support/TestApplication.h"
+
+#include <QSignalSpy>
+
+using OxaThemeUtils::AppThemeType;
+
+namespace {
+
+OxaColorSetMap storeWith(const char *color)
+{
+    return ColorSets::storeOf(
+            { ColorSets::make(QStringLiteral("panel"), { color }),
+              ColorSets::make(QStringLiteral("button-hyperlink-text"), { color }) });
+}
+
+QString storedType(const QObject &object) { return object.property("themeType").toString(); }
+
+/// A widget that counts how often it is told to fetch its colours.
+class FetchingWidget : public OxaWidget
+{
+    Q_OBJECT
+
+public:
+    using OxaWidget::OxaWidget;
+    int fetches = 0;
+
+protected Q_SLOTS:
+    void onThemeChanged() override { ++fetches; }
+};
+
+} // namespace
+
+/// How theme types travel from parents to children.
+class tst_ThemeChain : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_stores.reset(); }
+
+    void defersToTheWindowWhenGlobal_data() { addThemedClasses(); }
+    void defersToTheWindowWhenGlobal();
+    void keepsItsTypeWhenMadeUnderATypedParent_data() { addThemedClasses(); }
+    void keepsItsTypeWhenMadeUnderATypedParent();
+    void takesTheTypeOfAParentItIsAddedTo_data() { addThemedClasses(); }
+    void takesTheTypeOfAParentItIsAddedTo();
+    void takesTheTypeWithoutAStyleTextToo_data() { addThemedClasses(); }
+    void takesTheTypeWithoutAStyleTextToo();
+    void followsItsParentsNextChange_data() { addThemedClasses(); }
+    void followsItsParentsNextChange();
+    void keepsItsOwnTypeOnlyUntilItsParentsNextChange_data() { addThemedClasses(); }
+    void keepsItsOwnTypeOnlyUntilItsParentsNextChange();
+    void staysConnectedToAnEarlierParent_data() { addThemedClasses(); }
+    void staysConnectedToAnEarlierParent();
+    void comparesTypesAndNotWords_data() { addThemedClasses(); }
+    void comparesTypesAndNotWords();
+    void takesTheWindowsTypeWhenItsParentAgreesWithIt_data() { addThemedClasses(); }
+    void takesTheWindowsTypeWhenItsParentAgreesWithIt();
+    void readsAPropertyOfThatNameOnAnyParent_data() { addThemedClasses(); }
+    void readsAPropertyOfThatNameOnAnyParent();
+
+    void ripplesDownOneGenerationAtATime();
+    void consultsOnlyTheWidgetAndItsWindow();
+    void countsNoWidgetAsGlobal();
+    void fetchesColorsAtEachChangeOfTheType();
+    void leavesAParentWithoutTheSignalAlone();
+
+private:
+    std::unique_ptr<StoreGuard> m_stores;
+};
+
+void tst_ThemeChain::init()
+{
+    m_stores = std::make_unique<StoreGuard>(storeWith("#ff112233"), storeWith("#ff445566"));
+}
+
+void tst_ThemeChain::defersToTheWindowWhenGlobal()
+{
+    FETCH_THEMED_CLASS;
+    OxaWidget window;
+    window.setThemeType(QStringLiteral("dark"));
+    const auto widget = themed.make(&window);
+    QCOMPARE(storedType(*widget), QStringLiteral("global"));
+    QCOMPARE(themed.themeType(*widget), AppThemeType::Dark);
+}
+
+void tst_ThemeChain::keepsItsTypeWhenMadeUnderATypedParent()
+{
+    FETCH_THEMED_CLASS;
+    OxaWidget window;
+    OxaWidget parent(&window);
+    parent.setThemeType(QStringLiteral("dark"));
+    const auto widget = themed.make(&parent);
+    QCOMPARE(storedType(*widget), QStringLiteral("global"));
+    QCOMPARE(themed.themeType(*widget), AppThemeType::Global);
+}
+
+void tst_ThemeChain::takesTheTypeOfAParentItIsAddedTo()
+{
+    FETCH_THEMED_CLASS;
+    OxaWidget window;
+    OxaWidget parent(&window);
+    parent.setThemeType(QStringLiteral("dark"));
+    const auto widget = themed.make(nullptr);
+    widget->setObjectName(QStringLiteral("w"));
+    widget->setProperty("css", QByteArrayLiteral("$backgroundColors: panel;"));
+    widget->setParent(&parent);
+    QCOMPARE(storedType(*widget), QStringLiteral("dark"));
+    QCOMPARE(widget->styleSheet(),
+             QStringLiteral("#w{border:none;}#w{background-color:#ff445566;}"));
+}
+
+void tst_ThemeChain::takesTheTypeWithoutAStyleTextToo()
+{
+    FETCH_THEMED_CLASS;
+    OxaWidget parent;
+    parent.setThemeType(QStringLiteral("dark"));
+    const auto widget = themed.make(nullptr);
+    const QSignalSpy cssChanged(widget.get(), SIGNAL(cssChanged()));
+    const QSignalSpy themeTypeChanged(widget.get(), SIGNAL(themeTypeChanged()));
+    widget->setParent(&parent);
+    QCOMPARE(cssChanged.size(), 1);
+    QCOMPARE(themeTypeChanged.size(), 1);
+}
+
+void tst_ThemeChain::followsItsParentsNextChange()
+{
+    FETCH_THEMED_CLASS;
+    OxaWidget parent;
+    const auto widget = themed.make(&parent);
+    parent.setThemeType(QStringLiteral("inverted"));
+    QCOMPARE(storedType(*widget), QStringLiteral("inverted"));
+    parent.setThemeType(QStringLiteral("global"));
+    QCOMPARE(storedType(*widget), QStringLiteral("global"));
+}
+
+void tst_ThemeChain::keepsItsOwnTypeOnlyUntilItsParentsNextChange()
+{
+    FETCH_THEMED_CLASS;
+    OxaWidget parent;
+    const auto widget = themed.make(&parent);
+    widget->setProperty("themeType", QStringLiteral("light"));
+    QCOMPARE(themed.themeType(*widget), AppThemeType::Light);
+    parent.setThemeType(QStringLiteral("dark"));
+    QCOMPARE(themed.themeType(*widget), AppThemeType::Dark);
+}
+
+void tst_ThemeChain::staysConnectedToAnEarlierParent()
+{
+    FETCH_THEMED_CLASS;
+    OxaWidget first;
+    OxaWidget second;
+    const auto widget = themed.make(nullptr);
+    widget->setParent(&first);
+    widget->setParent(&second);
+    for (OxaWidget *parent : { &first, &second }) {
+        QVERIFY(QObject::disconnect(parent, SIGNAL(themeTypeChanged()), widget.get(),
+                                    SLOT(onParentThemeTypeChanged())));
+    }
+}
+
+void tst_ThemeChain::comparesTypesAndNotWords()
+{
+    FETCH_THEMED_CLASS;
+    OxaWidget parent;
+    const auto widget = themed.make(&parent);
+    const QSignalSpy themeTypeChanged(widget.get(), SIGNAL(themeTypeChanged()));
+    parent.setThemeType(QStringLiteral("no such type"));
+    QCOMPARE(themeTypeChanged.size(), 0);
+    QCOMPARE(storedType(*widget), QStringLiteral("global"));
+}
+
+void tst_ThemeChain::takesTheWindowsTypeWhenItsParentAgreesWithIt()
+{
+    FETCH_THEMED_CLASS;
+    OxaWidget window;
+    window.setThemeType(QStringLiteral("light"));
+    OxaWidget parent(&window);
+    const auto widget = themed.make(&parent);
+    for (QWidget *under : { static_cast<QWidget *>(&parent), widget.get() })
+        under->setProperty("themeType", QStringLiteral("dark"));
+    QVERIFY(QMetaObject::invokeMethod(widget.get(), "onParentThemeTypeChanged"));
+    QCOMPARE(storedType(*widget), QStringLiteral("light"));
+}
+
+void tst_ThemeChain::readsAPropertyOfThatNameOnAnyParent()
+{
+    FETCH_THEMED_CLASS;
+    QWidget window;
+    window.setProperty("themeType", QStringLiteral("dark"));
+    const auto widget = themed.make(nullptr);
+    widget->setParent(&window);
+    QCOMPARE(storedType(*widget), QStringLiteral("dark"));
+}
+
+void tst_ThemeChain::ripplesDownOneGenerationAtATime()
+{
+    OxaWidget window;
+    OxaWidget first(&window);
+    OxaLabel firstsChild(&first);
+    OxaWidget second(&window);
+
+    SignalLog log;
+    const auto record = [&log](const auto &widget, const QString &name) {
+        using Widget = std::decay_t<decltype(widget)>;
+        log.record(&widget, &Widget::cssChanged, name + QLatin1String(" css"));
+        log.record(&widget, &Widget::themeTypeChanged, name + QLatin1String(" type"));
+    };
+    record(window, QStringLiteral("window"));
+    record(first, QStringLiteral("first"));
+    record(firstsChild, QStringLiteral("first's child"));
+    record(second, QStringLiteral("second"));
+
+    window.setThemeType(QStringLiteral("dark"));
+    // A widget tells its children before its later listeners.
+    QCOMPARE(log.take(),
+             QStringLiteral("window css | first css | first's child css | first's child type | "
+                            "first type | second css | second type | window type"));
+}
+
+void tst_ThemeChain::consultsOnlyTheWidgetAndItsWindow()
+{
+    QWidget window;
+    QWidget between(&window);
+    QWidget widget(&between);
+    between.setProperty("themeType", QStringLiteral("dark"));
+    QCOMPARE(OxaThemeUtils::getThemeTypeOfWidget(&widget), AppThemeType::Global);
+    window.setProperty("themeType", QStringLiteral("inverted"));
+    QCOMPARE(OxaThemeUtils::getThemeTypeOfWidget(&widget), AppThemeType::Inverted);
+    widget.setProperty("themeType", QStringLiteral("light"));
+    QCOMPARE(OxaThemeUtils::getThemeTypeOfWidget(&widget), AppThemeType::Light);
+    widget.setProperty("themeType", QStringLiteral("global"));
+    QCOMPARE(OxaThemeUtils::getThemeTypeOfWidget(&widget), AppThemeType::Inverted);
+}
+
+void tst_ThemeChain::countsNoWidgetAsGlobal()
+{
+    QCOMPARE(OxaThemeUtils::getThemeTypeOfWidget(nullptr), AppThemeType::Global);
+}
+
+void tst_ThemeChain::fetchesColorsAtEachChangeOfTheType()
+{
+    OxaWidget parent;
+    FetchingWidget widget(&parent);
+    QCOMPARE(widget.fetches, 0);
+    widget.setThemeType(QStringLiteral("dark"));
+    QCOMPARE(widget.fetches, 1);
+    parent.setThemeType(QStringLiteral("light"));
+    QCOMPARE(widget.fetches, 2);
+}
+
+void tst_ThemeChain::leavesAParentWithoutTheSignalAlone()
+{
+    QWidget parent;
+    OxaWidget madeUnderIt(&parent);
+    OxaWidget added;
+    added.setParent(&parent);
+    QCOMPARE(storedType(madeUnderIt), QStringLiteral("global"));
+    QCOMPARE(storedType(added), QStringLiteral("global"));
+}
+
+UIELEMENTS_TEST_MAIN(tst_ThemeChain)
+#include "tst_themechain.moc"
