@@ -47,6 +47,16 @@ install(FILES ${PROJECT_BINARY_DIR}/UiElements.pc
 )
 
 # Two Debian packages: what programs need to run, and what is needed to build them.
+set(runtimePackage libuielements${PROJECT_VERSION_MAJOR})
+set(developmentPackage libuielements-dev)
+foreach(component IN ITEMS runtime development)
+    install(FILES LICENSE
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${${component}Package}
+        RENAME copyright
+        COMPONENT ${component}
+    )
+endforeach()
+
 set(CPACK_PACKAGE_NAME libuielements)
 set(CPACK_PACKAGE_VENDOR "The UiElements developers")
 set(CPACK_PACKAGE_CONTACT "The UiElements developers <uielements@localhost>")
@@ -56,12 +66,12 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_COMPONENTS_ALL runtime development)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libuielements${PROJECT_VERSION_MAJOR})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtimePackage})
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libuielements-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ${developmentPackage})
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
-    "libuielements${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION}), qtbase5-dev (>= ${UIELEMENTS_QT_VERSION})"
+    "${runtimePackage} (= ${PROJECT_VERSION}), qtbase5-dev (>= ${UIELEMENTS_QT_VERSION}), libqt5svg5-dev (>= ${UIELEMENTS_QT_VERSION})"
 )
 include(CPack)

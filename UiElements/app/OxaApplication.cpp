@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaApplication.h"
 
+#include <UiElements/app/OxaGlobalSignalListener.h>
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/fonts/OxaFontManager.h>
 #include <UiElements/theme/OxaThemeUtils.h>
@@ -18,8 +19,13 @@ constexpr float maximumFontScaleFactor = 1.5F;
 } // namespace
 
 OxaApplication::OxaApplication(int &argc, char **argv)
-    : IOxaApplication(argc, argv), m_fontManager(new OxaFontManager(this))
+    : IOxaApplication(argc, argv),
+      m_appSignals(new OxaAppSignals(this)),
+      m_fontManager(new OxaFontManager(this)),
+      m_globalSignalListener(new OxaGlobalSignalListener(this))
 {
+    qRegisterMetaType<OxaAppSignals::Shortcut>("OxaAppSignals::Shortcut");
+
     OxaFont font(OxaFont::Token::Default, false);
     font.setFamily(QStringLiteral("Segoe UI"));
     setFont(font);
@@ -31,9 +37,12 @@ IOxaMovieProviderSource *OxaApplication::getMovieProviderSource() { return nullp
 
 bool OxaApplication::animationsDisabled() const { return false; }
 
-OxaAppSignals *OxaApplication::getAppSignals() const { return nullptr; }
+OxaAppSignals *OxaApplication::getAppSignals() const { return m_appSignals; }
 
-OxaGlobalSignalListener *OxaApplication::getGlobalSignalListener() const { return nullptr; }
+OxaGlobalSignalListener *OxaApplication::getGlobalSignalListener() const
+{
+    return m_globalSignalListener;
+}
 
 OxaFontManager *OxaApplication::getOxaFontManager() const { return m_fontManager; }
 
@@ -41,6 +50,11 @@ OxaColorSet OxaApplication::getColorSet(const QString &colorSetName, const QStri
 {
     return OxaThemeUtils::getColorSet(colorSetName.toStdString(),
                                       OxaThemeUtils::stringToThemeType(themeType));
+}
+
+QKeySequence OxaApplication::getKeySequence(OxaAppSignals::Shortcut shortcutId)
+{
+    return m_appSignals ? m_appSignals->getKeySequence(shortcutId) : QKeySequence();
 }
 
 QString OxaApplication::getThemeName() const { return m_themeName; }

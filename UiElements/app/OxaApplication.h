@@ -3,12 +3,12 @@
 
 #include <UiElements/app/AppPublishing.h>
 #include <UiElements/app/IOxaApplication.h>
+#include <UiElements/app/OxaAppSignals.h>
 
 #include <QPointer>
 
 #include <optional>
 
-class OxaAppSignals;
 class OxaFontManager;
 class OxaGlobalSignalListener;
 class OxaMainWindow;
@@ -17,8 +17,9 @@ class OxaMainWindow;
 /// shares. The outer application derives its application class from it and makes one before any
 /// widget.
 ///
-/// It owns the colour stores, the theme flags, the font scale and the font manager. The theme's
-/// flags and name have no public setter: the outer application sets them as Qt properties.
+/// It owns the colour stores, the theme flags, the font scale, the two switchboards of signals and
+/// the font manager. The theme's flags and name have no public setter: the outer application sets
+/// them as Qt properties.
 ///
 /// Widgets do not follow these signals. After a change of theme or stores, set "themeType" on the
 /// top-level windows: the parent chain takes it to every widget.
@@ -37,8 +38,10 @@ class UIELEMENTS_EXPORT OxaApplication : public IOxaApplication
                        fontScaleFactorChanged)
 
 public:
-    /// Makes the application with its font manager, and installs the application font: the default
-    /// token in "Segoe UI". \a argc and \a argv must outlive the object.
+    /// Makes the application with its signal hub, its font manager and its global signal listener,
+    /// in this order; registers the meta-type "OxaAppSignals::Shortcut"; and installs the
+    /// application font: the default token in "Segoe UI". \a argc and \a argv must outlive the
+    /// object.
     OxaApplication(int &argc, char **argv);
     ~OxaApplication() override;
 
@@ -54,10 +57,10 @@ public:
     /// shortcuts on \a window.
     virtual void registerMainWindowShortcuts(OxaMainWindow *window) = 0;
 
-    /// Returns the signal hub, or null as long as there is none.
+    /// Returns the signal hub, or null once it is gone.
     OxaAppSignals *getAppSignals() const;
 
-    /// Returns the global signal listener, or null as long as there is none.
+    /// Returns the global signal listener, or null once it is gone.
     OxaGlobalSignalListener *getGlobalSignalListener() const;
 
     /// Returns the font manager, or null once it is gone.
@@ -68,6 +71,9 @@ public:
     /// OxaThemeUtils::getColorSet().
     Q_INVOKABLE OxaColorSet getColorSet(const QString &colorSetName,
                                         const QString &themeType = QString());
+
+    /// Returns the key of a registered shortcut, as OxaAppSignals::getKeySequence() does.
+    Q_INVOKABLE QKeySequence getKeySequence(OxaAppSignals::Shortcut shortcutId);
 
     /// Returns the name of the theme. Empty by default.
     QString getThemeName() const;
@@ -114,9 +120,11 @@ private:
     void setIsHighContrastTheme(bool isHighContrastTheme);
     void setThemeName(const QString &themeName);
 
+    QPointer<OxaAppSignals> m_appSignals;
     QString m_themeName;
     float m_fontScaleFactor = 1.0F;
     QString m_logoSvgPath;
     QString m_logoPngPath;
     QPointer<OxaFontManager> m_fontManager;
+    QPointer<OxaGlobalSignalListener> m_globalSignalListener;
 };

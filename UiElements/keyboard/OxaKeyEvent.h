@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+
+#include <QObject>
+
+class QKeyEvent;
+
+/// Shows QML the modifiers of a key event.
+class UIELEMENTS_EXPORT OxaKeyEvent : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(Qt::KeyboardModifiers modifiers READ modifiers NOTIFY modifiersChanged)
+
+public:
+    /// Makes one without modifiers and without an event.
+    explicit OxaKeyEvent(QObject *parent = nullptr);
+
+    /// Returns the modifiers. None by default.
+    Qt::KeyboardModifiers modifiers() const;
+
+    /// Stores \a modifiers, and emits modifiersChanged() when they differ.
+    void setModifiers(Qt::KeyboardModifiers modifiers);
+
+    /// Returns the event last given, or null. It belongs to who gave it, and is valid only as long
+    /// as that event lives.
+    QKeyEvent *keyEvent() const;
+
+    /// Keeps \a event and takes its modifiers; modifiersChanged() follows when they differ. Null
+    /// forgets the event and leaves the modifiers.
+    void setKeyEvent(QKeyEvent *event);
+
+Q_SIGNALS:
+    /// modifiers() is new.
+    void modifiersChanged();
+
+private:
+    Qt::KeyboardModifiers m_modifiers = Qt::NoModifier;
+    QKeyEvent *m_keyEvent = nullptr;
+};
