@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaScaledFonts.h"
 
+#include <iterator>
+
 using Token = OxaFont::Token;
 using FontScalingFactor = FontManagerEnum::FontScalingFactor;
 
@@ -75,53 +77,37 @@ const OxaScaledFonts::Entry OxaScaledFonts::entries[] = {
     { &OxaScaledFonts::m_h6, Token::Default },
 };
 
+/// One row for each OxaFont::Token, in its order. Several tokens share a font.
+QFont OxaScaledFonts::*const OxaScaledFonts::tokenFonts[] = {
+    &OxaScaledFonts::m_default,            // Default
+    &OxaScaledFonts::m_title,              // Title
+    &OxaScaledFonts::m_headerPrimary,      // Header
+    &OxaScaledFonts::m_subheaderPrimary,   // SubheaderPrimary
+    &OxaScaledFonts::m_subheaderSecondary, // SubheaderSecondary
+    &OxaScaledFonts::m_bodyPrimary,        // BodyPrimary
+    &OxaScaledFonts::m_bodySecondary,      // BodySecondary
+    &OxaScaledFonts::m_bodyCompact,        // BodyTertiary
+    &OxaScaledFonts::m_bannerPrimary,      // BannerPrimary
+    &OxaScaledFonts::m_bannerSecondary,    // BannerSecondary
+    &OxaScaledFonts::m_bannerTertiary,     // BannerTertiary
+    &OxaScaledFonts::m_highlightPrimary,   // HighlightPrimary
+    &OxaScaledFonts::m_highlightSecondary, // HighlightSecondary
+    &OxaScaledFonts::m_highlightCompact,   // HighlightTertiary
+    &OxaScaledFonts::m_hyperlinkPrimary,   // HyperlinkPrimary
+    &OxaScaledFonts::m_hyperlinkSecondary, // HyperlinkSecondary
+    &OxaScaledFonts::m_subheaderSecondary, // TagLabelPrimary
+    &OxaScaledFonts::m_labelCompact,       // TagLabelSecondary
+    &OxaScaledFonts::m_codeBlocks,         // CodeBlocks
+    &OxaScaledFonts::m_default,            // RadioButtonLabelSecondary: none of its own, meant so
+    &OxaScaledFonts::m_display,            // Display
+};
+
 OxaScaledFonts::OxaScaledFonts(QObject *parent) : QObject(parent) { initializeTokens(); }
 
 QFont OxaScaledFonts::getFont(OxaFont::Token token) const
 {
-    switch (token) {
-    case Token::Title:
-        return m_title;
-    case Token::Header:
-        return m_headerPrimary;
-    case Token::SubheaderPrimary:
-        return m_subheaderPrimary;
-    case Token::SubheaderSecondary:
-    case Token::TagLabelPrimary:
-        return m_subheaderSecondary;
-    case Token::BodyPrimary:
-        return m_bodyPrimary;
-    case Token::BodySecondary:
-        return m_bodySecondary;
-    case Token::BodyTertiary:
-        return m_bodyCompact;
-    case Token::BannerPrimary:
-        return m_bannerPrimary;
-    case Token::BannerSecondary:
-        return m_bannerSecondary;
-    case Token::BannerTertiary:
-        return m_bannerTertiary;
-    case Token::HighlightPrimary:
-        return m_highlightPrimary;
-    case Token::HighlightSecondary:
-        return m_highlightSecondary;
-    case Token::HighlightTertiary:
-        return m_highlightCompact;
-    case Token::HyperlinkPrimary:
-        return m_hyperlinkPrimary;
-    case Token::HyperlinkSecondary:
-        return m_hyperlinkSecondary;
-    case Token::TagLabelSecondary:
-        return m_labelCompact;
-    case Token::CodeBlocks:
-        return m_codeBlocks;
-    case Token::Display:
-        return m_display;
-    case Token::Default:
-    case Token::RadioButtonLabelSecondary: // No entry of its own, though the token has a size.
-        break;
-    }
-    return m_default;
+    const auto index = static_cast<std::size_t>(token);
+    return index < std::size(tokenFonts) ? this->*tokenFonts[index] : m_default;
 }
 
 void OxaScaledFonts::setScalingFactor(FontScalingFactor factor)

@@ -62,6 +62,7 @@ Q_SIGNALS:
 private:
     struct Entry;
     static const Entry entries[];
+    static QFont OxaScaledFonts::*const tokenFonts[];
 
     void initializeTokens();
 
