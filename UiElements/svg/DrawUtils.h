@@ -2,13 +2,27 @@
 #pragma once
 
 #include <UiElements/UiElementsExport.h>
+#include <UiElements/theme/OxaEnum.h>
 
+#include <QPixmap>
 #include <QRect>
 #include <QStyle>
 
+#include <memory>
+#include <tuple>
+
+class OxaColorSet;
+class OxaSvgIcon;
+class OxaSvgLabel;
+class OxaSvgPushButton;
 class QColor;
+class QMargins;
 class QPainter;
+class QStyleOption;
+class QSvgNode;
+class QTextDocument;
 class QWidget;
+struct QSvgExtraStates;
 
 /// Painting that several widgets share. GUI thread only; the functions keep no state.
 namespace DrawUtils {
@@ -16,6 +30,61 @@ namespace DrawUtils {
 /// Shrinks \a rect in place to \a aspectRatio, its width divided by its height, around the same
 /// centre.
 UIELEMENTS_EXPORT void fitRectangle(QRectF &rect, double aspectRatio);
+
+/// Returns \a pixmap scaled, in its proportions, to fill \a rect at \a devicePixelRatio. Shrinks
+/// \a rect to those proportions.
+UIELEMENTS_EXPORT QPixmap adjustPixmapToRect(const QPixmap &pixmap, QRectF &rect,
+                                             double devicePixelRatio);
+
+// Icon and text
+
+/// Returns where an icon and a text stand in relation to each other: the icon's offset, the text's
+/// offset, and the size of both together as a point. The icon comes first at the top, and at the
+/// side where a line starts; margins are on-screen ones.
+UIELEMENTS_EXPORT std::tuple<QPointF, QPointF, QPointF> calculateIconTextOffset(
+        const QSize &iconSize, const QSize &textSize, const QMargins &textMargins,
+        const QMargins &iconMargins, OxaEnum::Alignment alignment);
+
+/// Paints \a icon, which may be null, beside the elided text of \a label, in the colours for the
+/// option's state. Returns the rectangle of the two.
+UIELEMENTS_EXPORT QRect drawSvgIconText(QPainter *painter, const OxaSvgLabel *label,
+                                        const QStyleOption &option,
+                                        const std::unique_ptr<OxaSvgIcon> &icon,
+                                        const OxaColorSet &textColors);
+
+/// The same for a button, whose text is \a document where it is rich and there is one.
+UIELEMENTS_EXPORT QRect drawSvgIconText(QPainter *painter, const OxaSvgPushButton *button,
+                                        QTextDocument *document, const QStyleOption &option,
+                                        const std::unique_ptr<OxaSvgIcon> &icon,
+                                        const OxaColorSet &textColors);
+
+/// The same with \a pixmap as the icon, in the button's icon size.
+UIELEMENTS_EXPORT QRect drawPixmapIconText(QPainter *painter, const OxaSvgPushButton *button,
+                                           QTextDocument *document, const QStyleOption &option,
+                                           const QPixmap &pixmap, const OxaColorSet &textColors);
+
+// SVG
+
+/// Paints \a node into \a rect, as large as its proportions allow and centred, with \a opacity.
+/// Shapes without a fill of their own take \a color, those without a stroke have none.
+UIELEMENTS_EXPORT void drawSVG(QPainter *painter, QSvgNode *node, QSvgExtraStates &states,
+                               const QRectF &rect, const QColor &color, double opacity);
+
+/// Returns a pixmap of \a pixmapSize device pixels, filled with \a backgroundColor, with \a node in
+/// \a color inside \a iconRect. A null node gives a null pixmap.
+UIELEMENTS_EXPORT QPixmap renderPixmap(QSvgNode *node, const QRectF &iconRect,
+                                       const QSize &pixmapSize, double devicePixelRatio,
+                                       const QColor &color, const QColor &backgroundColor);
+
+// Badges
+
+/// Paints a badge on \a pixmap, from \a unreadIndicatorTopLeft to the bottom right corner, in the
+/// colours of the "oxa-unreadCountCircle-" sets: a plain dot for a \a count of 0, else the number,
+/// 99 at most. A point outside of the pixmap logs a warning; the badge starts at the centre then.
+UIELEMENTS_EXPORT void drawUnreadIndicator(QPixmap &pixmap, const QPointF &unreadIndicatorTopLeft,
+                                           unsigned int count);
+
+// Focus frames
 
 /// Draws the frame of keyboard focus for \a widget, which may be null.
 ///

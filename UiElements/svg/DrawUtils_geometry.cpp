@@ -12,3 +12,13 @@ void DrawUtils::fitRectangle(QRectF &rect, double aspectRatio)
         rect.adjust(0.0, inset, 0.0, -inset);
     }
 }
+
+QPixmap DrawUtils::adjustPixmapToRect(const QPixmap &pixmap, QRectF &rect, double devicePixelRatio)
+{
+    fitRectangle(rect, double(pixmap.width()) / pixmap.height());
+    const QSize size(static_cast<int>(rect.width() * devicePixelRatio),
+                     static_cast<int>(rect.height() * devicePixelRatio));
+    QPixmap scaled = pixmap.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(devicePixelRatio);
+    return scaled;
+}

@@ -134,6 +134,8 @@ void OxaLabel::onThemeChanged()
         setText(m_rawText);
 }
 
+const OxaColorSet &OxaLabel::textColors() const { return m_colorSets.text; }
+
 void OxaLabel::mouseReleaseEvent(QMouseEvent *event)
 {
     if (isInteractive() && !hasSelectedText()) {

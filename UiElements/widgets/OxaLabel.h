@@ -110,6 +110,9 @@ Q_SIGNALS:
     void onVisibilityChanged(bool isVisible);
 
 protected:
+    /// Returns the set that the style text's "$textColors:" names; not valid when it names none.
+    const OxaColorSet &textColors() const;
+
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;

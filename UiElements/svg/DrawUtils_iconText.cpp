@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DrawUtils.h"
+
+#include <UiElements/svg/OxaSvgIcon.h>
+#include <UiElements/svg/OxaSvgLabel.h>
+#include <UiElements/svg/OxaSvgPushButton.h>
+#include <UiElements/theme/StateColor_p.h>
+
+#include <QAbstractTextDocumentLayout>
+#include <QDebug>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QStyleOption>
+#include <QTextDocument>
+
+#include <functional>
+
+namespace {
+
+constexpr char unsupportedAlignWarning[] = "Unsupported OxaEnum::HorAlign!";
+
+/// What is painted beside a text, and how large it is. Nothing has the size (-1, -1), which makes
+/// the block a pixel narrower than a picture of no size would: meant so.
+struct Picture
+{
+    QSize size;
+    std::function<void(QPainter &painter, const QPointF &offset)> draw;
+};
+
+/// What a widget says of its icon and text.
+struct Block
+{
+    template <typename Widget>
+    Block(const Widget &widget, const QTextDocument *document)
+        : text(widget.text()),
+          fontMetrics(widget.fontMetrics()),
+          iconPadding(widget.getSvgIconPadding()),
+          textMargins(widget.getTextLeftPadding(), 0, widget.getTextRightPadding(), 0),
+          alignment(widget.getSvgIconAlignment()),
+          horAlign(widget.getTextHorAlign()),
+          elideMode(widget.getElideMode()),
+          elidePadding(widget.getElidePadding()),
+          richText(document)
+    {
+    }
+
+    int availableWidth(const QRect &rect, const QSize &iconSize) const
+    {
+        return rect.width() - elidePadding - iconPadding.right() - iconPadding.left()
+                - (textMargins.left() + textMargins.right()) - iconSize.width();
+    }
+
+    QSize textSize(const QString &elided) const
+    {
+        return richText ? richText->size().toSize()
+                        : QSize(fontMetrics.horizontalAdvance(elided), fontMetrics.height());
+    }
+
+    QString text;
+    QFontMetrics fontMetrics;
+    QMargins iconPadding;
+    QMargins textMargins;
+    OxaEnum::Alignment alignment;
+    OxaEnum::HorAlign horAlign;
+    Qt::TextElideMode elideMode;
+    int elidePadding;
+    const QTextDocument *richText; ///< Painted instead of the text where there is one.
+};
+
+/// Left and right stand for the text's start and end. An ellipsis belongs at its end.
+Qt::TextElideMode directedElideMode(Qt::TextElideMode mode)
+{
+    if (mode == Qt::ElideLeft && QGuiApplication::isLeftToRight())
+        return Qt::ElideRight;
+    if (mode == Qt::ElideRight && QGuiApplication::isRightToLeft())
+        return Qt::ElideLeft;
+    return mode;
+}
+
+/// Moves \a painter to where a block of size \a total stands in \a rect, and returns that place.
+QPoint placeBlock(QPainter &painter, OxaEnum::HorAlign align, const QRect &rect,
+                  const QPointF &total)
+{
+    const double left = rect.x();
+    const double right = rect.width() + rect.x() - total.x();
+    const bool isMirrored = QGuiApplication::isRightToLeft();
+    double x = 0.0;
+    switch (align) {
+    case OxaEnum::HorAlign::LeftAlign:
+        x = isMirrored ? right : left;
+        break;
+    case OxaEnum::HorAlign::CenterAlign:
+        x = rect.width() * 0.5 + rect.x() - total.x() * 0.5;
+        break;
+    case OxaEnum::HorAlign::RightAlign:
+        x = isMirrored ? left : right;
+        break;
+    default:
+        QMessageLogger().warning() << unsupportedAlignWarning;
+        return {};
+    }
+    const QPoint place = QPointF(x, rect.height() * 0.5 + rect.y() - total.y() * 0.5).toPoint();
+    painter.translate(place);
+    return place;
+}
+
+void drawText(QPainter &painter, const Block &block, const QString &elided, const QSize &size)
+{
+    if (block.richText) {
+        QAbstractTextDocumentLayout::PaintContext context;
+        context.palette.setColor(QPalette::Text, painter.pen().color());
+        block.richText->documentLayout()->draw(&painter, context);
+        return;
+    }
+    painter.drawText(QRectF(QPointF(), size), elided, QTextOption());
+}
+
+QRect drawIconText(QPainter &painter, const Block &block, const QStyleOption &option,
+                   const Picture &picture, const OxaColorSet &textColors)
+{
+    const int available = block.availableWidth(option.rect, picture.size);
+    const QString elided = block.fontMetrics.elidedText(block.text,
+                                                        directedElideMode(block.elideMode),
+                                                        available);
+    const QSize textSize = block.textSize(elided);
+    const auto [iconOffset, textOffset,
+                total] = DrawUtils::calculateIconTextOffset(picture.size, textSize,
+                                                            block.textMargins, block.iconPadding,
+                                                            block.alignment);
+
+    painter.save();
+    const QPoint place = placeBlock(painter, block.horAlign, option.rect, total);
+    if (picture.draw) {
+        painter.save();
+        picture.draw(painter, iconOffset);
+        painter.restore();
+    }
+    painter.save();
+    painter.translate(textOffset);
+    painter.setPen(colorForStyleState(textColors, option.state));
+    drawText(painter, block, elided,
+             QSize(available, qMax(textSize.height(), block.fontMetrics.height())));
+    painter.restore();
+    painter.restore();
+    return { place, QSize(static_cast<int>(total.x()), static_cast<int>(total.y())) };
+}
+
+Picture pictureOf(const OxaSvgIcon *icon, QStyle::State state)
+{
+    if (!icon || !icon->isVisible())
+        return {};
+    return { icon->getIconSize(), [icon, state](QPainter &painter, const QPointF &offset) {
+                painter.translate(offset);
+                icon->draw(&painter, state);
+            } };
+}
+
+const QTextDocument *richTextOf(const OxaSvgPushButton &button, const QTextDocument *document)
+{
+    return button.getTextFormat() == Qt::RichText ? document : nullptr;
+}
+
+} // namespace
+
+std::tuple<QPointF, QPointF, QPointF> DrawUtils::calculateIconTextOffset(
+        const QSize &iconSize, const QSize &textSize, const QMargins &textMargins,
+        const QMargins &iconMargins, OxaEnum::Alignment alignment)
+{
+    using OxaEnum::Alignment;
+
+    const auto iconW = float(iconSize.width() + iconMargins.left() + iconMargins.right());
+    const auto iconH = float(iconSize.height() + iconMargins.top() + iconMargins.bottom());
+    const auto textW = float(textSize.width() + textMargins.left() + textMargins.right());
+    const auto textH = float(textSize.height() + textMargins.top() + textMargins.bottom());
+    const bool isMirrored = QGuiApplication::isRightToLeft();
+    const bool iconFirst = alignment == Alignment::Top
+            || alignment == (isMirrored ? Alignment::Right : Alignment::Left);
+
+    if (alignment == Alignment::Top || alignment == Alignment::Bottom) {
+        const float half = qMax(iconW * 0.5F, textW * 0.5F);
+        return { QPointF(double(half - iconW * 0.5F),
+                         double(float(iconMargins.top()) + (iconFirst ? 0.0F : textH))),
+                 QPointF(double(half - textW * 0.5F),
+                         double(float(textMargins.top()) + (iconFirst ? iconH : 0.0F))),
+                 QPointF(double(2.0F * half), double(iconH + textH)) };
+    }
+    const float half = qMax(iconH * 0.5F, textH * 0.5F);
+    const auto iconLead = float(isMirrored ? iconMargins.right() : iconMargins.left());
+    const auto textLead = float(isMirrored ? textMargins.right() : textMargins.left());
+    return { QPointF(double(iconLead + (iconFirst ? 0.0F : textW)), double(half - iconH * 0.5F)),
+             QPointF(double(textLead + (iconFirst ? iconW : 0.0F)), double(half - textH * 0.5F)),
+             QPointF(double(iconW + textW), double(2.0F * half)) };
+}
+
+QRect DrawUtils::drawSvgIconText(QPainter *painter, const OxaSvgLabel *label,
+                                 const QStyleOption &option,
+                                 const std::unique_ptr<OxaSvgIcon> &icon,
+                                 const OxaColorSet &textColors)
+{
+    return drawIconText(*painter, Block(*label, nullptr), option,
+                        pictureOf(icon.get(), option.state), textColors);
+}
+
+QRect DrawUtils::drawSvgIconText(QPainter *painter, const OxaSvgPushButton *button,
+                                 QTextDocument *document, const QStyleOption &option,
+                                 const std::unique_ptr<OxaSvgIcon> &icon,
+                                 const OxaColorSet &textColors)
+{
+    return drawIconText(*painter, Block(*button, richTextOf(*button, document)), option,
+                        pictureOf(icon.get(), option.state), textColors);
+}
+
+QRect DrawUtils::drawPixmapIconText(QPainter *painter, const OxaSvgPushButton *button,
+                                    QTextDocument *document, const QStyleOption &option,
+                                    const QPixmap &pixmap, const OxaColorSet &textColors)
+{
+    Picture picture;
+    if (!pixmap.isNull()) {
+        picture.size = button->iconSize();
+        picture.draw = [&pixmap, size = picture.size](QPainter &target, const QPointF &offset) {
+            target.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+            target.drawPixmap(QRect(offset.toPoint(), size), pixmap);
+        };
+    }
+    return drawIconText(*painter, Block(*button, richTextOf(*button, document)), option, picture,
+                        textColors);
+}

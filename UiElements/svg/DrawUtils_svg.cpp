@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DrawUtils.h"
+
+#include <QPainter>
+#include <QPixmap>
+#include <qsvgnode_p.h>
+#include <qsvgtinydocument_p.h>
+
+namespace {
+
+constexpr double miterLimit = 4.0;
+
+QRectF sourceOf(const QSvgNode &node)
+{
+    const QSvgTinyDocument *document = node.document();
+    return document ? document->viewBox() : node.transformedBounds();
+}
+
+bool isZeroSized(const QRectF &rect) { return rect.width() == 0.0 && rect.height() == 0.0; }
+
+/// The rectangle to paint into: \a target, else the whole paint device, else the picture's own
+/// size.
+QRectF paintableTarget(const QPainter &painter, const QRectF &target, const QRectF &source)
+{
+    if (!isZeroSized(target))
+        return target;
+    const QRectF device(0.0, 0.0, painter.device()->width(), painter.device()->height());
+    return isZeroSized(device) ? QRectF(QPointF(), source.size()) : device;
+}
+
+bool isSame(const QRectF &a, const QRectF &b)
+{
+    return qFuzzyCompare(a.x(), b.x()) && qFuzzyCompare(a.y(), b.y())
+            && qFuzzyCompare(a.width(), b.width()) && qFuzzyCompare(a.height(), b.height());
+}
+
+void mapSourceToTarget(QPainter &painter, const QRectF &source, const QRectF &wanted)
+{
+    const QRectF target = paintableTarget(painter, wanted, source);
+    if (isZeroSized(source) || isSame(source, target))
+        return;
+    const double sx = target.width() / source.width();
+    const double sy = target.height() / source.height();
+    painter.translate(target.x() - source.x() * sx, target.y() - source.y() * sy);
+    painter.scale(sx, sy);
+}
+
+} // namespace
+
+void DrawUtils::drawSVG(QPainter *painter, QSvgNode *node, QSvgExtraStates &states,
+                        const QRectF &rect, const QColor &color, double opacity)
+{
+    if (!painter || !node || node->displayMode() == QSvgNode::NoneMode)
+        return;
+
+    const QRectF source = sourceOf(*node);
+    QRectF target = rect;
+    fitRectangle(target, source.width() / source.height());
+
+    painter->save();
+    mapSourceToTarget(*painter, source, target);
+    QPen pen(QBrush(Qt::NoBrush), 1.0, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
+    pen.setMiterLimit(miterLimit);
+    painter->setPen(pen);
+    painter->setBrush(QBrush(color, Qt::SolidPattern));
+    painter->setOpacity(opacity);
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    node->draw(painter, states);
+    painter->restore();
+}
+
+QPixmap DrawUtils::renderPixmap(QSvgNode *node, const QRectF &iconRect, const QSize &pixmapSize,
+                                double devicePixelRatio, const QColor &color,
+                                const QColor &backgroundColor)
+{
+    if (!node)
+        return {};
+    QPixmap pixmap(pixmapSize);
+    pixmap.setDevicePixelRatio(devicePixelRatio);
+    pixmap.fill(backgroundColor);
+    QPainter painter(&pixmap);
+    QSvgExtraStates states;
+    drawSVG(&painter, node, states, iconRect, color, 1.0);
+    return pixmap;
+}

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DrawUtils.h"
+
+#include <UiElements/fonts/FontUtils.h>
+#include <UiElements/theme/OxaThemeUtils.h>
+
+#include <QDebug>
+#include <QPainter>
+#include <QPixmap>
+
+namespace {
+
+constexpr char outOfBoundsWarning[] = "unreadIndicatorTopLeft out of bounds!";
+constexpr unsigned maximumCount = 99;
+
+QColor normalColor(const char *colorSetName)
+{
+    return OxaThemeUtils::getColorSet(colorSetName, OxaThemeUtils::AppThemeType::Global).normal;
+}
+
+/// The badge reaches from \a topLeft to the pixmap's corner; from outside of it, it hangs over from
+/// the pixmap's centre.
+QRectF badgeRect(const QPixmap &pixmap, const QPointF &topLeft)
+{
+    QRectF rect(pixmap.rect());
+    if (topLeft.x() > rect.x() + rect.width() || topLeft.y() > rect.y() + rect.height()) {
+        QMessageLogger().warning() << outOfBoundsWarning;
+        rect.moveTopLeft(rect.center());
+    } else {
+        rect.setTopLeft(topLeft);
+    }
+    return rect;
+}
+
+} // namespace
+
+void DrawUtils::drawUnreadIndicator(QPixmap &pixmap, const QPointF &unreadIndicatorTopLeft,
+                                    unsigned int count)
+{
+    const QRectF rect = badgeRect(pixmap, unreadIndicatorTopLeft);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(normalColor("oxa-unreadCountCircle-background"));
+    const double radius = rect.height() * 0.5;
+    painter.drawRoundedRect(rect, radius, radius);
+    if (count == 0)
+        return;
+
+    painter.setFont(FontUtils::getFontByPixelSize(static_cast<int>(pixmap.width() / 1.6),
+                                                  FontUtils::SupportedFontFamily::Interface));
+    painter.setPen(normalColor("oxa-unreadCountCircle-text"));
+    // Centred across and not down: meant so.
+    painter.drawText(rect, Qt::AlignHCenter, QString::number(qMin(count, maximumCount)));
+}

@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+#include <UiElements/svg/OxaSvgIcon.h>
+#include <UiElements/theme/OxaEnum.h>
+
+#include <QMargins>
+#include <QPoint>
+#include <QString>
+
+#include <memory>
+
+class QWidget;
+
+/// Keeps an icon beside a widget's text, and where the two stand: the behaviour behind
+/// UIELEMENTS_SVG_ICON_BLOCK.
+///
+/// A member of the widget that it serves. The icon is made when it is first needed. Where it has no
+/// colour set of its own, or one that the theme lacks, it takes the widget's text colours.
+class UIELEMENTS_EXPORT SvgIconBlock
+{
+    Q_DISABLE_COPY_MOVE(SvgIconBlock)
+
+public:
+    /// Serves \a widget, whose text colours are \a textColorSet; both must outlive the block.
+    SvgIconBlock(QWidget *widget, const OxaColorSet &textColorSet);
+    ~SvgIconBlock();
+
+    const std::unique_ptr<OxaSvgIcon> &icon() const { return m_icon; }
+    std::unique_ptr<OxaSvgIcon> &icon() { return m_icon; }
+
+    QString path() const;
+    void setPath(const QString &path);
+    QSize size() const;
+    void setSize(const QSize &size);
+    QString colorSetName() const { return m_colorSetName; }
+    void setColorSetName(const QString &name);
+
+    /// Returns the icon's colours: what the last setColorSetName() came to.
+    OxaColorSet colorSet() const;
+
+    QString innerPath() const;
+    void setInnerPath(const QString &path);
+    QSize innerSize() const;
+    void setInnerSize(const QSize &size);
+    QString innerColorSetName() const { return m_innerColorSetName; }
+    void setInnerColorSetName(const QString &name);
+
+    OxaEnum::Alignment alignment() const { return m_alignment; }
+    void setAlignment(OxaEnum::Alignment alignment);
+    OxaEnum::HorAlign textHorAlign() const { return m_textHorAlign; }
+    void setTextHorAlign(OxaEnum::HorAlign align);
+    int textLeftPadding() const { return m_textLeftPadding; }
+    void setTextLeftPadding(int padding);
+    int textRightPadding() const { return m_textRightPadding; }
+    void setTextRightPadding(int padding);
+
+    QMargins padding() const { return m_padding; }
+    void setPadding(const QMargins &padding) { m_padding = padding; }
+    QPoint topLeftPadding() const { return { m_padding.left(), m_padding.top() }; }
+    void setTopLeftPadding(const QPoint &padding);
+    QPoint bottomRightPadding() const { return { m_padding.right(), m_padding.bottom() }; }
+    void setBottomRightPadding(const QPoint &padding);
+
+    /// Returns the set called \a name in the widget's theme, or its text colours where that is not
+    /// valid.
+    OxaColorSet colorSetOrText(const QString &name) const;
+
+    /// Loads \a icon from \a path unless it shows that already, and repaints.
+    void updateIconPath(OxaSvgIcon *icon, const QString &path) const;
+
+private:
+    OxaSvgIcon &ensureSvgIconExists();
+
+    QWidget *const m_widget;
+    const OxaColorSet &m_textColorSet;
+    std::unique_ptr<OxaSvgIcon> m_icon;
+    OxaEnum::Alignment m_alignment = OxaEnum::Alignment::Left;
+    OxaEnum::HorAlign m_textHorAlign = OxaEnum::HorAlign::CenterAlign;
+    QMargins m_padding;
+    QString m_colorSetName;
+    QString m_innerColorSetName;
+    int m_textLeftPadding = 0;
+    int m_textRightPadding = 0;
+};
+
+/// Declares the icon members of a themed widget class. Stands after the theme and font blocks,
+/// without a semicolon, and leaves the access at private. The class initialises `m_iconBlock` in
+/// its constructor.
+///
+/// setSvgIcon() loads the file at a path and emits svgIconChanged(); the widget looks at the path
+/// once more, and repaints, when the event loop turns. setSvgIconColorSet() keeps the name, so that
+/// a theme change can look it up again, and emits svgIconColorSetChanged(); setSvgIconSize() emits
+/// svgIconSizeChanged(). The inner icon's setters emit nothing. setSvgIconPadding() alone does not
+/// repaint. Without an icon paths are empty and sizes (-1, -1).
+#define UIELEMENTS_SVG_ICON_BLOCK                                                                  \
+    Q_PROPERTY(QString svgIcon READ getSvgIcon WRITE setSvgIcon NOTIFY svgIconChanged)             \
+    Q_PROPERTY(QString svgIconColorSet READ getSvgIconColorSet WRITE setSvgIconColorSet NOTIFY     \
+                       svgIconColorSetChanged)                                                     \
+    Q_PROPERTY(                                                                                    \
+            QSize svgIconSize READ getSvgIconSize WRITE setSvgIconSize NOTIFY svgIconSizeChanged)  \
+    Q_PROPERTY(OxaEnum::Alignment svgIconAlignment READ getSvgIconAlignment WRITE                  \
+                       setSvgIconAlignment)                                                        \
+    Q_PROPERTY(OxaEnum::HorAlign textHorAlign READ getTextHorAlign WRITE setTextHorAlign)          \
+    Q_PROPERTY(int textLeftPadding READ getTextLeftPadding WRITE setTextLeftPadding)               \
+    Q_PROPERTY(int textRightPadding READ getTextRightPadding WRITE setTextRightPadding)            \
+    Q_PROPERTY(QPoint svgIconTopLeftPadding READ getSvgIconTopLeftPadding WRITE                    \
+                       setSvgIconTopLeftPadding)                                                   \
+    Q_PROPERTY(QPoint svgIconBottomRightPadding READ getSvgIconBottomRightPadding WRITE            \
+                       setSvgIconBottomRightPadding)                                               \
+    Q_PROPERTY(QString innerSvgIcon READ getInnerSvgIcon WRITE setInnerSvgIcon)                    \
+    Q_PROPERTY(QString innerSvgIconColorSet READ getInnerSvgIconColorSet WRITE                     \
+                       setInnerSvgIconColorSet)                                                    \
+    Q_PROPERTY(QSize innerSvgIconSize READ getInnerSvgIconSize WRITE setInnerSvgIconSize)          \
+                                                                                                   \
+public:                                                                                            \
+    QString getSvgIcon() const { return m_iconBlock.path(); }                                      \
+    void setSvgIcon(const QString &path)                                                           \
+    {                                                                                              \
+        m_iconBlock.setPath(path);                                                                 \
+        Q_EMIT svgIconChanged(path);                                                               \
+    }                                                                                              \
+    QString getSvgIconColorSet() const { return m_iconBlock.colorSetName(); }                      \
+    void setSvgIconColorSet(const QString &name)                                                   \
+    {                                                                                              \
+        m_iconBlock.setColorSetName(name);                                                         \
+        Q_EMIT svgIconColorSetChanged(m_iconBlock.colorSet());                                     \
+        update();                                                                                  \
+    }                                                                                              \
+    QSize getSvgIconSize() const { return m_iconBlock.size(); }                                    \
+    void setSvgIconSize(const QSize &iconSize)                                                     \
+    {                                                                                              \
+        m_iconBlock.setSize(iconSize);                                                             \
+        Q_EMIT svgIconSizeChanged(iconSize);                                                       \
+        update();                                                                                  \
+    }                                                                                              \
+    OxaEnum::Alignment getSvgIconAlignment() const { return m_iconBlock.alignment(); }             \
+    void setSvgIconAlignment(OxaEnum::Alignment side) { m_iconBlock.setAlignment(side); }          \
+    OxaEnum::HorAlign getTextHorAlign() const { return m_iconBlock.textHorAlign(); }               \
+    void setTextHorAlign(OxaEnum::HorAlign align) { m_iconBlock.setTextHorAlign(align); }          \
+    int getTextLeftPadding() const { return m_iconBlock.textLeftPadding(); }                       \
+    void setTextLeftPadding(int padding) { m_iconBlock.setTextLeftPadding(padding); }              \
+    int getTextRightPadding() const { return m_iconBlock.textRightPadding(); }                     \
+    void setTextRightPadding(int padding) { m_iconBlock.setTextRightPadding(padding); }            \
+    QMargins getSvgIconPadding() const { return m_iconBlock.padding(); }                           \
+    void setSvgIconPadding(const QMargins &padding) { m_iconBlock.setPadding(padding); }           \
+    QPoint getSvgIconTopLeftPadding() const { return m_iconBlock.topLeftPadding(); }               \
+    void setSvgIconTopLeftPadding(const QPoint &padding)                                           \
+    {                                                                                              \
+        m_iconBlock.setTopLeftPadding(padding);                                                    \
+    }                                                                                              \
+    QPoint getSvgIconBottomRightPadding() const { return m_iconBlock.bottomRightPadding(); }       \
+    void setSvgIconBottomRightPadding(const QPoint &padding)                                       \
+    {                                                                                              \
+        m_iconBlock.setBottomRightPadding(padding);                                                \
+    }                                                                                              \
+    QString getInnerSvgIcon() const { return m_iconBlock.innerPath(); }                            \
+    void setInnerSvgIcon(const QString &path) { m_iconBlock.setInnerPath(path); }                  \
+    QString getInnerSvgIconColorSet() const { return m_iconBlock.innerColorSetName(); }            \
+    void setInnerSvgIconColorSet(const QString &name) { m_iconBlock.setInnerColorSetName(name); }  \
+    QSize getInnerSvgIconSize() const { return m_iconBlock.innerSize(); }                          \
+    void setInnerSvgIconSize(const QSize &iconSize) { m_iconBlock.setInnerSize(iconSize); }        \
+    void refreshSvgIconColorSet()                                                                  \
+    {                                                                                              \
+        if (!getSvgIconColorSet().isEmpty())                                                       \
+            setSvgIconColorSet(getSvgIconColorSet());                                              \
+        if (!getInnerSvgIconColorSet().isEmpty())                                                  \
+            setInnerSvgIconColorSet(getInnerSvgIconColorSet());                                    \
+    }                                                                                              \
+                                                                                                   \
+Q_SIGNALS:                                                                                         \
+    void svgIconChanged(const QString &path);                                                      \
+    void svgIconColorSetChanged(const OxaColorSet &colorSet);                                      \
+    void svgIconSizeChanged(const QSize &size);                                                    \
+                                                                                                   \
+private:                                                                                           \
+    SvgIconBlock m_iconBlock;

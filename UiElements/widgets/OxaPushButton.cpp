@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OxaPushButton.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionButton>
+#include <QTimer>
+
+namespace {
+
+constexpr int longPressMs = 500;
+
+} // namespace
+
+OxaPushButton::OxaPushButton(QWidget *parent, const QAccessible::Role &role)
+    : OxaPushButton(QString(), parent, role)
+{
+}
+
+OxaPushButton::OxaPushButton(const QString &text, QWidget *parent, const QAccessible::Role &role)
+    : OxaPushButton(QIcon(), text, parent, role)
+{
+}
+
+OxaPushButton::OxaPushButton(const QIcon &icon, const QString &text, QWidget *parent,
+                             const QAccessible::Role &role)
+    : QPushButton(text, parent),
+      m_themeBlock(this, ThemeBlock::Form::Full, &m_colorSets),
+      m_accessibleRole(role),
+      m_useGlobalFocusBorders(qApp->property("useGlobalFocusBorders").toBool())
+{
+    setIcon(icon);
+    setAutoDefault(true);
+    m_themeBlock.followTheme();
+}
+
+Qt::TextElideMode OxaPushButton::getElideMode() const { return m_elideMode; }
+
+void OxaPushButton::setElideMode(Qt::TextElideMode mode)
+{
+    m_elideMode = mode;
+    update();
+}
+
+int OxaPushButton::getElidePadding() const { return m_elidePadding; }
+
+void OxaPushButton::setElidePadding(int padding)
+{
+    m_elidePadding = padding;
+    update();
+}
+
+QString OxaPushButton::getUniqueElementId() const { return m_uniqueElementId; }
+
+void OxaPushButton::setUniqueElementId(const QString &id) { m_uniqueElementId = id; }
+
+QAccessible::Role OxaPushButton::getAccessibleRole() const { return m_accessibleRole; }
+
+void OxaPushButton::setAccessibleRole(QAccessible::Role role) { m_accessibleRole = role; }
+
+QString OxaPushButton::getFocusRectColorSet() const { return m_focusRectColorSet.name; }
+
+void OxaPushButton::setFocusRectColorSet(const QString &name)
+{
+    m_focusRectColorSet = OxaThemeUtils::getColorSet(name.toStdString(), getThemeType());
+}
+
+bool OxaPushButton::isLongPressEnabled() const { return m_isLongPressEnabled; }
+
+void OxaPushButton::setLongPressEnabled(bool enabled) { m_isLongPressEnabled = enabled; }
+
+bool OxaPushButton::isBadgeVisible() const { return m_isBadgeVisible; }
+
+void OxaPushButton::setBadgeVisible(bool visible)
+{
+    m_isBadgeVisible = visible;
+    repaint();
+}
+
+void OxaPushButton::setIcon(const QIcon &icon)
+{
+    m_hasIcon = !icon.isNull();
+    QAbstractButton::setIcon(icon);
+}
+
+void OxaPushButton::setIconColor(const QColor &color, QIcon::Mode mode)
+{
+    setIconColor(color, mode, QIcon::On);
+    setIconColor(color, mode, QIcon::Off);
+}
+
+void OxaPushButton::setIconColor(const QColor &color, QIcon::Mode mode, QIcon::State state)
+{
+    QIcon tinted = icon();
+    if (tinted.isNull())
+        return;
+
+    QPixmap pixmap = tinted.pixmap(iconSize(), mode, state);
+    QPainter painter(&pixmap);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.setBrush(color);
+    painter.setPen(color);
+    painter.drawRect(pixmap.rect());
+    painter.end();
+    tinted.addPixmap(pixmap, mode, state);
+    setIcon(tinted);
+}
+
+void OxaPushButton::setPixmap(const QPixmap &pixmap)
+{
+    m_pixmap = pixmap;
+    m_hasIcon = !pixmap.isNull();
+}
+
+void OxaPushButton::setPixmapIconVisibility(bool visible) { m_isPixmapIconVisible = visible; }
+
+QUuid OxaPushButton::getObjectId() const { return m_objectId; }
+
+RillsAccessible::AcceleratorType OxaPushButton::getAcceleratorType() const
+{
+    return m_acceleratorType;
+}
+
+void OxaPushButton::setAcceleratorType(const RillsAccessible::AcceleratorType &type)
+{
+    m_acceleratorType = type;
+}
+
+RillsAccessible::AccessibleMode OxaPushButton::getAccessibleMode() const
+{
+    return m_accessibleMode;
+}
+
+void OxaPushButton::setAccessibleMode(const RillsAccessible::AccessibleMode &mode)
+{
+    m_accessibleMode = mode;
+}
+
+QString OxaPushButton::getElidedText(const QString &text, int extraWidth, int sideMargin) const
+{
+    if (m_elideMode == Qt::ElideNone)
+        return text;
+    return fontMetrics().elidedText(text, m_elideMode,
+                                    getLineWidth() - 2 * sideMargin - extraWidth);
+}
+
+int OxaPushButton::getLineWidth() const { return rect().width() - m_elidePadding; }
+
+const OxaColorSet &OxaPushButton::textColors() const { return m_colorSets.text; }
+
+const QPixmap &OxaPushButton::getPixmap() const { return m_pixmap; }
+
+void OxaPushButton::onThemeChanged()
+{
+    if (m_focusRectColorSet.isValid())
+        setFocusRectColorSet(m_focusRectColorSet.name);
+}
+
+void OxaPushButton::onButtonDownTimeout()
+{
+    if (!isDown())
+        return;
+    // A button that is no longer down makes no click when it is released.
+    setDown(false);
+    Q_EMIT longPressed();
+}
+
+void OxaPushButton::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::RightButton)
+        Q_EMIT rightClick();
+    if (m_isLongPressEnabled) {
+        if (!m_longPressTimer) {
+            m_longPressTimer = new QTimer(this);
+            m_longPressTimer->setSingleShot(true);
+            connect(m_longPressTimer, &QTimer::timeout, this, &OxaPushButton::onButtonDownTimeout);
+        }
+        m_longPressTimer->start(longPressMs);
+    }
+    QAbstractButton::mousePressEvent(event); // NOLINT(bugprone-parent-virtual-call)
+}
+
+void OxaPushButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (m_longPressTimer)
+        m_longPressTimer->stop();
+    QAbstractButton::mouseReleaseEvent(event); // NOLINT(bugprone-parent-virtual-call)
+}
+
+void OxaPushButton::focusInEvent(QFocusEvent *event)
+{
+    Q_EMIT onFocusIn();
+    QPushButton::focusInEvent(event);
+}
+
+void OxaPushButton::focusOutEvent(QFocusEvent *event)
+{
+    Q_EMIT onFocusOut();
+    QPushButton::focusOutEvent(event);
+}
+
+void OxaPushButton::enterEvent(QEvent *event)
+{
+    QWidget::enterEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    Q_EMIT mouseEntered();
+}
+
+void OxaPushButton::leaveEvent(QEvent *event)
+{
+    QWidget::leaveEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    Q_EMIT mouseExited();
+}

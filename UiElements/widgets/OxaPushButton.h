@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+#include <UiElements/fonts/FontBlock.h>
+#include <UiElements/theme/ThemeBlock.h>
+#include <UiElements/widgets/RillsAccessible.h>
+
+#include <QAccessible>
+#include <QPixmap>
+#include <QPushButton>
+#include <QUuid>
+
+class QStyleOptionButton;
+class QTimer;
+
+/// The library's button: a QPushButton that takes part in theming, elides its text, and tells of
+/// long presses, right clicks, hover and focus. It can carry a badge and a pixmap under its frame.
+///
+/// Every button starts as an auto-default one.
+class UIELEMENTS_EXPORT OxaPushButton : public QPushButton
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QPushButton)
+    UIELEMENTS_FONT_BLOCK
+    Q_PROPERTY(Qt::TextElideMode elideMode READ getElideMode WRITE setElideMode)
+    Q_PROPERTY(int elidePadding READ getElidePadding WRITE setElidePadding)
+    Q_PROPERTY(QString elementUniqueId READ getUniqueElementId WRITE setUniqueElementId)
+    Q_PROPERTY(QAccessible::Role accessibleRole READ getAccessibleRole WRITE setAccessibleRole)
+    Q_PROPERTY(QString focusRectColorSet READ getFocusRectColorSet WRITE setFocusRectColorSet)
+    Q_PROPERTY(bool longPressEnabled READ isLongPressEnabled WRITE setLongPressEnabled)
+    Q_PROPERTY(bool badgeVisible READ isBadgeVisible WRITE setBadgeVisible)
+    // QAbstractButton's, once more, so that the property system calls the setter below.
+    Q_PROPERTY(QIcon icon READ icon WRITE setIcon)
+
+public:
+    /// Makes a button without a text.
+    explicit OxaPushButton(QWidget *parent = nullptr,
+                           const QAccessible::Role &role = QAccessible::PushButton);
+
+    /// Makes a button with \a text.
+    explicit OxaPushButton(const QString &text, QWidget *parent = nullptr,
+                           const QAccessible::Role &role = QAccessible::PushButton);
+
+    /// Makes a button with \a icon and \a text.
+    OxaPushButton(const QIcon &icon, const QString &text, QWidget *parent = nullptr,
+                  const QAccessible::Role &role = QAccessible::PushButton);
+
+    /// Returns where the text is elided. Qt::ElideNone by default.
+    Qt::TextElideMode getElideMode() const;
+
+    /// Sets where the text is elided. Repaints.
+    void setElideMode(Qt::TextElideMode mode);
+
+    /// Returns the width in pixels that an elided text keeps free. 0 by default.
+    int getElidePadding() const;
+
+    /// Sets the width in pixels that an elided text keeps free. Repaints.
+    void setElidePadding(int padding);
+
+    /// Returns the stable id by which automation finds the button. Empty by default.
+    QString getUniqueElementId() const;
+
+    /// Stores \a id.
+    void setUniqueElementId(const QString &id);
+
+    /// Returns the role told to assistive technology.
+    QAccessible::Role getAccessibleRole() const;
+
+    /// Stores \a role.
+    void setAccessibleRole(QAccessible::Role role);
+
+    /// Returns the name of the set whose normal colour lies under the focus frame. Empty by
+    /// default: the button draws no frame of its own then.
+    QString getFocusRectColorSet() const;
+
+    /// Looks the set called \a name up in the button's theme and stores it. Does not repaint.
+    void setFocusRectColorSet(const QString &name);
+
+    /// True when holding the button down for 500 ms is a long press. Off by default.
+    bool isLongPressEnabled() const;
+
+    /// Sets whether there are long presses.
+    void setLongPressEnabled(bool enabled);
+
+    /// True when the badge shows. Off by default.
+    bool isBadgeVisible() const;
+
+    /// Shows or hides the badge, a dot at the top right in the colour of the set
+    /// "badge-background". Repaints at once.
+    void setBadgeVisible(bool visible);
+
+    /// Sets the icon, as QAbstractButton does.
+    void setIcon(const QIcon &icon);
+
+    /// Paints the pixmaps of the icon for \a mode over with \a color, keeping their shape.
+    void setIconColor(const QColor &color, QIcon::Mode mode);
+
+    /// Paints the pixmap of the icon for \a mode and \a state over with \a color, keeping its
+    /// shape. Does nothing without an icon.
+    void setIconColor(const QColor &color, QIcon::Mode mode, QIcon::State state);
+
+    /// Sets the pixmap that is painted under the frame. Does not repaint.
+    void setPixmap(const QPixmap &pixmap);
+
+    /// Shows or hides the pixmap under the frame, shown at first. Does not repaint.
+    void setPixmapIconVisibility(bool visible);
+
+    /// Returns the identity of this button, made with it.
+    QUuid getObjectId() const;
+
+    /// Returns the outer application's value. Zero by default.
+    RillsAccessible::AcceleratorType getAcceleratorType() const;
+
+    /// Stores \a type for the outer application.
+    void setAcceleratorType(const RillsAccessible::AcceleratorType &type);
+
+    /// Returns the outer application's value. Zero by default.
+    RillsAccessible::AccessibleMode getAccessibleMode() const;
+
+    /// Stores \a mode for the outer application.
+    void setAccessibleMode(const RillsAccessible::AccessibleMode &mode);
+
+Q_SIGNALS:
+    void onFocusIn();
+    void onFocusOut();
+    /// The button was held down for 500 ms. No click follows.
+    void longPressed();
+    void mouseEntered();
+    void mouseExited();
+    /// The right mouse button went down on the button.
+    void rightClick();
+
+protected:
+    /// Returns \a text elided to the button's width less the elide padding, twice \a sideMargin and
+    /// \a extraWidth; with Qt::ElideNone, \a text itself.
+    QString getElidedText(const QString &text, int extraWidth, int sideMargin) const;
+
+    /// Returns the button's width less the elide padding, in pixels.
+    int getLineWidth() const;
+
+    /// Returns the set that the style text's "$textColors:" names; not valid when it names none.
+    const OxaColorSet &textColors() const;
+
+    /// Returns the pixmap under the frame.
+    const QPixmap &getPixmap() const;
+
+    /// Fills \a option with what the style draws of the button.
+    virtual void initButtonStyleOption(QStyleOptionButton *option) const;
+
+    /// Ends a long press.
+    void onButtonDownTimeout();
+
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void enterEvent(QEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+
+private:
+    void paintFocusFrame(QPainter &painter, const QStyleOptionButton &option);
+    void paintBadge(QPainter &painter) const;
+
+    StyleColorSets m_colorSets;
+    OxaColorSet m_focusRectColorSet;
+    Qt::TextElideMode m_elideMode = Qt::ElideNone;
+    int m_elidePadding = 0;
+    QString m_uniqueElementId;
+    QAccessible::Role m_accessibleRole;
+    QPixmap m_pixmap;
+    QUuid m_objectId = QUuid::createUuid();
+    QTimer *m_longPressTimer = nullptr;
+    RillsAccessible::AcceleratorType m_acceleratorType = {};
+    RillsAccessible::AccessibleMode m_accessibleMode = {};
+    bool m_isPixmapIconVisible = true;
+    bool m_hasIcon = false;
+    bool m_isLongPressEnabled = false;
+    bool m_isBadgeVisible = false;
+    const bool m_useGlobalFocusBorders;
+};

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OxaPushButton.h"
+
+#include <UiElements/svg/DrawUtils.h>
+
+#include <QApplication>
+#include <QPainter>
+#include <QStyleOptionButton>
+
+namespace {
+
+constexpr int badgeRadius = 5;
+constexpr QPoint badgeOffset(-4, 5); ///< From the top right corner to the badge's centre.
+
+} // namespace
+
+void OxaPushButton::initButtonStyleOption(QStyleOptionButton *option) const
+{
+    QPushButton::initStyleOption(option);
+    option->text = getElidedText(option->text, 0, 0);
+}
+
+void OxaPushButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    QStyleOptionButton option;
+    initButtonStyleOption(&option);
+    if (m_hasIcon || m_isBadgeVisible)
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    // Before the frame, so that the frame lies on top.
+    if (!m_pixmap.isNull() && m_isPixmapIconVisible)
+        painter.drawPixmap(option.rect.topLeft(), m_pixmap);
+    style()->drawControl(QStyle::CE_PushButton, &option, &painter, this);
+    paintFocusFrame(painter, option);
+    if (m_isBadgeVisible)
+        paintBadge(painter);
+}
+
+void OxaPushButton::paintFocusFrame(QPainter &painter, const QStyleOptionButton &option)
+{
+    if (!m_useGlobalFocusBorders) {
+        if (m_focusRectColorSet.isValid())
+            DrawUtils::drawLegacyFocusRect(&painter, option.state, option.rect,
+                                           m_focusRectColorSet.normal);
+        return;
+    }
+
+    QStyleOptionFocusRect focusOption;
+    focusOption.initFrom(this);
+    const QRect customRect = property("customFocusRect").toRect();
+    if (customRect.isNull()) {
+        focusOption.rect = option.rect;
+    } else {
+        focusOption.rect = customRect;
+        focusOption.styleObject->setProperty("hasCustomRect", true);
+    }
+    if (focusOption.state.testFlag(QStyle::State_HasFocus)
+        && focusOption.state.testFlag(QStyle::State_KeyboardFocusChange))
+        QApplication::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focusOption, &painter,
+                                             this);
+}
+
+void OxaPushButton::paintBadge(QPainter &painter) const
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(
+            OxaThemeUtils::getColorSet("badge-background", OxaThemeUtils::AppThemeType::Global)
+                    .normal);
+    painter.drawEllipse(rect().topRight() + badgeOffset, badgeRadius, badgeRadius);
+}
