@@ -3,6 +3,8 @@
 
 #include <UiElements/theme/OxaColorSet.h>
 
+#include <QTest>
+
 #include <initializer_list>
 
 /// Colour sets and stores as tests need them.
@@ -30,4 +32,30 @@ inline OxaColorSetMap storeOf(std::initializer_list<OxaColorSet> sets)
     return store;
 }
 
+/// Returns \a color as "#aarrggbb", or "invalid".
+inline QString describe(const QColor &color)
+{
+    return color.isValid() ? color.name(QColor::HexArgb) : QStringLiteral("invalid");
+}
+
+/// Returns the name and the six colours of \a set, in the order of make().
+inline QString describe(const OxaColorSet &set)
+{
+    QStringList parts = { QLatin1Char('"') + set.name + QLatin1Char('"') };
+    for (const QColor &color :
+         { set.normal, set.hovered, set.pressed, set.disabled, set.focused, set.checked })
+        parts += describe(color);
+    return parts.join(QLatin1Char(' '));
+}
+
 } // namespace ColorSets
+
+namespace QTest {
+
+template <>
+inline char *toString(const OxaColorSet &set)
+{
+    return toString(ColorSets::describe(set));
+}
+
+} // namespace QTest

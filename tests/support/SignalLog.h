@@ -19,6 +19,9 @@ public:
         QObject::connect(sender, signal, &m_context, [this, entry] { m_entries += entry; });
     }
 
+    /// Notes \a entry now.
+    void note(const QString &entry) { m_entries += entry; }
+
     /// Returns what fired since the last call.
     QString take()
     {
