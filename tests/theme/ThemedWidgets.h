@@ -2,6 +2,7 @@
 #pragma once
 
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaPushButton.h>
 #include <UiElements/widgets/OxaWidget.h>
 
 #include <QTest>
@@ -55,6 +56,7 @@ inline const std::vector<ThemedClass> &themedClasses()
     using Form = ThemedClass::Form;
     static const std::vector<ThemedClass> classes = {
         themedClass<OxaLabel, QLabel>(),
+        themedClass<OxaPushButton, QPushButton>(),
         themedClass<OxaWidget, QWidget>(Font::Yes, Form::StyledBackground),
     };
     return classes;

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "support/TestApplication.h"
+
+#include <UiElements/app/OxaGlobalSignalListener.h>
+#include <UiElements/fonts/OxaFontManager.h>
+
+#include <QMetaType>
+
+namespace {
+
+constexpr auto search = OxaAppSignals::Shortcut::OpenGlobalSearch;
+
+/// An application for one test.
+class Application
+{
+public:
+    TestApplication *operator->() { return &m_application; }
+    TestApplication &operator*() { return m_application; }
+
+private:
+    int m_argumentCount = 1;
+    char m_name[5] = "test";
+    char *m_arguments[2] = { m_name, nullptr };
+    TestApplication m_application { m_argumentCount, m_arguments };
+};
+
+} // namespace
+
+/// The signal hub and the global signal listener as the application's. Each test makes its own.
+class tst_OxaApplicationHubs : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void makesItsChildrenInOrder();
+    void registersTheTypeOfShortcuts();
+    void asksTheHubForKeys();
+    void answersThroughTheMetaObject();
+    void takesItsChildrenWithIt();
+    void survivesTheEndOfItsChildren();
+};
+
+void tst_OxaApplicationHubs::makesItsChildrenInOrder()
+{
+    Application application;
+    QStringList made;
+    for (const QObject *child : application->children()) {
+        const QString name = QLatin1String(child->metaObject()->className());
+        if (name.startsWith(QLatin1String("Oxa")))
+            made += name;
+    }
+    QCOMPARE(made.join(QLatin1String(" | ")),
+             QStringLiteral("OxaAppSignals | OxaFontManager | OxaGlobalSignalListener"));
+}
+
+void tst_OxaApplicationHubs::registersTheTypeOfShortcuts()
+{
+    const Application application;
+    QVERIFY(QMetaType::type("OxaAppSignals::Shortcut") != QMetaType::UnknownType);
+}
+
+void tst_OxaApplicationHubs::asksTheHubForKeys()
+{
+    Application application;
+    QTest::ignoreMessage(QtWarningMsg,
+                         "ShortcutId ( 17 ) is not registered! This should never happen");
+    QCOMPARE(application->getKeySequence(search), QKeySequence());
+
+    QWidget window;
+    application->getAppSignals()->registerShortcuts(&window, OxaShortcut::General);
+    QCOMPARE(application->getKeySequence(search), QKeySequence(Qt::CTRL | Qt::Key_F));
+}
+
+void tst_OxaApplicationHubs::answersThroughTheMetaObject()
+{
+    Application application;
+    QWidget window;
+    application->getAppSignals()->registerShortcuts(&window, OxaShortcut::General);
+    QKeySequence keys;
+    QVERIFY(QMetaObject::invokeMethod(&*application, "getKeySequence",
+                                      Q_RETURN_ARG(QKeySequence, keys),
+                                      Q_ARG(OxaAppSignals::Shortcut, search)));
+    QCOMPARE(keys, QKeySequence(Qt::CTRL | Qt::Key_F));
+}
+
+void tst_OxaApplicationHubs::takesItsChildrenWithIt()
+{
+    auto application = std::make_unique<Application>();
+    const QPointer<OxaAppSignals> hub = (*application)->getAppSignals();
+    const QPointer<OxaGlobalSignalListener> listener = (*application)->getGlobalSignalListener();
+    QVERIFY(hub && listener);
+    application.reset();
+    QVERIFY(!hub);
+    QVERIFY(!listener);
+}
+
+void tst_OxaApplicationHubs::survivesTheEndOfItsChildren()
+{
+    Application application;
+    delete application->getAppSignals();
+    delete application->getGlobalSignalListener();
+    QVERIFY(!application->getAppSignals());
+    QVERIFY(!application->getGlobalSignalListener());
+    QVERIFY(!OxaAppSignals::get());
+    QVERIFY(!OxaGlobalSignalListener::get());
+    QCOMPARE(application->getKeySequence(search), QKeySequence());
+}
+
+QTEST_APPLESS_MAIN(tst_OxaApplicationHubs)
+#include "tst_oxaapplication_hubs.moc"

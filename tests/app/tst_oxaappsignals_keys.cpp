@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "DebugShortcuts.h"
+#include "ShortcutsTable.h"
+#include "support/SignalLog.h"
+
+#include <QMetaMethod>
+#include <QTest>
+#include <QWidget>
+
+using Shortcut = OxaAppSignals::Shortcut;
+
+namespace {
+
+constexpr int searchKeys = Qt::CTRL | Qt::Key_F;
+constexpr int debugKeys = Qt::CTRL | Qt::ALT | Qt::SHIFT | Qt::Key_D;
+
+/// A hub that notes each of its signals without arguments by name.
+class Hub : public OxaAppSignals
+{
+    Q_OBJECT
+
+public:
+    Hub()
+    {
+        const QMetaObject &type = OxaAppSignals::staticMetaObject;
+        const QMetaMethod slot = metaObject()->method(metaObject()->indexOfSlot("note()"));
+        for (int index = type.methodOffset(); index < type.methodCount(); ++index) {
+            if (type.method(index).parameterCount() == 0)
+                connect(this, type.method(index), this, slot);
+        }
+    }
+
+    /// Types \a keys in \a window, and returns which signals followed.
+    QString emittedFor(QWidget &window, const QKeySequence &keys)
+    {
+        QTest::keySequence(&window, keys);
+        return m_log.take();
+    }
+
+private Q_SLOTS:
+    void note()
+    {
+        const QMetaMethod signal = metaObject()->method(senderSignalIndex());
+        m_log.note(QString::fromLatin1(signal.name()));
+    }
+
+private:
+    SignalLog m_log;
+};
+
+bool activate(QWidget &window)
+{
+    window.show();
+    window.activateWindow();
+    return QTest::qWaitForWindowActive(&window);
+}
+
+} // namespace
+
+/// Keys that become signals of the hub.
+class tst_OxaAppSignalsKeys : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void emitsTheSignalOfTheKeysAndNoOther_data();
+    void emitsTheSignalOfTheKeysAndNoOther();
+    void listensInEachWindowOfTheApplication();
+    void ignoresTheKeysOfAGroupThatIsNotRegistered();
+    void ignoresTheKeysOfADisabledShortcut();
+    void ignoresTheKeysOfATemporarilyDisabledShortcut();
+    void ignoresAllKeysAfterTheMainWindow();
+    void mayBeDisabledByItsOwnSignal();
+    void showsTheDebugWindowForTheDevelopersKeys();
+    void leavesKeysThatTwoShortcutsShareWithoutEffect();
+};
+
+void tst_OxaAppSignalsKeys::emitsTheSignalOfTheKeysAndNoOther_data()
+{
+    QTest::addColumn<QKeySequence>("keys");
+    QTest::addColumn<QString>("signal");
+    for (const ShortcutData &row : shortcutsTable())
+        QTest::newRow(row.name) << row.keys << QString::fromLatin1(row.signal);
+}
+
+void tst_OxaAppSignalsKeys::emitsTheSignalOfTheKeysAndNoOther()
+{
+    QFETCH(QKeySequence, keys);
+    QFETCH(QString, signal);
+    Hub hub;
+    QWidget window;
+    hub.registerShortcuts(&window, OxaShortcut::All);
+    QVERIFY(activate(window));
+    QCOMPARE(hub.emittedFor(window, keys), signal);
+}
+
+void tst_OxaAppSignalsKeys::listensInEachWindowOfTheApplication()
+{
+    Hub hub;
+    QWidget mainWindow;
+    hub.registerShortcuts(&mainWindow, OxaShortcut::General);
+    mainWindow.show();
+    QWidget other;
+    QVERIFY(activate(other));
+    QCOMPARE(hub.emittedFor(other, searchKeys), QStringLiteral("openGlobalSearch"));
+}
+
+void tst_OxaAppSignalsKeys::ignoresTheKeysOfAGroupThatIsNotRegistered()
+{
+    Hub hub;
+    QWidget window;
+    hub.registerShortcuts(&window, OxaShortcut::Messaging);
+    QVERIFY(activate(window));
+    QCOMPARE(hub.emittedFor(window, searchKeys), QString());
+    QCOMPARE(hub.emittedFor(window, Qt::CTRL | Qt::Key_G), QStringLiteral("addGif"));
+}
+
+void tst_OxaAppSignalsKeys::ignoresTheKeysOfADisabledShortcut()
+{
+    Hub hub;
+    QWidget window;
+    hub.registerShortcuts(&window, OxaShortcut::General);
+    QVERIFY(activate(window));
+    hub.disableShortcut(Shortcut::OpenGlobalSearch);
+    QCOMPARE(hub.emittedFor(window, searchKeys), QString());
+    QCOMPARE(hub.emittedFor(window, Qt::Key_F1), QStringLiteral("openHelpPopUp"));
+    hub.disableAll();
+    QCOMPARE(hub.emittedFor(window, Qt::Key_F1), QString());
+}
+
+void tst_OxaAppSignalsKeys::ignoresTheKeysOfATemporarilyDisabledShortcut()
+{
+    Hub hub;
+    QWidget window;
+    hub.registerShortcuts(&window, OxaShortcut::General);
+    QVERIFY(activate(window));
+    const auto general = hub.getGroupShortcuts(OxaShortcut::General);
+    general.at(Shortcut::OpenGlobalSearch)->temporarilyDisable(true);
+    QCOMPARE(hub.emittedFor(window, searchKeys), QString());
+    general.at(Shortcut::OpenGlobalSearch)->temporarilyDisable(false);
+    QCOMPARE(hub.emittedFor(window, searchKeys), QStringLiteral("openGlobalSearch"));
+}
+
+void tst_OxaAppSignalsKeys::ignoresAllKeysAfterTheMainWindow()
+{
+    Hub hub;
+    auto mainWindow = std::make_unique<QWidget>();
+    hub.registerShortcuts(mainWindow.get(), OxaShortcut::General);
+    mainWindow->show();
+    QWidget other;
+    QVERIFY(activate(other));
+    mainWindow.reset();
+    QCOMPARE(hub.emittedFor(other, searchKeys), QString());
+}
+
+void tst_OxaAppSignalsKeys::mayBeDisabledByItsOwnSignal()
+{
+    Hub hub;
+    QWidget window;
+    hub.registerShortcuts(&window, OxaShortcut::General);
+    QVERIFY(activate(window));
+    connect(&hub, &OxaAppSignals::openGlobalSearch, &hub, &OxaAppSignals::disableAll);
+    QCOMPARE(hub.emittedFor(window, searchKeys), QStringLiteral("openGlobalSearch"));
+    QVERIFY(!hub.shortcutExists(Shortcut::OpenGlobalSearch));
+    QCOMPARE(hub.emittedFor(window, searchKeys), QString());
+}
+
+void tst_OxaAppSignalsKeys::showsTheDebugWindowForTheDevelopersKeys()
+{
+    Hub hub;
+    QWidget window;
+    registerDebugShortcuts(hub, &window);
+    QVERIFY(activate(window));
+    QCOMPARE(hub.emittedFor(window, debugKeys), QStringLiteral("showDebugWindow"));
+}
+
+void tst_OxaAppSignalsKeys::leavesKeysThatTwoShortcutsShareWithoutEffect()
+{
+    Hub hub;
+    QWidget window;
+    hub.registerShortcuts(&window, OxaShortcut::General);
+    registerDebugShortcuts(hub, &window);
+    QVERIFY(activate(window));
+    QCOMPARE(hub.emittedFor(window, debugKeys), QString());
+    hub.disableShortcut(Shortcut::OpenDiagnosticsDetails);
+    QCOMPARE(hub.emittedFor(window, debugKeys), QStringLiteral("showDebugWindow"));
+}
+
+QTEST_MAIN(tst_OxaAppSignalsKeys)
+#include "tst_oxaappsignals_keys.moc"
