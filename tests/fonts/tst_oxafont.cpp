@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "FontTokens.h"
+#include "support/Guards.h"
+#include "support/TestApplication.h"
+
+#include <QFontInfo>
+#include <QMetaEnum>
+
+using Token = OxaFont::Token;
+
+// All of an OxaFont is a QFont: nothing is lost where one is copied into the other.
+static_assert(sizeof(OxaFont) == sizeof(QFont));
+
+namespace {
+
+const QStringList fallbackFamilies = { QStringLiteral("Segoe UI"), QStringLiteral("Ebrima"),
+                                       QStringLiteral("Myanmar Text"),
+                                       QStringLiteral("Nirmala UI") };
+
+} // namespace
+
+/// Fonts under an OxaApplication.
+class tst_OxaFont : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void givesEachTokenItsWeightSizeAndUnderline_data() { addFontTokens(); }
+    void givesEachTokenItsWeightSizeAndUnderline();
+    void namesEachTokenInTheMetaObject_data() { addFontTokens(); }
+    void namesEachTokenInTheMetaObject();
+    void namesNoOtherToken();
+    void warnsOfAnUnknownTokenAndGivesAPlainFont_data();
+    void warnsOfAnUnknownTokenAndGivesAPlainFont();
+
+    void multipliesTheSizeByTheApplicationsFactor_data();
+    void multipliesTheSizeByTheApplicationsFactor();
+    void keepsItsSizeWhenTheFactorChangesLater();
+
+    void keepsTheApplicationFontsFamily();
+    void takesAMonospaceFamilyForCode();
+    void takesTheFallbackFamiliesWhenAsked();
+    void losesTheMonospaceFamilyToTheFallbackFamilies();
+
+    void isTheDefaultFontWithoutArguments();
+    void takesOneFamilyUpright();
+    void takesOnlyWhatIsGivenBesideAListOfFamilies_data();
+    void takesOnlyWhatIsGivenBesideAListOfFamilies();
+    void copiesFonts();
+};
+
+void tst_OxaFont::givesEachTokenItsWeightSizeAndUnderline()
+{
+    QFETCH(const int, token);
+    for (const bool useFallbackFamilies : { false, true }) {
+        const OxaFont font(static_cast<Token>(token), useFallbackFamilies);
+        QTEST(font.weight(), "weight");
+        QTEST(font.pixelSize(), "pixelSize");
+        QTEST(font.underline(), "underline");
+        QVERIFY(!font.italic());
+    }
+}
+
+void tst_OxaFont::namesEachTokenInTheMetaObject()
+{
+    QFETCH(const int, token);
+    QCOMPARE(QMetaEnum::fromType<Token>().valueToKey(token), QTest::currentDataTag());
+}
+
+void tst_OxaFont::namesNoOtherToken() { QCOMPARE(QMetaEnum::fromType<Token>().keyCount(), 21); }
+
+void tst_OxaFont::warnsOfAnUnknownTokenAndGivesAPlainFont_data()
+{
+    QTest::addColumn<int>("token");
+    QTest::newRow("one beyond the last") << 21;
+    QTest::newRow("one before the first") << -1;
+}
+
+void tst_OxaFont::warnsOfAnUnknownTokenAndGivesAPlainFont()
+{
+    QFETCH(const int, token);
+    QTest::ignoreMessage(QtWarningMsg, "Invalid font token! This should never happen!");
+    const OxaFont font(static_cast<Token>(token), false);
+    QCOMPARE(font.weight(), 50);
+    QCOMPARE(font.pixelSize(), 16);
+    QVERIFY(!font.underline());
+}
+
+void tst_OxaFont::multipliesTheSizeByTheApplicationsFactor_data()
+{
+    QTest::addColumn<float>("factor");
+    QTest::addColumn<Token>("token");
+    QTest::addColumn<int>("pixelSize");
+    QTest::newRow("a title of 20") << 1.25F << Token::Title << 25;
+    QTest::newRow("the default of 16") << 1.25F << Token::Default << 20;
+    QTest::newRow("the largest factor") << 1.5F << Token::Display << 60;
+    QTest::newRow("the smallest factor") << 0.5F << Token::BodyTertiary << 6;
+    QTest::newRow("17.6 rounds up") << 1.1F << Token::Default << 18;
+    QTest::newRow("13.2 rounds down") << 1.1F << Token::BodyTertiary << 13;
+    QTest::newRow("17.5 rounds up to an even size") << 1.25F << Token::BodySecondary << 18;
+    QTest::newRow("12.5 rounds up to an odd size") << 0.625F << Token::Title << 13;
+}
+
+void tst_OxaFont::multipliesTheSizeByTheApplicationsFactor()
+{
+    QFETCH(const float, factor);
+    QFETCH(const Token, token);
+    const ApplicationPropertyGuard scaled("fontScaleFactor", factor);
+    for (const bool useFallbackFamilies : { false, true })
+        QTEST(OxaFont(token, useFallbackFamilies).pixelSize(), "pixelSize");
+}
+
+void tst_OxaFont::keepsItsSizeWhenTheFactorChangesLater()
+{
+    const OxaFont font(Token::Title, false);
+    const ApplicationPropertyGuard scaled("fontScaleFactor", 1.5F);
+    QCOMPARE(font.pixelSize(), 20);
+}
+
+void tst_OxaFont::keepsTheApplicationFontsFamily()
+{
+    const OxaFont font(Token::Title, false);
+    QCOMPARE(font.family(), QStringLiteral("Segoe UI"));
+    QCOMPARE(font.family(), QApplication::font().family());
+    QCOMPARE(font.families(), QStringList());
+}
+
+void tst_OxaFont::takesAMonospaceFamilyForCode()
+{
+    const OxaFont font(Token::CodeBlocks, false);
+    QCOMPARE(font.family(), QStringLiteral("Consolas"));
+    QCOMPARE(font.families(), QStringList());
+    QVERIFY(QFontInfo(font).fixedPitch());
+}
+
+void tst_OxaFont::takesTheFallbackFamiliesWhenAsked()
+{
+    QCOMPARE(OxaFont(Token::Default, true).families(), fallbackFamilies);
+}
+
+void tst_OxaFont::losesTheMonospaceFamilyToTheFallbackFamilies()
+{
+    const OxaFont font(Token::CodeBlocks, true);
+    QCOMPARE(font.families(), fallbackFamilies);
+    QVERIFY(!QFontInfo(font).fixedPitch());
+}
+
+void tst_OxaFont::isTheDefaultFontWithoutArguments() { QCOMPARE(QFont(OxaFont()), QFont()); }
+
+void tst_OxaFont::takesOneFamilyUpright()
+{
+    const OxaFont font(QStringLiteral("Ebrima"), 11, QFont::Black);
+    QCOMPARE(font.family(), QStringLiteral("Ebrima"));
+    QCOMPARE(font.pointSize(), 11);
+    QCOMPARE(font.weight(), int(QFont::Black));
+    QVERIFY(!font.italic());
+}
+
+void tst_OxaFont::takesOnlyWhatIsGivenBesideAListOfFamilies_data()
+{
+    const QFont plain;
+    const QStringList families = { QStringLiteral("Ebrima"), QStringLiteral("Courier New") };
+    QTest::addColumn<QStringList>("families");
+    QTest::addColumn<int>("pointSize");
+    QTest::addColumn<int>("weight");
+    QTest::addColumn<QStringList>("expectedFamilies");
+    QTest::addColumn<int>("expectedPointSize");
+    QTest::addColumn<int>("expectedWeight");
+    QTest::newRow("all three") << families << 11 << 75 << families << 11 << 75;
+    QTest::newRow("no families") << QStringList() << 11 << 75 << plain.families() << 11 << 75;
+    QTest::newRow("a size of 0 is none")
+            << families << 0 << 75 << families << plain.pointSize() << 75;
+    QTest::newRow("a size of 1 is one") << families << 1 << 75 << families << 1 << 75;
+    QTest::newRow("a weight of 0 is one") << families << 11 << 0 << families << 11 << 0;
+    QTest::newRow("a weight of -1 is none")
+            << families << 11 << -1 << families << 11 << plain.weight();
+    QTest::newRow("nothing") << QStringList() << -1 << -1 << plain.families() << plain.pointSize()
+                             << plain.weight();
+}
+
+void tst_OxaFont::takesOnlyWhatIsGivenBesideAListOfFamilies()
+{
+    QFETCH(const QStringList, families);
+    QFETCH(const int, pointSize);
+    QFETCH(const int, weight);
+    const OxaFont font(families, pointSize, weight);
+    QTEST(font.families(), "expectedFamilies");
+    QTEST(font.pointSize(), "expectedPointSize");
+    QTEST(font.weight(), "expectedWeight");
+}
+
+void tst_OxaFont::copiesFonts()
+{
+    QFont font(QStringLiteral("Ebrima"), 11, QFont::Black, true);
+    font.setStrikeOut(true);
+    const OxaFont copy(font);
+    QCOMPARE(QFont(copy), font);
+    QCOMPARE(QFont(OxaFont(copy)), font);
+}
+
+UIELEMENTS_TEST_MAIN(tst_OxaFont)
+#include "tst_oxafont.moc"

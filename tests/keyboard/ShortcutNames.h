@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+/// The keys of OxaKeySequenceLookup::Shortcut, numbered from 0.
+constexpr const char *shortcutNames[] = {
+    // clang-format off
+    "Unknown", "Close", "Show", "Search", "SearchInConversation", "StartWirelessShare",
+    "OpenHome", "OpenSpaces", "OpenContacts", "OpenRills", "OpenCalls", "OpenMeetings",
+    "ContactAPerson", "CreateASpace", "TurnOnMarkdown", "ShowAll", "ShowNotifications",
+    "ShowUnread", "ShowPeople", "ShowMentionMe", "ShowMentionAll", "ShowFlags", "HistoryBack",
+    "HistoryForward", "AttachImage", "AttachFile", "AddGif", "InsertPMR", "ScreenCapture",
+    "ScreenCaptureNoMini", "ShowMessages", "ShowSpaceContent", "ShowParticipants", "ShowLinks",
+    "StartCall", "StartVideoCall", "AnswerCall", "DeclineCall", "OpenDialpad",
+    "ToggleAudioMute", "ToggleVideoMute", "SwitchSmartAudioMode", "ShareScreen",
+    "ToggleMeetingControls", "ToggleRemoteDesktopKeyboard", "CreateWhiteboard",
+    "ShowWhiteboards", "ShortcutMenu", "ToggleFavorite", "ToggleNotifyAllMessages",
+    "LeaveSpace", "AddPeople", "GoToRill", "ReloadSpace", "ViewSpaceSettings", "PreviousSpace",
+    "NextSpace", "EditLastMessage", "SendMessage", "ToggleFullScreenVideo", "ContextMenu",
+    "OpenPersonalInsights", "OpenVoicemails", "OpenHelpCenter", "OpenPreferences",
+    "AdvancedSearch", "OpenDiagnostics", "CopySpaceInformation", "ToggleNavigationMenu",
+    "SignOut", "Quit", "Minimize", "Maximize", "FindAndReplace", "Hide", "HideOthers", "Zoom",
+    "ShowDirect", "ShowFavorites", "ShowDrafts", "ShowThreads", "LastMessageInFocus",
+    "CreateSpace", "AddBitmoji", "AddEmoji", "AddLink", "SpaceSettings", "ScrollToNewMessages",
+    "FocusMainConversation", "FocusMainInputBox", "IncreaseMessagingFont",
+    "DecreaseMessagingFont", "SelectResult", "CallSelectedPerson", "ToggleNotifyOnAllMessages",
+    "RefreshConversation", "NewMessageButton", "NewReplyButton", "JumpToBottom",
+    "AnswerWithMessage", "EndCall", "TransferCall", "ShareContent", "ShareFileVideo",
+    "ToggleShowFloatingWindow", "ShareWhiteboard", "ShareWebBrowser", "ToggleSharing",
+    "MeetingControls", "StopSharing", "CleanModeShare", "ClearWhiteboardAnnotations",
+    "FitSharedContent", "FitSharedContentToWidth", "RotatePageLeft", "RotatePageRight",
+    "StartAnnotation", "StopAnnotation", "AddGuest", "FullScreen", "Thumbnail", "ClearPointer",
+    "ToggleHand", "SwitchPanelAndTabView", "SwitchContentAndTabView", "ToggleScreenReader",
+    "ToggleChat", "ToggleInterpretation", "ToggleMenuBar", "ToggleParticipantsVideos",
+    "ToggleParticipantsWithoutVideo", "ToggleNameInVideos", "LowerParticipantsHands",
+    "ToggleDock", "ToggleLock", "MuteParticipants", "ExpelAttendees", "AdmitParticipants",
+    "AssignPrivileges", "AudioCall", "VideoCall", "StartRemoteControl", "ToggleRemoteControl",
+    "ToggleClosedCaption", "SelectClosedCaption", "UnselectClosedCaption", "ToggleMultiCall",
+    "PreviousSlide", "NextSlide", "PrintDocument", "AllowParticipantShare",
+    "MeetingNotificationKey", "LocalShareControlKey", "CallFloatingWindowFocus", "AddNewline",
+    "ToggleMarkdown", "ToggleBold", "ToggleItalic", "ToggleUnderline", "HeadingOne",
+    "HeadingTwo", "HeadingThree", "SelectAll", "Redo", "Undo", "ShowSpelling",
+    "PasteMatchStyle", "Copy", "Paste", "Cut", "PageDown", "PageUp", "ToggleNumberList",
+    "ToggleBulletList", "ToggleCodeBlock", "ToggleStrikeThrough", "ToggleSubscript",
+    "ToggleSuperscript", "ToggleInlineCode", "ShowThemeDashboard", "ShowDevTools", "ReloadQML",
+    "CopyServiceCatalogue", "CollapseSections", "ExpandSections", "ShowDebugWindow",
+    // clang-format on
+};
