@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+
+#include <QByteArray>
+#include <QList>
+#include <QMap>
+#include <QPoint>
+#include <QPointer>
+#include <QString>
+#include <QUrl>
+#include <QVariant>
+
+class QMimeData;
+
+/// A drag as QML describes it, in a map of named values, on its way into widget code, where a drop
+/// target expects a QMimeData.
+///
+/// The record owns the mime data that it makes. Copy a record before toMimeData(): copies made
+/// afterwards share the mime data, and the first of them to go deletes it for all. What takes
+/// ownership of it, as QDrag does, must go before the record.
+class UIELEMENTS_EXPORT DragEvent
+{
+public:
+    /// Reads "x", "y", "html", "urls" (a list of URLs, or what QVariant converts to one) and "data"
+    /// (bytes, which may be the text of a URL) from \a values. What is missing is 0 or empty.
+    explicit DragEvent(const QMap<QString, QVariant> &values);
+
+    /// Copies the values and shares the mime data.
+    DragEvent(const DragEvent &other);
+
+    /// Copies the values and shares the mime data. The record's own mime data, where it is another,
+    /// is deleted.
+    DragEvent &operator=(const DragEvent &other);
+
+    /// Deletes the mime data.
+    ~DragEvent();
+
+    /// Returns the position, truncated to whole numbers.
+    QPoint position() const;
+
+    /// Returns the drag as mime data, made on the first call and filled again on each: the HTML and
+    /// the URLs where there are any. With HTML, "data" that is the URL of a local picture adds the
+    /// picture.
+    QMimeData *toMimeData();
+
+private:
+    double m_x = 0.0;
+    double m_y = 0.0;
+    QString m_html;
+    QList<QUrl> m_urls;
+    QByteArray m_data;
+    // Of records that share one, the first to go deletes it; the others must see that.
+    QPointer<QMimeData> m_mimeData;
+};

@@ -1,0 +1,349 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "BaseListModel.h"
+
+#include <QDebug>
+
+#include <algorithm>
+
+namespace {
+
+constexpr char tooManyRowsWarning[] = "Too many rows!";
+constexpr char repeatedIdWarning[] = "Row id: %1 is not unique! Skipping row";
+constexpr char undefinedRoleWarning[][40] = { "[", "] - Role is undefined! Row:", " Role:" };
+constexpr char lowRoleWarning[] = "Role is less than Qt::UserRole! Role:";
+constexpr char invalidValueWarning[][30] = { "Role value is invalid! Row:", " Role:" };
+constexpr char outOfRangeWarning[] = "Out of range! This should never happen!";
+constexpr char invalidIndexWarning[] =
+        "BaseListModel::replace() - Invalid index! This should never happen";
+constexpr char invalidRangeWarning[][50] = { "BaseListModel::removeRows - invalid row! row:",
+                                             "count:", "size:" };
+
+constexpr std::size_t firstReservedRows = 100;
+
+/// Qt::UserRole itself is refused on purpose.
+bool isUsableRole(int role) { return role > Qt::UserRole; }
+
+template <typename Value>
+bool areSame(const QVariant &a, const QVariant &b)
+{
+    return *static_cast<const Value *>(a.constData()) == *static_cast<const Value *>(b.constData());
+}
+
+/// As operator== does, but straight for the types that most values are of.
+bool areSameValues(const QVariant &a, const QVariant &b)
+{
+    const int type = a.userType();
+    if (type != b.userType())
+        return a == b;
+    switch (type) {
+    case QMetaType::QString:
+        return areSame<QString>(a, b);
+    case QMetaType::Int:
+        return areSame<int>(a, b);
+    case QMetaType::Bool:
+        return areSame<bool>(a, b);
+    default:
+        return a == b;
+    }
+}
+
+/// As operator== does, but faster for rows that were filled alike: their roles come in the same
+/// order, and need no look-up.
+bool haveSameRoles(const ModelRow &a, const ModelRow &b)
+{
+    if (a.second.size() != b.second.size())
+        return false;
+    auto next = b.second.begin();
+    for (const auto &[role, value] : a.second) {
+        const auto other = next->first == role ? next : b.second.find(role);
+        if (other == b.second.end() || !areSameValues(other->second, value))
+            return false;
+        ++next;
+    }
+    return true;
+}
+
+} // namespace
+
+BaseListModel::BaseListModel(QObject *parent) : QAbstractListModel(parent)
+{
+    reserveFor(firstReservedRows);
+}
+
+BaseListModel::~BaseListModel() = default;
+
+int BaseListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_rows.size());
+}
+
+int BaseListModel::getCount() const { return rowCount(QModelIndex()); }
+
+QString BaseListModel::header() const { return m_header; }
+
+void BaseListModel::setHeader(const QString &text)
+{
+    if (text == m_header)
+        return;
+    m_header = text;
+    Q_EMIT headerChanged();
+}
+
+QVariant BaseListModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || !isUsableRole(role) || index.row() >= int(m_rows.size()))
+        return QVariant();
+    const auto &values = m_rows[index.row()].second;
+    const auto value = values.find(role);
+    if (value != values.end())
+        return value->second;
+    warnOfUndefinedRole(index.row(), role);
+    return QVariant();
+}
+
+bool BaseListModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!value.isValid() || !hasIndex(index.row(), index.column(), index.parent()))
+        return false;
+    auto &values = m_rows[index.row()].second;
+    const auto present = values.find(role);
+    if (present == values.end()) {
+        warnOfUndefinedRole(index.row(), role);
+        return false;
+    }
+    present->second = value;
+    Q_EMIT dataChanged(index, index, { role });
+    return true;
+}
+
+void BaseListModel::warnOfUndefinedRole(int row, int role) const
+{
+    QMessageLogger().warning() << undefinedRoleWarning[0] << metaObject()->className()
+                               << undefinedRoleWarning[1] << row << undefinedRoleWarning[2] << role;
+}
+
+ModelRow BaseListModel::getRowById(const std::string &id) const
+{
+    if (!hasRow(id))
+        return ModelRow();
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(),
+                                    [&id](const ModelRow &row) { return row.first == id; });
+    return found == m_rows.end() ? ModelRow() : *found;
+}
+
+std::vector<ModelRow> BaseListModel::getRows() const { return m_rows; }
+
+void BaseListModel::appendRows(const std::vector<ModelRow> &rows)
+{
+    if (rows.empty())
+        return;
+    if (m_rows.size() + rows.size() > maximumRowCount) {
+        QMessageLogger().warning() << tooManyRowsWarning;
+        return;
+    }
+    // Rows skipped below are announced all the same: listeners rely on the range of the whole list.
+    const int first = int(m_rows.size());
+    beginInsertRows(QModelIndex(), first, first + int(rows.size()) - 1);
+    reserveFor(rows.size());
+    for (const ModelRow &row : rows) {
+        if (m_idIndex.try_emplace(row.first, m_rows.size()).second)
+            m_rows.push_back(row);
+        else
+            QMessageLogger().warning() << QString::fromLatin1(repeatedIdWarning)
+                                                  .arg(QString::fromStdString(row.first));
+    }
+    endInsertRows();
+    Q_EMIT countChanged(getCount());
+}
+
+void BaseListModel::appendOrUpdate(const std::vector<ModelRow> &rows)
+{
+    std::vector<ModelRow> newRows;
+    newRows.reserve(rows.size());
+    // A run is always open, at first at row 0: listeners rely on the reports of row 0.
+    int first = 0;
+    int last = 0;
+    const auto reportRun = [this, &first, &last] {
+        Q_EMIT dataChanged(index(first, 0, QModelIndex()), index(last, 0, QModelIndex()));
+    };
+    for (const ModelRow &row : rows) {
+        const int position = getRowIndex(row.first);
+        if (position < 0) {
+            newRows.push_back(row);
+            continue;
+        }
+        if (position >= int(m_rows.size())) {
+            QMessageLogger().warning() << outOfRangeWarning;
+            return;
+        }
+        m_rows[position] = row;
+        if (position != last + 1) {
+            reportRun();
+            first = position;
+        }
+        last = position;
+    }
+    reportRun();
+    appendRows(newRows);
+}
+
+void BaseListModel::insertRows(int row, const std::vector<ModelRow> &rows)
+{
+    if (rows.empty())
+        return;
+    if (row < 0 || row >= int(m_rows.size())) {
+        appendRows(rows);
+        return;
+    }
+    if (m_rows.size() + rows.size() > maximumRowCount) {
+        QMessageLogger().warning() << tooManyRowsWarning;
+        return;
+    }
+    beginInsertRows(QModelIndex(), row, row + int(rows.size()) - 1);
+    m_rows.insert(m_rows.begin() + row, rows.begin(), rows.end());
+    // Positions before the new rows are as they were, and of a repeated id the last one counts.
+    indexRows(m_rows, row);
+    endInsertRows();
+    Q_EMIT countChanged(getCount());
+}
+
+void BaseListModel::replace(const std::vector<ModelRow> &rows)
+{
+    if (rows.empty()) {
+        clear();
+        return;
+    }
+    if (m_rows.empty()) {
+        appendRows(rows);
+        return;
+    }
+    if (rows.size() < m_rows.size())
+        removeRows(int(rows.size()), int(m_rows.size() - rows.size()), QModelIndex());
+    const std::size_t indexedRows = std::min(rows.size(), m_rows.size());
+    if (rows.size() > m_rows.size())
+        appendRest(rows);
+    indexRows(rows, indexedRows);
+    assignChangedRows(rows);
+}
+
+bool BaseListModel::removeRows(int row, int count, const QModelIndex &parent)
+{
+    const int size = int(m_rows.size());
+    if (row < 0 || count < 1 || row >= size || count > size - row) {
+        QMessageLogger().warning() << invalidRangeWarning[0] << row << invalidRangeWarning[1]
+                                   << count << invalidRangeWarning[2] << size;
+        return false;
+    }
+    beginRemoveRows(parent, row, row + count - 1);
+    m_rows.erase(m_rows.begin() + row, m_rows.begin() + row + count);
+    m_idIndex.clear();
+    indexRows(m_rows, 0);
+    endRemoveRows();
+    Q_EMIT countChanged(getCount());
+    return true;
+}
+
+void BaseListModel::clear()
+{
+    if (m_rows.empty())
+        return;
+    beginResetModel();
+    m_rows.clear();
+    m_idIndex.clear();
+    endResetModel();
+    Q_EMIT countChanged(getCount());
+}
+
+void BaseListModel::setRoleValueForRow(const std::string &id, const QMap<int, QVariant> &values)
+{
+    const int position = getRowIndex(id);
+    if (position >= 0)
+        setRoleValueForRow(index(position, 0, QModelIndex()), values);
+}
+
+void BaseListModel::setRoleValueForRow(const QModelIndex &&index, const QMap<int, QVariant> &values)
+{
+    if (!index.isValid() || m_rows.empty() || index.row() >= getCount())
+        return;
+    QVector<int> written;
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        const int role = value.key();
+        if (!isUsableRole(role)) {
+            QMessageLogger().warning() << lowRoleWarning << role;
+        } else if (!value->isValid()) {
+            QMessageLogger().warning()
+                    << invalidValueWarning[0] << index.row() << invalidValueWarning[1] << role;
+        } else {
+            m_rows[index.row()].second[role] = *value;
+            written += role;
+        }
+    }
+    if (!written.isEmpty())
+        Q_EMIT dataChanged(index, index, written);
+}
+
+/// Makes room for \a moreRows. At least doubles what there is, so that many small appends don't
+/// move the rows each time.
+void BaseListModel::reserveFor(std::size_t moreRows)
+{
+    const std::size_t rows = m_rows.size() + moreRows;
+    if (rows <= m_rows.capacity())
+        return;
+    const std::size_t capacity = std::max(rows, 2 * m_rows.capacity());
+    m_rows.reserve(capacity);
+    m_idIndex.reserve(capacity);
+}
+
+/// Enters the ids of \a rows from the position \a first on.
+void BaseListModel::indexRows(const std::vector<ModelRow> &rows, std::size_t first)
+{
+    for (std::size_t i = first; i < rows.size(); ++i)
+        m_idIndex[rows[i].first] = i;
+}
+
+/// Appends what \a rows has beyond the model's end.
+void BaseListModel::appendRest(const std::vector<ModelRow> &rows)
+{
+    const std::size_t size = m_rows.size();
+    beginInsertRows(QModelIndex(), int(size), int(rows.size()) - 1);
+    reserveFor(rows.size() - size);
+    m_rows.insert(m_rows.end(), rows.begin() + std::ptrdiff_t(size), rows.end());
+    endInsertRows();
+    Q_EMIT countChanged(getCount());
+}
+
+/// Assigns the rows that differ from \a rows and reports each maximal run of them. The index is
+/// made anew only where an id changes its place: filling it costs as much as all the comparing.
+void BaseListModel::assignChangedRows(const std::vector<ModelRow> &rows)
+{
+    bool isReindexed = false;
+    QModelIndex first;
+    QModelIndex last;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const bool hasSameId = m_rows[i].first == rows[i].first;
+        if (hasSameId && haveSameRoles(m_rows[i], rows[i]))
+            continue;
+        if (!hasSameId && !isReindexed) {
+            m_idIndex.clear();
+            indexRows(rows, 0);
+            isReindexed = true;
+        }
+        m_rows[i] = rows[i];
+        const QModelIndex changed = index(int(i), 0, QModelIndex());
+        if (first.isValid() && int(i) == last.row() + 1) {
+            last = changed;
+            continue;
+        }
+        if (first.isValid())
+            Q_EMIT dataChanged(first, last);
+        first = changed;
+        last = changed;
+    }
+    if (!first.isValid())
+        return;
+    if (!last.isValid()) {
+        QMessageLogger().warning() << invalidIndexWarning;
+        last = first;
+    }
+    Q_EMIT dataChanged(first, last);
+}

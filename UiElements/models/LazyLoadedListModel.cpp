@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LazyLoadedListModel.h"
+
+#include <QStandardItem>
+
+#include <numeric>
+#include <utility>
+
+LazyLoadedListModel::LazyLoadedListModel(QObject *parent) : QAbstractListModel(parent) { }
+
+LazyLoadedListModel::~LazyLoadedListModel() { clearList(); }
+
+void LazyLoadedListModel::setPagingConfig(unsigned int pageSize, unsigned int storagePages)
+{
+    if (pageSize == 0 || storagePages == 0)
+        return;
+    m_pageSize = int(pageSize);
+    m_storagePages = int(storagePages);
+    m_storageSize = m_pageSize * m_storagePages;
+    reset();
+    m_configured = true;
+}
+
+// Here and below the count changes after the signals: listeners rely on that order.
+void LazyLoadedListModel::reset()
+{
+    eraseStorage();
+    if (m_lastIndex >= 0) {
+        beginRemoveRows(QModelIndex(), 0, m_lastIndex);
+        endRemoveRows();
+    }
+    m_lastIndex = -1;
+    m_startIndex = 0;
+}
+
+int LazyLoadedListModel::size() const { return m_lastIndex + 1; }
+
+void LazyLoadedListModel::setSize(int size)
+{
+    if (size == this->size())
+        return;
+    if (size > this->size()) {
+        beginInsertRows(QModelIndex(), m_lastIndex + 1, size - 1);
+        endInsertRows();
+        m_lastIndex = size - 1;
+        return;
+    }
+    beginRemoveRows(QModelIndex(), size, m_lastIndex);
+    endRemoveRows();
+    m_lastIndex = size - 1;
+    if (size < m_startIndex) {
+        m_startIndex = 0;
+        eraseStorage();
+        return;
+    }
+    for (int i = size - m_startIndex; i < m_storageSize; ++i)
+        delete std::exchange(m_storage[i], nullptr);
+}
+
+int LazyLoadedListModel::rowCount(const QModelIndex &) const { return size(); }
+
+QVariant LazyLoadedListModel::data(const QModelIndex &, int) const { return QVariant(); }
+
+void LazyLoadedListModel::setScrolledIndex(int index)
+{
+    if (!m_configured)
+        return;
+    // One page above the row, or the first.
+    const int page = indexToPage(qMax(index, m_pageSize) - m_pageSize);
+    const int newStart = pageToIndex(page);
+    if (newStart < m_startIndex)
+        scrollUp(page);
+    else if (newStart > m_startIndex)
+        scrollDown(page);
+}
+
+QStandardItem *LazyLoadedListModel::getItemAt(int index) const
+{
+    return isInWindow(index) ? m_storage.at(index - m_startIndex) : nullptr;
+}
+
+QStandardItem *LazyLoadedListModel::getItemAt(const QModelIndex &index) const
+{
+    return index.isValid() ? getItemAt(index.row()) : nullptr;
+}
+
+bool LazyLoadedListModel::setItemAtIndex(int index, QStandardItem *item)
+{
+    if (!isInWindow(index))
+        return false;
+    if (index <= m_lastIndex) {
+        delete std::exchange(m_storage[index - m_startIndex], item);
+        const QModelIndex changed = createIndex(index, 0, nullptr);
+        Q_EMIT dataChanged(changed, changed);
+        return true;
+    }
+    deleteItemAtIndex(index);
+    beginInsertRows(QModelIndex(), m_lastIndex + 1, index);
+    m_storage[index - m_startIndex] = item;
+    endInsertRows();
+    m_lastIndex = index;
+    return true;
+}
+
+void LazyLoadedListModel::setItemsAtPage(int page, const QVector<QStandardItem *> &items)
+{
+    const int firstPage = indexToPage(m_startIndex);
+    if (items.isEmpty() || page < firstPage || page >= firstPage + m_storagePages)
+        return;
+    const int first = pageToIndex(page);
+    const int count = items.size();
+    for (int i = 0; i < count; ++i)
+        setItemAtIndex(first + i, items.at(i));
+    if (count >= m_pageSize)
+        return;
+    for (int i = count; i < m_pageSize; ++i)
+        deleteItemAtIndex(first + i);
+    setSize(first + count);
+}
+
+int LazyLoadedListModel::getStartIndex() const { return m_startIndex; }
+
+int LazyLoadedListModel::indexToPage(int index) const
+{
+    return m_pageSize == 0 ? 0 : index / m_pageSize;
+}
+
+int LazyLoadedListModel::pageToIndex(int page) const { return page * m_pageSize; }
+
+int LazyLoadedListModel::getStorageSize() const { return m_storageSize; }
+
+bool LazyLoadedListModel::isInWindow(int index) const
+{
+    return index >= m_startIndex && index - m_startIndex < m_storageSize;
+}
+
+void LazyLoadedListModel::scrollUp(int page)
+{
+    const int newPages = indexToPage(m_startIndex) - page;
+    if (newPages >= m_storagePages) {
+        jumpTo(page);
+        return;
+    }
+    const int newRows = pageToIndex(newPages);
+    const auto firstLeaving = m_storage.end() - newRows;
+    qDeleteAll(firstLeaving, m_storage.end());
+    m_storage.erase(firstLeaving, m_storage.end());
+    m_storage.insert(0, newRows, nullptr);
+    m_startIndex = pageToIndex(page);
+    requestPages(page, newPages);
+}
+
+void LazyLoadedListModel::scrollDown(int page)
+{
+    const int newPages = page - indexToPage(m_startIndex);
+    if (newPages >= m_storagePages) {
+        jumpTo(page);
+        return;
+    }
+    const int newRows = pageToIndex(newPages);
+    const auto firstStaying = m_storage.begin() + newRows;
+    qDeleteAll(m_storage.begin(), firstStaying);
+    m_storage.erase(m_storage.begin(), firstStaying);
+    m_storage.insert(m_storage.size(), newRows, nullptr);
+    m_startIndex = pageToIndex(page);
+    requestPages(page + m_storagePages - newPages, newPages);
+}
+
+/// Starts the window at \a page with nothing in it, as nothing of the present one is in reach.
+void LazyLoadedListModel::jumpTo(int page)
+{
+    eraseStorage();
+    m_startIndex = pageToIndex(page);
+    Q_EMIT loadStorageAtPage(page);
+}
+
+void LazyLoadedListModel::requestPages(int firstPage, int count)
+{
+    QVector<int> pages(count);
+    std::iota(pages.begin(), pages.end(), firstPage);
+    Q_EMIT loadPages(pages);
+}
+
+void LazyLoadedListModel::deleteItemAtIndex(int index)
+{
+    if (isInWindow(index))
+        delete std::exchange(m_storage[index - m_startIndex], nullptr);
+}
+
+void LazyLoadedListModel::clearList()
+{
+    qDeleteAll(m_storage);
+    m_storage.clear();
+}
+
+void LazyLoadedListModel::eraseStorage()
+{
+    clearList();
+    m_storage.fill(nullptr, m_storageSize);
+}

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+
+#include <QSortFilterProxyModel>
+
+/// The tail of a source list: the rows behind a given one, as for the menu of what a bar has no
+/// room to show.
+///
+/// The filter looks at a row when it comes, when it changes, and when firstVisibleIndex is set. A
+/// row that stays while others come or go before it keeps its state, as in any
+/// QSortFilterProxyModel.
+class UIELEMENTS_EXPORT OverflowListProxyModel : public QSortFilterProxyModel
+{
+    Q_OBJECT
+    Q_PROPERTY(int firstVisibleIndex READ firstVisibleIndex WRITE setFirstVisibleIndex NOTIFY
+                       firstVisibleIndexChanged)
+    Q_PROPERTY(QString header READ header WRITE setHeader NOTIFY headerChanged)
+
+public:
+    /// Makes a proxy that hides source row 0.
+    explicit OverflowListProxyModel(QObject *parent = nullptr);
+
+    /// Makes a proxy of the source rows behind \a firstVisibleIndex.
+    OverflowListProxyModel(QObject *parent, int firstVisibleIndex);
+    ~OverflowListProxyModel() override;
+
+    /// Returns the last source row that the list in front shows: the proxy has those strictly
+    /// behind it. -1 lets all rows pass. 0 by default.
+    int firstVisibleIndex() const;
+
+    /// Stores \a index, emits firstVisibleIndexChanged(), and then filters anew; the present value
+    /// does nothing.
+    void setFirstVisibleIndex(int index);
+
+    /// Returns the header text. Empty by default.
+    QString header() const;
+
+    /// Stores \a text and emits headerChanged(); the present text does nothing.
+    void setHeader(const QString &text);
+
+    /// Takes the source model away. The proxy is empty then, and keeps its properties.
+    void unsetSourceModel();
+
+Q_SIGNALS:
+    /// Comes before the filter runs: the rows are still the old ones.
+    void firstVisibleIndexChanged();
+    void headerChanged();
+
+protected:
+    /// True when \a sourceRow lies strictly behind firstVisibleIndex, whatever the parent.
+    bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
+
+private:
+    int m_firstVisibleIndex = 0;
+    QString m_header;
+};

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+
+#include <QAbstractListModel>
+#include <QVariant>
+
+#include <unordered_map>
+#include <vector>
+
+/// A table of role values for short lists whose rows are built by hand, without ids and without a
+/// limit. Where rows are found by id or replaced often, take BaseListModel.
+class UIELEMENTS_EXPORT SmallListModel : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    /// A row: its values by role. Usable roles are those above Qt::UserRole, from 257 up.
+    using Row = std::unordered_map<int, QVariant>;
+
+    /// Makes an empty model with \a roleNames for good, and \a header for headerData().
+    SmallListModel(const QHash<int, QByteArray> &roleNames, QObject *parent, QVariant header);
+    ~SmallListModel() override;
+
+    /// Returns the number of rows; 0 below a row.
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+
+    /// Returns the value of \a role in the row at \a index. It is invalid, without a message, when
+    /// there is no such row, the row lacks the role, or \a role is not above Qt::UserRole.
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+
+    /// Returns the same for the position \a row.
+    QVariant data(int row, int role) const;
+
+    /// Returns the header that the model was made with, whatever the arguments.
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+
+    /// Returns the names that the model was made with.
+    QHash<int, QByteArray> roleNames() const override;
+
+    /// Appends \a rows, which must not be empty: the announced range would run backwards.
+    void add(const std::vector<Row> &rows);
+
+    /// Removes, for each of \a rows in order, the first row that has equal values in equal roles.
+    /// One without a match is silently passed over; each removal is told by itself.
+    void remove(const std::vector<Row> &rows);
+
+    /// Takes over \a rows with a model reset, also when nothing differs.
+    void replace(const std::vector<Row> &rows);
+
+    /// Removes all rows with a model reset, also when there are none.
+    void clear();
+
+private:
+    std::vector<Row> m_rows;
+    QVariant m_header;
+    QHash<int, QByteArray> m_roleNames;
+};

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ReferenceList.h"
+#include "support/RandomSeed.h"
+
+#include <QTest>
+
+namespace {
+
+constexpr int operations = 100000;
+constexpr int letters = 8;
+
+/// Makes the operations and the rows that they are given.
+class Dice
+{
+public:
+    int from(int lowest, int highest) { return randomFrom(m_generator, lowest, highest); }
+    bool oneIn(int cases) { return from(1, cases) == 1; }
+
+    /// Any row: of two letters that differ in case only the id is the same.
+    ModelRow row()
+    {
+        const char first = oneIn(2) ? 'a' : 'A';
+        const char letter = char(first + from(0, letters - 1));
+        ModelRow row = LetterListModel::rowOf(QLatin1Char(letter));
+        if (oneIn(3))
+            row.second[LetterListModel::Number] = from(0, 2);
+        return row;
+    }
+
+    std::vector<ModelRow> rows(int most)
+    {
+        std::vector<ModelRow> rows(from(0, most));
+        for (ModelRow &each : rows)
+            each = row();
+        return rows;
+    }
+
+    /// \a rows with some share of them changed, and some taken from or added to the end.
+    std::vector<ModelRow> changed(std::vector<ModelRow> rows)
+    {
+        const int share = from(1, 8);
+        for (ModelRow &each : rows) {
+            if (oneIn(share))
+                each = row();
+        }
+        rows.resize(from(oneIn(10) ? 0 : qMax(int(rows.size()) - 2, 0), int(rows.size())));
+        const std::vector<ModelRow> more = oneIn(2) ? this->rows(3) : std::vector<ModelRow>();
+        rows.insert(rows.end(), more.begin(), more.end());
+        return rows;
+    }
+
+private:
+    std::mt19937 m_generator = seededGenerator();
+};
+
+/// Does one operation with both, and returns its name.
+QString doOne(Dice &dice, BaseListModel &model, ReferenceList &reference)
+{
+    const int row = dice.from(-1, int(reference.rows.size()) + 1);
+    const int number = dice.from(-1, 4);
+    const std::string id = dice.row().first;
+    const auto both = [&](const auto &operation, const auto &expected) {
+        expected();
+        for (const QString &warning : qAsConst(reference.warnings))
+            QTest::ignoreMessage(QtWarningMsg, warning.toUtf8().constData());
+        operation();
+    };
+    const int choice = dice.from(0, 8);
+    const std::vector<ModelRow> given = choice < 6 ? dice.rows(5) : dice.changed(reference.rows);
+    switch (choice) {
+    case 0:
+        both([&] { model.appendRows(given); }, [&] { reference.append(given); });
+        return QStringLiteral("appendRows");
+    case 1:
+        both([&] { model.appendOrUpdate(given); }, [&] { reference.appendOrUpdate(given); });
+        return QStringLiteral("appendOrUpdate");
+    case 2:
+        both([&] { model.insertRows(row, given); }, [&] { reference.insert(row, given); });
+        return QStringLiteral("insertRows");
+    case 3:
+    case 4:
+        both([&] { model.removeRows(row, number); }, [&] { reference.remove(row, number); });
+        return QStringLiteral("removeRows");
+    case 5:
+        both(
+                [&] {
+                    model.setRoleValueForRow(id, { { LetterListModel::Number, number } });
+                },
+                [&] { reference.setNumber(id, number); });
+        return QStringLiteral("setRoleValueForRow");
+    default:
+        both([&] { model.replace(given); }, [&] { reference.replace(given); });
+        return QStringLiteral("replace");
+    }
+}
+
+QString textOf(const std::vector<ModelRow> &rows)
+{
+    QStringList texts;
+    for (const ModelRow &row : rows)
+        texts += ReferenceList::text(row);
+    return texts.join(QLatin1Char(' '));
+}
+
+/// Returns the ids that \a model looks up otherwise than \a reference.
+QString misfound(const BaseListModel &model, const ReferenceList &reference)
+{
+    QString ids;
+    for (char letter = 'a'; letter < 'a' + letters; ++letter) {
+        const std::string id(1, letter);
+        const int last = reference.lastPosition(id);
+        if (model.hasRow(id) != (last >= 0) || model.getRowIndex(id) != last)
+            ids += QLatin1Char(letter);
+    }
+    return ids;
+}
+
+ModelRow firstRow(const ReferenceList &reference, const std::string &id)
+{
+    const int position = reference.firstPosition(id);
+    return position < 0 ? ModelRow() : reference.rows[position];
+}
+
+} // namespace
+
+/// A BaseListModel against a plain list, through many random operations.
+class tst_BaseListModelRandom : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void doesWhatAPlainListDoes();
+};
+
+void tst_BaseListModelRandom::doesWhatAPlainListDoes()
+{
+    Dice dice;
+    LetterListModel model;
+    ReferenceList reference;
+    ModelLog log(model);
+    for (int i = 0; i < operations; ++i) {
+        reference.emitted.clear();
+        reference.warnings.clear();
+        const QString what = QStringLiteral("%1: %2: ").arg(i).arg(doOne(dice, model, reference));
+        if (model.getRows() != reference.rows)
+            QFAIL(qPrintable(what + textOf(model.getRows()) + QStringLiteral(", not ")
+                             + textOf(reference.rows)));
+        QCOMPARE(what + log.take(), what + reference.emitted.join(QLatin1String(" | ")));
+        QCOMPARE(what + misfound(model, reference), what);
+        const std::string id = dice.row().first;
+        QVERIFY2(model.getRowById(id) == firstRow(reference, id), qPrintable(what));
+    }
+}
+
+QTEST_MAIN(tst_BaseListModelRandom)
+#include "tst_baselistmodel_random.moc"

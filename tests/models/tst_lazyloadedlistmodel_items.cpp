@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LazyLetterModel.h"
+
+#include <QTest>
+
+#include <memory>
+#include <new>
+
+namespace {
+
+QVector<QStandardItem *> itemsOf(const char *letters)
+{
+    return LazyLetterModel::itemsOf(QString::fromLatin1(letters));
+}
+
+/// An item that leaves its memory to the test when it is deleted.
+class PlacedItem : public CountedItem
+{
+public:
+    static void *operator new(std::size_t, void *where) { return where; }
+    static void operator delete(void *) { }
+    static void operator delete(void *, void *) { }
+};
+
+} // namespace
+
+/// Who owns the items of a LazyLoadedListModel: each is alive as long as somebody holds it. The
+/// address sanitizer adds that none is lost or deleted twice.
+class tst_LazyLoadedListModelItems : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { QCOMPARE(CountedItem::alive, 0); }
+
+    void takesAnItem();
+    void givesItemsByIndexAndByModelIndex();
+    void unloadsARowThatIsGivenNull();
+    void leavesARefusedItemToTheCaller_data();
+    void leavesARefusedItemToTheCaller();
+    void deletesAReplacedItem();
+    void deletesTheOldItemAlsoWhenItIsTheNewOne();
+    void growsUpToAnItemPastTheEnd();
+    void growsFromAnEmptyList();
+
+    void takesThePage_data();
+    void takesThePage();
+    void leavesALatePageToTheCaller_data();
+    void leavesALatePageToTheCaller();
+    void deletesTheRestOfAShortPage();
+    void leavesItemsPastTheWindowToTheCaller();
+
+    void deletesItsItemsAtTheEnd();
+    void deletesItsItemsOnReset();
+};
+
+void tst_LazyLoadedListModelItems::takesAnItem()
+{
+    LazyLetterModel model(2, 2, 4);
+    ModelLog log(model);
+    QVERIFY(model.setItemAtIndex(3, new CountedItem(QStringLiteral("d"))));
+    QCOMPARE(model.window(), QStringLiteral("...d"));
+    QCOMPARE(log.take(), QStringLiteral("chg 3,3"));
+}
+
+void tst_LazyLoadedListModelItems::givesItemsByIndexAndByModelIndex()
+{
+    LazyLetterModel model(2, 2, 100);
+    model.setScrolledIndex(22);
+    auto *item = new CountedItem;
+    QVERIFY(model.setItemAtIndex(21, item));
+    QCOMPARE(model.getItemAt(21), item);
+    QCOMPARE(model.getItemAt(model.index(21)), item);
+    QVERIFY(!model.getItemAt(QModelIndex()));
+    QVERIFY(!model.getItemAt(model.index(20)));
+    QVERIFY(!model.getItemAt(19));
+    QVERIFY(!model.getItemAt(24));
+    QVERIFY(!model.getItemAt(-1));
+}
+
+void tst_LazyLoadedListModelItems::unloadsARowThatIsGivenNull()
+{
+    LazyLetterModel model(2, 2, 4);
+    model.setItemsAtPage(0, itemsOf("ab"));
+    ModelLog log(model);
+    QVERIFY(model.setItemAtIndex(1, nullptr));
+    QCOMPARE(model.window(), QStringLiteral("a..."));
+    QCOMPARE(CountedItem::alive, 1);
+    QCOMPARE(log.take(), QStringLiteral("chg 1,1"));
+}
+
+void tst_LazyLoadedListModelItems::leavesARefusedItemToTheCaller_data()
+{
+    QTest::addColumn<unsigned>("pageSize");
+    QTest::addColumn<int>("index");
+
+    QTest::newRow("without paging") << 0U << 0;
+    QTest::newRow("before the window") << 2U << 7;
+    QTest::newRow("behind the window") << 2U << 12;
+    QTest::newRow("before row 0") << 2U << -1;
+}
+
+void tst_LazyLoadedListModelItems::leavesARefusedItemToTheCaller()
+{
+    QFETCH(const unsigned, pageSize);
+    QFETCH(const int, index);
+    LazyLetterModel model(pageSize, 2, 100);
+    model.setScrolledIndex(10);
+    QCOMPARE(model.getStartIndex(), pageSize == 0 ? 0 : 8);
+    ModelLog log(model);
+    const auto item = std::make_unique<CountedItem>(QStringLiteral("x"));
+    QVERIFY(!model.setItemAtIndex(index, item.get()));
+    QCOMPARE(log.take(), QString());
+    QCOMPARE(CountedItem::alive, 1);
+    QCOMPARE(item->text(), QStringLiteral("x"));
+}
+
+void tst_LazyLoadedListModelItems::deletesAReplacedItem()
+{
+    LazyLetterModel model(2, 2, 4);
+    model.setItemsAtPage(0, itemsOf("ab"));
+    QVERIFY(model.setItemAtIndex(0, new CountedItem(QStringLiteral("x"))));
+    QCOMPARE(model.window(), QStringLiteral("xb.."));
+    QCOMPARE(CountedItem::alive, 2);
+}
+
+void tst_LazyLoadedListModelItems::deletesTheOldItemAlsoWhenItIsTheNewOne()
+{
+    alignas(PlacedItem) unsigned char memory[sizeof(PlacedItem)];
+    LazyLetterModel model(2, 2, 4);
+    auto *item = new (memory) PlacedItem;
+    QVERIFY(model.setItemAtIndex(0, item));
+    QCOMPARE(CountedItem::alive, 1);
+    QVERIFY(model.setItemAtIndex(0, item));
+    QCOMPARE(CountedItem::alive, 0);
+    // What the model holds now is dead; here another item comes to life in its place.
+    QCOMPARE(model.getItemAt(0), new (memory) PlacedItem);
+    model.reset();
+    QCOMPARE(CountedItem::alive, 0);
+}
+
+void tst_LazyLoadedListModelItems::growsUpToAnItemPastTheEnd()
+{
+    LazyLetterModel model(2, 3, 2);
+    model.setItemsAtPage(0, itemsOf("ab"));
+    ModelLog log(model);
+    QString windowWhenInserted;
+    connect(&model, &QAbstractItemModel::rowsInserted, this,
+            [&] { windowWhenInserted = model.window(); });
+    QVERIFY(model.setItemAtIndex(4, new CountedItem(QStringLiteral("e"))));
+    QCOMPARE(log.take(), QStringLiteral("ins 2,4"));
+    QCOMPARE(model.size(), 5);
+    QCOMPARE(model.window(), QStringLiteral("ab..e."));
+    QCOMPARE(windowWhenInserted, QStringLiteral("ab..e."));
+}
+
+void tst_LazyLoadedListModelItems::growsFromAnEmptyList()
+{
+    LazyLetterModel model(2, 2);
+    ModelLog log(model);
+    QVERIFY(model.setItemAtIndex(0, new CountedItem(QStringLiteral("a"))));
+    QCOMPARE(log.take(), QStringLiteral("ins 0,0"));
+    QCOMPARE(model.size(), 1);
+}
+
+void tst_LazyLoadedListModelItems::takesThePage_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("letters");
+    QTest::addColumn<QString>("window");
+    QTest::addColumn<int>("size");
+    QTest::addColumn<QString>("emitted");
+
+    const auto row = [](const char *name, int page, const char *letters, const char *window,
+                        int size, const char *emitted) {
+        QTest::newRow(name) << page << QString::fromLatin1(letters) << QString::fromLatin1(window)
+                            << size << QString::fromLatin1(emitted);
+    };
+    // A window of two pages of three rows, at row 3 of 100.
+    row("the first of the window", 1, "abc", "abc...", 100, "chg 3,3 | chg 4,4 | chg 5,5");
+    row("the last of the window", 2, "abc", "...abc", 100, "chg 6,6 | chg 7,7 | chg 8,8");
+    row("with an item missing", 1, "a.c", "a.c...", 100, "chg 3,3 | chg 4,4 | chg 5,5");
+    row("and more on the next", 1, "abcd", "abcd..", 100, "chg 3,3 | chg 4,4 | chg 5,5 | chg 6,6");
+    row("short, at which the list ends", 2, "ab", "...ab.", 8, "chg 6,6 | chg 7,7 | rem 8,99");
+    row("short, before another", 1, "a", "a.....", 4, "chg 3,3 | rem 4,99");
+    row("empty, which says nothing", 1, "", "......", 100, "");
+}
+
+void tst_LazyLoadedListModelItems::takesThePage()
+{
+    QFETCH(const int, page);
+    QFETCH(const QString, letters);
+    LazyLetterModel model(3, 2, 100);
+    model.setScrolledIndex(6);
+    ModelLog log(model);
+    model.setItemsAtPage(page, LazyLetterModel::itemsOf(letters));
+    QTEST(model.window(), "window");
+    QTEST(model.size(), "size");
+    QTEST(log.take(), "emitted");
+
+    // Into an empty list each item comes as a row of its own.
+    LazyLetterModel empty(10, 5);
+    ModelLog growth(empty);
+    empty.setItemsAtPage(2, itemsOf("abc"));
+    QCOMPARE(growth.take(), QStringLiteral("ins 0,20 | ins 21,21 | ins 22,22"));
+    QCOMPARE(empty.size(), 23);
+}
+
+void tst_LazyLoadedListModelItems::leavesALatePageToTheCaller_data()
+{
+    QTest::addColumn<unsigned>("pageSize");
+    QTest::addColumn<int>("page");
+
+    QTest::newRow("without paging") << 0U << 0;
+    QTest::newRow("before the window") << 2U << 3;
+    QTest::newRow("behind the window") << 2U << 6;
+    QTest::newRow("before page 0") << 2U << -1;
+}
+
+void tst_LazyLoadedListModelItems::leavesALatePageToTheCaller()
+{
+    QFETCH(const unsigned, pageSize);
+    QFETCH(const int, page);
+    LazyLetterModel model(pageSize, 2, 100);
+    model.setScrolledIndex(10);
+    ModelLog log(model);
+    const QVector<QStandardItem *> items = itemsOf("x");
+    model.setItemsAtPage(page, items);
+    QCOMPARE(log.take(), QString());
+    QCOMPARE(model.size(), 100);
+    QCOMPARE(CountedItem::alive, 1);
+    qDeleteAll(items);
+}
+
+void tst_LazyLoadedListModelItems::deletesTheRestOfAShortPage()
+{
+    LazyLetterModel model(3, 2, 6);
+    model.setItemsAtPage(0, itemsOf("abc"));
+    model.setItemsAtPage(1, itemsOf("def"));
+    ModelLog log(model);
+    model.setItemsAtPage(1, itemsOf("x"));
+    QCOMPARE(model.window(), QStringLiteral("abcx.."));
+    QCOMPARE(CountedItem::alive, 4);
+    QCOMPARE(log.take(), QStringLiteral("chg 3,3 | rem 4,5"));
+    // A short page in the middle is the end as well.
+    model.setItemsAtPage(0, itemsOf("y"));
+    QCOMPARE(model.window(), QStringLiteral("y....."));
+    QCOMPARE(CountedItem::alive, 1);
+    QCOMPARE(log.take(), QStringLiteral("chg 0,0 | rem 1,3"));
+}
+
+void tst_LazyLoadedListModelItems::leavesItemsPastTheWindowToTheCaller()
+{
+    LazyLetterModel model(2, 2, 100);
+    const QVector<QStandardItem *> items = itemsOf("abcd");
+    model.setItemsAtPage(1, items);
+    QCOMPARE(model.window(), QStringLiteral("..ab"));
+    QCOMPARE(CountedItem::alive, 4);
+    delete items.at(2);
+    delete items.at(3);
+}
+
+void tst_LazyLoadedListModelItems::deletesItsItemsAtTheEnd()
+{
+    {
+        LazyLetterModel model(2, 2, 4);
+        model.setItemsAtPage(0, itemsOf("abcd"));
+        QCOMPARE(CountedItem::alive, 4);
+    }
+    QCOMPARE(CountedItem::alive, 0);
+}
+
+void tst_LazyLoadedListModelItems::deletesItsItemsOnReset()
+{
+    LazyLetterModel model(2, 2, 4);
+    model.setItemsAtPage(0, itemsOf("abcd"));
+    ModelLog log(model);
+    model.reset();
+    QCOMPARE(CountedItem::alive, 0);
+    QCOMPARE(log.take(), QStringLiteral("rem 0,3"));
+    QCOMPARE(model.size(), 0);
+    // The paging stays.
+    QCOMPARE(model.window(), QStringLiteral("...."));
+}
+
+QTEST_MAIN(tst_LazyLoadedListModelItems)
+#include "tst_lazyloadedlistmodel_items.moc"

@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LazyLetterModel.h"
+#include "LetterListModel.h"
+
+#include <UiElements/models/EmptyStateBaseListModel.h>
+#include <UiElements/models/OverflowListProxyModel.h>
+#include <UiElements/models/SmallListModel.h>
+
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+class EmptyStateLetters : public EmptyStateBaseListModel
+{
+    Q_OBJECT
+
+public:
+    QHash<int, QByteArray> roleNames() const override
+    {
+        return { { LetterListModel::Letter, "letter" } };
+    }
+};
+
+/// A list view that shows the role "letter" of whatever model it is given.
+constexpr char listView[] = R"(
+    import QtQuick 2.15
+    ListView {
+        id: list
+        width: 100; height: 1000
+        model: given
+        delegate: Text { text: letter === undefined ? "." : letter; height: 10 }
+        function text() {
+            var texts = "";
+            for (var i = 0; i < count; ++i)
+                texts += itemAtIndex(i).text;
+            return texts;
+        }
+        %1
+    })";
+
+/// A scene with that view, of which texts and properties can be asked.
+class Scene
+{
+public:
+    explicit Scene(QObject *model, const char *more = "")
+    {
+        m_engine.rootContext()->setContextProperty(QStringLiteral("given"), model);
+        QQmlComponent component(&m_engine);
+        component.setData(QByteArray(listView).replace("%1", more), QUrl());
+        m_item.reset(qobject_cast<QQuickItem *>(component.create()));
+        if (!m_item)
+            qWarning().noquote() << component.errorString();
+    }
+
+    QVariant property(const char *name) const { return m_item->property(name); }
+
+    /// Returns the letters that the view shows.
+    QString text() const
+    {
+        QMetaObject::invokeMethod(m_item.get(), "forceLayout");
+        QVariant text;
+        QMetaObject::invokeMethod(m_item.get(), "text", Q_RETURN_ARG(QVariant, text));
+        return text.toString();
+    }
+
+private:
+    QQmlEngine m_engine;
+    std::unique_ptr<QQuickItem> m_item;
+};
+
+} // namespace
+
+/// The models as QML finds them: nothing is wrapped, and no role or property is named twice.
+class tst_ModelsInQml : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsABaseListModel();
+    void readsAndWritesCountAndHeader();
+    void showsASmallListModel();
+    void showsAPagedModel();
+    void hearsWhatPagesAreMissing();
+    void showsTheTailThroughAProxy();
+    void makesAProxyItself();
+    void showsTheEmptyState();
+};
+
+void tst_ModelsInQml::showsABaseListModel()
+{
+    LetterListModel model(QStringLiteral("abc"));
+    const Scene scene(&model);
+    QCOMPARE(scene.text(), QStringLiteral("abc"));
+    model.appendRows(LetterListModel::rowsOf(QStringLiteral("de")));
+    QCOMPARE(scene.text(), QStringLiteral("abcde"));
+    model.insertRows(0, LetterListModel::rowsOf(QStringLiteral("x")));
+    QCOMPARE(scene.text(), QStringLiteral("xabcde"));
+    model.appendOrUpdate(LetterListModel::rowsOf(QStringLiteral("Bf")));
+    QCOMPARE(scene.text(), QStringLiteral("xaBcdef"));
+    model.removeRows(1, 3);
+    QCOMPARE(scene.text(), QStringLiteral("xdef"));
+    model.setRoleValueForRow("e", { { LetterListModel::Letter, QStringLiteral("E") } });
+    QCOMPARE(scene.text(), QStringLiteral("xdEf"));
+    model.replace(LetterListModel::rowsOf(QStringLiteral("xDEfgh")));
+    QCOMPARE(scene.text(), QStringLiteral("xDEfgh"));
+    model.clear();
+    QCOMPARE(scene.text(), QString());
+}
+
+void tst_ModelsInQml::readsAndWritesCountAndHeader()
+{
+    LetterListModel model(QStringLiteral("abc"));
+    const Scene scene(&model, R"(
+        property string summary: given.header + " " + given.count
+        Component.onCompleted: given.header = "Letters"
+    )");
+    QCOMPARE(scene.property("summary").toString(), QStringLiteral("Letters 3"));
+    model.appendRows(LetterListModel::rowsOf(QStringLiteral("d")));
+    model.setHeader(QStringLiteral("More"));
+    QCOMPARE(scene.property("summary").toString(), QStringLiteral("More 4"));
+}
+
+void tst_ModelsInQml::showsASmallListModel()
+{
+    const auto row = [](const char *letter) {
+        return std::unordered_map<int, QVariant> { { 257, QLatin1String(letter) } };
+    };
+    SmallListModel model({ { 257, "letter" } }, nullptr, QVariant());
+    const Scene scene(&model);
+    model.add({ row("a"), row("b"), row("a") });
+    QCOMPARE(scene.text(), QStringLiteral("aba"));
+    model.remove({ row("a") });
+    QCOMPARE(scene.text(), QStringLiteral("ba"));
+    model.replace({ row("x") });
+    QCOMPARE(scene.text(), QStringLiteral("x"));
+}
+
+void tst_ModelsInQml::showsAPagedModel()
+{
+    LazyLetterModel model(2, 2, 4);
+    const Scene scene(&model);
+    QCOMPARE(scene.text(), QStringLiteral("...."));
+    model.setItemsAtPage(1, LazyLetterModel::itemsOf(QStringLiteral("cd")));
+    model.setItemsAtPage(0, LazyLetterModel::itemsOf(QStringLiteral("ab")));
+    QCOMPARE(scene.text(), QStringLiteral("abcd"));
+    model.setSize(6);
+    QCOMPARE(scene.text(), QStringLiteral("abcd.."));
+    model.setSize(3);
+    QCOMPARE(scene.text(), QStringLiteral("abc"));
+    QVERIFY(model.setItemAtIndex(3, new CountedItem(QStringLiteral("D"))));
+    QCOMPARE(scene.text(), QStringLiteral("abcD"));
+    model.reset();
+    QCOMPARE(scene.text(), QString());
+}
+
+void tst_ModelsInQml::hearsWhatPagesAreMissing()
+{
+    LazyLetterModel model(2, 2, 100);
+    const Scene scene(&model, R"(
+        property string asked
+        Connections {
+            target: given
+            function onLoadPages(pages) { list.asked += "pages " + pages.join() + ";" }
+            function onLoadStorageAtPage(page) { list.asked += "from " + page + ";" }
+        }
+    )");
+    model.setScrolledIndex(4);
+    model.setScrolledIndex(50);
+    QCOMPARE(scene.property("asked").toString(), QStringLiteral("pages 2;from 24;"));
+}
+
+void tst_ModelsInQml::showsTheTailThroughAProxy()
+{
+    LetterListModel source(QStringLiteral("abcde"));
+    OverflowListProxyModel proxy(nullptr, 2);
+    proxy.setSourceModel(&source);
+    const Scene scene(&proxy, R"(
+        property string summary: given.header + " " + given.firstVisibleIndex
+    )");
+    QCOMPARE(scene.text(), QStringLiteral("de"));
+    proxy.setFirstVisibleIndex(0);
+    proxy.setHeader(QStringLiteral("More"));
+    QCOMPARE(scene.text(), QStringLiteral("bcde"));
+    QCOMPARE(scene.property("summary").toString(), QStringLiteral("More 0"));
+    source.appendRows(LetterListModel::rowsOf(QStringLiteral("f")));
+    QCOMPARE(scene.text(), QStringLiteral("bcdef"));
+    proxy.unsetSourceModel();
+    QCOMPARE(scene.text(), QString());
+}
+
+void tst_ModelsInQml::makesAProxyItself()
+{
+    qmlRegisterType<OverflowListProxyModel>("Test", 1, 0, "OverflowListProxyModel");
+    LetterListModel source(QStringLiteral("abcde"));
+    QQmlEngine engine;
+    engine.rootContext()->setContextProperty(QStringLiteral("given"), &source);
+    QQmlComponent component(&engine);
+    component.setData("import Test 1.0\n"
+                      "OverflowListProxyModel { sourceModel: given; firstVisibleIndex: 3;"
+                      " header: 'More' }",
+                      QUrl());
+    const std::unique_ptr<QObject> made(component.create());
+    QVERIFY2(made, qPrintable(component.errorString()));
+    const auto *proxy = qobject_cast<OverflowListProxyModel *>(made.get());
+    QVERIFY(proxy);
+    QCOMPARE(ModelLog::rows(*proxy, LetterListModel::Letter), QStringLiteral("e"));
+    QCOMPARE(proxy->header(), QStringLiteral("More"));
+}
+
+void tst_ModelsInQml::showsTheEmptyState()
+{
+    EmptyStateLetters model;
+    model.setProperty("emptyStateHeader", QStringLiteral("Nothing here"));
+    const Scene scene(&model, R"(
+        property string summary: given.count > 0 ? "" : given.emptyStateHeader + "/"
+            + given.emptyStateSubtitle + "/" + given.emptyStateImage + "/"
+            + given.emptyStateImageSize.width + "x" + given.emptyStateImageSize.height
+        Component.onCompleted: {
+            given.emptyStateImage = "qrc:/empty.svg"
+            given.emptyStateImageSize = Qt.size(16, 24)
+        }
+    )");
+    QCOMPARE(scene.property("summary").toString(),
+             QStringLiteral("Nothing here//qrc:/empty.svg/16x24"));
+    model.setProperty("emptyStateSubtitle", QStringLiteral("Yet"));
+    QCOMPARE(scene.property("summary").toString(),
+             QStringLiteral("Nothing here/Yet/qrc:/empty.svg/16x24"));
+    model.appendRows(LetterListModel::rowsOf(QStringLiteral("a")));
+    QCOMPARE(scene.property("summary").toString(), QString());
+    QCOMPARE(scene.text(), QStringLiteral("a"));
+}
+
+QTEST_MAIN(tst_ModelsInQml)
+#include "tst_modelsinqml.moc"

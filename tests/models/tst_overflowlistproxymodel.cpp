@@ -1,0 +1,260 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LetterListModel.h"
+#include "support/RandomSeed.h"
+
+#include <UiElements/models/OverflowListProxyModel.h>
+
+#include <QMetaProperty>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+/// A proxy that whose filter can be asked, and which counts how often it is.
+class CountingProxy : public OverflowListProxyModel
+{
+    Q_OBJECT
+
+public:
+    using OverflowListProxyModel::OverflowListProxyModel;
+
+    QString text() const { return ModelLog::rows(*this, LetterListModel::Letter); }
+
+    mutable int asked = 0;
+
+    bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override
+    {
+        ++asked;
+        return OverflowListProxyModel::filterAcceptsRow(sourceRow, sourceParent);
+    }
+};
+
+} // namespace
+
+/// The tail that an OverflowListProxyModel shows of its source.
+class tst_OverflowListProxyModel : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startsAtZeroOrAtTheGivenIndex();
+    void showsItsProperties();
+    void showsTheRowsBehindTheIndex_data();
+    void showsTheRowsBehindTheIndex();
+    void looksAtNoParent();
+    void tellsOfANewIndexBeforeItFilters();
+    void doesNothingForThePresentIndex();
+    void tellsOfANewHeaderOnly();
+    void losesItsRowsWithTheSourceAndKeepsItsProperties();
+    void unsetsTheSourceThroughTheVirtualFunction();
+    void keepsARowThatMovesInFrontOfTheIndex();
+    void followsItsSourceThroughRandomChanges();
+};
+
+void tst_OverflowListProxyModel::startsAtZeroOrAtTheGivenIndex()
+{
+    QObject parent;
+    QCOMPARE(OverflowListProxyModel().firstVisibleIndex(), 0);
+    QCOMPARE(OverflowListProxyModel().header(), QString());
+    const OverflowListProxyModel *proxy = new OverflowListProxyModel(&parent, 7);
+    QCOMPARE(proxy->firstVisibleIndex(), 7);
+    QCOMPARE(proxy->parent(), &parent);
+}
+
+void tst_OverflowListProxyModel::showsItsProperties()
+{
+    const QMetaObject &type = OverflowListProxyModel::staticMetaObject;
+    const QMetaProperty index = type.property(type.indexOfProperty("firstVisibleIndex"));
+    QCOMPARE(index.typeName(), "int");
+    QCOMPARE(index.notifySignal().methodSignature(), QByteArray("firstVisibleIndexChanged()"));
+    const QMetaProperty header = type.property(type.indexOfProperty("header"));
+    QCOMPARE(header.typeName(), "QString");
+    QCOMPARE(header.notifySignal().methodSignature(), QByteArray("headerChanged()"));
+
+    OverflowListProxyModel proxy;
+    QVERIFY(proxy.setProperty("firstVisibleIndex", 3));
+    QCOMPARE(proxy.firstVisibleIndex(), 3);
+    QVERIFY(proxy.setProperty("header", QStringLiteral("More")));
+    QCOMPARE(proxy.property("header").toString(), QStringLiteral("More"));
+}
+
+void tst_OverflowListProxyModel::showsTheRowsBehindTheIndex_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("rows");
+
+    QTest::newRow("2 of five rows") << 2 << QStringLiteral("de");
+    QTest::newRow("0 hides the first row") << 0 << QStringLiteral("bcde");
+    QTest::newRow("-1 passes all rows") << -1 << QStringLiteral("abcde");
+    QTest::newRow("below -1") << -5 << QStringLiteral("abcde");
+    QTest::newRow("the last row") << 4 << QString();
+    QTest::newRow("past the last row") << 9 << QString();
+}
+
+void tst_OverflowListProxyModel::showsTheRowsBehindTheIndex()
+{
+    QFETCH(const int, index);
+    QFETCH(const QString, rows);
+    LetterListModel source(QStringLiteral("abcde"));
+    CountingProxy given(nullptr, index);
+    given.setSourceModel(&source);
+    QCOMPARE(given.text(), rows);
+
+    CountingProxy set;
+    set.setSourceModel(&source);
+    QCOMPARE(set.text(), QStringLiteral("bcde"));
+    set.setFirstVisibleIndex(index);
+    QCOMPARE(set.text(), rows);
+}
+
+void tst_OverflowListProxyModel::looksAtNoParent()
+{
+    const LetterListModel source(QStringLiteral("abc"));
+    const CountingProxy proxy(nullptr, 1);
+    QVERIFY(!proxy.filterAcceptsRow(1, source.index(0)));
+    QVERIFY(proxy.filterAcceptsRow(2, source.index(0)));
+}
+
+void tst_OverflowListProxyModel::tellsOfANewIndexBeforeItFilters()
+{
+    LetterListModel source(QStringLiteral("abcd"));
+    CountingProxy proxy;
+    proxy.setSourceModel(&source);
+    QCOMPARE(proxy.text(), QStringLiteral("bcd"));
+    ModelLog log(proxy);
+    connect(&proxy, &OverflowListProxyModel::firstVisibleIndexChanged, this, [&] {
+        log.note(QStringLiteral("%1 %2").arg(proxy.firstVisibleIndex()).arg(proxy.text()));
+    });
+    proxy.setFirstVisibleIndex(2);
+    QCOMPARE(log.take(), QStringLiteral("2 bcd | rem 0,1"));
+    proxy.setFirstVisibleIndex(1);
+    QCOMPARE(log.take(), QStringLiteral("1 d | ins 0,0"));
+}
+
+void tst_OverflowListProxyModel::doesNothingForThePresentIndex()
+{
+    LetterListModel source(QStringLiteral("abcd"));
+    CountingProxy proxy;
+    proxy.setSourceModel(&source);
+    QCOMPARE(proxy.rowCount(), 3);
+    QSignalSpy changed(&proxy, &OverflowListProxyModel::firstVisibleIndexChanged);
+    proxy.asked = 0;
+    proxy.setFirstVisibleIndex(0);
+    QCOMPARE(proxy.asked, 0);
+    QCOMPARE(changed.size(), 0);
+    proxy.setFirstVisibleIndex(1);
+    QCOMPARE(proxy.asked, 4);
+    QCOMPARE(changed.size(), 1);
+}
+
+void tst_OverflowListProxyModel::tellsOfANewHeaderOnly()
+{
+    OverflowListProxyModel proxy;
+    QSignalSpy changed(&proxy, &OverflowListProxyModel::headerChanged);
+    proxy.setHeader(QString());
+    QCOMPARE(changed.size(), 0);
+    proxy.setHeader(QStringLiteral("More"));
+    proxy.setHeader(QStringLiteral("More"));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(proxy.header(), QStringLiteral("More"));
+}
+
+void tst_OverflowListProxyModel::losesItsRowsWithTheSourceAndKeepsItsProperties()
+{
+    LetterListModel source(QStringLiteral("abcd"));
+    OverflowListProxyModel proxy(nullptr, 1);
+    proxy.setHeader(QStringLiteral("More"));
+    proxy.setSourceModel(&source);
+    QCOMPARE(proxy.rowCount(), 2);
+    proxy.unsetSourceModel();
+    QCOMPARE(proxy.rowCount(), 0);
+    QVERIFY(!proxy.sourceModel());
+    QCOMPARE(proxy.firstVisibleIndex(), 1);
+    QCOMPARE(proxy.header(), QStringLiteral("More"));
+}
+
+void tst_OverflowListProxyModel::unsetsTheSourceThroughTheVirtualFunction()
+{
+    class NotingProxy : public OverflowListProxyModel
+    {
+    public:
+        void setSourceModel(QAbstractItemModel *sourceModel) override { set += sourceModel; }
+        QVector<QAbstractItemModel *> set;
+    };
+    NotingProxy proxy;
+    proxy.unsetSourceModel();
+    QCOMPARE(proxy.set, QVector<QAbstractItemModel *> { nullptr });
+}
+
+void tst_OverflowListProxyModel::keepsARowThatMovesInFrontOfTheIndex()
+{
+    LetterListModel source(QStringLiteral("abcde"));
+    CountingProxy proxy(nullptr, 2);
+    proxy.setSourceModel(&source);
+    QCOMPARE(proxy.text(), QStringLiteral("de"));
+    source.removeRows(0, 2);
+    QCOMPARE(proxy.text(), QStringLiteral("de"));
+    // The filter looks again where a row changes.
+    source.setRoleValueForRow("d", { { LetterListModel::Letter, QStringLiteral("D") } });
+    QCOMPARE(proxy.text(), QStringLiteral("e"));
+}
+
+void tst_OverflowListProxyModel::followsItsSourceThroughRandomChanges()
+{
+    std::mt19937 generator = seededGenerator();
+    LetterListModel source;
+    CountingProxy proxy;
+    proxy.setSourceModel(&source);
+    // For each source row its letter, in upper case where the proxy shows it.
+    QString letters;
+    const auto look = [&](int row) {
+        const QChar letter = letters.at(row).toLower();
+        letters[row] = row > proxy.firstVisibleIndex() ? letter.toUpper() : letter;
+    };
+    for (int i = 0; i < 100000; ++i) {
+        const int row = letters.isEmpty() ? 0 : randomFrom(generator, 0, letters.size() - 1);
+        const QChar letter = QLatin1Char(char('a' + randomFrom(generator, 0, 25)));
+        const std::string id(1, letter.toLatin1());
+        const int choice = randomFrom(generator, 0, 3);
+        const QString before = QStringLiteral("%1: %2 %3 at %4 of %5: ")
+                                       .arg(i)
+                                       .arg(choice)
+                                       .arg(letter)
+                                       .arg(row)
+                                       .arg(letters);
+        switch (choice) {
+        case 0: {
+            const int index = randomFrom(generator, -2, 12);
+            const bool isNew = index != proxy.firstVisibleIndex();
+            proxy.setFirstVisibleIndex(index);
+            for (int each = 0; isNew && each < letters.size(); ++each)
+                look(each);
+            break;
+        }
+        case 1:
+            if (letters.isEmpty())
+                break;
+            source.removeRows(row, 1);
+            letters.remove(row, 1);
+            break;
+        case 2:
+            source.setRoleValueForRow(id, { { LetterListModel::Number, i } });
+            if (source.hasRow(id))
+                look(source.getRowIndex(id));
+            break;
+        default:
+            if (source.hasRow(id))
+                break;
+            source.insertRows(row, LetterListModel::rowsOf(letter));
+            letters.insert(row, letter);
+            look(row);
+        }
+        QString shown;
+        for (const QChar each : qAsConst(letters))
+            shown += each.isUpper() ? QString(each.toLower()) : QString();
+        QCOMPARE(before + proxy.text(), before + shown);
+    }
+}
+
+QTEST_MAIN(tst_OverflowListProxyModel)
+#include "tst_overflowlistproxymodel.moc"
