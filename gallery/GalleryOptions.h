@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "ColorDocuments.h"
+
+#include <QString>
+
+class QStringList;
+
+/// What the command line asks for.
+struct GalleryOptions
+{
+    /// What the program does after reading its options.
+    enum class Task {
+        ShowWindow,      ///< Open the window, on `page`.
+        TakeScreenshots, ///< Write pictures of all pages to `screenshotFolder`.
+        ListPages,       ///< Print the names of the pages.
+        PrintHelp,       ///< Print `message`, and succeed.
+        Fail,            ///< Print `message` as an error, and fail.
+    };
+
+    Task task = Task::ShowWindow;
+    QString page;             ///< Name of the page to open; never empty.
+    QString screenshotFolder; ///< Where pictures go.
+    QString message;          ///< What to print, for the tasks that print.
+    DocumentPaths documents;  ///< The colour documents; the gallery's own by default.
+
+    /// Reads \a arguments, of which the first is the program. Needs an application object.
+    static GalleryOptions parse(const QStringList &arguments);
+
+    /// Lets the runs that open no window do without a display. Comes before the application object,
+    /// and respects a platform that the user chose.
+    static void preparePlatform(int argc, const char *const *argv);
+};

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "GalleryWindow.h"
+
+#include "GalleryApplication.h"
+#include "HeaderBar.h"
+#include "Metrics.h"
+#include "NavigationList.h"
+#include "TextSettings.h"
+#include "ThemeSwitcher.h"
+#include "widgets/PageStack.h"
+
+#include <QVBoxLayout>
+
+namespace {
+
+QWidget *makeDivider(QWidget *parent)
+{
+    auto *divider = new OxaWidget(parent);
+    divider->setObjectName(QStringLiteral("sidebarDivider"));
+    divider->setCSS(QStringLiteral("$backgroundColors: gallery-divider;"));
+    divider->setFixedWidth(1);
+    return divider;
+}
+
+} // namespace
+
+GalleryWindow::GalleryWindow(QWidget *parent)
+    : OxaWidget(parent),
+      m_header(new HeaderBar(GalleryApplication::get()->themeSwitcher(),
+                             GalleryApplication::get()->textSettings(), this)),
+      m_navigation(new NavigationList(this)),
+      m_pages(new PageStack(this))
+{
+    setThemeType(GalleryApplication::get()->themeSwitcher()->themeType());
+    setCSS(QStringLiteral("$backgroundColors: gallery-window-background;"));
+    resize(Metrics::windowWidth, Metrics::windowHeight);
+
+    auto *row = new QHBoxLayout;
+    row->setSpacing(0);
+    row->addWidget(m_navigation);
+    row->addWidget(makeDivider(this));
+    row->addWidget(m_pages, 1);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_header);
+    column->addLayout(row, 1);
+    // Pages scroll: the header alone decides how small the window may be, and pages come later.
+    column->setSizeConstraint(QLayout::SetNoConstraint);
+    fitHeader();
+
+    connect(m_navigation, &NavigationList::pageChosen, m_pages, &PageStack::showPage);
+    connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, this,
+            &GalleryWindow::fitHeader);
+}
+
+void GalleryWindow::showPage(const QString &name)
+{
+    m_navigation->setCurrentPage(name);
+    m_pages->showPage(name);
+}
+
+void GalleryWindow::fitHeader() { setMinimumWidth(m_header->minimumSizeHint().width()); }

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "HeaderBar.h"
+
+#include "Metrics.h"
+#include "TextSettings.h"
+#include "ThemeSwitcher.h"
+#include "widgets/Labels.h"
+#include "widgets/SegmentedControl.h"
+#include "widgets/Slider.h"
+
+#include <UiElements/widgets/OxaLabel.h>
+
+#include <QGuiApplication>
+#include <QVBoxLayout>
+
+namespace {
+
+using OxaThemeUtils::AppThemeType;
+
+/// The font scale is set in steps of five hundredths.
+constexpr int scaleStepsPerUnit = 20;
+
+QString percentage(int scaleSteps)
+{
+    return HeaderBar::tr("%1 %").arg(scaleSteps * 100 / scaleStepsPerUnit);
+}
+
+} // namespace
+
+HeaderBar::HeaderBar(ThemeSwitcher *themeSwitcher, TextSettings *textSettings, QWidget *parent)
+    : OxaWidget(parent),
+      m_themeSwitcher(themeSwitcher),
+      m_textSettings(textSettings),
+      m_row(new QHBoxLayout(this))
+{
+    setCSS(QStringLiteral("$backgroundColors: gallery-header-background;"
+                          "$borderColors: gallery-divider; $borders: bottom;"));
+    m_row->setContentsMargins(Metrics::gap, Metrics::small, Metrics::gap, Metrics::small);
+    m_row->setSpacing(Metrics::spacing);
+    m_row->addWidget(Labels::heading(tr("UiElements"), this));
+    m_row->addStretch(1);
+    addControl(tr("Appearance"), makeAppearanceControl());
+    addControl(tr("Theme type"), makeThemeTypeControl());
+    addControl(tr("Direction"), makeDirectionControl());
+    addControl(tr("Messaging view"), makeScalingControl());
+    addControl(tr("Font scale"), makeFontScaleControl());
+}
+
+void HeaderBar::addControl(const QString &caption, QWidget *control)
+{
+    control->setAccessibleName(caption);
+    auto *column = new QVBoxLayout;
+    column->setSpacing(Metrics::tight);
+    column->addWidget(Labels::caption(caption, this));
+    column->addWidget(control, 1);
+    m_row->addLayout(column);
+}
+
+QWidget *HeaderBar::makeAppearanceControl()
+{
+    auto *control = new SegmentedControl({ tr("Light"), tr("Dark"), tr("Contrast") }, this);
+    const auto showCurrent = [this, control] {
+        control->setCurrentIndex(int(m_themeSwitcher->appearance()));
+    };
+    connect(m_themeSwitcher, &ThemeSwitcher::switched, control, showCurrent);
+    showCurrent();
+    connect(control, &SegmentedControl::chosen, m_themeSwitcher,
+            [switcher = m_themeSwitcher](int i) {
+                switcher->setAppearance(static_cast<ThemeSwitcher::Appearance>(i));
+            });
+    return control;
+}
+
+QWidget *HeaderBar::makeThemeTypeControl()
+{
+    auto *control = new SegmentedControl({ tr("Global"), tr("Light"), tr("Dark"), tr("Inverted") },
+                                         this);
+    const auto showCurrent = [this, control] {
+        control->setCurrentIndex(
+                int(OxaThemeUtils::stringToThemeType(m_themeSwitcher->themeType())));
+    };
+    connect(m_themeSwitcher, &ThemeSwitcher::switched, control, showCurrent);
+    showCurrent();
+    connect(control, &SegmentedControl::chosen, m_themeSwitcher,
+            [switcher = m_themeSwitcher](int i) {
+                switcher->setThemeType(
+                        OxaThemeUtils::themeTypeToString(static_cast<AppThemeType>(i)));
+            });
+    return control;
+}
+
+QWidget *HeaderBar::makeDirectionControl()
+{
+    auto *control = new SegmentedControl({ tr("LTR"), tr("RTL") }, this);
+    const auto showCurrent = [control] {
+        control->setCurrentIndex(int(QGuiApplication::layoutDirection()));
+    };
+    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, control, showCurrent);
+    showCurrent();
+    connect(control, &SegmentedControl::chosen, m_textSettings, [settings = m_textSettings](int i) {
+        settings->setDirection(static_cast<Qt::LayoutDirection>(i));
+    });
+    return control;
+}
+
+QWidget *HeaderBar::makeScalingControl()
+{
+    auto *control = new SegmentedControl({ tr("S"), tr("R"), tr("M"), tr("L") }, this);
+    control->setToolTip(tr("Small, regular, medium, large"));
+    // The factors are numbered from -1.
+    control->setCurrentIndex(
+            1 + int(m_textSettings->scaling(FontManagerEnum::FontType::MessagingView)));
+    connect(control, &SegmentedControl::chosen, m_textSettings, [settings = m_textSettings](int i) {
+        settings->setScaling(FontManagerEnum::FontType::MessagingView,
+                             static_cast<FontManagerEnum::FontScalingFactor>(i - 1));
+    });
+    return control;
+}
+
+QWidget *HeaderBar::makeFontScaleControl()
+{
+    auto *control = new OxaWidget(this);
+    auto *row = new QHBoxLayout(control);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Metrics::small);
+    auto *slider = new Slider(scaleStepsPerUnit / 2, scaleStepsPerUnit * 3 / 2, scaleStepsPerUnit,
+                              control);
+    slider->setFixedWidth(88);
+    auto *value = Labels::caption(percentage(slider->value()), control);
+    value->setMinimumWidth(40);
+    row->addWidget(slider);
+    row->addWidget(value);
+    connect(slider, &QSlider::valueChanged, this, [this, value](int steps) {
+        value->setText(percentage(steps));
+        m_textSettings->setFontScale(float(steps) / scaleStepsPerUnit);
+    });
+    return control;
+}

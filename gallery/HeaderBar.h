@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/widgets/OxaWidget.h>
+
+class QHBoxLayout;
+class TextSettings;
+class ThemeSwitcher;
+
+/// The bar at the top of the window: what the whole gallery is shown in, always at hand.
+class HeaderBar : public OxaWidget
+{
+    Q_OBJECT
+
+public:
+    HeaderBar(ThemeSwitcher *themeSwitcher, TextSettings *textSettings, QWidget *parent = nullptr);
+
+private:
+    void addControl(const QString &caption, QWidget *control);
+    QWidget *makeAppearanceControl();
+    QWidget *makeThemeTypeControl();
+    QWidget *makeDirectionControl();
+    QWidget *makeFontScaleControl();
+    QWidget *makeScalingControl();
+
+    ThemeSwitcher *const m_themeSwitcher;
+    TextSettings *const m_textSettings;
+    QHBoxLayout *m_row;
+};

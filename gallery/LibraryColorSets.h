@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QStringList>
+
+/// Returns the names of the colour sets that the library itself asks for, which any colour document
+/// has to define.
+QStringList libraryColorSetNames();

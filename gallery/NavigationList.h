@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/widgets/OxaWidget.h>
+
+#include <map>
+
+class QVBoxLayout;
+class ToggleButton;
+struct PageEntry;
+
+/// The list of pages at the side of the window, under the headings of their groups.
+class NavigationList : public OxaWidget
+{
+    Q_OBJECT
+
+public:
+    explicit NavigationList(QWidget *parent = nullptr);
+
+    /// Marks the page called \a name as the current one, without a signal.
+    void setCurrentPage(const QString &name);
+
+Q_SIGNALS:
+    /// The user chose the page called \a name.
+    void pageChosen(const QString &name);
+
+private:
+    void addEntries(QVBoxLayout *column);
+    ToggleButton *addItem(const PageEntry &entry);
+
+    std::map<QString, ToggleButton *> m_items;
+};

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/widgets/OxaWidget.h>
+
+class QVBoxLayout;
+
+/// A page of the gallery: a title, a line that says what it shows, and a body that fills the rest.
+class Page : public OxaWidget
+{
+    Q_OBJECT
+
+public:
+    Page(const QString &title, const QString &summary, QWidget *parent = nullptr);
+
+protected:
+    /// Returns the layout of the body, with the page's margins.
+    QVBoxLayout *body() const { return m_body; }
+
+    /// Turns the body into one that scrolls as a whole. Comes before anything is put into it.
+    void makeBodyScroll();
+
+private:
+    QVBoxLayout *m_body;
+};

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Screenshots.h"
+
+#include "GalleryApplication.h"
+#include "GalleryWindow.h"
+#include "PageRegistry.h"
+#include "TextSettings.h"
+#include "ThemeSwitcher.h"
+
+#include <QDir>
+#include <QImage>
+#include <QPainter>
+#include <QTextStream>
+
+namespace {
+
+using Appearance = ThemeSwitcher::Appearance;
+
+struct AppearanceName
+{
+    Appearance appearance;
+    const char *name;
+};
+constexpr AppearanceName appearances[] = {
+    { Appearance::Light, "light" },
+    { Appearance::Dark, "dark" },
+    { Appearance::HighContrast, "high-contrast" },
+};
+
+struct DirectionName
+{
+    Qt::LayoutDirection direction;
+    const char *name;
+};
+constexpr DirectionName directions[] = {
+    { Qt::LeftToRight, "ltr" },
+    { Qt::RightToLeft, "rtl" },
+};
+
+constexpr int scales[] = { 1, 2 };
+
+QImage pictureOf(QWidget &window, int scale)
+{
+    QImage image(window.size() * scale, QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    // A painter on an image knows no direction, and would leave texts on the wrong side.
+    QPainter painter(&image);
+    painter.setLayoutDirection(QGuiApplication::layoutDirection());
+    window.render(&painter);
+    return image;
+}
+
+/// Writes the pictures of one page in one look, at all scales.
+bool take(QWidget &window, const QDir &folder, const QString &name, QString &problem)
+{
+    for (const int scale : scales) {
+        const QString path = folder.filePath(QStringLiteral("%1@%2x.png").arg(name).arg(scale));
+        if (!pictureOf(window, scale).save(path)) {
+            problem = QCoreApplication::translate("Screenshots", "cannot write %1").arg(path);
+            return false;
+        }
+        QTextStream(stdout) << path << '\n';
+    }
+    return true;
+}
+
+/// Writes the pictures of all pages in one look, whose name is \a look.
+bool takePages(GalleryWindow &window, const QDir &folder, const QString &look, QString &problem)
+{
+    for (const PageEntry &page : pageEntries()) {
+        window.showPage(page.name);
+        QCoreApplication::processEvents();
+        if (!take(window, folder, page.name + QLatin1Char('-') + look, problem))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool Screenshots::takeAll(const QString &folder, QString &problem)
+{
+    const QDir directory(folder);
+    if (!directory.mkpath(QStringLiteral("."))) {
+        problem = QCoreApplication::translate("Screenshots", "cannot make the folder %1")
+                          .arg(folder);
+        return false;
+    }
+
+    const GalleryApplication *application = GalleryApplication::get();
+    GalleryWindow window;
+    window.setAttribute(Qt::WA_DontShowOnScreen);
+    window.show();
+    for (const auto &[direction, directionName] : directions) {
+        application->textSettings()->setDirection(direction);
+        for (const auto &[appearance, appearanceName] : appearances) {
+            application->themeSwitcher()->setAppearance(appearance);
+            const QString look = QStringLiteral("%1-%2").arg(QLatin1String(appearanceName),
+                                                             QLatin1String(directionName));
+            if (!takePages(window, directory, look, problem))
+                return false;
+        }
+    }
+    return true;
+}

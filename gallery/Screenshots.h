@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+
+/// Pictures of the gallery.
+namespace Screenshots {
+
+/// Writes a picture of each page into \a folder, in each appearance, in both directions, at one and
+/// at two device pixels to the pixel, and prints the files. Where that fails, \a problem tells why.
+bool takeAll(const QString &folder, QString &problem);
+
+} // namespace Screenshots

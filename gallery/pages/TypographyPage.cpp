@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "TypographyPage.h"
+
+#include "FontTokenTable.h"
+#include "GalleryApplication.h"
+#include "ScaledFontTable.h"
+#include "TextSettings.h"
+#include "widgets/Card.h"
+#include "widgets/SegmentedControl.h"
+
+#include <QVBoxLayout>
+
+TypographyPage::TypographyPage(QWidget *parent)
+    : Page(tr("Typography"),
+           tr("Widgets ask for a step of the type scale, not for a size. Move the font scale in "
+              "the "
+              "header to see all of them follow."),
+           parent)
+{
+    makeBodyScroll();
+    body()->addWidget(makeTokensCard());
+    body()->addWidget(makeScaledFontsCard());
+    body()->addStretch(1);
+}
+
+Card *TypographyPage::makeTokensCard()
+{
+    auto *card = new Card(tr("Font tokens"));
+    card->body()->addWidget(new FontTokenTable);
+    return card;
+}
+
+Card *TypographyPage::makeScaledFontsCard()
+{
+    auto *card = new Card(
+            tr("Scaled fonts"),
+            tr("Two views have fonts that the user can enlarge. The samples follow the factor of "
+               "their view; the figures are the sizes in pixels at each factor."));
+    auto *factor = new SegmentedControl({ tr("S"), tr("R"), tr("M"), tr("L") });
+    factor->setAccessibleName(tr("Meeting view"));
+    factor->setToolTip(tr("Scaling of the meeting view"));
+    TextSettings *settings = GalleryApplication::get()->textSettings();
+    // The factors are numbered from -1.
+    factor->setCurrentIndex(1 + int(settings->scaling(TextSettings::FontType::MeetingView)));
+    connect(factor, &SegmentedControl::chosen, settings, [settings](int i) {
+        settings->setScaling(TextSettings::FontType::MeetingView,
+                             static_cast<TextSettings::ScalingFactor>(i - 1));
+    });
+    card->addToHeading(factor);
+    card->body()->addWidget(new ScaledFontTable);
+    return card;
+}

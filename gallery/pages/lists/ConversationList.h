@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/widgets/OxaWidget.h>
+
+class ConversationModel;
+class ConversationView;
+class QStackedLayout;
+
+/// A list of conversations, or while it has none the texts that the model has for this case.
+class ConversationList : public OxaWidget
+{
+    Q_OBJECT
+
+public:
+    /// Shows \a model, which must outlive the list.
+    explicit ConversationList(ConversationModel *model, QWidget *parent = nullptr);
+
+    ConversationView *view() const { return m_view; }
+
+Q_SIGNALS:
+    /// The user wants the empty list filled.
+    void fillRequested();
+
+private:
+    ConversationView *m_view;
+    QStackedLayout *m_stack;
+};

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+#include <QVector>
+
+#include <map>
+
+class HistoryModel;
+class QStandardItem;
+
+/// A simulated server that answers what a HistoryModel asks for: page by page, slowly, and in
+/// another order than it was asked.
+class HistoryServer : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What became of the requests.
+    struct Figures
+    {
+        int asked = 0;    ///< Pages asked for.
+        int answered = 0; ///< Pages that the model took.
+        int late = 0;     ///< Pages that came when the window had moved on.
+    };
+
+    /// Serves \a model, which must outlive the server.
+    explicit HistoryServer(HistoryModel *model, QObject *parent = nullptr);
+
+    /// Sets the mean time of an answer in milliseconds, for requests from now on. 600 at first.
+    void setMeanDelay(int milliseconds) { m_meanDelay = milliseconds; }
+
+    const Figures &figures() const { return m_figures; }
+
+    /// Returns how many answers are still to come.
+    int pendingCount() const { return int(m_pending.size()); }
+
+    /// Gives all pending answers now, in the order in which they would have come.
+    void answerAll();
+
+    /// Returns the items of \a page, which are the caller's to delete.
+    static QVector<QStandardItem *> makeItems(int page);
+
+Q_SIGNALS:
+    /// Something was asked or answered, which \a line tells.
+    void logged(const QString &line);
+
+private:
+    void ask(const QVector<int> &pages);
+    bool isPending(int page) const;
+    void answerNext();
+    void answerDue();
+    void waitForNext();
+
+    HistoryModel *const m_model;
+    std::multimap<qint64, int> m_pending; ///< Pages by the time at which they come.
+    QElapsedTimer m_clock;
+    QTimer m_timer;
+    Figures m_figures;
+    int m_meanDelay = 600;
+};

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LongListView.h"
+
+#include "GalleryApplication.h"
+#include "RowDelegate.h"
+#include "TextSettings.h"
+#include "widgets/ScrollArea.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+LongListView::LongListView(QAbstractItemModel *model, QWidget *parent)
+    : QAbstractScrollArea(parent), m_model(model), m_delegate(new RowDelegate(this))
+{
+    // Qt asked the style about the scroll bars before there were rules for them. It forgets the
+    // answers when a widget that is polished gets a sheet.
+    ensurePolished();
+    setCSS(QStringLiteral("$backgroundColors: gallery-card-background;"
+                          "$borderColors: gallery-field-border;"
+                          "$borderRadius: 6;"
+                          "LongListView { padding: 1px; }"
+                          // Under the pointer, too, one sees where the focus is.
+                          "LongListView:focus { border-color: $(gallery-field-border.focused); }")
+           + ScrollArea::scrollBarStyleText());
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setFocusPolicy(Qt::StrongFocus);
+    m_themeBlock.followTheme();
+
+    connect(m_model, &QAbstractItemModel::dataChanged, this, &LongListView::repaintRows);
+    // A model that pages counts its rows anew only after it told that they came or went.
+    connect(m_model, &QAbstractItemModel::rowsInserted, this, &LongListView::fitScrollBar,
+            Qt::QueuedConnection);
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, &LongListView::fitScrollBar,
+            Qt::QueuedConnection);
+    connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, this,
+            &LongListView::refresh);
+}
+
+int LongListView::firstRow() const { return verticalScrollBar()->value() / m_rowHeight; }
+
+int LongListView::lastRow() const
+{
+    const int bottom = verticalScrollBar()->value() + viewport()->height() - 1;
+    return qMin(bottom / m_rowHeight, m_model->rowCount() - 1);
+}
+
+void LongListView::scrollToRow(int row) { verticalScrollBar()->setValue(row * m_rowHeight); }
+
+void LongListView::onThemeChanged() { refresh(); }
+
+void LongListView::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(viewport());
+    QStyleOptionViewItem option;
+    option.initFrom(viewport());
+    option.state = QStyle::State_Enabled;
+    for (int row = firstRow(); row <= lastRow(); ++row) {
+        option.rect = rectOf(row);
+        if (option.rect.intersects(event->rect()))
+            m_delegate->paint(&painter, option, m_model->index(row, 0));
+    }
+}
+
+void LongListView::resizeEvent(QResizeEvent *event)
+{
+    QAbstractScrollArea::resizeEvent(event);
+    fitScrollBar();
+    Q_EMIT moved(firstRow());
+}
+
+void LongListView::scrollContentsBy(int, int)
+{
+    viewport()->update();
+    Q_EMIT moved(firstRow());
+}
+
+QRect LongListView::rectOf(int row) const
+{
+    return { 0, row * m_rowHeight - verticalScrollBar()->value(), viewport()->width(),
+             m_rowHeight };
+}
+
+void LongListView::fitScrollBar()
+{
+    const int height = viewport()->height();
+    verticalScrollBar()->setRange(0, qMax(0, m_model->rowCount() * m_rowHeight - height));
+    verticalScrollBar()->setPageStep(height);
+    verticalScrollBar()->setSingleStep(m_rowHeight);
+}
+
+void LongListView::refresh()
+{
+    const int row = firstRow();
+    m_delegate->refresh(getThemeType());
+    m_rowHeight = m_delegate->rowHeight();
+    fitScrollBar();
+    scrollToRow(row);
+    viewport()->update();
+}
+
+void LongListView::repaintRows(const QModelIndex &first, const QModelIndex &last)
+{
+    if (first.row() <= lastRow() && last.row() >= firstRow())
+        viewport()->update(rectOf(first.row()).united(rectOf(last.row())));
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Card.h"
+
+#include "Metrics.h"
+#include "widgets/Labels.h"
+
+#include <UiElements/widgets/OxaLabel.h>
+
+#include <QVBoxLayout>
+
+Card::Card(const QString &heading, const QString &explanation, QWidget *parent)
+    : OxaWidget(parent), m_headingLine(new QHBoxLayout), m_body(new QVBoxLayout)
+{
+    setCSS(QStringLiteral("$backgroundColors: gallery-card-background;"
+                          "$borderColors: gallery-card-border;"
+                          "$borderRadius: 8;"));
+
+    m_headingLine->setSpacing(Metrics::small);
+    m_headingLine->addWidget(Labels::heading(heading, this), 1);
+    m_body->setSpacing(Metrics::spacing);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(Metrics::gap, Metrics::spacing, Metrics::gap, Metrics::gap);
+    column->setSpacing(Metrics::tight);
+    column->addLayout(m_headingLine);
+    if (!explanation.isEmpty())
+        column->addWidget(Labels::paragraph(explanation, this));
+    column->addSpacing(Metrics::small);
+    column->addLayout(m_body, 1);
+}
+
+void Card::addToHeading(QWidget *widget) { m_headingLine->addWidget(widget, 0, Qt::AlignVCenter); }

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CodeEdit.h"
+
+#include "Metrics.h"
+#include "widgets/ScrollArea.h"
+
+CodeEdit::CodeEdit(QWidget *parent) : QPlainTextEdit(parent)
+{
+    m_themeBlock.followTheme();
+    setFontToken(OxaFont::Token::CodeBlocks);
+    setTabChangesFocus(true);
+    setLayoutDirection(Qt::LeftToRight);
+    setCSS(QStringLiteral("$backgroundColors: gallery-code-background;"
+                          "$borderColors: gallery-field-border;"
+                          "$borderRadius: 6;"
+                          "$textColors: gallery-code-text;"
+                          "CodeEdit { padding: 4px; }"
+                          // Under the pointer, too, one sees where the focus is.
+                          "CodeEdit:focus { border-color: $(gallery-field-border.focused); }")
+           + ScrollArea::scrollBarStyleText());
+}
+
+void CodeEdit::setMinimumLines(int lines)
+{
+    const int frame = 2 * (Metrics::small + int(document()->documentMargin()));
+    setMinimumHeight(lines * fontMetrics().lineSpacing() + frame);
+}
+
+void CodeEdit::onThemeChanged() { }

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/fonts/FontBlock.h>
+#include <UiElements/theme/ThemeBlock.h>
+
+#include <QPlainTextEdit>
+
+/// A field for code. Tab leaves it, as it does any other field.
+class CodeEdit : public QPlainTextEdit
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QPlainTextEdit)
+    UIELEMENTS_FONT_BLOCK
+
+public:
+    explicit CodeEdit(QWidget *parent = nullptr);
+
+    /// Makes the field at least \a lines lines high, at its font of this moment.
+    void setMinimumLines(int lines);
+};

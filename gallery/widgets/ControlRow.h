@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/widgets/OxaWidget.h>
+
+/// A control with a caption before it. The captions of several rows are equally wide.
+class ControlRow : public OxaWidget
+{
+    Q_OBJECT
+
+public:
+    ControlRow(const QString &caption, QWidget *control, QWidget *parent = nullptr);
+};

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/fonts/FontBlock.h>
+#include <UiElements/theme/ThemeBlock.h>
+
+#include <QLineEdit>
+
+/// A field for one line of text.
+class LineEdit : public QLineEdit
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QLineEdit)
+    UIELEMENTS_FONT_BLOCK
+
+public:
+    explicit LineEdit(QWidget *parent = nullptr);
+};

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/theme/ThemeBlock.h>
+
+#include <QStackedWidget>
+
+#include <map>
+
+class Page;
+
+/// Holds the pages, of which it shows one. A page is made when it is first shown.
+class PageStack : public QStackedWidget
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QStackedWidget)
+
+public:
+    explicit PageStack(QWidget *parent = nullptr);
+
+    /// Shows the page called \a name. An unknown name shows nothing new.
+    void showPage(const QString &name);
+
+private:
+    std::map<QString, Page *> m_pages;
+};

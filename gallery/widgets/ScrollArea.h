@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/theme/ThemeBlock.h>
+
+#include <QScrollArea>
+
+/// A scroll area without a frame whose viewport hands the theme type on to its contents.
+class ScrollArea : public QScrollArea
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QScrollArea)
+
+public:
+    explicit ScrollArea(QWidget *parent = nullptr);
+
+    /// Shows \a contents, over the ground that the area lies on.
+    void setContents(QWidget *contents);
+
+    /// Returns the style text for scroll bars, for any widget that has some.
+    static QString scrollBarStyleText();
+};

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/theme/ThemeBlock.h>
+
+#include <QSlider>
+
+/// A horizontal slider.
+class Slider : public QSlider
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QSlider)
+
+public:
+    Slider(int minimum, int maximum, int value, QWidget *parent = nullptr);
+
+private:
+    void applyLook();
+};

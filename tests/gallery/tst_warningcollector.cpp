@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <QDebug>
+#include <QTest>
+
+#include <WarningCollector.h>
+
+/// WarningCollector: warnings are kept for a while, instead of being printed.
+class tst_WarningCollector : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void keepsWarningsInOrder();
+    void letsOtherMessagesPass();
+    void givesNestedWarningsToTheInnermost();
+    void restoresWhatWasThere();
+};
+
+void tst_WarningCollector::keepsWarningsInOrder()
+{
+    const WarningCollector warnings;
+    qWarning("first");
+    qWarning("second");
+    QCOMPARE(warnings.texts(), QStringList({ QStringLiteral("first"), QStringLiteral("second") }));
+}
+
+void tst_WarningCollector::letsOtherMessagesPass()
+{
+    QTest::ignoreMessage(QtDebugMsg, "passes");
+    const WarningCollector warnings;
+    qDebug("passes");
+    QCOMPARE(warnings.texts(), QStringList());
+}
+
+void tst_WarningCollector::givesNestedWarningsToTheInnermost()
+{
+    const WarningCollector outer;
+    {
+        const WarningCollector inner;
+        qWarning("inside");
+        QCOMPARE(inner.texts(), QStringList(QStringLiteral("inside")));
+    }
+    qWarning("outside");
+    QCOMPARE(outer.texts(), QStringList(QStringLiteral("outside")));
+}
+
+void tst_WarningCollector::restoresWhatWasThere()
+{
+    {
+        const WarningCollector warnings;
+    }
+    QTest::ignoreMessage(QtWarningMsg, "seen by the test");
+    qWarning("seen by the test");
+}
+
+QTEST_MAIN(tst_WarningCollector)
+#include "tst_warningcollector.moc"
