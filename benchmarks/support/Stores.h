@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/theme/OxaColorSet.h>
+
+/// Stores of colour sets as benchmarks need them.
+namespace Stores {
+
+/// Returns \a count sets "set-0", "set-1" and so on, whose states all differ. Stores of different
+/// \a shade differ in every colour.
+inline OxaColorSetMap make(int count, int shade = 0)
+{
+    OxaColorSetMap store;
+    store.reserve(std::size_t(count));
+    for (int i = 0; i < count; ++i) {
+        OxaColorSet set(QStringLiteral("set-%1").arg(i), QColor());
+        int blue = shade;
+        for (QColor *color : { &set.normal, &set.hovered, &set.pressed, &set.disabled,
+                               &set.focused, &set.checked })
+            *color = QColor(i % 256, i / 256, blue++);
+        store.emplace(set.name.toStdString(), set);
+    }
+    return store;
+}
+
+} // namespace Stores
