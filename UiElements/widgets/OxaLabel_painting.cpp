@@ -97,10 +97,13 @@ int OxaLabel::paintParagraph(QPainter &painter, const QString &paragraph, int y)
     return y;
 }
 
-/// The colour that the focus frame lies on, whose inverse it takes.
+/// The colour that the focus frame lies on, whose inverse it takes. A label without a background
+/// shows what lies behind it; a style sheet makes its palette transparent then.
 QColor OxaLabel::frameGround() const
 {
-    const QColor background = m_colorSets.background.normal;
-    return background.isValid() && background.alpha() > 0 ? background
-                                                          : palette().color(backgroundRole());
+    const auto isSeen = [](const QColor &color) { return color.isValid() && color.alpha() > 0; };
+    QColor ground = m_colorSets.background.normal;
+    for (const QWidget *widget = this; widget && !isSeen(ground); widget = widget->parentWidget())
+        ground = widget->palette().color(widget->backgroundRole());
+    return ground;
 }

@@ -1,0 +1,403 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "support/Faces.h"
+#include "support/Guards.h"
+#include "support/SvgFiles.h"
+#include "support/TestApplication.h"
+
+#include <UiElements/svg/DrawUtils.h>
+#include <UiElements/svg/OxaSvgIcon.h>
+#include <UiElements/svg/OxaSvgLabel.h>
+#include <UiElements/svg/OxaSvgPushButton.h>
+
+#include <QPainter>
+#include <QStyleOption>
+#include <QTextDocument>
+
+#include <functional>
+
+using OxaEnum::Alignment;
+using OxaEnum::HorAlign;
+
+namespace {
+
+const QRect area(10, 20, 200, 60);
+const QString longText = QStringLiteral("A text that is too long for what is left");
+const OxaColorSet iconColors = Faces::colors(QStringLiteral("icon"), 220);
+const OxaColorSet textColors = Faces::colors(QStringLiteral("text"), 130);
+
+QStyleOption optionFor(QStyle::State state = QStyle::State_Enabled)
+{
+    QStyleOption option;
+    option.rect = area;
+    option.state = state;
+    return option;
+}
+
+/// Returns what \a draw paints on white paper in the font of \a widget.
+QImage drawing(const QWidget &widget, const std::function<void(QPainter *)> &draw)
+{
+    QImage image(240, 100, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setFont(widget.font());
+    draw(&painter);
+    return image;
+}
+
+std::unique_ptr<OxaSvgIcon> makeIcon(const QString &path)
+{
+    auto icon = std::make_unique<OxaSvgIcon>(path);
+    icon->setColorSet(iconColors);
+    return icon;
+}
+
+/// Returns the rectangle of a block of \a size in the area.
+QRect placed(double x, const QSizeF &size)
+{
+    const double y = area.height() * 0.5 + area.y() - size.height() * 0.5;
+    return { QPointF(x, y).toPoint(), QSize(int(size.width()), int(size.height())) };
+}
+
+} // namespace
+
+/// The icon and text that labels and buttons paint.
+class tst_DrawUtilsIconTextPainting : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase() { m_stores.reset(); }
+
+    void placesTheBlock_data();
+    void placesTheBlock();
+    void warnsOfAnAlignmentThatItDoesNotKnow();
+    void paintsTheIconBesideTheText_data();
+    void paintsTheIconBesideTheText();
+    void countsAnInvisibleIconAsAbsent();
+    void elidesAtTheEndOfALine_data();
+    void elidesAtTheEndOfALine();
+    void keepsPaddingsFreeOfText();
+    void paintsInTheColorsOfTheState();
+    void leavesThePainterAsItWas();
+
+    void paintsARichTextOnAButton();
+    void paintsAPlainTextWithoutADocument_data();
+    void paintsAPlainTextWithoutADocument();
+    void paintsAPixmapInTheButtonsIconSize();
+    void countsANullPixmapAsAbsent();
+
+private:
+    SvgFiles m_files;
+    std::unique_ptr<StoreGuard> m_stores;
+};
+
+void tst_DrawUtilsIconTextPainting::initTestCase()
+{
+    // Labels ask for the colours of links.
+    m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf(
+            { ColorSets::make(QStringLiteral("button-hyperlink-text"), { "#0000ff" }) }));
+}
+
+void tst_DrawUtilsIconTextPainting::placesTheBlock_data()
+{
+    QTest::addColumn<HorAlign>("align");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<double>("part"); // How much of what is left lies before the block.
+    QTest::newRow("left") << HorAlign::LeftAlign << Qt::LeftToRight << 0.0;
+    QTest::newRow("centre") << HorAlign::CenterAlign << Qt::LeftToRight << 0.5;
+    QTest::newRow("right") << HorAlign::RightAlign << Qt::LeftToRight << 1.0;
+    QTest::newRow("left, right to left") << HorAlign::LeftAlign << Qt::RightToLeft << 1.0;
+    QTest::newRow("centre, right to left") << HorAlign::CenterAlign << Qt::RightToLeft << 0.5;
+    QTest::newRow("right, right to left") << HorAlign::RightAlign << Qt::RightToLeft << 0.0;
+}
+
+void tst_DrawUtilsIconTextPainting::placesTheBlock()
+{
+    QFETCH(const HorAlign, align);
+    QFETCH(const Qt::LayoutDirection, direction);
+    QFETCH(const double, part);
+    const LayoutDirectionGuard layoutDirection(direction);
+    OxaSvgLabel label(QStringLiteral("abc"));
+    label.setTextHorAlign(align);
+    OxaSvgPushButton button(QStringLiteral("abc"));
+    button.setTextHorAlign(align);
+    const QFontMetrics metrics = label.fontMetrics();
+    const QSizeF size(16 + metrics.horizontalAdvance(QStringLiteral("abc")), metrics.height());
+    const QRect expected = placed(area.x() + (area.width() - size.width()) * part, size);
+    const auto icon = makeIcon(m_files.square());
+    drawing(label, [&](QPainter *painter) {
+        QCOMPARE(DrawUtils::drawSvgIconText(painter, &label, optionFor(), icon, textColors),
+                 expected);
+        QCOMPARE(DrawUtils::drawSvgIconText(painter, &button, nullptr, optionFor(), icon,
+                                            textColors),
+                 expected);
+    });
+}
+
+void tst_DrawUtilsIconTextPainting::warnsOfAnAlignmentThatItDoesNotKnow()
+{
+    OxaSvgLabel label(QStringLiteral("abc"));
+    label.setTextHorAlign(HorAlign(3));
+    const auto icon = makeIcon(m_files.square());
+    QTest::ignoreMessage(QtWarningMsg, "Unsupported OxaEnum::HorAlign!");
+    QRect block;
+    const QImage image = drawing(label, [&](QPainter *painter) {
+        block = DrawUtils::drawSvgIconText(painter, &label, optionFor(), icon, textColors);
+    });
+    QCOMPARE(block.topLeft(), QPoint(0, 0));
+    QVERIFY(block.width() > 16);
+    QCOMPARE(Pixels::boundsNear(image, iconColors.normal).left(), 0);
+}
+
+void tst_DrawUtilsIconTextPainting::paintsTheIconBesideTheText_data()
+{
+    QTest::addColumn<Alignment>("alignment");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<bool>("isVertical");
+    QTest::addColumn<bool>("isIconFirst");
+    QTest::newRow("left") << Alignment::Left << Qt::LeftToRight << false << true;
+    QTest::newRow("right") << Alignment::Right << Qt::LeftToRight << false << false;
+    QTest::newRow("above") << Alignment::Top << Qt::LeftToRight << true << true;
+    QTest::newRow("below") << Alignment::Bottom << Qt::LeftToRight << true << false;
+    QTest::newRow("left, right to left") << Alignment::Left << Qt::RightToLeft << false << false;
+    QTest::newRow("right, right to left") << Alignment::Right << Qt::RightToLeft << false << true;
+    QTest::newRow("above, right to left") << Alignment::Top << Qt::RightToLeft << true << true;
+    QTest::newRow("below, right to left") << Alignment::Bottom << Qt::RightToLeft << true << false;
+}
+
+void tst_DrawUtilsIconTextPainting::paintsTheIconBesideTheText()
+{
+    QFETCH(const Alignment, alignment);
+    QFETCH(const Qt::LayoutDirection, direction);
+    QFETCH(const bool, isVertical);
+    QFETCH(const bool, isIconFirst);
+    const LayoutDirectionGuard layoutDirection(direction);
+    OxaSvgLabel label(QStringLiteral("abc"));
+    label.setSvgIconAlignment(alignment);
+    const auto icon = makeIcon(m_files.square());
+    QRect block;
+    const QImage image = drawing(label, [&](QPainter *painter) {
+        block = DrawUtils::drawSvgIconText(painter, &label, optionFor(), icon, textColors);
+    });
+    const QRect iconRect = Pixels::boundsNear(image, iconColors.normal);
+    const QRect textRect = Pixels::boundsNear(image, textColors.normal);
+    QVERIFY(block.contains(textRect));
+    QVERIFY(iconRect.size().width() >= 15 && iconRect.size().height() >= 15);
+    if (isVertical) {
+        QCOMPARE(isIconFirst ? iconRect.top() : iconRect.bottom(),
+                 isIconFirst ? block.top() : block.bottom());
+        QCOMPARE(iconRect.bottom() < textRect.top(), isIconFirst);
+        QCOMPARE(iconRect.top() > textRect.bottom(), !isIconFirst);
+    } else {
+        QCOMPARE(isIconFirst ? iconRect.left() : iconRect.right(),
+                 isIconFirst ? block.left() : block.right());
+        QCOMPARE(iconRect.right() < textRect.left(), isIconFirst);
+        QCOMPARE(iconRect.left() > textRect.right(), !isIconFirst);
+    }
+}
+
+void tst_DrawUtilsIconTextPainting::countsAnInvisibleIconAsAbsent()
+{
+    OxaSvgLabel label(QStringLiteral("abc"));
+    const auto icon = makeIcon(m_files.square());
+    icon->setVisible(false);
+    const std::unique_ptr<OxaSvgIcon> none;
+    QRect withIcon;
+    QRect withoutIcon;
+    const QImage image = drawing(label, [&](QPainter *painter) {
+        withIcon = DrawUtils::drawSvgIconText(painter, &label, optionFor(), icon, textColors);
+    });
+    QCOMPARE(drawing(label,
+                     [&](QPainter *painter) {
+                         withoutIcon = DrawUtils::drawSvgIconText(painter, &label, optionFor(),
+                                                                  none, textColors);
+                     }),
+             image);
+    QCOMPARE(withIcon, withoutIcon);
+    // One pixel narrower than the text alone.
+    QCOMPARE(withoutIcon.width(), label.fontMetrics().horizontalAdvance(label.text()) - 1);
+    QCOMPARE(Faces::facesIn(image, iconColors), QString());
+}
+
+void tst_DrawUtilsIconTextPainting::elidesAtTheEndOfALine_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<Qt::TextElideMode>("mode");
+    QTest::addColumn<Qt::TextElideMode>("used");
+    QTest::newRow("right") << Qt::LeftToRight << Qt::ElideRight << Qt::ElideRight;
+    QTest::newRow("left stands for right") << Qt::LeftToRight << Qt::ElideLeft << Qt::ElideRight;
+    QTest::newRow("middle") << Qt::LeftToRight << Qt::ElideMiddle << Qt::ElideMiddle;
+    QTest::newRow("none") << Qt::LeftToRight << Qt::ElideNone << Qt::ElideNone;
+    QTest::newRow("right stands for left, right to left")
+            << Qt::RightToLeft << Qt::ElideRight << Qt::ElideLeft;
+    QTest::newRow("left, right to left") << Qt::RightToLeft << Qt::ElideLeft << Qt::ElideLeft;
+    QTest::newRow("middle, right to left") << Qt::RightToLeft << Qt::ElideMiddle << Qt::ElideMiddle;
+    QTest::newRow("none, right to left") << Qt::RightToLeft << Qt::ElideNone << Qt::ElideNone;
+}
+
+void tst_DrawUtilsIconTextPainting::elidesAtTheEndOfALine()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    QFETCH(const Qt::TextElideMode, mode);
+    QFETCH(const Qt::TextElideMode, used);
+    const LayoutDirectionGuard layoutDirection(direction);
+    OxaSvgLabel label(longText);
+    label.setElideMode(mode);
+    label.setElidePadding(30);
+    label.setTextHorAlign(direction == Qt::LeftToRight ? HorAlign::LeftAlign
+                                                       : HorAlign::RightAlign);
+    label.setSvgIconAlignment(direction == Qt::LeftToRight ? Alignment::Left : Alignment::Right);
+    const std::unique_ptr<OxaSvgIcon> none;
+    const QImage image = drawing(label, [&](QPainter *painter) {
+        DrawUtils::drawSvgIconText(painter, &label, optionFor(), none, textColors);
+    });
+    const QFontMetrics metrics = label.fontMetrics();
+    const int available = area.width() - 30 + 1; // An absent icon is -1 pixels wide.
+    const QString elided = metrics.elidedText(longText, used, available);
+    QCOMPARE(elided == longText, used == Qt::ElideNone);
+    const QPoint place = placed(area.x(), QSizeF(0, metrics.height())).topLeft();
+    QCOMPARE(image, drawing(label, [&](QPainter *painter) {
+                 painter->translate(place + QPoint(-1, 0));
+                 painter->setPen(textColors.normal);
+                 painter->drawText(QRectF(0, 0, available, metrics.height()), elided,
+                                   QTextOption());
+             }));
+}
+
+void tst_DrawUtilsIconTextPainting::keepsPaddingsFreeOfText()
+{
+    OxaSvgPushButton button(longText);
+    button.setTextHorAlign(HorAlign::LeftAlign);
+    button.setTextLeftPadding(11);
+    button.setTextRightPadding(7);
+    button.setSvgIconPadding(QMargins(5, 1, 3, 2));
+    button.setElidePadding(20);
+    const auto icon = makeIcon(m_files.square());
+    QRect block;
+    const QImage image = drawing(button, [&](QPainter *painter) {
+        block = DrawUtils::drawSvgIconText(painter, &button, nullptr, optionFor(), icon,
+                                           textColors);
+    });
+    const QFontMetrics metrics = button.fontMetrics();
+    const int available = area.width() - 20 - 3 - 5 - (11 + 7) - 16;
+    const QString elided = metrics.elidedText(longText, Qt::ElideRight, available);
+    QVERIFY(elided != longText);
+    QCOMPARE(block.width(), 5 + 16 + 3 + 11 + metrics.horizontalAdvance(elided) + 7);
+    QCOMPARE(Pixels::boundsNear(image, iconColors.normal).left(), area.left() + 5);
+    const QRect textRect = Pixels::boundsNear(image, textColors.normal);
+    QVERIFY(textRect.left() >= area.left() + 5 + 16 + 3 + 11);
+    QVERIFY(textRect.right() <= area.right() - 20 - 7);
+}
+
+void tst_DrawUtilsIconTextPainting::paintsInTheColorsOfTheState()
+{
+    OxaSvgLabel label(QStringLiteral("abc"));
+    const auto icon = makeIcon(m_files.square());
+    const std::pair<QStyle::State, const char *> states[] = {
+        { QStyle::State_None, "disabled" },
+        { QStyle::State_Enabled, "normal" },
+        { QStyle::State_Enabled | QStyle::State_MouseOver, "hovered" },
+        { QStyle::State_Enabled | QStyle::State_On, "checked" },
+    };
+    for (const auto &[state, face] : states) {
+        const QStyleOption option = optionFor(state);
+        const QImage image = drawing(label, [&](QPainter *painter) {
+            DrawUtils::drawSvgIconText(painter, &label, option, icon, textColors);
+        });
+        QCOMPARE(Faces::facesIn(image, iconColors), QLatin1String(face));
+        QCOMPARE(Faces::facesIn(image, textColors), QLatin1String(face));
+    }
+}
+
+void tst_DrawUtilsIconTextPainting::leavesThePainterAsItWas()
+{
+    OxaSvgPushButton button(QStringLiteral("abc"));
+    const auto icon = makeIcon(m_files.square());
+    drawing(button, [&](QPainter *painter) {
+        painter->setPen(Qt::blue);
+        DrawUtils::drawSvgIconText(painter, &button, nullptr, optionFor(), icon, textColors);
+        QPixmap pixmap(8, 8);
+        DrawUtils::drawPixmapIconText(painter, &button, nullptr, optionFor(), pixmap, textColors);
+        QCOMPARE(painter->pen(), QPen(Qt::blue));
+        QCOMPARE(painter->transform(), QTransform());
+        QVERIFY(!painter->testRenderHint(QPainter::Antialiasing));
+    });
+}
+
+void tst_DrawUtilsIconTextPainting::paintsARichTextOnAButton()
+{
+    OxaSvgPushButton button(QStringLiteral("a<br><b>bcd</b><br>"
+                                           "<font color='#ff8000'>efg</font>"));
+    button.setTextFormat(Qt::RichText);
+    QTextDocument document;
+    document.setDocumentMargin(0.0);
+    document.setHtml(button.text());
+    const auto icon = makeIcon(m_files.square());
+    QRect block;
+    const QImage image = drawing(button, [&](QPainter *painter) {
+        block = DrawUtils::drawSvgIconText(painter, &button, &document, optionFor(), icon,
+                                           textColors);
+    });
+    const QSize size = document.size().toSize();
+    QCOMPARE(block.size(), QSize(size.width() + 16, size.height()));
+    QVERIFY(size.height() > 2 * button.fontMetrics().height());
+    QCOMPARE(Faces::facesIn(image, textColors), QStringLiteral("normal"));
+    QVERIFY(Pixels::countNear(image, QColor(0xff, 0x80, 0x00)) > 0);
+}
+
+void tst_DrawUtilsIconTextPainting::paintsAPlainTextWithoutADocument_data()
+{
+    QTest::addColumn<Qt::TextFormat>("format");
+    QTest::addColumn<bool>("hasDocument");
+    QTest::newRow("rich without a document") << Qt::RichText << false;
+    QTest::newRow("plain with a document") << Qt::PlainText << true;
+}
+
+void tst_DrawUtilsIconTextPainting::paintsAPlainTextWithoutADocument()
+{
+    QFETCH(const Qt::TextFormat, format);
+    QFETCH(const bool, hasDocument);
+    OxaSvgPushButton button(QStringLiteral("<b>a</b>"));
+    button.setTextFormat(format);
+    QTextDocument document(QStringLiteral("something else"));
+    const auto icon = makeIcon(m_files.square());
+    drawing(button, [&](QPainter *painter) {
+        const QRect block = DrawUtils::drawSvgIconText(painter, &button,
+                                                       hasDocument ? &document : nullptr,
+                                                       optionFor(), icon, textColors);
+        QCOMPARE(block.width(), 16 + button.fontMetrics().horizontalAdvance(button.text()));
+    });
+}
+
+void tst_DrawUtilsIconTextPainting::paintsAPixmapInTheButtonsIconSize()
+{
+    OxaSvgPushButton button(QStringLiteral("abc"));
+    button.setIconSize(QSize(20, 10));
+    QPixmap pixmap(4, 4);
+    pixmap.fill(QColor(0xff, 0x80, 0x00));
+    QRect block;
+    const QImage image = drawing(button, [&](QPainter *painter) {
+        block = DrawUtils::drawPixmapIconText(painter, &button, nullptr, optionFor(), pixmap,
+                                              textColors);
+    });
+    QCOMPARE(block.width(), 20 + button.fontMetrics().horizontalAdvance(QStringLiteral("abc")));
+    const QRect painted = Pixels::boundsNear(image, QColor(0xff, 0x80, 0x00));
+    QCOMPARE(painted.size(), QSize(20, 10));
+    QCOMPARE(painted.left(), block.left());
+    QCOMPARE(Faces::facesIn(image, textColors), QStringLiteral("normal"));
+}
+
+void tst_DrawUtilsIconTextPainting::countsANullPixmapAsAbsent()
+{
+    OxaSvgPushButton button(QStringLiteral("abc"));
+    button.setIconSize(QSize(20, 10));
+    drawing(button, [&](QPainter *painter) {
+        const QRect block = DrawUtils::drawPixmapIconText(painter, &button, nullptr, optionFor(),
+                                                          QPixmap(), textColors);
+        QCOMPARE(block.width(), button.fontMetrics().horizontalAdvance(QStringLiteral("abc")) - 1);
+    });
+}
+
+UIELEMENTS_TEST_MAIN(tst_DrawUtilsIconTextPainting)
+#include "tst_drawutils_icontext_painting.moc"

@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "support/SvgFiles.h"
+
+#include <UiElements/svg/DrawUtils.h>
+
+#include <QPainter>
+#include <qsvggraphics_p.h>
+#include <qsvgtinydocument_p.h>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+const QColor red(Qt::red);
+
+std::unique_ptr<QSvgTinyDocument> parse(const QByteArray &body,
+                                        const QByteArray &attributes = "viewBox='0 0 16 16'")
+{
+    return std::unique_ptr<QSvgTinyDocument>(
+            QSvgTinyDocument::load(SvgFiles::document(body, attributes)));
+}
+
+QPainterPath square(const QRectF &rect)
+{
+    QPainterPath path;
+    path.addRect(rect);
+    return path;
+}
+
+/// Returns what \a draw paints on white paper of 32 by 32.
+QImage drawing(const std::function<void(QPainter *)> &draw)
+{
+    QImage image(32, 32, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    draw(&painter);
+    return image;
+}
+
+QImage drawing(QSvgNode *node, const QRectF &rect)
+{
+    return drawing([&](QPainter *painter) {
+        QSvgExtraStates states;
+        DrawUtils::drawSVG(painter, node, states, rect, red, 1.0);
+    });
+}
+
+QImage filled(const QRect &rect, const QColor &color = red)
+{
+    return drawing([&](QPainter *painter) { painter->fillRect(rect, color); });
+}
+
+} // namespace
+
+/// The painting of a node of Qt SVG.
+class tst_DrawUtilsSvg : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void paintsADocumentsNodeByItsViewBox_data();
+    void paintsADocumentsNodeByItsViewBox();
+    void paintsANodeWithoutADocumentByItsBounds();
+    void paintsIntoAllOfTheDeviceWithoutARectangle_data();
+    void paintsIntoAllOfTheDeviceWithoutARectangle();
+    void paintsNothingThatCannotBePainted();
+    void paintsAHiddenNodeAllTheSame();
+    void strokesOnlyWhatHasAStroke();
+    void keepsThePaintersScale();
+    void setsTheOpacity();
+    void leavesThePainterAsItWas();
+    void survivesRectanglesAndBoxesWithoutASize_data();
+    void survivesRectanglesAndBoxesWithoutASize();
+
+    void rendersAPixmapOnABackground();
+    void rendersAPixmapAtItsRatio();
+    void rendersNoPixmapWithoutANode();
+};
+
+void tst_DrawUtilsSvg::paintsADocumentsNodeByItsViewBox_data()
+{
+    QTest::addColumn<QByteArray>("box");
+    QTest::addColumn<QRectF>("rect");
+    QTest::addColumn<QRect>("painted");
+    // The node is the square from (4, 4) to (8, 8).
+    QTest::newRow("as it is") << QByteArray("0 0 16 16") << QRectF(0, 0, 16, 16)
+                              << QRect(4, 4, 4, 4);
+    QTest::newRow("moved") << QByteArray("0 0 16 16") << QRectF(5, 6, 16, 16) << QRect(9, 10, 4, 4);
+    QTest::newRow("twice as large")
+            << QByteArray("0 0 16 16") << QRectF(0, 0, 32, 32) << QRect(8, 8, 8, 8);
+    QTest::newRow("at the middle of a wide rectangle")
+            << QByteArray("0 0 16 16") << QRectF(0, 0, 32, 16) << QRect(12, 4, 4, 4);
+    QTest::newRow("at the middle of a high rectangle")
+            << QByteArray("0 0 16 16") << QRectF(0, 0, 16, 32) << QRect(4, 12, 4, 4);
+    QTest::newRow("from a box elsewhere")
+            << QByteArray("4 4 8 8") << QRectF(0, 0, 16, 16) << QRect(0, 0, 8, 8);
+    QTest::newRow("from a box elsewhere, moved and scaled")
+            << QByteArray("2 4 8 4") << QRectF(0, 8, 16, 8) << QRect(4, 8, 8, 8);
+}
+
+void tst_DrawUtilsSvg::paintsADocumentsNodeByItsViewBox()
+{
+    QFETCH(const QByteArray, box);
+    QFETCH(const QRectF, rect);
+    QFETCH(const QRect, painted);
+    const auto document = parse("<path d='M4 4H8V8H4Z'/>", "viewBox='" + box + '\'');
+    QCOMPARE(drawing(document->renderers().constFirst(), rect), filled(painted));
+}
+
+void tst_DrawUtilsSvg::paintsANodeWithoutADocumentByItsBounds()
+{
+    QSvgPath node(nullptr, square(QRectF(100, 200, 8, 4)));
+    QCOMPARE(drawing(&node, QRectF(0, 0, 16, 16)), filled(QRect(0, 4, 16, 8)));
+}
+
+void tst_DrawUtilsSvg::paintsIntoAllOfTheDeviceWithoutARectangle_data()
+{
+    QTest::addColumn<QRectF>("rect");
+    QTest::newRow("without a width") << QRectF(3, 3, 0, 8);
+    QTest::newRow("without a height") << QRectF(3, 3, 8, 0);
+}
+
+void tst_DrawUtilsSvg::paintsIntoAllOfTheDeviceWithoutARectangle()
+{
+    QFETCH(const QRectF, rect);
+    const auto document = parse("<path d='M4 4H8V8H4Z'/>");
+    QCOMPARE(drawing(document->renderers().constFirst(), rect), filled(QRect(8, 8, 8, 8)));
+}
+
+void tst_DrawUtilsSvg::paintsNothingThatCannotBePainted()
+{
+    const QRectF rect(0, 0, 16, 16);
+    const QImage paper = drawing([](QPainter *) {});
+    QCOMPARE(drawing(nullptr, rect), paper);
+    const auto document = parse("<path d='M4 4H8V8H4Z' display='none'/>");
+    QCOMPARE(drawing(document->renderers().constFirst(), rect), paper);
+    const auto shown = parse("<path d='M4 4H8V8H4Z'/>");
+    QSvgExtraStates states;
+    DrawUtils::drawSVG(nullptr, shown->renderers().constFirst(), states, rect, red, 1.0);
+}
+
+void tst_DrawUtilsSvg::paintsAHiddenNodeAllTheSame()
+{
+    // Only "display" is looked at.
+    const auto document = parse("<path d='M4 4H8V8H4Z' visibility='hidden'/>");
+    QCOMPARE(drawing(document->renderers().constFirst(), QRectF(0, 0, 16, 16)),
+             filled(QRect(4, 4, 4, 4)));
+}
+
+void tst_DrawUtilsSvg::strokesOnlyWhatHasAStroke()
+{
+    const auto document = parse("<path d='M4 4H8V8H4Z' stroke='#00f' stroke-width='2'/>");
+    const QImage image = drawing(document->renderers().constFirst(), QRectF(0, 0, 16, 16));
+    QImage expected = filled(QRect(3, 3, 6, 6), Qt::blue);
+    QPainter(&expected).fillRect(5, 5, 2, 2, red);
+    QCOMPARE(image, expected);
+}
+
+void tst_DrawUtilsSvg::keepsThePaintersScale()
+{
+    const auto document = parse("<path d='M4 4H8V8H4Z'/>");
+    QCOMPARE(drawing([&](QPainter *painter) {
+                 painter->translate(2, 0);
+                 painter->scale(2, 1);
+                 QSvgExtraStates states;
+                 DrawUtils::drawSVG(painter, document->renderers().constFirst(), states,
+                                    QRectF(0, 0, 8, 8), red, 1.0);
+             }),
+             filled(QRect(6, 2, 4, 2)));
+}
+
+void tst_DrawUtilsSvg::setsTheOpacity()
+{
+    const auto document = parse("<path d='M4 4H8V8H4Z'/>");
+    const QImage image = drawing([&](QPainter *painter) {
+        // It replaces the painter's own.
+        painter->setOpacity(0.1);
+        QSvgExtraStates states;
+        DrawUtils::drawSVG(painter, document->renderers().constFirst(), states,
+                           QRectF(0, 0, 16, 16), red, 0.5);
+    });
+    QCOMPARE(image, drawing([](QPainter *painter) {
+                 painter->setOpacity(0.5);
+                 painter->fillRect(4, 4, 4, 4, red);
+             }));
+}
+
+void tst_DrawUtilsSvg::leavesThePainterAsItWas()
+{
+    const auto document = parse("<path d='M4 4H8V8H4Z'/>");
+    drawing([&](QPainter *painter) {
+        painter->setPen(Qt::blue);
+        painter->setBrush(Qt::green);
+        painter->setOpacity(0.25);
+        QSvgExtraStates states;
+        DrawUtils::drawSVG(painter, document->renderers().constFirst(), states,
+                           QRectF(0, 0, 32, 32), red, 1.0);
+        QCOMPARE(painter->pen(), QPen(Qt::blue));
+        QCOMPARE(painter->brush(), QBrush(Qt::green));
+        QCOMPARE(painter->opacity(), 0.25);
+        QCOMPARE(painter->transform(), QTransform());
+        QVERIFY(!painter->testRenderHint(QPainter::Antialiasing));
+        QVERIFY(!painter->testRenderHint(QPainter::SmoothPixmapTransform));
+    });
+}
+
+void tst_DrawUtilsSvg::survivesRectanglesAndBoxesWithoutASize_data()
+{
+    QTest::addColumn<QByteArray>("attributes");
+    QTest::addColumn<QRectF>("rect");
+    const QByteArray box = "viewBox='0 0 16 16'";
+    QTest::newRow("no rectangle") << box << QRectF();
+    QTest::newRow("a rectangle of negative size") << box << QRectF(0, 0, -16, -16);
+    QTest::newRow("no width of the box")
+            << QByteArray("viewBox='0 0 0 16'") << QRectF(0, 0, 16, 16);
+    QTest::newRow("no height of the box")
+            << QByteArray("viewBox='0 0 16 0'") << QRectF(0, 0, 16, 16);
+}
+
+void tst_DrawUtilsSvg::survivesRectanglesAndBoxesWithoutASize()
+{
+    QFETCH(const QByteArray, attributes);
+    QFETCH(const QRectF, rect);
+    const auto document = parse("<path d='M0 0H16V16H0Z'/>", attributes);
+    bool isRestored = false;
+    drawing([&](QPainter *painter) {
+        QSvgExtraStates states;
+        DrawUtils::drawSVG(painter, document->renderers().constFirst(), states, rect, red, 1.0);
+        isRestored = painter->transform().isIdentity();
+    });
+    QVERIFY(isRestored);
+}
+
+void tst_DrawUtilsSvg::rendersAPixmapOnABackground()
+{
+    const auto document = parse("<path d='M4 4H8V8H4Z'/>");
+    const QPixmap pixmap = DrawUtils::renderPixmap(document->renderers().constFirst(),
+                                                   QRectF(8, 8, 16, 16), QSize(32, 32), 1.0, red,
+                                                   Qt::white);
+    QCOMPARE(pixmap.devicePixelRatio(), 1.0);
+    QCOMPARE(pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied),
+             filled(QRect(12, 12, 4, 4)));
+}
+
+void tst_DrawUtilsSvg::rendersAPixmapAtItsRatio()
+{
+    const auto document = parse("<path d='M4 4H8V8H4Z'/>");
+    const QPixmap pixmap = DrawUtils::renderPixmap(document->renderers().constFirst(),
+                                                   QRectF(0, 0, 16, 16), QSize(32, 32), 2.0, red,
+                                                   Qt::white);
+    QCOMPARE(pixmap.size(), QSize(32, 32));
+    QCOMPARE(pixmap.devicePixelRatio(), 2.0);
+    QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(1.0);
+    QCOMPARE(image, filled(QRect(8, 8, 8, 8)));
+}
+
+void tst_DrawUtilsSvg::rendersNoPixmapWithoutANode()
+{
+    QVERIFY(DrawUtils::renderPixmap(nullptr, QRectF(0, 0, 16, 16), QSize(16, 16), 1.0, red,
+                                    Qt::white)
+                    .isNull());
+}
+
+QTEST_MAIN(tst_DrawUtilsSvg)
+#include "tst_drawutils_svg.moc"

@@ -1,0 +1,417 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "support/Faces.h"
+#include "support/Guards.h"
+#include "support/PaintCounter.h"
+#include "support/SignalLog.h"
+#include "support/SvgFiles.h"
+#include "support/TestApplication.h"
+
+#include <UiElements/svg/OxaSvgAnchorButton.h>
+#include <UiElements/svg/OxaSvgLabel.h>
+#include <UiElements/svg/OxaSvgPushButton.h>
+
+#include <QMetaProperty>
+#include <QSignalSpy>
+
+namespace {
+
+const OxaColorSet textColors = Faces::colors(QStringLiteral("text"), 130);
+const OxaColorSet iconColors = Faces::colors(QStringLiteral("icon"), 220);
+const OxaColorSet darkColors = Faces::colors(QStringLiteral("icon"), 70);
+const OxaColorSet lateColors = Faces::colors(QStringLiteral("late"), 170);
+const OxaColorSet linkColors(QStringLiteral("button-hyperlink-text"), Qt::blue);
+
+/// One class with an icon, as this test sees it.
+struct IconWidget
+{
+    const char *name;
+    const QMetaObject *metaObject;
+    std::function<std::unique_ptr<QWidget>()> make;
+    std::function<void(QWidget &, const QMargins &)> setPadding;
+    std::function<QMargins(const QWidget &)> padding;
+    std::function<void(QWidget &)> refresh;
+};
+
+template <typename Widget>
+IconWidget iconWidget()
+{
+    return {
+        Widget::staticMetaObject.className(),
+        &Widget::staticMetaObject,
+        [] { return std::make_unique<Widget>(); },
+        [](QWidget &widget, const QMargins &padding) {
+            static_cast<Widget &>(widget).setSvgIconPadding(padding);
+        },
+        [](const QWidget &widget) {
+            return static_cast<const Widget &>(widget).getSvgIconPadding();
+        },
+        [](QWidget &widget) { static_cast<Widget &>(widget).refreshSvgIconColorSet(); },
+    };
+}
+
+const std::vector<IconWidget> &iconWidgets()
+{
+    static const std::vector<IconWidget> widgets = {
+        iconWidget<OxaSvgLabel>(),
+        iconWidget<OxaSvgPushButton>(),
+        iconWidget<OxaSvgAnchorButton>(),
+    };
+    return widgets;
+}
+
+void addIconWidgets()
+{
+    QTest::addColumn<int>("row");
+    int row = 0;
+    for (const IconWidget &widget : iconWidgets())
+        QTest::newRow(widget.name) << row++;
+}
+
+void ignoreUnknownSet(const QString &name)
+{
+    QTest::ignoreMessage(QtWarningMsg,
+                         qPrintable(QStringLiteral("ColorSet name does not exist!  \"%1\"")
+                                            .arg(name)));
+}
+
+/// Returns the set whose normal colour the icon of \a widget has.
+QString paintedSet(QWidget &widget)
+{
+    widget.resize(60, 40);
+    const QImage image = Pixels::render(widget);
+    for (const OxaColorSet &set : { textColors, iconColors, lateColors }) {
+        if (Pixels::countNear(image, set.normal) > 200)
+            return set.name;
+    }
+    if (Pixels::countNear(image, darkColors.normal) > 200)
+        return QStringLiteral("dark icon");
+    return QStringLiteral("none");
+}
+
+} // namespace
+
+/// Declares `tested`, the class of the test's current row, and `widget`, one of it.
+#define FETCH_ICON_WIDGET                                                                          \
+    QFETCH(const int, row);                                                                        \
+    const IconWidget &tested = iconWidgets().at(std::size_t(row));                                 \
+    const std::unique_ptr<QWidget> widget = tested.make()
+
+/// What every widget with an icon shows and does alike: a row for each class.
+class tst_SvgIconBlock : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_stores.reset(); }
+
+    void showsTheSameProperties_data() { addIconWidgets(); }
+    void showsTheSameProperties();
+    void startsWithoutAnIcon_data() { addIconWidgets(); }
+    void startsWithoutAnIcon();
+    void makesAnIconWhenASizeOrSetIsFirst_data() { addIconWidgets(); }
+    void makesAnIconWhenASizeOrSetIsFirst();
+
+    void takesTheTextsColorsUntilItHasItsOwn_data() { addIconWidgets(); }
+    void takesTheTextsColorsUntilItHasItsOwn();
+    void tellsOfItsColors_data() { addIconWidgets(); }
+    void tellsOfItsColors();
+    void triesAnUnknownColorSetAgainAtTheNextThemeChange_data() { addIconWidgets(); }
+    void triesAnUnknownColorSetAgainAtTheNextThemeChange();
+    void followsTheTheme_data() { addIconWidgets(); }
+    void followsTheTheme();
+    void refreshesItsSetsOnCall_data() { addIconWidgets(); }
+    void refreshesItsSetsOnCall();
+    void colorsTheInnerPictureLikeTheOuterOne_data() { addIconWidgets(); }
+    void colorsTheInnerPictureLikeTheOuterOne();
+
+    void emitsNothingForTheInnerPicture_data() { addIconWidgets(); }
+    void emitsNothingForTheInnerPicture();
+    void triesAPathThatFailsTwice_data() { addIconWidgets(); }
+    void triesAPathThatFailsTwice();
+    void repaintsForAPathOnlyWhenTheEventLoopTurns_data() { addIconWidgets(); }
+    void repaintsForAPathOnlyWhenTheEventLoopTurns();
+    void repaintsForEveryOtherProperty_data() { addIconWidgets(); }
+    void repaintsForEveryOtherProperty();
+    void storesAWholePaddingWithoutRepainting_data() { addIconWidgets(); }
+    void storesAWholePaddingWithoutRepainting();
+    void repaintsForTheFramesOfItsIcon_data() { addIconWidgets(); }
+    void repaintsForTheFramesOfItsIcon();
+
+private:
+    SvgFiles m_files;
+    std::unique_ptr<StoreGuard> m_stores;
+};
+
+void tst_SvgIconBlock::init()
+{
+    m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf(
+                                                    { textColors, iconColors, linkColors }),
+                                            ColorSets::storeOf({ textColors, darkColors, lateColors,
+                                                                 linkColors }));
+}
+
+void tst_SvgIconBlock::showsTheSameProperties()
+{
+    FETCH_ICON_WIDGET;
+    const char *const properties[] = {
+        "QString svgIcon svgIconChanged",
+        "QString svgIconColorSet svgIconColorSetChanged",
+        "QSize svgIconSize svgIconSizeChanged",
+        "OxaEnum::Alignment svgIconAlignment ",
+        "OxaEnum::HorAlign textHorAlign ",
+        "int textLeftPadding ",
+        "int textRightPadding ",
+        "QPoint svgIconTopLeftPadding ",
+        "QPoint svgIconBottomRightPadding ",
+        "QString innerSvgIcon ",
+        "QString innerSvgIconColorSet ",
+        "QSize innerSvgIconSize ",
+    };
+    for (const char *expected : properties) {
+        const QByteArray name = QByteArray(expected).split(' ').at(1);
+        const QMetaProperty property = tested.metaObject->property(
+                tested.metaObject->indexOfProperty(name.constData()));
+        QVERIFY2(property.isWritable(), name.constData());
+        QCOMPARE(QByteArray(property.typeName()) + ' ' + property.name() + ' '
+                         + property.notifySignal().name(),
+                 QByteArray(expected));
+    }
+    for (const char *signature : { "svgIconChanged(QString)", "svgIconColorSetChanged(OxaColorSet)",
+                                   "svgIconSizeChanged(QSize)" })
+        QVERIFY2(tested.metaObject->indexOfSignal(signature) >= 0, signature);
+}
+
+void tst_SvgIconBlock::startsWithoutAnIcon()
+{
+    FETCH_ICON_WIDGET;
+    QCOMPARE(widget->property("svgIcon"), QVariant(QString()));
+    QCOMPARE(widget->property("svgIconColorSet"), QVariant(QString()));
+    QCOMPARE(widget->property("svgIconSize"), QVariant(QSize(-1, -1)));
+    QCOMPARE(widget->property("svgIconAlignment").value<OxaEnum::Alignment>(),
+             OxaEnum::Alignment::Left);
+    QCOMPARE(widget->property("textHorAlign").value<OxaEnum::HorAlign>(),
+             OxaEnum::HorAlign::CenterAlign);
+    QCOMPARE(widget->property("textLeftPadding"), QVariant(0));
+    QCOMPARE(widget->property("textRightPadding"), QVariant(0));
+    QCOMPARE(tested.padding(*widget), QMargins());
+    QCOMPARE(widget->property("innerSvgIcon"), QVariant(QString()));
+    QCOMPARE(widget->property("innerSvgIconColorSet"), QVariant(QString()));
+    QCOMPARE(widget->property("innerSvgIconSize"), QVariant(QSize(-1, -1)));
+}
+
+void tst_SvgIconBlock::makesAnIconWhenASizeOrSetIsFirst()
+{
+    FETCH_ICON_WIDGET;
+    widget->setProperty("svgIconSize", QSize(3, 4));
+    QCOMPARE(widget->property("svgIconSize"), QVariant(QSize(3, 4)));
+    QCOMPARE(widget->property("svgIcon"), QVariant(QString()));
+    QCOMPARE(widget->property("innerSvgIconSize"), QVariant(QSize(-1, -1)));
+
+    const std::unique_ptr<QWidget> other = tested.make();
+    other->setProperty("svgIconColorSet", iconColors.name);
+    QCOMPARE(other->property("svgIconSize"), QVariant(QSize(16, 16)));
+    other->setProperty("innerSvgIconColorSet", iconColors.name);
+    QCOMPARE(other->property("innerSvgIconSize"), QVariant(QSize(16, 16)));
+}
+
+void tst_SvgIconBlock::takesTheTextsColorsUntilItHasItsOwn()
+{
+    FETCH_ICON_WIDGET;
+    widget->setProperty("css", QByteArrayLiteral("$textColors: text;"));
+    widget->setProperty("svgIcon", m_files.square());
+    QCOMPARE(paintedSet(*widget), QStringLiteral("text"));
+    widget->setProperty("svgIconColorSet", iconColors.name);
+    QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
+    // Another file keeps the colours, and so does another style text.
+    widget->setProperty("svgIcon", m_files.square(QStringLiteral("other.svg")));
+    QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
+    widget->setProperty("css", QByteArrayLiteral("$textColors: text; $borderRadius: 1;"));
+    QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
+    // No name stands for the text's colours.
+    widget->setProperty("svgIconColorSet", QString());
+    QCOMPARE(paintedSet(*widget), QStringLiteral("text"));
+}
+
+void tst_SvgIconBlock::tellsOfItsColors()
+{
+    FETCH_ICON_WIDGET;
+    widget->setProperty("css", QByteArrayLiteral("$textColors: text;"));
+    const QSignalSpy changed(widget.get(), SIGNAL(svgIconColorSetChanged(OxaColorSet)));
+    widget->setProperty("svgIconColorSet", iconColors.name);
+    ignoreUnknownSet(QStringLiteral("late"));
+    widget->setProperty("svgIconColorSet", lateColors.name);
+    QCOMPARE(changed.size(), 2);
+    QCOMPARE(changed.at(0).at(0).value<OxaColorSet>(), iconColors);
+    QCOMPARE(changed.at(1).at(0).value<OxaColorSet>(), textColors);
+}
+
+void tst_SvgIconBlock::triesAnUnknownColorSetAgainAtTheNextThemeChange()
+{
+    FETCH_ICON_WIDGET;
+    widget->setProperty("css", QByteArrayLiteral("$textColors: text;"));
+    widget->setProperty("svgIcon", m_files.square());
+    ignoreUnknownSet(QStringLiteral("late"));
+    widget->setProperty("svgIconColorSet", lateColors.name);
+    QCOMPARE(widget->property("svgIconColorSet"), QVariant(QStringLiteral("late")));
+    QCOMPARE(paintedSet(*widget), QStringLiteral("text"));
+    widget->setProperty("themeType", QStringLiteral("inverted"));
+    QCOMPARE(paintedSet(*widget), QStringLiteral("late"));
+}
+
+void tst_SvgIconBlock::followsTheTheme()
+{
+    FETCH_ICON_WIDGET;
+    widget->setProperty("svgIcon", m_files.square());
+    widget->setProperty("svgIconColorSet", iconColors.name);
+    const QSignalSpy changed(widget.get(), SIGNAL(svgIconColorSetChanged(OxaColorSet)));
+    widget->setProperty("themeType", QStringLiteral("inverted"));
+    QCOMPARE(paintedSet(*widget), QStringLiteral("dark icon"));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.at(0).at(0).value<OxaColorSet>(), darkColors);
+    widget->setProperty("themeType", QStringLiteral("global"));
+    QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
+}
+
+void tst_SvgIconBlock::refreshesItsSetsOnCall()
+{
+    FETCH_ICON_WIDGET;
+    widget->setProperty("svgIcon", m_files.square());
+    const QSignalSpy changed(widget.get(), SIGNAL(svgIconColorSetChanged(OxaColorSet)));
+    tested.refresh(*widget); // Without a name nothing is looked up.
+    QCOMPARE(changed.size(), 0);
+    widget->setProperty("svgIconColorSet", iconColors.name);
+    OxaThemeUtils::setAppOxaColorSets(ColorSets::storeOf({ darkColors }));
+    QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
+    tested.refresh(*widget);
+    QCOMPARE(paintedSet(*widget), QStringLiteral("dark icon"));
+    QCOMPARE(changed.size(), 2);
+}
+
+void tst_SvgIconBlock::colorsTheInnerPictureLikeTheOuterOne()
+{
+    FETCH_ICON_WIDGET;
+    widget->setProperty("css", QByteArrayLiteral("$textColors: text;"));
+    widget->setProperty("svgIconSize", QSize(20, 20));
+    widget->setProperty("innerSvgIcon", m_files.square());
+    QCOMPARE(paintedSet(*widget), QStringLiteral("text"));
+    widget->setProperty("innerSvgIconColorSet", iconColors.name);
+    QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
+    ignoreUnknownSet(QStringLiteral("late"));
+    widget->setProperty("innerSvgIconColorSet", lateColors.name);
+    QCOMPARE(widget->property("innerSvgIconColorSet"), QVariant(QStringLiteral("late")));
+    QCOMPARE(paintedSet(*widget), QStringLiteral("text"));
+    widget->setProperty("themeType", QStringLiteral("inverted"));
+    QCOMPARE(paintedSet(*widget), QStringLiteral("late"));
+}
+
+void tst_SvgIconBlock::emitsNothingForTheInnerPicture()
+{
+    FETCH_ICON_WIDGET;
+    const QSignalSpy icon(widget.get(), SIGNAL(svgIconChanged(QString)));
+    const QSignalSpy colors(widget.get(), SIGNAL(svgIconColorSetChanged(OxaColorSet)));
+    const QSignalSpy size(widget.get(), SIGNAL(svgIconSizeChanged(QSize)));
+    const QString path = m_files.square();
+    widget->setProperty("innerSvgIcon", path);
+    widget->setProperty("innerSvgIconSize", QSize(3, 4));
+    widget->setProperty("innerSvgIconColorSet", iconColors.name);
+    QCOMPARE(widget->property("innerSvgIcon"), QVariant(path));
+    QCOMPARE(widget->property("innerSvgIconSize"), QVariant(QSize(3, 4)));
+    QCOMPARE(icon.size() + colors.size() + size.size(), 0);
+
+    widget->setProperty("svgIcon", path);
+    widget->setProperty("svgIconSize", QSize(5, 6));
+    QCOMPARE(icon.size(), 1);
+    QCOMPARE(icon.at(0).at(0), QVariant(path));
+    QCOMPARE(size.size(), 1);
+    QCOMPARE(size.at(0).at(0), QVariant(QSize(5, 6)));
+}
+
+void tst_SvgIconBlock::triesAPathThatFailsTwice()
+{
+    FETCH_ICON_WIDGET;
+    const QString missing = m_files.path(QStringLiteral("missing.svg"));
+    SvgFiles::ignoreMissing(missing);
+    widget->setProperty("svgIcon", missing);
+    QCOMPARE(widget->property("svgIcon"), QVariant(missing));
+    SvgFiles::ignoreMissing(missing);
+    QCoreApplication::processEvents();
+
+    // A file that came in between is there.
+    const QString late = m_files.path(QStringLiteral("%1.svg").arg(QLatin1String(tested.name)));
+    SvgFiles::ignoreMissing(late);
+    widget->setProperty("svgIcon", late);
+    m_files.square(QFileInfo(late).fileName());
+    widget->setProperty("svgIconColorSet", iconColors.name);
+    QCOMPARE(paintedSet(*widget), QStringLiteral("none"));
+    QCoreApplication::processEvents();
+    QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
+}
+
+void tst_SvgIconBlock::repaintsForAPathOnlyWhenTheEventLoopTurns()
+{
+    FETCH_ICON_WIDGET;
+    PaintCounter paints(*widget);
+    widget->setProperty("svgIcon", m_files.square());
+    // An update that the setter asked for would come now.
+    QCoreApplication::sendPostedEvents(widget->window(), QEvent::UpdateRequest);
+    QCOMPARE(paints.count(), 0);
+    QCOMPARE(paints.take(), 1);
+    QCOMPARE(paints.take(), 0);
+}
+
+void tst_SvgIconBlock::repaintsForEveryOtherProperty()
+{
+    FETCH_ICON_WIDGET;
+    widget->setProperty("svgIcon", m_files.square());
+    PaintCounter paints(*widget);
+    const std::pair<const char *, QVariant> values[] = {
+        { "svgIconColorSet", iconColors.name },
+        { "svgIconSize", QSize(3, 4) },
+        { "svgIconAlignment", QVariant::fromValue(OxaEnum::Alignment::Top) },
+        { "textHorAlign", QVariant::fromValue(OxaEnum::HorAlign::RightAlign) },
+        { "textLeftPadding", 1 },
+        { "textRightPadding", 2 },
+        { "svgIconTopLeftPadding", QPoint(3, 4) },
+        { "svgIconBottomRightPadding", QPoint(5, 6) },
+        { "innerSvgIconColorSet", iconColors.name },
+        { "innerSvgIconSize", QSize(3, 4) },
+    };
+    for (const auto &[name, value] : values) {
+        QVERIFY2(widget->setProperty(name, value), name);
+        QCOMPARE(widget->property(name), value);
+        QVERIFY2(paints.take() == 1, name);
+    }
+    QCOMPARE(tested.padding(*widget), QMargins(3, 4, 5, 6));
+    widget->setProperty("innerSvgIcon", m_files.square());
+    QCOMPARE(paints.take(), 0);
+}
+
+void tst_SvgIconBlock::storesAWholePaddingWithoutRepainting()
+{
+    FETCH_ICON_WIDGET;
+    PaintCounter paints(*widget);
+    tested.setPadding(*widget, QMargins(1, 2, 3, 4));
+    QCOMPARE(paints.take(), 0);
+    QCOMPARE(widget->property("svgIconTopLeftPadding"), QVariant(QPoint(1, 2)));
+    QCOMPARE(widget->property("svgIconBottomRightPadding"), QVariant(QPoint(3, 4)));
+}
+
+void tst_SvgIconBlock::repaintsForTheFramesOfItsIcon()
+{
+    FETCH_ICON_WIDGET;
+    const QByteArray turning = "<rect width='9' height='9'><animateTransform "
+                               "attributeName='transform' type='rotate' from='0' to='90' dur='1s' "
+                               "repeatCount='indefinite'/></rect>";
+    widget->setProperty("svgIcon",
+                        m_files.write(QStringLiteral("animated.svg"),
+                                      SvgFiles::document(turning + turning)));
+    PaintCounter paints(*widget);
+    QTRY_VERIFY(paints.count() > 0);
+    widget->hide();
+    paints.take();
+    QCOMPARE(paints.take(), 0);
+}
+
+UIELEMENTS_TEST_MAIN(tst_SvgIconBlock)
+#include "tst_svgiconblock.moc"

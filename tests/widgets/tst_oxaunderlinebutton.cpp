@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "support/Faces.h"
+#include "support/Guards.h"
+#include "support/PaintCounter.h"
+#include "support/SvgFiles.h"
+#include "support/TestApplication.h"
+
+#include <UiElements/widgets/OxaUnderlineButton.h>
+
+#include <QMetaProperty>
+
+namespace {
+
+const OxaColorSet ground = Faces::colors(QStringLiteral("oxa-underlineButton-background"), 220);
+const OxaColorSet text = Faces::colors(QStringLiteral("oxa-underlineButton-text"), 130);
+const OxaColorSet tabs = Faces::colors(QStringLiteral("oxa-spaceTabs-text"), 75);
+const OxaColorSet line = Faces::colors(QStringLiteral("line"), 175);
+const QColor orange(255, 128, 0);
+const QColor black(Qt::black);
+
+/// Returns the colour of the underline of \a button, which has no text.
+QColor underlineOf(OxaUnderlineButton &button)
+{
+    button.resize(100, 40);
+    button.setCheckable(true);
+    button.setChecked(true);
+    return Pixels::render(button).pixelColor(50, 39);
+}
+
+} // namespace
+
+/// The properties of OxaUnderlineButton, and where its underline takes its colour from.
+class tst_OxaUnderlineButton : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { m_stores.reset(); }
+
+    void startsWithNamedColors();
+    void showsItsProperties();
+    void storesWhatItIsGiven();
+    void keepsTheAnchorsPath();
+    void repaintsForItsProperties();
+    void doesNotRepaintForColors();
+
+    void underlinesInBlackAtFirst();
+    void underlinesInTheLastSetThatWasGiven();
+    void underlinesInTheUnderlinesColorAfterAThemeChange();
+    void keepsThePenWhenTheBorderWidthChanges();
+    void looksItsColorsUpInItsTheme();
+    void leavesSetsThatTheThemeLacksAlone();
+
+private:
+    SvgFiles m_files;
+    std::unique_ptr<StoreGuard> m_stores;
+};
+
+void tst_OxaUnderlineButton::init()
+{
+    const auto recolored = [](const OxaColorSet &set) { return OxaColorSet(set.name, orange); };
+    m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf({ ground, text, tabs, line }),
+                                            ColorSets::storeOf(
+                                                    { recolored(ground), recolored(text),
+                                                      recolored(tabs),
+                                                      OxaColorSet(line.name,
+                                                                  QColor(0, 128, 255)) }));
+}
+
+void tst_OxaUnderlineButton::startsWithNamedColors()
+{
+    QWidget parent;
+    const auto *button = new OxaUnderlineButton(&parent);
+    QCOMPARE(button->parent(), &parent);
+    QCOMPARE(button->getAccessibleRole(), QAccessible::PushButton);
+    QCOMPARE(button->getBorderWidth(), 2);
+    QCOMPARE(button->getBottomPadding(), 2);
+    QVERIFY(!button->getShowUnreadIndicator());
+    QVERIFY(button->getLeftIcon().isNull());
+    QCOMPARE(button->getAnchorIcon(), QString());
+    QCOMPARE(button->property("focusBorderRadius"), QVariant(14));
+    QVERIFY(!button->isCheckable());
+}
+
+void tst_OxaUnderlineButton::showsItsProperties()
+{
+    const QMetaObject &type = OxaUnderlineButton::staticMetaObject;
+    QStringList properties;
+    for (int i = type.propertyOffset(); i < type.propertyCount(); ++i) {
+        QVERIFY(type.property(i).isWritable());
+        properties += QLatin1String(type.property(i).typeName()) + QLatin1Char(' ')
+                + QLatin1String(type.property(i).name());
+    }
+    QCOMPARE(properties.join(QLatin1String(", ")),
+             QStringLiteral("int borderWidth, int bottomPadding, bool showUnreadIndicator, "
+                            "QImage leftIcon, QString anchorIcon"));
+}
+
+void tst_OxaUnderlineButton::storesWhatItIsGiven()
+{
+    QImage image(4, 4, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    OxaUnderlineButton button;
+    const std::pair<const char *, QVariant> values[] = {
+        { "borderWidth", 5 },
+        { "bottomPadding", 6 },
+        { "showUnreadIndicator", true },
+        { "leftIcon", image },
+        { "anchorIcon", m_files.square() },
+    };
+    for (const auto &[name, value] : values) {
+        QVERIFY2(button.setProperty(name, value), name);
+        QCOMPARE(button.property(name), value);
+    }
+}
+
+void tst_OxaUnderlineButton::keepsTheAnchorsPath()
+{
+    const QString missing = m_files.path(QStringLiteral("missing.svg"));
+    OxaUnderlineButton button;
+    SvgFiles::ignoreMissing(missing);
+    button.setAnchorIcon(missing);
+    QCOMPARE(button.getAnchorIcon(), missing);
+    button.setAnchorIcon(QString());
+    QCOMPARE(button.getAnchorIcon(), QString());
+}
+
+void tst_OxaUnderlineButton::repaintsForItsProperties()
+{
+    OxaUnderlineButton button;
+    PaintCounter paints(button);
+    button.setAnchorIcon(m_files.square());
+    QCOMPARE(paints.take(), 1);
+}
+
+void tst_OxaUnderlineButton::doesNotRepaintForColors()
+{
+    OxaUnderlineButton button;
+    PaintCounter paints(button);
+    button.setBackgroundColorSet(line.name);
+    button.setTextColorSet(line.name);
+    button.setUnderlineColorSet(line.name);
+    button.setBorderWidth(5);
+    QCOMPARE(paints.take(), 0);
+}
+
+void tst_OxaUnderlineButton::underlinesInBlackAtFirst()
+{
+    OxaUnderlineButton button;
+    QCOMPARE(underlineOf(button), black);
+}
+
+void tst_OxaUnderlineButton::underlinesInTheLastSetThatWasGiven()
+{
+    OxaUnderlineButton button;
+    button.setTextColorSet(line.name);
+    QCOMPARE(underlineOf(button), line.pressed);
+    button.setUnderlineColorSet(line.name);
+    QCOMPARE(underlineOf(button), line.normal);
+    button.setTextColorSet(text.name);
+    QCOMPARE(underlineOf(button), text.pressed);
+    button.setBackgroundColorSet(line.name);
+    QCOMPARE(underlineOf(button), text.pressed);
+}
+
+void tst_OxaUnderlineButton::underlinesInTheUnderlinesColorAfterAThemeChange()
+{
+    OxaUnderlineButton button;
+    button.setUnderlineColorSet(line.name);
+    button.setTextColorSet(text.name);
+    QCOMPARE(underlineOf(button), text.pressed);
+    button.setThemeType(QStringLiteral("global"));
+    QCOMPARE(underlineOf(button), line.normal);
+    button.setThemeType(QStringLiteral("inverted"));
+    QCOMPARE(underlineOf(button), QColor(0, 128, 255));
+}
+
+void tst_OxaUnderlineButton::keepsThePenWhenTheBorderWidthChanges()
+{
+    // At 2, half of the line lies below the button's last row of pixels.
+    const auto height = [](OxaUnderlineButton &button) {
+        underlineOf(button);
+        return Pixels::boundsNear(Pixels::render(button), line.normal, 100).height();
+    };
+    OxaUnderlineButton button;
+    button.setUnderlineColorSet(line.name);
+    const int before = height(button);
+    button.setBorderWidth(10);
+    QCOMPARE(height(button), before);
+    button.setUnderlineColorSet(line.name);
+    QCOMPARE(height(button), before + 4);
+}
+
+void tst_OxaUnderlineButton::looksItsColorsUpInItsTheme()
+{
+    OxaUnderlineButton button;
+    button.resize(100, 40);
+    button.setText(QStringLiteral("abc"));
+    button.setAnchorIcon(m_files.square());
+    QCOMPARE(Faces::facesIn(Pixels::render(button), text), QStringLiteral("normal"));
+    QCOMPARE(Pixels::countNear(Pixels::render(button), tabs.normal), 64);
+    button.setThemeType(QStringLiteral("inverted"));
+    QVERIFY(Pixels::countNear(Pixels::render(button), orange) > 64);
+    QCOMPARE(Faces::facesIn(Pixels::render(button), text), QString());
+    QCOMPARE(Faces::facesIn(Pixels::render(button), tabs), QString());
+    Faces::hover(button);
+    QVERIFY(Pixels::countNear(Pixels::render(button), orange) > 3000);
+}
+
+void tst_OxaUnderlineButton::leavesSetsThatTheThemeLacksAlone()
+{
+    const StoreGuard empty({});
+    const QString warning = QStringLiteral("ColorSet name does not exist!  \"%1\"");
+    for (const OxaColorSet &set : { ground, text })
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(warning.arg(set.name)));
+    OxaUnderlineButton button;
+    button.setThemeType(QStringLiteral("dark")); // Nothing is looked up.
+    QCOMPARE(underlineOf(button), black);
+}
+
+UIELEMENTS_TEST_MAIN(tst_OxaUnderlineButton)
+#include "tst_oxaunderlinebutton.moc"
