@@ -14,8 +14,8 @@
 ///
 /// Both take turns in each round, ours first in one round and last in the next, so that a machine
 /// that slows down slows both. Times are the thread's CPU time in nanoseconds. What is reported are
-/// medians over the rounds, so that one disturbed round changes nothing; the last call says of what,
-/// and what must hold of it.
+/// medians over the rounds, so that one disturbed round changes nothing; the last call says of
+/// what, and what must hold of it.
 class Comparison
 {
 public:

@@ -6,8 +6,8 @@
 /// Stores of colour sets as benchmarks need them.
 namespace Stores {
 
-/// Returns \a count sets "set-0", "set-1" and so on, whose states all differ. Stores of different
-/// \a shade differ in every colour.
+/// Returns \a count sets "set-0", "set-1" and so on, whose states all differ, and the one that
+/// labels ask for by themselves. Stores of different \a shade differ in every colour.
 inline OxaColorSetMap make(int count, int shade = 0)
 {
     OxaColorSetMap store;
@@ -15,11 +15,13 @@ inline OxaColorSetMap make(int count, int shade = 0)
     for (int i = 0; i < count; ++i) {
         OxaColorSet set(QStringLiteral("set-%1").arg(i), QColor());
         int blue = shade;
-        for (QColor *color : { &set.normal, &set.hovered, &set.pressed, &set.disabled,
-                               &set.focused, &set.checked })
+        for (QColor *color :
+             { &set.normal, &set.hovered, &set.pressed, &set.disabled, &set.focused, &set.checked })
             *color = QColor(i % 256, i / 256, blue++);
         store.emplace(set.name.toStdString(), set);
     }
+    const QString linkColors = QStringLiteral("button-hyperlink-text");
+    store.emplace(linkColors.toStdString(), OxaColorSet(linkColors, QColor(0, 0, shade)));
     return store;
 }
 

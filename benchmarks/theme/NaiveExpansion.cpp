@@ -32,7 +32,8 @@ void substituteReferences(QString &text, const OxaColorSetMap &colorSets)
     const QRegularExpression reference(QStringLiteral("\\$\\((.*?)\\)"));
     QRegularExpressionMatch match = reference.match(text);
     while (match.hasMatch()) {
-        const QStringList parts = match.captured(1).split(QRegularExpression(QStringLiteral("\\.")));
+        const QStringList parts = match.captured(1).split(
+                QRegularExpression(QStringLiteral("\\.")));
         const OxaColorSet set = colorSets.at(parts.first().toStdString());
         const QColor color = parts.size() > 1 ? set.colorForState(parts.last()) : set.normal;
         text.replace(match.capturedStart(), match.capturedLength(), color.name(QColor::HexArgb));
@@ -88,10 +89,9 @@ void expandBorder(QString &text, const QString &selector, OxaCSSData &data)
     data.borderRadius = quint8(take(text, QStringLiteral("borderRadius"), &position).toInt());
 
     QString border = QStringLiteral("%selector%{border-style:solid;");
-    for (const auto &[isOn, side] : { std::pair(data.borderTop, "top"),
-                                      std::pair(data.borderRight, "right"),
-                                      std::pair(data.borderBottom, "bottom"),
-                                      std::pair(data.borderLeft, "left") }) {
+    for (const auto &[isOn, side] :
+         { std::pair(data.borderTop, "top"), std::pair(data.borderRight, "right"),
+           std::pair(data.borderBottom, "bottom"), std::pair(data.borderLeft, "left") }) {
         if (isOn)
             border += filled(QStringLiteral("border-%side%-width:%width%px;"),
                              QStringLiteral("side"), QLatin1String(side));
@@ -113,9 +113,9 @@ OxaThemeUtils::CSSParserResult NaiveExpansion::parseCSS(const QString &selector,
     QString &text = result.expandedStyleSheet;
     text = styleText;
     substituteReferences(text, colorSets);
-    result.backgroundColorSet =
-            expandColors(text, QStringLiteral("backgroundColors"),
-                         QStringLiteral("background-color"), selector, colorSets);
+    result.backgroundColorSet = expandColors(text, QStringLiteral("backgroundColors"),
+                                             QStringLiteral("background-color"), selector,
+                                             colorSets);
     result.borderColorSet = expandColors(text, QStringLiteral("borderColors"),
                                          QStringLiteral("border-color"), selector, colorSets);
     result.textColorSet = expandColors(text, QStringLiteral("textColors"), QStringLiteral("color"),

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: Apache-2.0
+// Shows a window of 20 themed widgets and ends at its first paint.
+#include "FirstPaint.h"
+#include "support/Stores.h"
+
+#include <UiElements/app/OxaApplication.h>
+#include <UiElements/theme/OxaThemeUtils.h>
+#include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaWidget.h>
+
+#include <QVBoxLayout>
+
+namespace {
+
+class Application final : public OxaApplication
+{
+public:
+    using OxaApplication::OxaApplication;
+
+    void onQmlEngineCreated(OxaQmlEngine *) override { }
+    void restart() override { }
+    void registerMainWindowShortcuts(OxaMainWindow *) override { }
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const Application application(argc, argv);
+    OxaThemeUtils::setAppOxaColorSets(Stores::make(10));
+    OxaWidget window;
+    const FirstPaint firstPaint(&window);
+    auto *layout = new QVBoxLayout(&window);
+    for (int i = 0; i < 10; ++i) {
+        auto *ground = new OxaWidget(&window);
+        ground->setObjectName(QStringLiteral("ground"));
+        ground->setCSS(QStringLiteral("$backgroundColors: set-1; $borderRadius: 4;"));
+        auto *label = new OxaLabel(QStringLiteral("Ready to join"), ground);
+        label->setObjectName(QStringLiteral("label"));
+        label->setCSS(QStringLiteral("$textColors: set-2;"));
+        (new QVBoxLayout(ground))->addWidget(label);
+        layout->addWidget(ground);
+    }
+    window.show();
+    return QCoreApplication::exec();
+}
