@@ -12,6 +12,8 @@
 #include <QPainter>
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace {
 
 using Appearance = ThemeSwitcher::Appearance;
@@ -76,6 +78,22 @@ bool takePages(GalleryWindow &window, const QDir &folder, const QString &look, Q
     return true;
 }
 
+/// Writes the pictures of all pages in one direction, in all appearances.
+bool takeAppearances(GalleryWindow &window, const QDir &folder, const DirectionName &direction,
+                     QString &problem)
+{
+    const GalleryApplication *application = GalleryApplication::get();
+    application->textSettings()->setDirection(direction.direction);
+    for (const auto &[appearance, name] : appearances) {
+        application->themeSwitcher()->setAppearance(appearance);
+        const QString look = QStringLiteral("%1-%2").arg(QLatin1String(name),
+                                                         QLatin1String(direction.name));
+        if (!takePages(window, folder, look, problem))
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 bool Screenshots::takeAll(const QString &folder, QString &problem)
@@ -87,19 +105,11 @@ bool Screenshots::takeAll(const QString &folder, QString &problem)
         return false;
     }
 
-    const GalleryApplication *application = GalleryApplication::get();
     GalleryWindow window;
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.show();
-    for (const auto &[direction, directionName] : directions) {
-        application->textSettings()->setDirection(direction);
-        for (const auto &[appearance, appearanceName] : appearances) {
-            application->themeSwitcher()->setAppearance(appearance);
-            const QString look = QStringLiteral("%1-%2").arg(QLatin1String(appearanceName),
-                                                             QLatin1String(directionName));
-            if (!takePages(window, directory, look, problem))
-                return false;
-        }
-    }
-    return true;
+    return std::all_of(std::begin(directions), std::end(directions),
+                       [&window, &directory, &problem](const DirectionName &direction) {
+                           return takeAppearances(window, directory, direction, problem);
+                       });
 }

@@ -6,5 +6,5 @@ int main(int argc, char **argv)
 {
     GalleryOptions::preparePlatform(argc, argv);
     GalleryApplication application(argc, argv);
-    return application.run(GalleryOptions::parse(application.arguments()));
+    return application.run(GalleryOptions::parse(GalleryApplication::arguments()));
 }

@@ -254,9 +254,9 @@ void tst_ListsPage::showsAsManyAvatarsAsThereIsRoomFor()
     const OxaLabel *more = labels.front();
     QTEST(more->text(), "more");
     QCOMPARE(more->isVisible(), hidden > 0);
-    const auto shown = std::count_if(labels.begin(), labels.end(),
-                                     [](const OxaLabel *label) { return label->isVisible(); });
-    QCOMPARE(int(shown), 8 - hidden + (hidden > 0 ? 1 : 0));
+    const auto visible = std::count_if(labels.begin(), labels.end(),
+                                       [](const OxaLabel *label) { return label->isVisible(); });
+    QCOMPARE(int(visible), 8 - hidden + (hidden > 0 ? 1 : 0));
 }
 
 GALLERY_TEST_MAIN(tst_ListsPage)

@@ -65,6 +65,7 @@ class tst_BaseListModelReplace : public QObject
 private Q_SLOTS:
     void replaces_data();
     void replaces();
+    void replacesAlsoWhereOnlyTheIdDiffers();
     void replacesAlsoWhereOnlyTheRolesDiffer();
     void comparesRolesInWhateverOrder();
     void comparesValuesAsQVariantDoes_data();
@@ -126,6 +127,17 @@ void tst_BaseListModelReplace::replaces()
         const bool isThere = given.contains(old, Qt::CaseInsensitive);
         QCOMPARE(model.hasRow(std::string(1, old.toLatin1())), isThere);
     }
+}
+
+void tst_BaseListModelReplace::replacesAlsoWhereOnlyTheIdDiffers()
+{
+    LetterListModel model;
+    model.replace({ { "a", { { 257, 1 } } }, { "b", { { 257, 1 } } } });
+    ModelLog log(model);
+    model.replace({ { "a", { { 257, 1 } } }, { "c", { { 257, 1 } } } });
+    QCOMPARE(log.take(), QStringLiteral("chg 1,1"));
+    QCOMPARE(model.getRowIndex("c"), 1);
+    QVERIFY(!model.hasRow("b"));
 }
 
 void tst_BaseListModelReplace::replacesAlsoWhereOnlyTheRolesDiffer()

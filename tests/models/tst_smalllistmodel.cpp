@@ -276,7 +276,7 @@ void tst_SmallListModel::doesWhatAPlainListDoes()
             given += QLatin1Char(char('a' + randomFrom(generator, 0, 4)));
         const QString before = letters + QLatin1Char('/') + given;
         QStringList emitted;
-        switch (randomFrom(generator, 0, letters.size() > 30 ? 40 : 9)) {
+        switch (randomFrom(generator, 0, letters.size() > 12 ? 40 : 9)) {
         case 0:
             model.replace(rowsOf(given));
             letters = given;

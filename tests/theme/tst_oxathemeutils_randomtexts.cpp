@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleTexts.h"
 #include "support/NaiveStyleText.h"
+#include "support/RandomSeed.h"
 
-#include <QDebug>
 #include <QTest>
-
-#include <random>
 
 namespace {
 
@@ -15,17 +13,17 @@ constexpr unsigned seed = 20240517;
 class Random
 {
 public:
-    Random() : m_engine(seed) { qInfo("The seed is %u.", seed); }
+    Random() : m_generator(seed) { qInfo("The seed is %u.", seed); }
 
-    /// Returns a number from 0 to \a count - 1. The standard's distributions differ by library.
-    int below(int count) { return int(m_engine() % unsigned(count)); }
+    /// Returns a number from 0 to \a count - 1.
+    int below(int count) { return randomFrom(m_generator, 0, count - 1); }
 
     bool oneIn(int count) { return below(count) == 0; }
 
     QString pick(const QStringList &from) { return from.at(below(from.size())); }
 
 private:
-    std::mt19937 m_engine;
+    std::mt19937 m_generator;
 };
 
 /// Takes what is logged as long as it lives, instead of letting it fail the test.

@@ -11,13 +11,6 @@ using OxaThemeUtils::AppThemeType;
 
 namespace {
 
-OxaColorSetMap storeWith(const char *color)
-{
-    return ColorSets::storeOf(
-            { ColorSets::make(QStringLiteral("panel"), { color }),
-              ColorSets::make(QStringLiteral("button-hyperlink-text"), { color }) });
-}
-
 QString storedType(const QObject &object) { return object.property("themeType").toString(); }
 
 /// A widget that counts how often it is told to fetch its colours.

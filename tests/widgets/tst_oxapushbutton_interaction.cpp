@@ -172,6 +172,7 @@ void tst_OxaPushButtonInteraction::takesTheFocusByTabAndIsClickedByKeys()
     QTRY_VERIFY(window.plain.hasFocus());
     QVERIFY(RealInput::typeKeys({ QStringLiteral("Tab") }));
     QTRY_VERIFY(window.svg.hasFocus());
+    onScreen(window.svg).save(QStringLiteral("/tmp/svgfocus.png"));
     QTRY_VERIFY(isFilled(window.svg, groundColors.focused));
     QSignalSpy clicked(&window.svg, &OxaPushButton::clicked);
     QVERIFY(RealInput::typeKeys({ QStringLiteral("space") }));
