@@ -152,10 +152,9 @@ void OxaSvgAnchorButton::onThemeChanged()
         setAnchorSvgColorSet(m_anchorColorSetName);
 }
 
-void OxaSvgAnchorButton::paintEvent(QPaintEvent *event)
+void OxaSvgAnchorButton::paintEvent(QPaintEvent *)
 {
-    OxaPushButton::paintEvent(
-            event); // NOLINT(bugprone-parent-virtual-call): the block is this one's
+    paintButton();
     QPainter painter(this);
     QStyleOptionButton option;
     QPushButton::initStyleOption(&option);

@@ -52,12 +52,7 @@ void OxaSvgPushButton::setSvgIconChecked(const QString &path)
     if (!m_checkedIcon)
         m_checkedIcon = std::make_unique<OxaSvgIcon>();
     m_checkedIcon->setFilePath(path);
-    if (const auto &plain = m_iconBlock.icon()) {
-        m_checkedIcon->setColorSet(plain->getColorSet());
-        m_checkedIcon->setIconSize(plain->getIconSize());
-    } else if (!m_checkedIcon->getColorSet().isValid()) {
-        m_checkedIcon->setColorSet(textColors());
-    }
+    matchPlainIcon(*m_checkedIcon);
     Q_EMIT svgIconCheckedChanged(path);
 }
 
@@ -192,4 +187,16 @@ void OxaSvgPushButton::onSvgIconSizeChanged(const QSize &size)
 {
     if (m_checkedIcon)
         m_checkedIcon->setIconSize(size);
+}
+
+/// Gives \a icon the look of the plain icon, or the text's colours where there is none.
+void OxaSvgPushButton::matchPlainIcon(OxaSvgIcon &icon) const
+{
+    if (const auto &plain = m_iconBlock.icon()) {
+        icon.setColorSet(plain->getColorSet());
+        icon.setIconSize(plain->getIconSize());
+        return;
+    }
+    if (!icon.getColorSet().isValid())
+        icon.setColorSet(textColors());
 }

@@ -89,6 +89,8 @@ private Q_SLOTS:
     void onSvgIconSizeChanged(const QSize &size);
 
 private:
+    void matchPlainIcon(OxaSvgIcon &icon) const;
+
     std::unique_ptr<OxaSvgIcon> m_checkedIcon;
     QPointer<QTextDocument> m_textDocument;
     Qt::TextFormat m_textFormat = Qt::PlainText;

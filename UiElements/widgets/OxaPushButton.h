@@ -148,6 +148,10 @@ protected:
     /// Fills \a option with what the style draws of the button.
     virtual void initButtonStyleOption(QStyleOptionButton *option) const;
 
+    /// Paints what a plain button shows: the pixmap, the style's button, the focus frame, the
+    /// badge.
+    void paintButton();
+
     /// Ends a long press.
     void onButtonDownTimeout();
 

@@ -20,7 +20,9 @@ void OxaPushButton::initButtonStyleOption(QStyleOptionButton *option) const
     option->text = getElidedText(option->text, 0, 0);
 }
 
-void OxaPushButton::paintEvent(QPaintEvent *)
+void OxaPushButton::paintEvent(QPaintEvent *) { paintButton(); }
+
+void OxaPushButton::paintButton()
 {
     QPainter painter(this);
     QStyleOptionButton option;
