@@ -15,8 +15,9 @@ namespace {
 
 void addClassesWithFont()
 {
-    addThemedClasses(
-            [](const ThemedClass &themed) { return themed.font == ThemedClass::Font::Yes; });
+    addThemedClasses([](const ThemedClass &themed) {
+        return themed.font == ThemedClass::Font::Yes && themed.start == ThemedClass::Start::Plain;
+    });
 }
 
 void setToken(QWidget &widget, Token token)
@@ -65,11 +66,7 @@ private:
     std::unique_ptr<StoreGuard> m_stores;
 };
 
-void tst_FontBlock::init()
-{
-    m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf(
-            { ColorSets::make(QStringLiteral("button-hyperlink-text"), { "#112233" }) }));
-}
+void tst_FontBlock::init() { m_stores = std::make_unique<StoreGuard>(storeWith("#112233")); }
 
 void tst_FontBlock::cleanup()
 {

@@ -238,15 +238,17 @@ void tst_LazyLoadedListModelItems::deletesTheRestOfAShortPage()
     model.setItemsAtPage(0, itemsOf("abc"));
     model.setItemsAtPage(1, itemsOf("def"));
     ModelLog log(model);
+    connect(&model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [&] { log.note(model.window()); });
     model.setItemsAtPage(1, itemsOf("x"));
     QCOMPARE(model.window(), QStringLiteral("abcx.."));
     QCOMPARE(CountedItem::alive, 4);
-    QCOMPARE(log.take(), QStringLiteral("chg 3,3 | rem 4,5"));
+    QCOMPARE(log.take(), QStringLiteral("chg 3,3 | abcx.. | rem 4,5"));
     // A short page in the middle is the end as well.
     model.setItemsAtPage(0, itemsOf("y"));
     QCOMPARE(model.window(), QStringLiteral("y....."));
     QCOMPARE(CountedItem::alive, 1);
-    QCOMPARE(log.take(), QStringLiteral("chg 0,0 | rem 1,3"));
+    QCOMPARE(log.take(), QStringLiteral("chg 0,0 | y..x.. | rem 1,3"));
 }
 
 void tst_LazyLoadedListModelItems::leavesItemsPastTheWindowToTheCaller()

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "IconWidgets.h"
 #include "support/Faces.h"
 #include "support/Guards.h"
 #include "support/PaintCounter.h"
 #include "support/SignalLog.h"
 #include "support/SvgFiles.h"
 #include "support/TestApplication.h"
-
-#include <UiElements/svg/OxaSvgAnchorButton.h>
-#include <UiElements/svg/OxaSvgLabel.h>
-#include <UiElements/svg/OxaSvgPushButton.h>
 
 #include <QMetaProperty>
 #include <QSignalSpy>
@@ -20,52 +17,6 @@ const OxaColorSet iconColors = Faces::colors(QStringLiteral("icon"), 220);
 const OxaColorSet darkColors = Faces::colors(QStringLiteral("icon"), 70);
 const OxaColorSet lateColors = Faces::colors(QStringLiteral("late"), 170);
 const OxaColorSet linkColors(QStringLiteral("button-hyperlink-text"), Qt::blue);
-
-/// One class with an icon, as this test sees it.
-struct IconWidget
-{
-    const char *name;
-    const QMetaObject *metaObject;
-    std::function<std::unique_ptr<QWidget>()> make;
-    std::function<void(QWidget &, const QMargins &)> setPadding;
-    std::function<QMargins(const QWidget &)> padding;
-    std::function<void(QWidget &)> refresh;
-};
-
-template <typename Widget>
-IconWidget iconWidget()
-{
-    return {
-        Widget::staticMetaObject.className(),
-        &Widget::staticMetaObject,
-        [] { return std::make_unique<Widget>(); },
-        [](QWidget &widget, const QMargins &padding) {
-            static_cast<Widget &>(widget).setSvgIconPadding(padding);
-        },
-        [](const QWidget &widget) {
-            return static_cast<const Widget &>(widget).getSvgIconPadding();
-        },
-        [](QWidget &widget) { static_cast<Widget &>(widget).refreshSvgIconColorSet(); },
-    };
-}
-
-const std::vector<IconWidget> &iconWidgets()
-{
-    static const std::vector<IconWidget> widgets = {
-        iconWidget<OxaSvgLabel>(),
-        iconWidget<OxaSvgPushButton>(),
-        iconWidget<OxaSvgAnchorButton>(),
-    };
-    return widgets;
-}
-
-void addIconWidgets()
-{
-    QTest::addColumn<int>("row");
-    int row = 0;
-    for (const IconWidget &widget : iconWidgets())
-        QTest::newRow(widget.name) << row++;
-}
 
 void ignoreUnknownSet(const QString &name)
 {
@@ -89,12 +40,6 @@ QString paintedSet(QWidget &widget)
 }
 
 } // namespace
-
-/// Declares `tested`, the class of the test's current row, and `widget`, one of it.
-#define FETCH_ICON_WIDGET                                                                          \
-    QFETCH(const int, row);                                                                        \
-    const IconWidget &tested = iconWidgets().at(std::size_t(row));                                 \
-    const std::unique_ptr<QWidget> widget = tested.make()
 
 /// What every widget with an icon shows and does alike: a row for each class.
 class tst_SvgIconBlock : public QObject

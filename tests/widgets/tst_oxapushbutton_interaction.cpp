@@ -74,11 +74,11 @@ QImage onScreen(const OxaPushButton &button)
             .toImage();
 }
 
-/// Returns whether most of \a button is filled with \a color.
+/// Returns whether most of \a button is filled with \a color, over which the style may lay a veil
+/// for the focus.
 bool isFilled(const OxaPushButton &button, const QColor &color)
 {
-    return Pixels::countNear(onScreen(button), color, QRect(), 4)
-            > button.width() * button.height() / 2;
+    return Pixels::countNear(onScreen(button), color) > button.width() * button.height() / 2;
 }
 
 } // namespace
@@ -172,7 +172,6 @@ void tst_OxaPushButtonInteraction::takesTheFocusByTabAndIsClickedByKeys()
     QTRY_VERIFY(window.plain.hasFocus());
     QVERIFY(RealInput::typeKeys({ QStringLiteral("Tab") }));
     QTRY_VERIFY(window.svg.hasFocus());
-    onScreen(window.svg).save(QStringLiteral("/tmp/svgfocus.png"));
     QTRY_VERIFY(isFilled(window.svg, groundColors.focused));
     QSignalSpy clicked(&window.svg, &OxaPushButton::clicked);
     QVERIFY(RealInput::typeKeys({ QStringLiteral("space") }));
