@@ -26,9 +26,9 @@ void drawElided(QPainter *painter, const QRect &rect, const QString &text,
                 Qt::LayoutDirection direction)
 {
     painter->setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-    painter->drawText(rect,
-                      QStyle::visualAlignment(direction, Qt::AlignLeft) | Qt::AlignAbsolute
-                              | Qt::AlignVCenter,
+    const Qt::Alignment alignment = QStyle::visualAlignment(direction, Qt::AlignLeft)
+            | Qt::AlignAbsolute | Qt::AlignVCenter;
+    painter->drawText(rect, int(alignment),
                       painter->fontMetrics().elidedText(text, Qt::ElideRight, rect.width()));
 }
 
