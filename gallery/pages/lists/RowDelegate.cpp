@@ -144,7 +144,7 @@ void RowDelegate::paintAvatar(QPainter *painter, const QRect &rect, const QModel
     painter->drawEllipse(rect);
     painter->setFont(m_titleFont);
     painter->setPen(m_avatarText.normal);
-    painter->drawText(rect, Qt::AlignCenter, index.data(RowRole::Title).toString().left(1));
+    painter->drawText(rect, Qt::AlignCenter, index.data(RowRole::Title).toString().mid(0, 1));
 }
 
 void RowDelegate::paintTexts(QPainter *painter, const QStyleOptionViewItem &option,
