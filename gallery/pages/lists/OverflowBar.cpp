@@ -41,7 +41,7 @@ OverflowBar::OverflowBar(QAbstractItemModel *people, QWidget *parent)
     for (int i = 0; i < people->rowCount(); ++i) {
         const QModelIndex person = people->index(i, 0);
         const QString name = person.data(RowRole::Title).toString();
-        OxaLabel *avatar = makeCircle(name.left(1),
+        OxaLabel *avatar = makeCircle(name.mid(0, 1),
                                       QStringLiteral(
                                               "$backgroundColors: %1; $textColors: avatar-text;")
                                               .arg(AvatarColors::setName(
