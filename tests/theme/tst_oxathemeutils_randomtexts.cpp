@@ -10,6 +10,8 @@ namespace {
 /// The same on every machine, so that a case that fails once fails again.
 constexpr unsigned seed = 20240517;
 
+constexpr int cases = 6000;
+
 class Random
 {
 public:
@@ -178,7 +180,7 @@ void tst_OxaThemeUtilsRandomTexts::substitutesReferencesAsARegularExpressionDoes
     const QString alphabet = QStringLiteral("$$(()).ab\n;{\r\u0085\u2028");
     int substituted = 0;
     int left = 0;
-    for (int i = 0; i < 20000; ++i) {
+    for (int i = 0; i < cases; ++i) {
         QString text;
         for (int length = random.below(40); length > 0; --length)
             text += random.oneIn(40) ? QStringLiteral("$(a.hovered)")
@@ -193,8 +195,8 @@ void tst_OxaThemeUtilsRandomTexts::substitutesReferencesAsARegularExpressionDoes
         left += !messages.isEmpty();
     }
     qInfo("%d texts changed, %d left a reference.", substituted, left);
-    QVERIFY(substituted > 2000);
-    QVERIFY(left > 1000);
+    QVERIFY(substituted > cases / 4);
+    QVERIFY(left > cases / 10);
 }
 
 void tst_OxaThemeUtilsRandomTexts::expandsAsThePlainReadingDoes()
@@ -202,7 +204,7 @@ void tst_OxaThemeUtilsRandomTexts::expandsAsThePlainReadingDoes()
     Random random;
     int expanded = 0;
     int left = 0;
-    for (int i = 0; i < 20000; ++i) {
+    for (int i = 0; i < cases; ++i) {
         const OxaColorSetMap store = randomStore(random);
         const QString text = randomText(random);
         const QString selector = random.oneIn(20) ? QString() : QStringLiteral("#bar");
@@ -219,14 +221,14 @@ void tst_OxaThemeUtilsRandomTexts::expandsAsThePlainReadingDoes()
         left += result.expandedStyleSheet.contains(QLatin1String("Colors:"));
     }
     qInfo("%d texts changed, %d left a colour directive.", expanded, left);
-    QVERIFY(expanded > 10000);
-    QVERIFY(left > 2000);
+    QVERIFY(expanded > cases / 2);
+    QVERIFY(left > cases / 4);
 }
 
 void tst_OxaThemeUtilsRandomTexts::writesRecordsAsThePlainReadingDoes()
 {
     Random random;
-    for (int i = 0; i < 5000; ++i) {
+    for (int i = 0; i < cases; ++i) {
         const OxaCSSData data = randomRecord(random);
         QCOMPARE(OxaThemeUtils::convertToOxaCSS(data), NaiveStyleText::toStyleText(data));
     }
