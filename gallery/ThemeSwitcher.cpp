@@ -7,7 +7,10 @@
 
 #include <QApplication>
 #include <QMetaEnum>
+#include <QPointer>
 #include <QWidget>
+
+#include <vector>
 
 namespace {
 
@@ -19,8 +22,10 @@ bool isThemed(const QWidget *widget) { return widget->property(themeTypeProperty
 void reapplyThemeTypes()
 {
     const QWidgetList widgets = QApplication::allWidgets();
-    for (QWidget *widget : widgets) {
-        if (isThemed(widget))
+    // A widget that takes new colours may replace others.
+    const std::vector<QPointer<QWidget>> remaining(widgets.begin(), widgets.end());
+    for (QWidget *widget : remaining) {
+        if (widget && isThemed(widget))
             widget->setProperty(themeTypeProperty, widget->property(themeTypeProperty));
     }
 }
