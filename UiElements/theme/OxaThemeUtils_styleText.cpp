@@ -2,6 +2,7 @@
 #include "OxaThemeUtils.h"
 
 #include "StyleBorder_p.h"
+#include "StyleDraft_p.h"
 #include "StyleText_p.h"
 
 #include <array>
@@ -17,7 +18,26 @@ void appendNameDirective(QString &text, OxaThemeUtils::ColorSetType type, const 
         return;
     if (!text.isEmpty())
         text += QLatin1Char(' ');
-    text += StyleText::colorTag(type) + QLatin1Char(' ') + trimmed + QLatin1Char(';');
+    text += StyleText::colorTag(type).toString() + QLatin1Char(' ') + trimmed + QLatin1Char(';');
+}
+
+/// Returns \a draft's text without the first directive of each kind, trimmed.
+QString withoutDirectives(StyleDraft draft)
+{
+    using OxaThemeUtils::ColorSetType;
+    const std::array<QStringView, 6> tags = {
+        StyleText::colorTag(ColorSetType::Background),
+        StyleText::colorTag(ColorSetType::Border),
+        StyleText::colorTag(ColorSetType::Text),
+        StyleBorder::bordersTag,
+        StyleBorder::radiusTag,
+        StyleBorder::widthTag,
+    };
+    for (const QStringView tag : tags) {
+        if (const auto directive = draft.findDirective(tag))
+            draft.remove(*directive);
+    }
+    return draft.text().trimmed();
 }
 
 } // namespace
@@ -31,11 +51,13 @@ OxaThemeUtils::CSSParserResult OxaThemeUtils::parseCSS(const QString &selector,
     if (styleText.isEmpty() || selector.isEmpty() || colorSets.empty())
         return result;
 
+    StyleDraft draft(styleText, StyleText::roomFor(styleText, selector));
+    result.oxaCSS.plainStyleSheet = withoutDirectives(draft);
+
     const auto expand = [&](ColorSetType type) {
-        return StyleText::expandColorDirective(result.expandedStyleSheet, type, selector,
-                                               colorSets);
+        return StyleText::expandColorDirective(draft, type, selector, colorSets);
     };
-    StyleText::substituteColorReferences(result.expandedStyleSheet, colorSets);
+    StyleText::substituteColorReferences(draft, colorSets);
     result.backgroundColorSet = expand(ColorSetType::Background);
     result.borderColorSet = expand(ColorSetType::Border);
     result.textColorSet = expand(ColorSetType::Text);
@@ -45,15 +67,13 @@ OxaThemeUtils::CSSParserResult OxaThemeUtils::parseCSS(const QString &selector,
     data.borderColorSetName = nameIfValid(result.borderColorSet);
     data.textColorSetName = nameIfValid(result.textColorSet);
 
-    const int position = StyleBorder::readDirectives(result.expandedStyleSheet, data);
+    const int position = StyleBorder::readDirectives(draft, selector, data);
     if (position >= 0) {
-        result.expandedStyleSheet.insert(position,
-                                         selector + QLatin1Char('{')
-                                                 + StyleBorder::toStyleSheet(data)
-                                                 + QLatin1Char('}'));
+        const QString rule = StyleBorder::toRule(selector, data);
+        result.expandedStyleSheet = draft.text(rule.size()).insert(position, rule);
+    } else {
+        result.expandedStyleSheet = draft.text();
     }
-    data.plainStyleSheet = styleText;
-    removeOxaCSSFromStyleSheet(data.plainStyleSheet);
     return result;
 }
 
@@ -71,20 +91,13 @@ QString OxaThemeUtils::convertToOxaCSS(OxaCSSData data)
 
 void OxaThemeUtils::removeOxaCSSFromStyleSheet(QString &styleText)
 {
-    const std::array<QLatin1String, 6> tags = {
-        StyleText::colorTag(ColorSetType::Background), StyleText::colorTag(ColorSetType::Border),
-        StyleText::colorTag(ColorSetType::Text),       QLatin1String(StyleBorder::bordersTag),
-        QLatin1String(StyleBorder::radiusTag),         QLatin1String(StyleBorder::widthTag),
-    };
-    for (const QLatin1String tag : tags)
-        StyleText::takeDirective(styleText, tag);
-    styleText = styleText.trimmed();
+    styleText = withoutDirectives(StyleDraft(styleText));
 }
 
 QString OxaThemeUtils::getColorSetNameFromString(ColorSetType type, const QString &styleText)
 {
-    const auto directive = StyleText::findDirective(styleText, StyleText::colorTag(type));
-    return directive ? directive->value : QString();
+    const auto directive = StyleDraft(styleText).findDirective(StyleText::colorTag(type));
+    return directive ? directive->value.toString() : QString();
 }
 
 QString OxaThemeUtils::getHyperlinkCSS(AppThemeType themeType)

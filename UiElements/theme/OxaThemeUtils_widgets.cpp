@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaThemeUtils.h"
 
+#include "WidgetStyleText_p.h"
+
 #include <QVariant>
 #include <QWidget>
 
@@ -59,11 +61,17 @@ AppThemeType OxaThemeUtils::getThemeTypeOfWidget(const QWidget *widget)
 OxaThemeUtils::CSSParserResult OxaThemeUtils::parseCSS(QWidget *widget, const QString &styleText,
                                                        const OxaColorSetMap &colorSets)
 {
-    const AppThemeType themeType = getThemeTypeOfWidget(widget);
+    return WidgetStyleText::parse(widget, getThemeTypeOfWidget(widget), styleText, colorSets);
+}
+
+OxaThemeUtils::CSSParserResult WidgetStyleText::parse(QWidget *widget, AppThemeType themeType,
+                                                      const QString &styleText,
+                                                      const OxaColorSetMap &globalColorSets)
+{
     const OxaColorSetMap &store = themeType == AppThemeType::Global
-            ? colorSets
-            : getOxaColorSetsByThemeType(themeType);
-    CSSParserResult result = parseCSS(selectorOf(widget), styleText, store);
+            ? globalColorSets
+            : OxaThemeUtils::getOxaColorSetsByThemeType(themeType);
+    auto result = OxaThemeUtils::parseCSS(selectorOf(widget), styleText, store);
     // The focus frame reads both. A radius is kept when a later text has none.
     if (result.oxaCSS.borderRadius != 0)
         widget->setProperty("focusBorderRadius", int(result.oxaCSS.borderRadius));

@@ -1,32 +1,33 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleBorder_p.h"
-#include "StyleText_p.h"
+#include "StyleDraft_p.h"
+#include "TextWriter_p.h"
 
-#include <QStringList>
-
+#include <algorithm>
 #include <array>
 
 namespace {
 
-enum class Form { StyleSheet, Directives };
-
 /// The corners that OxaCSSData::radiusCorner numbers from 1, and whose squareness is a bit each.
-constexpr std::array<const char *, 4> corners = { "top-left", "top-right", "bottom-left",
-                                                  "bottom-right" };
+constexpr std::array<QStringView, 4> corners = { u"top-left", u"top-right", u"bottom-left",
+                                                 u"bottom-right" };
 constexpr int allCorners = 0;
 constexpr int topCorners = 5;
+
+/// Room for the longest text of a border: four sides and two corners.
+constexpr int borderLength = 256;
 
 /// A side's word and its flag, in the order in which sides are written.
 struct Side
 {
-    const char *word;
+    QStringView word;
     bool OxaCSSData::*flag;
 };
 constexpr std::array<Side, 4> sides = { {
-        { "top", &OxaCSSData::borderTop },
-        { "right", &OxaCSSData::borderRight },
-        { "bottom", &OxaCSSData::borderBottom },
-        { "left", &OxaCSSData::borderLeft },
+        { u"top", &OxaCSSData::borderTop },
+        { u"right", &OxaCSSData::borderRight },
+        { u"bottom", &OxaCSSData::borderBottom },
+        { u"left", &OxaCSSData::borderLeft },
 } };
 
 void setAllSides(OxaCSSData &data, bool on)
@@ -45,129 +46,168 @@ bool hasAnySide(const OxaCSSData &data)
     return data.borderTop || data.borderRight || data.borderBottom || data.borderLeft;
 }
 
-quint8 readWidth(const QString &value)
+/// Four sides of no width are no border at all, and a radius is dropped with them.
+bool hasNothing(const OxaCSSData &data)
+{
+    return (hasAllSides(data) && data.borderWidth == 0) || (!hasAnySide(data) && !data.noBorder);
+}
+
+bool isOneCorner(int corner) { return corner > allCorners && corner < topCorners; }
+
+QStringView cornerWord(int corner) { return corners[static_cast<std::size_t>(corner - 1)]; }
+
+/// QStringView::contains(), quicker where both are a few characters.
+bool holds(QStringView text, QStringView word)
+{
+    return std::search(text.begin(), text.end(), word.begin(), word.end()) != text.end();
+}
+
+/// Removes the first directive of \a tag and returns what it says; \a position becomes its own
+/// unless that is nothing.
+QStringView takeDirective(StyleDraft &draft, QStringView tag, int &position)
+{
+    const auto directive = draft.findDirective(tag);
+    if (!directive)
+        return {};
+    const int ownPosition = draft.remove(*directive);
+    if (!directive->value.isEmpty())
+        position = ownPosition;
+    return directive->value;
+}
+
+quint8 readWidth(QStringView value)
 {
     bool ok = false;
-    const int width = value.toInt(&ok);
+    const int width = value.toString().toInt(&ok);
     return ok && width >= 1 ? static_cast<quint8>(width) : quint8(1);
 }
 
-void readSides(const QString &value, OxaCSSData &data)
+void readSides(QStringView value, OxaCSSData &data)
 {
-    if (value.contains(QLatin1String("all"))) {
+    if (holds(value, u"all")) {
         setAllSides(data, true);
         return;
     }
     for (const Side &side : sides)
-        data.*side.flag = value.contains(QLatin1String(side.word));
+        data.*side.flag = holds(value, side.word);
 }
 
 /// The corners that \a text does not round. The capital R of the radius directive means that all
 /// of them are round; plain declarations that round some leave the others square.
-quint8 squareCorners(const QString &text)
+quint8 squareCorners(QStringView text)
 {
     constexpr unsigned all = 0xf;
-    unsigned mask = 0;
-    for (std::size_t i = 0; i < corners.size(); ++i) {
-        if (!text.contains(QLatin1String(corners[i]) + QStringLiteral("-radius")))
-            mask |= 1U << i;
+    unsigned mask = all;
+    bool hasDirective = false;
+    constexpr QStringView word = u"adius";
+    for (auto at = text.begin();
+         (at = std::search(at, text.end(), word.begin(), word.end())) != text.end(); ++at) {
+        const QStringView before(text.begin(), at);
+        hasDirective |= before.endsWith(QLatin1Char('R'));
+        for (std::size_t i = 0; i < corners.size(); ++i) {
+            if (before.endsWith(QStringView(u"-r")) && before.chopped(2).endsWith(corners[i]))
+                mask &= ~(1U << i);
+        }
     }
-    if (mask == all && text.contains(QLatin1String("Radius")))
-        mask = 0;
-    return static_cast<quint8>(mask);
+    return static_cast<quint8>(mask == all && hasDirective ? 0 : mask);
 }
 
-int readCorner(const QString &word)
+int readCorner(QStringView word)
 {
-    const QStringList parts = word.split(QLatin1Char('-'));
-    if (parts.size() == 1)
-        return word == QLatin1String("top") ? topCorners : allCorners;
-    if (parts.size() != 2)
+    const auto hyphens = std::count(word.begin(), word.end(), QLatin1Char('-'));
+    if (hyphens == 0)
+        return word == u"top" ? topCorners : allCorners;
+    if (hyphens != 1)
         return allCorners;
     for (std::size_t i = 0; i < corners.size(); ++i) {
-        if (word.contains(QLatin1String(corners[i])))
+        if (holds(word, corners[i]))
             return static_cast<int>(i) + 1;
     }
     return allCorners;
 }
 
-void readRadius(const QString &value, OxaCSSData &data)
+void readRadius(QStringView value, OxaCSSData &data)
 {
-    const QStringList parts = value.split(QLatin1Char(' '));
-    const bool hasCorner = parts.size() == 2;
-    data.borderRadius = static_cast<quint8>((hasCorner ? parts.first() : value).toUInt());
+    const auto blank = value.indexOf(QLatin1Char(' '));
+    const bool hasCorner = blank >= 0 && value.lastIndexOf(QLatin1Char(' ')) == blank;
+    const QStringView radius = hasCorner ? value.left(blank) : value;
+    data.borderRadius = static_cast<quint8>(radius.toString().toUInt());
     if (hasCorner)
-        data.radiusCorner = readCorner(parts.last());
+        data.radiusCorner = readCorner(value.mid(blank + 1));
 }
 
-QString radiusText(const OxaCSSData &data, Form form)
+void writeRadius(TextWriter &sheet, const OxaCSSData &data)
 {
     if (data.borderRadius == 0)
-        return {};
-
-    const QString radius = QString::number(data.borderRadius);
-    const bool isOneCorner = data.radiusCorner > allCorners && data.radiusCorner < topCorners;
-    const QLatin1String corner(
-            isOneCorner ? corners[static_cast<std::size_t>(data.radiusCorner - 1)] : "");
-    if (form == Form::StyleSheet) {
-        if (data.radiusCorner == topCorners)
-            return QLatin1String("border-top-left-radius:") + radius
-                    + QLatin1String("px; border-top-right-radius:") + radius + QLatin1String("px;");
-        if (isOneCorner)
-            return QLatin1String("border-") + corner + QLatin1String("-radius:") + radius
-                    + QLatin1String("px;");
-        return QLatin1String("border-radius:") + radius + QLatin1String("px;");
-    }
-    const QString directive = QLatin1String(StyleBorder::radiusTag) + radius;
+        return;
+    const quint8 radius = data.borderRadius;
     if (data.radiusCorner == topCorners)
-        return directive + QLatin1String(" top;");
-    return isOneCorner ? directive + QLatin1Char(' ') + corner + QLatin1Char(';')
-                       : directive + QLatin1Char(';');
+        sheet << u"border-top-left-radius:" << radius << u"px; border-top-right-radius:" << radius;
+    else if (isOneCorner(data.radiusCorner))
+        sheet << u"border-" << cornerWord(data.radiusCorner) << u"-radius:" << radius;
+    else
+        sheet << u"border-radius:" << radius;
+    sheet << u"px;";
 }
 
-QString allSidesText(const QString &width, Form form)
+void writeSides(TextWriter &sheet, const OxaCSSData &data)
 {
-    return form == Form::StyleSheet
-            ? QLatin1String("border-style:solid; border-width:") + width
-            : QLatin1String("$borders: all; ") + QLatin1String(StyleBorder::widthTag) + width;
-}
-
-QString someSidesText(const OxaCSSData &data, const QString &width, Form form)
-{
-    const bool isSheet = form == Form::StyleSheet;
-    QString text = QLatin1String(isSheet ? "border-style:solid;" : StyleBorder::bordersTag);
-    for (const Side &side : sides) {
-        if (!(data.*side.flag))
-            continue;
-        if (isSheet)
-            text += QLatin1String("border-") + QLatin1String(side.word) + QLatin1String("-width:")
-                    + width;
-        else
-            text += QLatin1Char(' ') + QLatin1String(side.word);
+    if (hasAllSides(data)) {
+        sheet << u"border-style:solid; border-width:" << data.borderWidth << u"px;";
+        return;
     }
-    if (!isSheet)
-        text += QLatin1String("; ") + QLatin1String(StyleBorder::widthTag) + width;
-    return text;
+    sheet << u"border-style:solid;";
+    for (const Side &side : sides) {
+        if (data.*side.flag)
+            sheet << u"border-" << side.word << u"-width:" << data.borderWidth << u"px;";
+    }
 }
 
-QString borderText(const OxaCSSData &data, Form form)
+void writeBorder(TextWriter &sheet, const OxaCSSData &data)
 {
-    const bool isSheet = form == Form::StyleSheet;
-    const bool allSides = hasAllSides(data);
-    // A radius is dropped with the border: four sides of no width are no border at all.
-    if ((allSides && data.borderWidth == 0) || (!hasAnySide(data) && !data.noBorder))
-        return isSheet ? QStringLiteral("border:none;") : QString();
-    if (data.noBorder)
-        return radiusText(data, form);
+    if (hasNothing(data)) {
+        sheet << u"border:none;";
+        return;
+    }
+    if (!data.noBorder)
+        writeSides(sheet, data);
+    writeRadius(sheet, data);
+}
 
-    const QString width = QString::number(data.borderWidth) + QLatin1String(isSheet ? "px;" : ";");
-    return (allSides ? allSidesText(width, form) : someSidesText(data, width, form))
-            + radiusText(data, form);
+void writeRadiusDirective(TextWriter &text, const OxaCSSData &data)
+{
+    if (data.borderRadius == 0)
+        return;
+    text << StyleBorder::radiusTag << data.borderRadius;
+    if (data.radiusCorner == topCorners)
+        text << u" top";
+    else if (isOneCorner(data.radiusCorner))
+        text << u" " << cornerWord(data.radiusCorner);
+    text << u";";
+}
+
+void writeSidesDirectives(TextWriter &text, const OxaCSSData &data)
+{
+    text << StyleBorder::bordersTag;
+    if (hasAllSides(data))
+        text << u" all";
+    for (const Side &side : sides) {
+        if (data.*side.flag && !hasAllSides(data))
+            text << u" " << side.word;
+    }
+    text << u"; " << StyleBorder::widthTag << data.borderWidth << u";";
+}
+
+void writeDirectives(TextWriter &text, const OxaCSSData &data)
+{
+    if (!data.noBorder)
+        writeSidesDirectives(text, data);
+    writeRadiusDirective(text, data);
 }
 
 } // namespace
 
-int StyleBorder::readDirectives(QString &text, OxaCSSData &data)
+int StyleBorder::readDirectives(StyleDraft &draft, const QString &selector, OxaCSSData &data)
 {
     const bool hasBorderSet = !data.borderColorSetName.isEmpty();
     const bool hasSet = hasBorderSet || !data.backgroundColorSetName.isEmpty()
@@ -175,35 +215,38 @@ int StyleBorder::readDirectives(QString &text, OxaCSSData &data)
     setAllSides(data, hasBorderSet);
     data.borderWidth = hasBorderSet ? 1 : 0;
     int position = hasSet ? 0 : -1;
-    if (text.isEmpty())
-        return position;
+    int widthPosition = -1; // A width alone makes no border.
 
-    const auto width = StyleText::takeDirective(text, QLatin1String(widthTag));
-    if (width && !width->value.isEmpty())
-        data.borderWidth = readWidth(width->value);
+    const QStringView width = takeDirective(draft, widthTag, widthPosition);
+    if (!width.isEmpty())
+        data.borderWidth = readWidth(width);
 
-    const auto borders = StyleText::takeDirective(text, QLatin1String(bordersTag));
-    if (borders && !borders->value.isEmpty()) {
-        readSides(borders->value, data);
-        position = borders->position;
-        data.rectangularCornerMask = squareCorners(text);
+    const QStringView borders = takeDirective(draft, bordersTag, position);
+    if (!borders.isEmpty()) {
+        readSides(borders, data);
+        // Rules hold no corners, but their selector may, or complete what stands before it.
+        data.rectangularCornerMask = squareCorners(draft.textWithBeginnings(selector.size() + 1));
     }
 
-    const auto radius = StyleText::takeDirective(text, QLatin1String(radiusTag));
-    if (radius && !radius->value.isEmpty()) {
-        readRadius(radius->value, data);
-        position = radius->position;
-    }
+    const QStringView radius = takeDirective(draft, radiusTag, position);
+    if (!radius.isEmpty())
+        readRadius(radius, data);
     data.noBorder = !hasBorderSet && data.borderRadius != 0;
     return position;
 }
 
-QString StyleBorder::toStyleSheet(const OxaCSSData &data)
+QString StyleBorder::toRule(const QString &selector, const OxaCSSData &data)
 {
-    return borderText(data, Form::StyleSheet);
+    return writtenText(selector.size() + borderLength, [&](TextWriter &sheet) {
+        sheet << selector << u"{";
+        writeBorder(sheet, data);
+        sheet << u"}";
+    });
 }
 
 QString StyleBorder::toDirectives(const OxaCSSData &data)
 {
-    return borderText(data, Form::Directives);
+    if (hasNothing(data))
+        return {};
+    return writtenText(borderLength, [&data](TextWriter &text) { writeDirectives(text, data); });
 }

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "StyleDraft_p.h"
 #include "StyleText_p.h"
+#include "TextWriter_p.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QVariant>
 
+#include <algorithm>
 #include <array>
 
 using OxaThemeUtils::ColorSetType;
@@ -17,104 +20,96 @@ constexpr char invalidReferenceWarning[] =
 /// One row for each ColorSetType, in its order.
 struct ColorDirective
 {
-    const char *tag;
-    const char *property;
+    QStringView tag;
+    QStringView blockBegin;
 };
 constexpr std::array<ColorDirective, 3> colorDirectives = { {
-        { "$backgroundColors:", "background-color:" },
-        { "$borderColors:", "border-color:" },
-        { "$textColors:", "color:" },
+        { u"$backgroundColors:", u"{background-color:" },
+        { u"$borderColors:", u"{border-color:" },
+        { u"$textColors:", u"{color:" },
 } };
 
-constexpr char gradientMarker[] = "gradient-";
+constexpr QStringView gradientMarker = u"gradient-";
 
 /// Room for the longest block that a state can need besides its selector.
 constexpr int blockLength = 48;
+constexpr int colorNameLength = 9;
 constexpr int stateCount = 6;
+
+/// Room for the rules of one directive: one for each state, and the outline's.
+int rulesLength(const QString &selector)
+{
+    return (stateCount + 1) * (selector.size() + blockLength);
+}
 
 const ColorDirective &directiveOf(ColorSetType type)
 {
     return colorDirectives[static_cast<std::size_t>(type)];
 }
 
-/// Appends "#aarrggbb". QColor::name() builds the same text through two temporary strings, and
-/// colours are most of what an expansion writes.
-void appendColor(QString &text, const QColor &color)
+/// Finds the set that a style text calls \a name.
+const OxaColorSet *findSet(const OxaColorSetMap &colorSets, QStringView name)
 {
-    constexpr char digits[] = "0123456789abcdef";
-    std::array<QChar, 9> name = { QLatin1Char('#') };
-    QRgb rgba = color.rgba();
-    for (std::size_t i = name.size() - 1; i > 0; --i, rgba >>= 4)
-        name[i] = QLatin1Char(digits[rgba & 0xf]);
-    text.append(name.data(), static_cast<int>(name.size()));
+    std::string key(static_cast<std::size_t>(name.size()), '\0');
+    // Names are ASCII but for a user's own, and then nothing needs converting.
+    const bool isAscii = std::all_of(name.begin(), name.end(),
+                                     [](QChar character) { return character.unicode() < 0x80; });
+    if (isAscii)
+        std::transform(name.begin(), name.end(), key.begin(),
+                       [](QChar character) { return character.toLatin1(); });
+    else
+        key = name.toUtf8().toStdString();
+
+    const auto found = colorSets.find(key);
+    return found == colorSets.cend() ? nullptr : &found->second;
 }
 
-/// The rules of one colour directive, written one after the other.
+/// Writes the rules of one colour directive.
 class RuleWriter
 {
 public:
-    RuleWriter(const QString &selector, ColorSetType type)
-        : m_selector(selector), m_property(directiveOf(type).property)
+    RuleWriter(TextWriter &text, const QString &selector, ColorSetType type)
+        : m_selector(selector), m_blockBegin(directiveOf(type).blockBegin), m_writer(text)
     {
-        m_rules.reserve((stateCount + 1) * (selector.size() + blockLength));
     }
 
-    void addRule(QLatin1String pseudoState, const QColor &color)
+    void addRule(QStringView pseudoState, const QColor &color)
     {
-        m_rules += m_selector;
-        m_rules += pseudoState;
-        m_rules += QLatin1Char('{');
-        m_rules += m_property;
-        appendColor(m_rules, color);
-        m_rules += QLatin1String(";}");
+        m_writer << m_selector << pseudoState << m_blockBegin << color << u";}";
     }
 
     /// A set's rules in order of rising strength: the last one that matches wins, so disabled beats
     /// pressed, pressed beats hover, and hover beats focus and checked.
     void addRules(const OxaColorSet &set)
     {
-        addRule(QLatin1String(), set.normal);
-        addStateRule(QLatin1String(":checked"), set.checked, set.normal);
-        addStateRule(QLatin1String(":focus"), set.focused, set.normal);
-        addStateRule(QLatin1String(":hover"), set.hovered, set.normal);
-        addStateRule(QLatin1String(":pressed"), set.pressed, set.normal);
-        addStateRule(QLatin1String(":disabled"), set.disabled, set.normal);
+        addRule({}, set.normal);
+        addStateRule(u":checked", set.checked, set.normal);
+        addStateRule(u":focus", set.focused, set.normal);
+        addStateRule(u":hover", set.hovered, set.normal);
+        addStateRule(u":pressed", set.pressed, set.normal);
+        addStateRule(u":disabled", set.disabled, set.normal);
     }
 
-    void addOutlineRule()
-    {
-        m_rules += m_selector;
-        m_rules += QLatin1String("{outline:none;}");
-    }
-
-    void addGradientRule(const QColor &start, const QColor &end)
-    {
-        m_rules += m_selector;
-        m_rules += QLatin1String("{background: qlineargradient(x1:1 y1:1, x2:1 y2:0, stop:0 ");
-        appendColor(m_rules, start);
-        m_rules += QLatin1String(", stop:1 ");
-        appendColor(m_rules, end);
-        m_rules += QLatin1String("); }");
-    }
-
-    const QString &rules() const { return m_rules; }
+    void addOutlineRule() { m_writer << m_selector << u"{outline:none;}"; }
 
 private:
-    void addStateRule(QLatin1String pseudoState, const QColor &color, const QColor &normal)
+    void addStateRule(QStringView pseudoState, const QColor &color, const QColor &normal)
     {
         if (color.isValid() && color != normal)
             addRule(pseudoState, color);
     }
 
-    const QString &m_selector;
-    const QLatin1String m_property;
-    QString m_rules;
+    const QStringView m_selector;
+    const QStringView m_blockBegin;
+    TextWriter &m_writer;
 };
 
 bool usesGlobalFocusBorders()
 {
+    // Asked for by name only where it is there: a property that isn't is looked for the longest.
     const QCoreApplication *app = QCoreApplication::instance();
-    return app && app->property("useGlobalFocusBorders").toBool();
+    const char name[] = "useGlobalFocusBorders";
+    return app && app->dynamicPropertyNames().contains(name) && app->property(name).toBool();
 }
 
 bool needsOutlineRule(ColorSetType type, const OxaColorSet &set)
@@ -123,157 +118,126 @@ bool needsOutlineRule(ColorSetType type, const OxaColorSet &set)
             && !usesGlobalFocusBorders();
 }
 
-void replace(QString &text, const StyleText::Directive &directive, const RuleWriter &writer)
-{
-    text.replace(directive.position, directive.length, writer.rules());
-}
-
 /// The two sets of a gradient, the one at its start first. A dialog gradient has no primary form.
-std::pair<const char *, const char *> gradientSetNames(const QString &value)
+std::pair<const char *, const char *> gradientSetNames(QStringView value)
 {
-    if (value.contains(QLatin1String("-dialog")))
+    if (value.contains(QStringView(u"-dialog")))
         return { "theme-gradient-dialog-secondary-1-background",
                  "theme-gradient-dialog-secondary-0-background" };
-    const int end = value.indexOf(QLatin1String(gradientMarker)) + int(sizeof gradientMarker) - 1;
-    if (QStringView(value).mid(end) == QLatin1String("primary"))
+    if (value.mid(value.indexOf(gradientMarker) + gradientMarker.size()) == u"primary")
         return { "theme-gradient-primary-1-background", "theme-gradient-primary-0-background" };
     return { "theme-gradient-secondary-1-background", "theme-gradient-secondary-0-background" };
 }
 
-/// A background that names no set: "none", or a gradient.
-OxaColorSet expandSpecialBackground(QString &text, const StyleText::Directive &directive,
-                                    const QString &selector, const OxaColorSetMap &colorSets)
+OxaColorSet expandGradient(StyleDraft &draft, const StyleDraft::Span &directive,
+                           const QString &selector, const OxaColorSetMap &colorSets)
 {
-    RuleWriter writer(selector, ColorSetType::Background);
-    if (directive.value == QLatin1String("none")) {
-        writer.addRule(QLatin1String(), Qt::transparent);
-    } else if (directive.value.contains(QLatin1String(gradientMarker))) {
-        const auto [startName, endName] = gradientSetNames(directive.value);
-        const auto start = colorSets.find(startName);
-        const auto end = colorSets.find(endName);
-        if (start == colorSets.cend() || end == colorSets.cend())
-            return {};
-        writer.addGradientRule(start->second.normal, end->second.normal);
-    } else {
+    const auto [startName, endName] = gradientSetNames(directive.value);
+    const auto start = colorSets.find(startName);
+    const auto end = colorSets.find(endName);
+    if (start == colorSets.cend() || end == colorSets.cend())
         return {};
-    }
-    replace(text, directive, writer);
+
+    const QColor &startColor = start->second.normal;
+    const QColor &endColor = end->second.normal;
+    draft.replace(directive, [&](TextWriter &text) {
+        text << selector << u"{background: qlineargradient(x1:1 y1:1, x2:1 y2:0, stop:0 "
+             << startColor << u", stop:1 " << endColor << u"); }";
+    });
     return OxaThemeUtils::transparentColourSet();
 }
 
+/// Replaces \a directive by one rule, which holds for all states.
+void replaceByColor(StyleDraft &draft, const StyleDraft::Span &directive, ColorSetType type,
+                    const QString &selector, const QColor &color)
+{
+    draft.replace(directive,
+                  [&](TextWriter &text) { RuleWriter(text, selector, type).addRule({}, color); });
+}
+
+/// A background that names no set: "none", or a gradient.
+OxaColorSet expandSpecialBackground(StyleDraft &draft, const StyleDraft::Span &directive,
+                                    const QString &selector, const OxaColorSetMap &colorSets)
+{
+    if (directive.value == u"none") {
+        replaceByColor(draft, directive, ColorSetType::Background, selector, Qt::transparent);
+        return OxaThemeUtils::transparentColourSet();
+    }
+    if (directive.value.contains(gradientMarker))
+        return expandGradient(draft, directive, selector, colorSets);
+    return {};
+}
+
 /// A literal colour, which only a text may have: a border's stays in the sheet on purpose.
-OxaColorSet expandLiteralColor(QString &text, const StyleText::Directive &directive,
+OxaColorSet expandLiteralColor(StyleDraft &draft, const StyleDraft::Span &directive,
                                ColorSetType type, const QString &selector)
 {
-    const QColor color(directive.value);
+    const QString name = directive.value.toString();
+    const QColor color(name);
     if (type != ColorSetType::Text || !color.isValid())
-        return { directive.value, QColor() };
+        return { name, QColor() };
 
-    RuleWriter writer(selector, type);
-    writer.addRule(QLatin1String(), color);
-    replace(text, directive, writer);
-    return { directive.value, color };
+    replaceByColor(draft, directive, type, selector, color);
+    return { name, color };
 }
 
 /// Returns the colour that the inside of a "$(…)" names, or an invalid one and a warning.
 QColor referencedColor(QStringView reference, const OxaColorSetMap &colorSets)
 {
     const auto dot = reference.indexOf(QLatin1Char('.'));
-    const QStringView name = dot < 0 ? reference : reference.left(dot);
-    const auto found = colorSets.find(name.toUtf8().toStdString());
-    if (found == colorSets.cend() || !found->second.isValid()) {
+    const OxaColorSet *set = findSet(colorSets, dot < 0 ? reference : reference.left(dot));
+    if (!set || !set->isValid()) {
         QMessageLogger().warning() << invalidReferenceWarning << reference;
         return {};
     }
-    return dot < 0 ? found->second.normal : found->second.colorForState(reference.mid(dot + 1));
-}
-
-/// Finds the shortest "$(…)" at or after \a from that stays on one line. Returns its position, or
-/// -1, and sets \a length.
-int findReference(const QString &text, int from, int &length)
-{
-    while ((from = text.indexOf(QLatin1String("$("), from)) >= 0) {
-        int end = from + 2;
-        while (end < text.size() && text[end] != QLatin1Char(')') && text[end] != QLatin1Char('\n'))
-            ++end;
-        if (end < text.size() && text[end] == QLatin1Char(')')) {
-            length = end + 1 - from;
-            return from;
-        }
-        from = end;
-    }
-    return -1;
+    return dot < 0 ? set->normal : set->colorForState(reference.mid(dot + 1));
 }
 
 } // namespace
 
-QLatin1String StyleText::colorTag(ColorSetType type)
+QStringView StyleText::colorTag(ColorSetType type) { return directiveOf(type).tag; }
+
+int StyleText::roomFor(const QString &styleText, const QString &selector)
 {
-    return QLatin1String(directiveOf(type).tag);
+    constexpr int shortestReference = 3;
+    return int(colorDirectives.size()) * rulesLength(selector)
+            + styleText.size() / shortestReference * colorNameLength;
 }
 
-std::optional<StyleText::Directive> StyleText::findDirective(const QString &text, QLatin1String tag)
+void StyleText::substituteColorReferences(StyleDraft &draft, const OxaColorSetMap &colorSets)
 {
-    // Hops from "$" to "$": there are few, and looking for one character is the fastest search.
-    int position = -1;
-    do {
-        position = text.indexOf(tag.front(), position + 1);
-    } while (position >= 0 && !QStringView(text).mid(position).startsWith(tag));
-    if (position < 0)
-        return std::nullopt;
-
-    const int valuePosition = position + tag.size();
-    const int end = text.indexOf(QLatin1Char(';'), valuePosition);
-    if (end < 0)
-        return std::nullopt;
-    return Directive { position, end + 1 - position,
-                       text.mid(valuePosition, end - valuePosition).trimmed() };
-}
-
-std::optional<StyleText::Directive> StyleText::takeDirective(QString &text, QLatin1String tag)
-{
-    auto directive = findDirective(text, tag);
-    if (directive)
-        text.remove(directive->position, directive->length);
-    return directive;
-}
-
-void StyleText::substituteColorReferences(QString &text, const OxaColorSetMap &colorSets)
-{
-    int length = 0;
-    int position = 0;
-    while ((position = findReference(text, position, length)) >= 0) {
-        const QStringView inside = QStringView(text).mid(position + 2, length - 3);
-        const QColor color = referencedColor(inside, colorSets);
-        if (color.isValid()) {
-            QString name;
-            appendColor(name, color);
-            text.replace(position, length, name);
-            length = name.size();
-        }
-        position += length;
+    for (int piece = 0; piece < draft.pieceCount(); ++piece) {
+        const auto reference = draft.reference(piece);
+        if (!reference)
+            continue;
+        const QColor color = referencedColor(reference->value, colorSets);
+        if (color.isValid())
+            draft.replace(*reference, [&color](TextWriter &text) { text << color; });
+        else
+            piece = reference->last; // What it encloses is no reference of its own.
     }
 }
 
-OxaColorSet StyleText::expandColorDirective(QString &text, ColorSetType type,
+OxaColorSet StyleText::expandColorDirective(StyleDraft &draft, ColorSetType type,
                                             const QString &selector,
                                             const OxaColorSetMap &colorSets)
 {
-    const auto directive = findDirective(text, colorTag(type));
+    const auto directive = draft.findDirective(colorTag(type));
     if (!directive)
         return {};
 
-    const auto found = colorSets.find(directive->value.toStdString());
-    if (found == colorSets.cend() || !found->second.normal.isValid()) {
+    const OxaColorSet *set = findSet(colorSets, directive->value);
+    if (!set || !set->normal.isValid()) {
         return type == ColorSetType::Background
-                ? expandSpecialBackground(text, *directive, selector, colorSets)
-                : expandLiteralColor(text, *directive, type, selector);
+                ? expandSpecialBackground(draft, *directive, selector, colorSets)
+                : expandLiteralColor(draft, *directive, type, selector);
     }
 
-    RuleWriter writer(selector, type);
-    writer.addRules(found->second);
-    if (needsOutlineRule(type, found->second))
-        writer.addOutlineRule();
-    replace(text, *directive, writer);
-    return found->second;
+    draft.replace(*directive, [&](TextWriter &text) {
+        RuleWriter writer(text, selector, type);
+        writer.addRules(*set);
+        if (needsOutlineRule(type, *set))
+            writer.addOutlineRule();
+    });
+    return *set;
 }

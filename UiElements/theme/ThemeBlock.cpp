@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ThemeBlock.h"
 
+#include "WidgetStyleText_p.h"
+
 #include <QMetaMethod>
 #include <QVariant>
+
+using OxaThemeUtils::AppThemeType;
 
 void ThemeBlock::followTheme()
 {
@@ -10,13 +14,19 @@ void ThemeBlock::followTheme()
     followParent();
 }
 
-void ThemeBlock::followObjectName() { m_class.followObjectName(m_widget); }
+void ThemeBlock::followObjectName()
+{
+    if (!m_followsObjectName)
+        m_class.followObjectName(m_widget);
+    m_followsObjectName = true;
+}
 
 void ThemeBlock::setCSS(const QString &styleText)
 {
     m_styleText = styleText;
-    OxaThemeUtils::CSSParserResult result =
-            OxaThemeUtils::parseCSS(m_widget, m_styleText, OxaThemeUtils::getAppOxaColorSets());
+    const OxaThemeUtils::CSSParserResult result =
+            WidgetStyleText::parse(m_widget, effectiveThemeType(), m_styleText,
+                                   OxaThemeUtils::getAppOxaColorSets());
     m_cssData = result.oxaCSS;
     if (m_keptSets)
         *m_keptSets = { result.backgroundColorSet, result.borderColorSet, result.textColorSet };
@@ -39,9 +49,11 @@ void ThemeBlock::setStyleSheet(const QString &styleSheet)
     m_widget->QWidget::setStyleSheet(styleSheet);
 }
 
-OxaThemeUtils::AppThemeType ThemeBlock::effectiveThemeType() const
+AppThemeType ThemeBlock::effectiveThemeType() const
 {
-    return OxaThemeUtils::getThemeTypeOfWidget(m_widget);
+    const AppThemeType own = OxaThemeUtils::stringToThemeType(m_themeType);
+    return own != AppThemeType::Global ? own
+                                       : OxaThemeUtils::getThemeTypeOfWidget(m_widget->window());
 }
 
 void ThemeBlock::setThemeType(const QString &themeType)

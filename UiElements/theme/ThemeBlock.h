@@ -87,6 +87,7 @@ private:
     QString m_styleText;
     OxaCSSData m_cssData;
     QString m_themeType = QStringLiteral("global");
+    bool m_followsObjectName = false;
 };
 
 template <typename Widget>
@@ -100,8 +101,7 @@ const ThemeBlock::WidgetClass ThemeBlock::classOf = {
     },
     [](QWidget *widget) {
         auto *self = static_cast<Widget *>(widget);
-        QObject::connect(self, &QObject::objectNameChanged, self, &Widget::refreshCSS,
-                         Qt::UniqueConnection);
+        QObject::connect(self, &QObject::objectNameChanged, self, &Widget::refreshCSS);
     },
 };
 

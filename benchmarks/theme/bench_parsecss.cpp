@@ -3,9 +3,7 @@
 #include "support/Comparison.h"
 #include "support/Stores.h"
 
-#include <QRegularExpression>
-
-#include <vector>
+#include <utility>
 
 namespace {
 
@@ -36,55 +34,61 @@ QString expandedNaively()
     return NaiveExpansion::parseCSS(selector, styleText, store()).expandedStyleSheet;
 }
 
-/// The floor: a single pass that knows all pieces of the finished text beforehand, and writes the
-/// colours by Qt's own function.
-class PieceWriter
+/// Writes one rule for each state of \a set, in the order of the expansion.
+void writeRules(QString &sheet, QLatin1String property, const OxaColorSet &set)
 {
-public:
-    explicit PieceWriter(const QString &text) : m_length(text.size())
-    {
-        int end = 0;
-        auto colors = QRegularExpression(QStringLiteral("#[0-9a-f]{8}")).globalMatch(text);
-        while (colors.hasNext()) {
-            const QRegularExpressionMatch color = colors.next();
-            m_pieces.push_back({ text.mid(end, color.capturedStart() - end), color.captured() });
-            end = color.capturedEnd();
-        }
-        m_end = text.mid(end);
-    }
-
-    QString write() const
-    {
-        QString text;
-        text.reserve(m_length);
-        for (const Piece &piece : m_pieces) {
-            text += piece.literal;
-            text += piece.color.name(QColor::HexArgb);
-        }
-        return text += m_end;
-    }
-
-private:
-    struct Piece
-    {
-        QString literal;
-        QColor color;
+    const std::pair<QLatin1String, const QColor &> states[] = {
+        { QLatin1String(), set.normal },
+        { QLatin1String(":checked"), set.checked },
+        { QLatin1String(":focus"), set.focused },
+        { QLatin1String(":hover"), set.hovered },
+        { QLatin1String(":pressed"), set.pressed },
+        { QLatin1String(":disabled"), set.disabled },
     };
-    std::vector<Piece> m_pieces;
-    QString m_end;
-    const int m_length;
-};
+    for (const auto &[pseudoState, color] : states) {
+        sheet += selector;
+        sheet += pseudoState;
+        sheet += QLatin1Char('{');
+        sheet += property;
+        sheet += color.name(QColor::HexArgb);
+        sheet += QLatin1String(";}");
+    }
+}
+
+/// The floor: a program that reads nothing and knows all that the style text says writes the same
+/// sheet in a single pass, with one QColor::name() per colour.
+QString writtenByHand()
+{
+    QString sheet;
+    sheet.reserve(1024);
+    writeRules(sheet, QLatin1String("background-color:"), store().at("set-17"));
+    sheet += QLatin1Char(' ');
+    writeRules(sheet, QLatin1String("border-color:"), store().at("set-230"));
+    sheet += selector;
+    sheet += QLatin1String("{outline:none;} ");
+    writeRules(sheet, QLatin1String("color:"), store().at("set-411"));
+    sheet += QLatin1String("   ");
+    sheet += selector;
+    sheet += QLatin1String("{border-style:solid;border-top-width:2px;border-bottom-width:2px;"
+                           "border-radius:4px;} ");
+    sheet += selector;
+    sheet += QLatin1String("{padding: 4px 8px; selection-color:");
+    sheet += store().at("set-99").hovered.name(QColor::HexArgb);
+    sheet += QLatin1String("; selection-background-color:");
+    sheet += store().at("set-512").normal.name(QColor::HexArgb);
+    sheet += QLatin1String(";}");
+    return sheet;
+}
 
 void againstFloor(benchmark::State &state)
 {
-    const PieceWriter floor(expanded());
-    if (floor.write() != expanded())
+    if (writtenByHand() != expanded())
         state.SkipWithError("the floor writes another text");
 
     Comparison comparison(state);
     for (auto _ : state)
         comparison.round([] { benchmark::DoNotOptimize(expanded()); },
-                         [&floor] { benchmark::DoNotOptimize(floor.write()); }, callsPerRound);
+                         [] { benchmark::DoNotOptimize(writtenByHand()); }, callsPerRound);
     comparison.ratioAtMost(0.6);
 }
 BENCHMARK(againstFloor)
