@@ -3,6 +3,10 @@
 
 #include <array>
 
+// Not inline: where a string's memory is from, the compiler takes its header for all of it and
+// warns.
+TextWriter::TextWriter(QChar *begin) : m_end(begin) { }
+
 TextWriter &TextWriter::operator<<(const QColor &color)
 {
     constexpr char16_t digits[] = u"0123456789abcdef";

@@ -4,7 +4,7 @@
 #include <QColor>
 #include <QString>
 
-#include <cstring>
+#include <algorithm>
 
 /// Writes many short pieces into memory that is known to have room for them.
 ///
@@ -13,15 +13,14 @@
 class TextWriter
 {
 public:
-    explicit TextWriter(QChar *begin) : m_end(begin) { }
+    explicit TextWriter(QChar *begin);
 
     /// Returns the end of what is written.
     const QChar *end() const { return m_end; }
 
     TextWriter &operator<<(QStringView text)
     {
-        std::memcpy(m_end, text.data(), static_cast<std::size_t>(text.size()) * sizeof(QChar));
-        m_end += text.size();
+        m_end = std::copy(text.begin(), text.end(), m_end);
         return *this;
     }
 
