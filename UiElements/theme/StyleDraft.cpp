@@ -49,10 +49,10 @@ std::optional<StyleDraft::Span> StyleDraft::findDirective(QStringView tag)
     for (int piece = 0; piece < m_pieces.size(); ++piece) {
         if (!beginsWith(m_pieces[piece], tag))
             continue;
-        auto span = spanUpTo(QLatin1Char(';'), piece, static_cast<int>(tag.size()));
-        if (span)
-            span->value = span->value.trimmed();
-        return span;
+        const auto span = spanUpTo(QLatin1Char(';'), piece, static_cast<int>(tag.size()));
+        if (!span)
+            return std::nullopt;
+        return Span { span->first, span->last, span->end, span->value.trimmed() };
     }
     return std::nullopt;
 }

@@ -10,11 +10,13 @@ TextWriter::TextWriter(QChar *begin) : m_end(begin) { }
 TextWriter &TextWriter::operator<<(const QColor &color)
 {
     constexpr char16_t digits[] = u"0123456789abcdef";
-    std::array<char16_t, 9> name = { u'#' };
+    constexpr int length = 9;
     QRgb rgba = color.rgba();
-    for (std::size_t i = name.size() - 1; i > 0; --i, rgba >>= 4)
-        name[i] = digits[rgba & 0xf];
-    return *this << QStringView(name.data(), qsizetype(name.size()));
+    *m_end = QLatin1Char('#');
+    for (int i = length - 1; i > 0; --i, rgba >>= 4)
+        m_end[i] = digits[rgba & 0xf];
+    m_end += length;
+    return *this;
 }
 
 TextWriter &TextWriter::operator<<(quint8 number)
