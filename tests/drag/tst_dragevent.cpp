@@ -46,6 +46,8 @@ private Q_SLOTS:
     void addsThePictureOfALocalUrl_data();
     void addsThePictureOfALocalUrl();
 
+    void addsThePictureOnceTheMimeDataHasHtml();
+
     void fillsTheSameMimeDataAgain();
     void deletesItsMimeData();
     void copiesItsValues();
@@ -165,6 +167,16 @@ void tst_DragEvent::addsThePictureOfALocalUrl()
     QTEST(textOf(mimeData), "mimeData");
     const QSize size = mimeData->imageData().value<QImage>().size();
     QCOMPARE(size, mimeData->hasImage() ? QSize(3, 2) : QSize(0, 0));
+}
+
+void tst_DragEvent::addsThePictureOnceTheMimeDataHasHtml()
+{
+    DragEvent event(with("data", QUrl::fromLocalFile(picture()).toEncoded()));
+    QMimeData *mimeData = event.toMimeData();
+    QCOMPARE(textOf(mimeData), QString());
+    mimeData->setHtml(QStringLiteral("<i>"));
+    event.toMimeData();
+    QCOMPARE(textOf(mimeData), QStringLiteral("html=<i>;image;"));
 }
 
 void tst_DragEvent::fillsTheSameMimeDataAgain()

@@ -58,3 +58,17 @@ public:
 
     using BaseListModel::setData;
 };
+
+/// A list that says it has two rows at most.
+class CappedListModel : public LetterListModel
+{
+    Q_OBJECT
+
+public:
+    using LetterListModel::LetterListModel;
+
+    int rowCount(const QModelIndex &parent = QModelIndex()) const override
+    {
+        return qMin(LetterListModel::rowCount(parent), 2);
+    }
+};

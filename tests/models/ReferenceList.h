@@ -91,15 +91,21 @@ public:
         noteCount();
     }
 
+    void clear()
+    {
+        if (rows.empty())
+            return;
+        rows.clear();
+        emitted += QStringLiteral("reset");
+        noteCount();
+    }
+
     void replace(const std::vector<ModelRow> &given)
     {
-        if (given.empty() && !rows.empty()) {
-            rows.clear();
-            emitted += QStringLiteral("reset");
-            noteCount();
-        }
-        if (given.empty())
+        if (given.empty()) {
+            clear();
             return;
+        }
         if (rows.empty()) {
             append(given);
             return;

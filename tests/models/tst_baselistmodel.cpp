@@ -20,23 +20,9 @@ struct HasPublicSetData<
 {
 };
 
-/// A subclass that says how many rows it has.
-class CappedListModel : public LetterListModel
-{
-    Q_OBJECT
-
-public:
-    using LetterListModel::LetterListModel;
-
-    int rowCount(const QModelIndex &parent = QModelIndex()) const override
-    {
-        return qMin(LetterListModel::rowCount(parent), 2);
-    }
-};
-
 } // namespace
 
-/// The rows of a BaseListModel: what they are, how they are found, how single values are written.
+/// The rows of a BaseListModel: what they are, how they are found, and their values.
 class tst_BaseListModel : public QObject
 {
     Q_OBJECT
@@ -44,6 +30,7 @@ class tst_BaseListModel : public QObject
 private Q_SLOTS:
     void leavesRoleNamesToSubclasses();
     void startsEmpty();
+    void takesAParent();
     void showsCountAndHeaderAsProperties();
     void tellsOfANewHeaderOnly();
     void hasNoRowsBelowARow();
@@ -58,6 +45,7 @@ private Q_SLOTS:
 
     void keepsSetDataFromTheOutside();
     void changesARoleThatTheRowHas();
+    void changesAnyRoleThatTheRowHas();
     void reportsAnEqualValueToo();
     void refusesToSetData_data();
     void refusesToSetData();
@@ -67,14 +55,6 @@ private Q_SLOTS:
     void comparesIdsByteByByte();
     void findsTheLastOfARepeatedIdButReturnsTheFirst();
     void handsOutCopies();
-
-    void writesRolesAndAddsThoseThatTheRowLacks();
-    void writesRolesByIdAndByIndexAlike();
-    void reportsEqualRoleValuesToo();
-    void leavesOutUnusableRoles();
-    void reportsNothingWhenNoRoleIsUsable();
-    void ignoresRowsThatAreNotThere();
-    void ignoresARowPastTheVirtualRowCount();
 };
 
 void tst_BaseListModel::leavesRoleNamesToSubclasses()
@@ -92,6 +72,20 @@ void tst_BaseListModel::startsEmpty()
     QCOMPARE(model.header(), QString());
     QVERIFY(model.getRows().empty());
     QCOMPARE(BaseListModel::maximumRowCount, 10000);
+}
+
+void tst_BaseListModel::takesAParent()
+{
+    class Child : public BaseListModel
+    {
+    public:
+        using BaseListModel::BaseListModel;
+        QHash<int, QByteArray> roleNames() const override { return {}; }
+    };
+    QObject parent;
+    const auto *model = new Child(&parent);
+    QCOMPARE(model->parent(), &parent);
+    QVERIFY(!Child().parent());
 }
 
 void tst_BaseListModel::showsCountAndHeaderAsProperties()
@@ -216,6 +210,17 @@ void tst_BaseListModel::changesARoleThatTheRowHas()
     QCOMPARE(log.take(), QStringLiteral("chg 1,1 [257]"));
 }
 
+void tst_BaseListModel::changesAnyRoleThatTheRowHas()
+{
+    LetterListModel model;
+    model.appendRows({ { "a", { { 256, 1 }, { 0, 1 } } } });
+    ModelLog log(model);
+    QVERIFY(model.setData(model.index(0), 2, 256));
+    QVERIFY(model.setData(model.index(0), 3, 0));
+    QVERIFY(model.getRowById("a") == ModelRow("a", { { 256, 2 }, { 0, 3 } }));
+    QCOMPARE(log.take(), QStringLiteral("chg 0,0 [256] | chg 0,0 [0]"));
+}
+
 void tst_BaseListModel::reportsAnEqualValueToo()
 {
     LetterListModel model(QStringLiteral("abc"));
@@ -296,85 +301,6 @@ void tst_BaseListModel::handsOutCopies()
     rows.front().second[LetterListModel::Letter] = QStringLiteral("x");
     model.getRowById("b").second.clear();
     QCOMPARE(model.text(), QStringLiteral("ab"));
-}
-
-void tst_BaseListModel::writesRolesAndAddsThoseThatTheRowLacks()
-{
-    LetterListModel model(QStringLiteral("ab"));
-    ModelLog log(model);
-    model.setRoleValueForRow("b", { { 300, 3 }, { LetterListModel::Letter, QStringLiteral("B") } });
-    QCOMPARE(model.text(), QStringLiteral("aB"));
-    QCOMPARE(model.data(model.index(1), 300), QVariant(3));
-    QCOMPARE(log.take(), QStringLiteral("chg 1,1 [257,300]"));
-}
-
-void tst_BaseListModel::writesRolesByIdAndByIndexAlike()
-{
-    LetterListModel model(QStringLiteral("ab"));
-    ModelLog log(model);
-    model.setRoleValueForRow(model.index(0), { { LetterListModel::Letter, QStringLiteral("A") } });
-    QCOMPARE(log.take(), QStringLiteral("chg 0,0 [257]"));
-    model.setRoleValueForRow("b", { { LetterListModel::Letter, QStringLiteral("B") } });
-    QCOMPARE(log.take(), QStringLiteral("chg 1,1 [257]"));
-    QCOMPARE(model.text(), QStringLiteral("AB"));
-}
-
-void tst_BaseListModel::reportsEqualRoleValuesToo()
-{
-    LetterListModel model(QStringLiteral("a"));
-    ModelLog log(model);
-    model.setRoleValueForRow("a", { { LetterListModel::Letter, QStringLiteral("a") } });
-    QCOMPARE(log.take(), QStringLiteral("chg 0,0 [257]"));
-}
-
-void tst_BaseListModel::leavesOutUnusableRoles()
-{
-    LetterListModel model(QStringLiteral("ab"));
-    ModelLog log(model);
-    QTest::ignoreMessage(QtWarningMsg, "Role is less than Qt::UserRole! Role: -1");
-    QTest::ignoreMessage(QtWarningMsg, "Role is less than Qt::UserRole! Role: 256");
-    QTest::ignoreMessage(QtWarningMsg, "Role value is invalid! Row: 1  Role: 257");
-    model.setRoleValueForRow("b", { { -1, 1 }, { 256, 1 }, { 257, QVariant() }, { 258, 2 } });
-    QCOMPARE(model.text(), QStringLiteral("ab"));
-    QCOMPARE(model.data(model.index(1), 258), QVariant(2));
-    QCOMPARE(model.getRows().back().second.size(), std::size_t(2));
-    QCOMPARE(log.take(), QStringLiteral("chg 1,1 [258]"));
-}
-
-void tst_BaseListModel::reportsNothingWhenNoRoleIsUsable()
-{
-    LetterListModel model(QStringLiteral("a"));
-    ModelLog log(model);
-    QTest::ignoreMessage(QtWarningMsg, "Role is less than Qt::UserRole! Role: 256");
-    model.setRoleValueForRow("a", { { 256, 1 } });
-    model.setRoleValueForRow("a", {});
-    QCOMPARE(log.take(), QString());
-}
-
-void tst_BaseListModel::ignoresRowsThatAreNotThere()
-{
-    const LetterListModel longer(QStringLiteral("abc"));
-    const QMap<int, QVariant> values { { 256, 1 }, { 257, 1 } };
-    LetterListModel model;
-    ModelLog log(model);
-    model.setRoleValueForRow(longer.index(0), values);
-    model.appendRows(LetterListModel::rowsOf(QStringLiteral("a")));
-    log.take();
-    model.setRoleValueForRow("b", values);
-    model.setRoleValueForRow(QModelIndex(), values);
-    model.setRoleValueForRow(longer.index(1), values);
-    QCOMPARE(model.text(), QStringLiteral("a"));
-    QCOMPARE(log.take(), QString());
-}
-
-void tst_BaseListModel::ignoresARowPastTheVirtualRowCount()
-{
-    CappedListModel model(QStringLiteral("abc"));
-    const LetterListModel longer(QStringLiteral("abc"));
-    ModelLog log(model);
-    model.setRoleValueForRow(longer.index(2), { { 257, 1 } });
-    QCOMPARE(log.take(), QString());
-    QVERIFY(model.getRows() == LetterListModel::rowsOf(QStringLiteral("abc")));
 }
 
 QTEST_MAIN(tst_BaseListModel)

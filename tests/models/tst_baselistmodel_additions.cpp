@@ -24,12 +24,14 @@ private Q_SLOTS:
 
     void appendsOrUpdates_data();
     void appendsOrUpdates();
+    void updatesAlsoWhenTheNewRowsAreTooMany();
 
     void inserts_data();
     void inserts();
     void insertsAtNoPositionByAppending_data();
     void insertsAtNoPositionByAppending();
     void insertsUpToTheLimit();
+    void insertsNothingAnywhere();
 };
 
 void tst_BaseListModelAdditions::appends_data()
@@ -151,6 +153,19 @@ void tst_BaseListModelAdditions::appendsOrUpdates()
         QCOMPARE(model.getRowIndex(model.getRows()[i].first), i);
 }
 
+void tst_BaseListModelAdditions::updatesAlsoWhenTheNewRowsAreTooMany()
+{
+    LetterListModel model;
+    model.appendRows(LetterListModel::numberedRows(9999));
+    ModelLog log(model);
+    QTest::ignoreMessage(QtWarningMsg, tooManyRows);
+    model.appendOrUpdate({ { "a", {} }, { "1", { { 258, 7 } } }, { "b", {} } });
+    QCOMPARE(log.take(), QStringLiteral("chg 0,1"));
+    QCOMPARE(model.rowCount(), 9999);
+    QVERIFY(model.getRowById("1") == ModelRow("1", { { 258, 7 } }));
+    QVERIFY(!model.hasRow("a"));
+}
+
 void tst_BaseListModelAdditions::inserts_data()
 {
     addChangeColumns();
@@ -187,6 +202,7 @@ void tst_BaseListModelAdditions::insertsAtNoPositionByAppending_data()
     addChange("past the size", "ab", "cA", "abc", "ins 2,3 | count 3") << 7;
     addChange("before row 0", "ab", "cA", "abc", "ins 2,3 | count 3") << -1;
     addChange("in an empty model", "", "aA", "a", "ins 0,1 | count 1") << 0;
+    addChange("past the size of an empty model", "", "aA", "a", "ins 0,1 | count 1") << 3;
 }
 
 void tst_BaseListModelAdditions::insertsAtNoPositionByAppending()
@@ -218,6 +234,21 @@ void tst_BaseListModelAdditions::insertsUpToTheLimit()
     model.insertRows(1, LetterListModel::rowsOf(QStringLiteral("ab")));
     QCOMPARE(log.take(), QStringLiteral("ins 1,2 | count 10000"));
     QCOMPARE(model.getRowIndex("9997"), 9999);
+}
+
+void tst_BaseListModelAdditions::insertsNothingAnywhere()
+{
+    LetterListModel model;
+    ModelLog log(model);
+    model.insertRows(0, {});
+    model.appendRows(LetterListModel::rowsOf(QStringLiteral("ab")));
+    log.take();
+    for (const int row : { -1, 0, 2, 7 })
+        model.insertRows(row, {});
+    // Qt's function of the same name inserts nothing either.
+    QVERIFY(!model.insertRows(0, 1, QModelIndex()));
+    QCOMPARE(model.text(), QStringLiteral("ab"));
+    QCOMPARE(log.take(), QString());
 }
 
 QTEST_MAIN(tst_BaseListModelAdditions)

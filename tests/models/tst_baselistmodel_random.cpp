@@ -65,7 +65,7 @@ QString doOne(Dice &dice, BaseListModel &model, ReferenceList &reference)
             QTest::ignoreMessage(QtWarningMsg, warning.toUtf8().constData());
         operation();
     };
-    const int choice = dice.from(0, 8);
+    const int choice = dice.oneIn(50) ? 9 : dice.from(0, 8);
     const std::vector<ModelRow> given = choice < 6 ? dice.rows(5) : dice.changed(reference.rows);
     switch (choice) {
     case 0:
@@ -88,6 +88,9 @@ QString doOne(Dice &dice, BaseListModel &model, ReferenceList &reference)
                 },
                 [&] { reference.setNumber(id, number); });
         return QStringLiteral("setRoleValueForRow");
+    case 9:
+        both([&] { model.clear(); }, [&] { reference.clear(); });
+        return QStringLiteral("clear");
     default:
         both([&] { model.replace(given); }, [&] { reference.replace(given); });
         return QStringLiteral("replace");

@@ -29,6 +29,7 @@ class tst_EmptyStateBaseListModel : public QObject
 private Q_SLOTS:
     void leavesRoleNamesToSubclasses();
     void takesAParent();
+    void addsItsPropertiesInOrder();
     void stillTellsOfItsRows();
     void tellsOfNewValuesByOneSignal_data();
     void tellsOfNewValuesByOneSignal();
@@ -47,6 +48,17 @@ void tst_EmptyStateBaseListModel::takesAParent()
     QObject parent;
     const auto *model = new EmptyStateList(&parent);
     QCOMPARE(model->parent(), &parent);
+}
+
+void tst_EmptyStateBaseListModel::addsItsPropertiesInOrder()
+{
+    const QMetaObject &type = EmptyStateBaseListModel::staticMetaObject;
+    QStringList names;
+    for (int i = type.propertyOffset(); i < type.propertyCount(); ++i)
+        names += QLatin1String(type.property(i).name());
+    QCOMPARE(names.join(QLatin1Char(' ')),
+             QStringLiteral("emptyStateHeader emptyStateSubtitle emptyStateImage "
+                            "emptyStateImageSize"));
 }
 
 void tst_EmptyStateBaseListModel::stillTellsOfItsRows()

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A proxy that whose filter can be asked, and which counts how often it is.
+/// A proxy whose filter can be asked, and which counts how often it is.
 class CountingProxy : public OverflowListProxyModel
 {
     Q_OBJECT
@@ -56,6 +56,7 @@ void tst_OverflowListProxyModel::startsAtZeroOrAtTheGivenIndex()
     QObject parent;
     QCOMPARE(OverflowListProxyModel().firstVisibleIndex(), 0);
     QCOMPARE(OverflowListProxyModel().header(), QString());
+    QCOMPARE((new OverflowListProxyModel(&parent))->parent(), &parent);
     const OverflowListProxyModel *proxy = new OverflowListProxyModel(&parent, 7);
     QCOMPARE(proxy->firstVisibleIndex(), 7);
     QCOMPARE(proxy->parent(), &parent);

@@ -11,22 +11,25 @@
 /// Records what a model emits as one short text: "ins 3,5 | count 6 | chg 1,2".
 ///
 /// Numbers are the first and the last row, and the roles of a change follow where it names any:
-/// "chg 1,1 [257,258]". Removals are "rem 0,1" and a reset is "reset".
+/// "chg 1,1 [257,258]". Removals are "rem 0,1" and a reset is "reset". What happens below a row
+/// says so: "rem 0,1 below 3".
 class ModelLog : public SignalLog
 {
 public:
     explicit ModelLog(const QAbstractItemModel &model)
     {
-        const auto noteRange = [this](const char *what, int first, int last) {
-            note(QStringLiteral("%1 %2,%3").arg(QLatin1String(what)).arg(first).arg(last));
+        const auto noteRange = [this](const char *what, int first, int last,
+                                      const QModelIndex &parent) {
+            note(QStringLiteral("%1 %2,%3").arg(QLatin1String(what)).arg(first).arg(last)
+                 + (parent.isValid() ? QStringLiteral(" below %1").arg(parent.row()) : QString()));
         };
         connect(model, &QAbstractItemModel::rowsInserted,
-                [noteRange](const QModelIndex &, int first, int last) {
-                    noteRange("ins", first, last);
+                [noteRange](const QModelIndex &parent, int first, int last) {
+                    noteRange("ins", first, last, parent);
                 });
         connect(model, &QAbstractItemModel::rowsRemoved,
-                [noteRange](const QModelIndex &, int first, int last) {
-                    noteRange("rem", first, last);
+                [noteRange](const QModelIndex &parent, int first, int last) {
+                    noteRange("rem", first, last, parent);
                 });
         connect(model, &QAbstractItemModel::dataChanged,
                 [this](const QModelIndex &first, const QModelIndex &last,

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LetterListModel.h"
+
+#include <QTest>
+
+namespace {
+
+/// Notes the letters at each signal of a change.
+void recordLetters(SignalLog &log, const LetterListModel &model)
+{
+    const auto note = [&log, &model] { log.note(model.text()); };
+    QObject::connect(&model, &QAbstractItemModel::rowsAboutToBeInserted, note);
+    QObject::connect(&model, &QAbstractItemModel::rowsInserted, note);
+    QObject::connect(&model, &QAbstractItemModel::rowsAboutToBeRemoved, note);
+    QObject::connect(&model, &QAbstractItemModel::rowsRemoved, note);
+    QObject::connect(&model, &QAbstractItemModel::modelAboutToBeReset, note);
+    QObject::connect(&model, &QAbstractItemModel::modelReset, note);
+    QObject::connect(&model, &QAbstractItemModel::dataChanged, note);
+    QObject::connect(&model, &BaseListModel::countChanged, note);
+}
+
+/// Notes at each signal of a change where the ids in \a ids are: "a0 b-1".
+void recordPositions(SignalLog &log, const LetterListModel &model, const QString &ids)
+{
+    const auto note = [&log, &model, ids] {
+        QStringList texts;
+        for (const QChar id : ids)
+            texts += QStringLiteral("%1%2").arg(id).arg(
+                    model.getRowIndex(std::string(1, id.toLatin1())));
+        log.note(texts.join(QLatin1Char(' ')));
+    };
+    QObject::connect(&model, &QAbstractItemModel::rowsInserted, note);
+    QObject::connect(&model, &QAbstractItemModel::rowsRemoved, note);
+    QObject::connect(&model, &QAbstractItemModel::modelReset, note);
+    QObject::connect(&model, &BaseListModel::countChanged, note);
+}
+
+} // namespace
+
+/// What a slot finds in a BaseListModel whose signal runs it.
+class tst_BaseListModelSignals : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void changesItsRowsBetweenItsSignals();
+    void findsTheNewPositionsInItsSignals();
+};
+
+void tst_BaseListModelSignals::changesItsRowsBetweenItsSignals()
+{
+    LetterListModel model;
+    SignalLog log;
+    recordLetters(log, model);
+    model.appendRows(LetterListModel::rowsOf(QStringLiteral("ab")));
+    QCOMPARE(log.take(), QStringLiteral(" | ab | ab"));
+    model.insertRows(1, LetterListModel::rowsOf(QStringLiteral("x")));
+    QCOMPARE(log.take(), QStringLiteral("ab | axb | axb"));
+    model.removeRows(0, 2);
+    QCOMPARE(log.take(), QStringLiteral("axb | b | b"));
+    model.replace(LetterListModel::rowsOf(QStringLiteral("Bcd")));
+    QCOMPARE(log.take(), QStringLiteral("b | bcd | bcd | Bcd"));
+    // A run is told once the row that follows it differs, or at the end.
+    model.replace(LetterListModel::rowsOf(QStringLiteral("bcD")));
+    QCOMPARE(log.take(), QStringLiteral("bcD | bcD"));
+    model.clear();
+    QCOMPARE(log.take(), QStringLiteral("bcD |  | "));
+}
+
+void tst_BaseListModelSignals::findsTheNewPositionsInItsSignals()
+{
+    LetterListModel model;
+    SignalLog log;
+    recordPositions(log, model, QStringLiteral("abx"));
+    model.appendRows(LetterListModel::rowsOf(QStringLiteral("ab")));
+    QCOMPARE(log.take(), QStringLiteral("a0 b1 x-1 | a0 b1 x-1"));
+    model.insertRows(1, LetterListModel::rowsOf(QStringLiteral("x")));
+    QCOMPARE(log.take(), QStringLiteral("a0 b2 x1 | a0 b2 x1"));
+    model.removeRows(0, 1);
+    QCOMPARE(log.take(), QStringLiteral("a-1 b1 x0 | a-1 b1 x0"));
+    // Replacing is not done yet at these signals, and its ids come with the rows' own places.
+    model.replace(LetterListModel::rowsOf(QStringLiteral("xba")));
+    QCOMPARE(log.take(), QStringLiteral("a-1 b1 x0 | a-1 b1 x0"));
+    QCOMPARE(model.getRowIndex("a"), 2);
+    model.clear();
+    QCOMPARE(log.take(), QStringLiteral("a-1 b-1 x-1 | a-1 b-1 x-1"));
+}
+
+QTEST_MAIN(tst_BaseListModelSignals)
+#include "tst_baselistmodel_signals.moc"
