@@ -3,6 +3,8 @@
 
 #include <UiElements/widgets/OxaLabel.h>
 
+#include <QScrollBar>
+
 #include <TextSettings.h>
 #include <pages/lists/ConversationsCard.h>
 #include <pages/lists/HistoryCard.h>
@@ -96,6 +98,7 @@ private Q_SLOTS:
     void asksOnceForAPageThatIsOnItsWay();
     void loadsAllRowsInSightAfterAJump();
     void keepsTheFirstRowAtAnotherFontScale();
+    void staysAtTheEndInAnotherTheme();
     void showsAsManyAvatarsAsThereIsRoomFor_data();
     void showsAsManyAvatarsAsThereIsRoomFor();
 };
@@ -227,6 +230,17 @@ void tst_ListsPage::keepsTheFirstRowAtAnotherFontScale()
     GalleryApplication::get()->textSettings()->setFontScale(1.0F);
     QCOMPARE(rowWhenLarge, row);
     QCOMPARE(view.firstRow(), row);
+}
+
+void tst_ListsPage::staysAtTheEndInAnotherTheme()
+{
+    const Shown<HistoryCard> shown;
+    auto *view = shown.card.findChild<LongListView *>();
+    buttonCalled(shown.card, "Last row")->click();
+    const QScrollBar *scrollBar = view->verticalScrollBar();
+    QCOMPARE(scrollBar->value(), scrollBar->maximum());
+    view->setThemeType(QStringLiteral("dark"));
+    QCOMPARE(scrollBar->value(), scrollBar->maximum());
 }
 
 void tst_ListsPage::showsAsManyAvatarsAsThereIsRoomFor_data()

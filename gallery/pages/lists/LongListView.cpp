@@ -92,12 +92,15 @@ void LongListView::fitScrollBar()
 
 void LongListView::refresh()
 {
-    const int row = firstRow();
     m_delegate->refresh(getThemeType());
-    m_rowHeight = m_delegate->rowHeight();
+    viewport()->update();
+    const int height = m_delegate->rowHeight();
+    if (height == m_rowHeight)
+        return;
+    const int row = firstRow();
+    m_rowHeight = height;
     fitScrollBar();
     scrollToRow(row);
-    viewport()->update();
 }
 
 void LongListView::repaintRows(const QModelIndex &first, const QModelIndex &last)
