@@ -184,7 +184,10 @@ void tst_BaseListModelReplace::comparesValuesAsQVariantDoes_data()
     QTest::newRow("a null value of text and an empty text")
             << QVariant(QVariant::String) << QVariant(QStringLiteral(""));
     QTest::newRow("one text, shared") << text << text;
-    QTest::newRow("texts of which one begins the other") << text << QVariant(QStringLiteral("12"));
+    QTest::newRow("a text and one that it begins") << text << QVariant(QStringLiteral("12"));
+    QTest::newRow("a text and one that begins it") << QVariant(QStringLiteral("12")) << text;
+    QTest::newRow("texts that differ at their end")
+            << QVariant(QStringLiteral("1234")) << QVariant(QStringLiteral("1235"));
     QTest::newRow("equal numbers") << QVariant(1) << QVariant(1);
     QTest::newRow("other numbers") << QVariant(1) << QVariant(2);
     QTest::newRow("a null value of number and 0") << QVariant(QVariant::Int) << QVariant(0);

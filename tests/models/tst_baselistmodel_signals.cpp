@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+#include <utility>
+
 namespace {
 
 /// Notes the letters at each signal of a change.
@@ -45,6 +47,7 @@ class tst_BaseListModelSignals : public QObject
 private Q_SLOTS:
     void changesItsRowsBetweenItsSignals();
     void findsTheNewPositionsInItsSignals();
+    void updatesNoFurtherThanToAnIdWhoseRowASlotHasTaken();
 };
 
 void tst_BaseListModelSignals::changesItsRowsBetweenItsSignals()
@@ -84,6 +87,33 @@ void tst_BaseListModelSignals::findsTheNewPositionsInItsSignals()
     QCOMPARE(model.getRowIndex("a"), 2);
     model.clear();
     QCOMPARE(log.take(), QStringLiteral("a-1 b-1 x-1 | a-1 b-1 x-1"));
+}
+
+// What no client should do: the rows are taken away while others come, so that the index is ahead.
+void tst_BaseListModelSignals::updatesNoFurtherThanToAnIdWhoseRowASlotHasTaken()
+{
+    LetterListModel model(QStringLiteral("pq"));
+    ModelLog log(model);
+    connect(&model, &QAbstractItemModel::rowsAboutToBeInserted, this, [&] {
+        if (model.hasRow("p"))
+            model.clear();
+    });
+    bool isFirst = true;
+    connect(&model, &QAbstractItemModel::dataChanged, this, [&] {
+        if (!std::exchange(isFirst, false))
+            return;
+        log.note(model.text());
+        QCOMPARE(model.getRowIndex("d"), 5);
+        QTest::ignoreMessage(QtWarningMsg, "Out of range! This should never happen!");
+        model.appendOrUpdate(LetterListModel::rowsOf(QStringLiteral("XnDA")));
+        log.note(model.text());
+        model.appendRows(LetterListModel::rowsOf(QStringLiteral("yz")));
+    });
+    model.replace(LetterListModel::rowsOf(QStringLiteral("xbabcd")));
+    QCOMPARE(log.take(),
+             QStringLiteral("reset | count 0 | ins 2,5 | count 4 | chg 0,0 | xbad | "
+                            "chg 0,0 | Xbad | ins 4,5 | count 6 | chg 2,5"));
+    QCOMPARE(model.text(), QStringLiteral("Xbabcd"));
 }
 
 QTEST_MAIN(tst_BaseListModelSignals)
