@@ -77,6 +77,7 @@ int GalleryApplication::run(const GalleryOptions &options)
         break;
     }
 
+    setArtworkFolder(options.artworkFolder);
     QString problem;
     if (!loadDocuments(options.documents, problem))
         return fail(problem);

@@ -34,6 +34,12 @@ public:
     /// Returns what sets direction and size of text.
     TextSettings *textSettings() const { return m_textSettings; }
 
+    /// Returns the folder of downloaded pictures, which need not exist.
+    QString artworkFolder() const { return m_artworkFolder; }
+
+    /// Sets the folder of downloaded pictures, for pages that are made from now on.
+    void setArtworkFolder(const QString &folder) { m_artworkFolder = folder; }
+
     void onQmlEngineCreated(OxaQmlEngine *engine) override;
     void restart() override;
     void registerMainWindowShortcuts(OxaMainWindow *window) override;
@@ -43,4 +49,5 @@ private:
 
     ThemeSwitcher *m_themeSwitcher = nullptr;
     TextSettings *const m_textSettings;
+    QString m_artworkFolder = GalleryOptions::defaultArtworkFolder();
 };

@@ -5,6 +5,8 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -16,6 +18,7 @@ const QString invertedSetsOption = QStringLiteral("inverted-sets");
 const QString pageOption = QStringLiteral("page");
 const QString listPagesOption = QStringLiteral("list-pages");
 const QString screenshotsOption = QStringLiteral("screenshots");
+const QString artworkOption = QStringLiteral("artwork");
 
 QString tr(const char *text) { return QCoreApplication::translate("GalleryOptions", text); }
 
@@ -32,6 +35,8 @@ void declareOptions(QCommandLineParser &parser)
             { pageOption, tr("Open the page called NAME."), QStringLiteral("NAME") },
             { listPagesOption, tr("Print the names of the pages.") },
             { screenshotsOption, tr("Write pictures of all pages to the folder DIR."),
+              QStringLiteral("DIR") },
+            { artworkOption, tr("Take downloaded pictures from the folder DIR."),
               QStringLiteral("DIR") },
     });
 }
@@ -72,6 +77,11 @@ GalleryOptions optionsOf(const QCommandLineParser &parser)
     if (!findPageEntry(options.page))
         return failure(tr("there is no page called %1; see --list-pages").arg(options.page));
 
+    if (parser.isSet(artworkOption))
+        options.artworkFolder = parser.value(artworkOption);
+    if (parser.isSet(artworkOption) && !QFileInfo(options.artworkFolder).isDir())
+        return failure(tr("there is no folder called %1").arg(options.artworkFolder));
+
     if (parser.isSet(screenshotsOption)) {
         options.task = GalleryOptions::Task::TakeScreenshots;
         options.screenshotFolder = parser.value(screenshotsOption);
@@ -82,6 +92,12 @@ GalleryOptions optionsOf(const QCommandLineParser &parser)
 }
 
 } // namespace
+
+QString GalleryOptions::defaultArtworkFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)
+            + QStringLiteral("/uielements/artwork");
+}
 
 GalleryOptions GalleryOptions::parse(const QStringList &arguments)
 {

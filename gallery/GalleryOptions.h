@@ -20,10 +20,14 @@ struct GalleryOptions
     };
 
     Task task = Task::ShowWindow;
-    QString page;             ///< Name of the page to open; never empty.
-    QString screenshotFolder; ///< Where pictures go.
-    QString message;          ///< What to print, for the tasks that print.
-    DocumentPaths documents;  ///< The colour documents; the gallery's own by default.
+    QString page;                                   ///< Name of the page to open; never empty.
+    QString screenshotFolder;                       ///< Where pictures go.
+    QString artworkFolder = defaultArtworkFolder(); ///< Where downloaded pictures are.
+    QString message;                                ///< What to print, for the tasks that print.
+    DocumentPaths documents; ///< The colour documents; the gallery's own by default.
+
+    /// Returns the folder that ./dev artwork fills, which need not exist.
+    static QString defaultArtworkFolder();
 
     /// Reads \a arguments, of which the first is the program. Needs an application object.
     static GalleryOptions parse(const QStringList &arguments);

@@ -5,6 +5,7 @@
 #include "pages/LabelsPage.h"
 #include "pages/StyleTextPage.h"
 #include "pages/TypographyPage.h"
+#include "pages/icons/IconsPage.h"
 #include "pages/lists/ListsPage.h"
 
 #include <QCoreApplication>
@@ -38,6 +39,7 @@ const std::vector<PageEntry> &pageEntries()
         entry("colours", tr("Colours"), foundations, make<ColoursPage>),
         entry("style-text", tr("Style text"), foundations, make<StyleTextPage>),
         entry("typography", tr("Typography"), foundations, make<TypographyPage>),
+        entry("icons", tr("Icons"), foundations, make<IconsPage>),
         entry("labels", tr("Labels"), widgets, make<LabelsPage>),
         entry("lists", tr("Lists"), models, make<ListsPage>),
     };

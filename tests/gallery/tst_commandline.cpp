@@ -58,7 +58,7 @@ void tst_CommandLine::printsHelp()
     QCOMPARE(run.errors, QString());
     QCOMPARE(run.exitCode, 0);
     for (const char *option : { "--colors", "--sets", "--inverted-sets", "--page", "--list-pages",
-                                "--screenshots", "--version" })
+                                "--screenshots", "--artwork", "--version" })
         QVERIFY2(run.output.contains(QLatin1String(option)), option);
 }
 
@@ -77,7 +77,8 @@ void tst_CommandLine::listsPages()
     QCOMPARE(run.errors, QString());
     QCOMPARE(run.exitCode, 0);
     const QStringList pages = linesOf(run.output);
-    for (const char *page : { "colours", "style-text", "typography", "labels" })
+    for (const char *page :
+         { "colours", "style-text", "typography", "icons", "labels" })
         QVERIFY2(pages.contains(QLatin1String(page)), page);
 }
 

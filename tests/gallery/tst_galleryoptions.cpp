@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "GalleryTest.h"
 
+#include <QDir>
+
 #include <GalleryOptions.h>
 
 using Task = GalleryOptions::Task;
@@ -27,6 +29,7 @@ private Q_SLOTS:
     void tellsTheTask();
     void opensTheFirstPageUnlessToldOtherwise();
     void takesAUsersDocuments();
+    void takesAFolderOfPictures();
     void tellsWhatIsWrong_data();
     void tellsWhatIsWrong();
 };
@@ -66,6 +69,13 @@ void tst_GalleryOptions::takesAUsersDocuments()
     QCOMPARE(options.documents.dark, QStringLiteral("opposite"));
 }
 
+void tst_GalleryOptions::takesAFolderOfPictures()
+{
+    QVERIFY(parse(QString()).artworkFolder.endsWith(QLatin1String("/uielements/artwork")));
+    const QString folder = QDir::tempPath();
+    QCOMPARE(parse(QStringLiteral("--artwork ") + folder).artworkFolder, folder);
+}
+
 void tst_GalleryOptions::tellsWhatIsWrong_data()
 {
     QTest::addColumn<QString>("arguments");
@@ -76,6 +86,8 @@ void tst_GalleryOptions::tellsWhatIsWrong_data()
     QTest::newRow("no inverted sets") << "--colors palette --sets ordinary" << together;
     QTest::newRow("an unknown page") << "--page nowhere"
                                      << "there is no page called nowhere; see --list-pages";
+    QTest::newRow("a folder that is not there") << "--artwork nowhere"
+                                                << "there is no folder called nowhere";
     QTest::newRow("an unknown option") << "--nonsense"
                                        << "Unknown option 'nonsense'.";
     QTest::newRow("an argument") << "labels"

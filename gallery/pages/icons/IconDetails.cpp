@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "IconDetails.h"
+
+#include "IconDiagnosis.h"
+#include "IconFiles.h"
+#include "IconMatrix.h"
+#include "Metrics.h"
+#include "pages/ColorSetModel.h"
+#include "widgets/Labels.h"
+#include "widgets/ScrollArea.h"
+#include "widgets/StatusBox.h"
+
+#include <UiElements/widgets/OxaLabel.h>
+
+#include <QVBoxLayout>
+
+namespace {
+
+using Outcome = IconDiagnosis::Outcome;
+
+StatusBox::Kind kindOf(Outcome outcome)
+{
+    switch (outcome) {
+    case Outcome::TakesColor:
+        return StatusBox::Kind::Success;
+    case Outcome::PaintsNothing:
+        return StatusBox::Kind::Warning;
+    case Outcome::Unreadable:
+        return StatusBox::Kind::Error;
+    default:
+        return StatusBox::Kind::Note;
+    }
+}
+
+void clear(QLayout *layout)
+{
+    while (QLayoutItem *item = layout->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+}
+
+} // namespace
+
+IconDetails::IconDetails(IconRenderers *renderers, QWidget *parent)
+    : OxaWidget(parent),
+      m_name(Labels::heading(QString())),
+      m_origin(Labels::caption(QString())),
+      m_findings(new QVBoxLayout),
+      m_state(Labels::caption(QString())),
+      m_matrix(new IconMatrix(renderers))
+{
+    setCSS(QStringLiteral("$backgroundColors: gallery-card-background;"
+                          "$borderColors: gallery-card-border;"
+                          "$borderRadius: 8;"));
+    for (OxaLabel *label : { m_name, m_origin }) {
+        label->setElideMode(Qt::ElideMiddle);
+        label->setMinimumWidth(1);
+    }
+    m_findings->setSpacing(Metrics::small);
+
+    auto *contents = new OxaWidget;
+    auto *column = new QVBoxLayout(contents);
+    column->setContentsMargins(Metrics::spacing, Metrics::spacing, Metrics::spacing,
+                               Metrics::spacing);
+    column->setSpacing(Metrics::tight);
+    column->addWidget(m_name);
+    column->addWidget(m_origin);
+    column->addSpacing(Metrics::small);
+    column->addLayout(m_findings);
+    column->addSpacing(Metrics::small);
+    column->addWidget(m_state);
+    column->addSpacing(Metrics::tight);
+    column->addWidget(m_matrix);
+    column->addStretch(1);
+
+    auto *area = new ScrollArea(this);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setContents(contents);
+    auto *frame = new QVBoxLayout(this);
+    frame->setContentsMargins(1, 1, 1, 1);
+    frame->addWidget(area);
+    setFixedWidth(m_matrix->sizeHint().width() + 2 * Metrics::spacing + Metrics::scrollBar);
+}
+
+void IconDetails::showIcon(const IconFile &file, const IconDiagnosis &diagnosis)
+{
+    m_path = file.path;
+    m_name->setText(file.name);
+    m_origin->setText(file.origin);
+    m_origin->setToolTip(file.path);
+    // Whoever paints a file that cannot be read is warned each time.
+    const bool isReadable = diagnosis.outcome != Outcome::Unreadable;
+    m_state->setVisible(isReadable);
+    m_matrix->setVisible(isReadable);
+    clear(m_findings);
+    m_findings->addWidget(
+            new StatusBox(kindOf(diagnosis.outcome), diagnosis.title(), diagnosis.reason));
+    if (!diagnosis.advice.isEmpty()) {
+        m_findings->addWidget(Labels::paragraph(tr("To change that: %1").arg(diagnosis.advice)));
+    }
+}
+
+void IconDetails::showColor(const QString &state, const QColor &color)
+{
+    m_state->setText(tr("%1, %2, pixel for pixel").arg(state, ColorSetModel::textOf(color)));
+    m_matrix->setIcon(m_path, color);
+}

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// An SVG file that the gallery shows.
+struct IconFile
+{
+    QString name;   ///< The file's name, without its ending.
+    QString path;   ///< Where the file is.
+    QString origin; ///< Whose it is.
+};
+
+/// The SVG files that the gallery knows.
+namespace IconFiles {
+
+/// Returns the gallery's own icons, which are resources, where the library looks for icons by name.
+std::vector<IconFile> ofGallery();
+
+/// Returns the gallery's files that do not take the colour of a state, or not as one would think.
+std::vector<IconFile> exceptions();
+
+/// Returns all SVG files of the packages in \a artworkFolder, package by package. A package is a
+/// folder with a "package.json"; its name may have a scope, which is a folder too.
+std::vector<IconFile> ofPackages(const QString &artworkFolder);
+
+} // namespace IconFiles

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "IconMatrix.h"
+
+#include "IconRenderers.h"
+#include "Metrics.h"
+
+#include <UiElements/fonts/OxaFont.h>
+#include <UiElements/svg/OxaSvgRenderer.h>
+
+#include <QPainter>
+#include <QStyle>
+
+#include <iterator>
+
+namespace {
+
+constexpr int sizes[] = { 12, 16, 24 };
+constexpr qreal ratios[] = { 1.0, 1.5, 2.0, 3.0 };
+constexpr int rows = int(std::size(sizes));
+constexpr int columns = int(std::size(ratios));
+
+int pixels(int size, qreal ratio) { return qRound(size * ratio); }
+
+OxaFont headingFont() { return OxaFont(OxaFont::Token::RadioButtonLabelSecondary); }
+
+int headingWidth()
+{
+    return QFontMetrics(headingFont()).horizontalAdvance(QStringLiteral("00")) + Metrics::small;
+}
+
+int headingHeight() { return QFontMetrics(headingFont()).height() + Metrics::tight; }
+
+/// Returns where \a column begins, or for the number of columns where they end.
+int left(int column)
+{
+    int x = headingWidth();
+    for (int i = 0; i < column; ++i)
+        x += pixels(sizes[rows - 1], ratios[i]) + Metrics::small;
+    return x;
+}
+
+int top(int row)
+{
+    int y = headingHeight();
+    for (int i = 0; i < row; ++i)
+        y += pixels(sizes[i], ratios[columns - 1]) + Metrics::small;
+    return y;
+}
+
+} // namespace
+
+IconMatrix::IconMatrix(IconRenderers *renderers, QWidget *parent)
+    : OxaWidget(parent), m_renderers(renderers)
+{
+    setAccessibleName(tr("Sizes and pixel ratios"));
+    connect(m_renderers, &IconRenderers::repaintNeeded, this, qOverload<>(&QWidget::update));
+}
+
+void IconMatrix::setIcon(const QString &path, const QColor &color)
+{
+    m_path = path;
+    m_color = color;
+    updateGeometry();
+    update();
+}
+
+QSize IconMatrix::sizeHint() const
+{
+    return { left(columns) - Metrics::small, top(rows) - Metrics::small };
+}
+
+void IconMatrix::paintEvent(QPaintEvent *event)
+{
+    OxaWidget::paintEvent(event);
+    QPainter painter(this);
+    paintHeadings(painter);
+    if (m_path.isEmpty())
+        return;
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column)
+            painter.drawImage(cell(row, column).topLeft(), picture(sizes[row], ratios[column]));
+    }
+}
+
+QRect IconMatrix::cell(int row, int column) const
+{
+    const int side = pixels(sizes[row], ratios[column]);
+    const QRect mirrored(left(column), top(row), side, side);
+    return QStyle::visualRect(layoutDirection(), rect(), mirrored);
+}
+
+void IconMatrix::paintHeadings(QPainter &painter) const
+{
+    painter.setFont(headingFont());
+    painter.setPen(OxaThemeUtils::getColorSet("gallery-caption-text", getThemeType()).normal);
+    for (int column = 0; column < columns; ++column) {
+        const QRect heading(left(column), 0, left(column + 1) - left(column), headingHeight());
+        painter.drawText(QStyle::visualRect(layoutDirection(), rect(), heading),
+                         Qt::AlignLeft | Qt::AlignTop, tr("%1×").arg(ratios[column]));
+    }
+    for (int row = 0; row < rows; ++row) {
+        const QRect heading(0, top(row), headingWidth(), painter.fontMetrics().height());
+        painter.drawText(QStyle::visualRect(layoutDirection(), rect(), heading),
+                         Qt::AlignLeft | Qt::AlignTop, QString::number(sizes[row]));
+    }
+}
+
+QImage IconMatrix::picture(int size, qreal ratio) const
+{
+    const int side = pixels(size, ratio);
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    image.setDevicePixelRatio(ratio);
+    QPainter painter(&image);
+    m_renderers->get(m_path)->draw(&painter, QRectF(0, 0, size, size), m_color, 1.0);
+    painter.end();
+    image.setDevicePixelRatio(1.0);
+    return image;
+}

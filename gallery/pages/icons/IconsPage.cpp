@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "IconsPage.h"
+
+#include "GalleryApplication.h"
+#include "IconDetails.h"
+#include "IconModel.h"
+#include "IconRenderers.h"
+#include "IconTable.h"
+#include "Metrics.h"
+#include "TextSettings.h"
+#include "widgets/EmptyState.h"
+#include "widgets/Labels.h"
+#include "widgets/LineEdit.h"
+#include "widgets/SegmentedControl.h"
+
+#include <UiElements/widgets/OxaLabel.h>
+
+#include <QLocale>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int searchWidth = 200;
+constexpr int iconSizes[] = { 12, 16, 24, 32, 48 };
+constexpr int firstIconSize = 2;
+
+enum Source { Own, Exceptions, Packages };
+
+std::vector<IconFile> filesOf(int source)
+{
+    switch (source) {
+    case Own:
+        return IconFiles::ofGallery();
+    case Exceptions:
+        return IconFiles::exceptions();
+    default:
+        return IconFiles::ofPackages(GalleryApplication::get()->artworkFolder());
+    }
+}
+
+struct NamedSet
+{
+    QString text;
+    QString name;
+};
+
+/// Returns sets whose states differ as much as those of a few kinds of controls do.
+QVector<NamedSet> namedSets()
+{
+    return { { IconsPage::tr("Icon"), QStringLiteral("gallery-icon") },
+             { IconsPage::tr("Accent"), QStringLiteral("gallery-accent") },
+             { IconsPage::tr("Link"), QStringLiteral("button-hyperlink-text") },
+             { IconsPage::tr("Button"), QStringLiteral("gallery-quiet-button-text") },
+             { IconsPage::tr("Border"), QStringLiteral("oxa-recorder-comboBox-border") } };
+}
+
+QString number(int count) { return QLocale(QLocale::English).toString(count); }
+
+} // namespace
+
+IconsPage::IconsPage(QWidget *parent)
+    : Page(tr("Icons"),
+           tr("Icons in the six states of a colour set. Choose one to see why it takes the colour, "
+              "or why it does not."),
+           parent),
+      m_model(new IconModel(this)),
+      m_renderers(new IconRenderers(this)),
+      m_table(new IconTable(m_model, m_renderers, this)),
+      m_details(new IconDetails(m_renderers, this)),
+      m_noMatch(new EmptyState(tr("Try a part of a name, such as “arrow”, or list all files."),
+                               tr("Clear the search"), this)),
+      m_noPackage(new EmptyState(tr("./dev artwork fetches one. It is looked for in %1")
+                                         .arg(GalleryApplication::get()->artworkFolder()),
+                                 tr("Look again"), this)),
+      m_search(new LineEdit(this)),
+      m_count(Labels::chip(QString(), this))
+{
+    auto *sheet = new QHBoxLayout;
+    sheet->setSpacing(Metrics::spacing);
+    sheet->addWidget(m_table, 1);
+    sheet->addWidget(m_details);
+    m_noPackage->setSummary(tr("There is no icon pack here"));
+    body()->setSpacing(Metrics::small);
+    body()->addLayout(makeFilters());
+    body()->addLayout(makeLooks());
+    body()->addSpacing(Metrics::tight);
+    body()->addLayout(sheet, 1);
+    body()->addWidget(m_noMatch, 1);
+    body()->addWidget(m_noPackage, 1);
+
+    connect(m_search, &QLineEdit::textChanged, this, &IconsPage::search);
+    connect(m_noMatch, &EmptyState::actionTriggered, m_search, &QLineEdit::clear);
+    connect(m_noPackage, &EmptyState::actionTriggered, this, [this] { showSource(Packages); });
+    connect(m_table, &IconTable::currentIconChanged, this, &IconsPage::showDetails);
+    connect(m_model, &IconModel::surveyed, this, &IconsPage::showCounts);
+    connect(m_model, &IconModel::rowsInserted, this, &IconsPage::chooseFirst);
+    connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, m_table,
+            &IconTable::refresh);
+    showSource(Own);
+}
+
+QHBoxLayout *IconsPage::makeFilters()
+{
+    m_search->setPlaceholderText(tr("Search names"));
+    m_search->setAccessibleName(tr("Search"));
+    m_search->setClearButtonEnabled(true);
+    m_search->setMinimumWidth(searchWidth);
+    // In the order of the enumerations.
+    auto *source = new SegmentedControl({ tr("Gallery"), tr("Exceptions"), tr("Icon packs") },
+                                        this);
+    source->setAccessibleName(tr("Files"));
+    connect(source, &SegmentedControl::chosen, this, &IconsPage::showSource);
+    auto *shown = new SegmentedControl({ tr("All"), tr("Take the colour"), tr("Do not") }, this);
+    shown->setAccessibleName(tr("Shown"));
+    connect(shown, &SegmentedControl::chosen, this, [this](int i) {
+        m_model->setShown(static_cast<IconModel::Shown>(i));
+        chooseFirst();
+    });
+
+    auto *row = new QHBoxLayout;
+    row->setSpacing(Metrics::spacing);
+    row->addWidget(source);
+    row->addWidget(m_search, 1);
+    row->addWidget(shown);
+    return row;
+}
+
+QHBoxLayout *IconsPage::makeLooks()
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(Metrics::small);
+    row->addWidget(Labels::caption(tr("Colours"), this));
+    row->addWidget(makeColorSets());
+    row->addSpacing(Metrics::small);
+    row->addWidget(Labels::caption(tr("Size"), this));
+    row->addWidget(makeSizes());
+    row->addStretch(1);
+    row->addWidget(m_count);
+    return row;
+}
+
+QWidget *IconsPage::makeColorSets()
+{
+    QStringList texts;
+    QStringList names;
+    const QVector<NamedSet> sets = namedSets();
+    for (const NamedSet &set : sets) {
+        texts += set.text;
+        names += set.name;
+    }
+    auto *control = new SegmentedControl(texts, this);
+    control->setAccessibleName(tr("Colours"));
+    connect(control, &SegmentedControl::chosen, m_table,
+            [table = m_table, names](int i) { table->setColorSetName(names[i]); });
+    m_table->setColorSetName(names.front());
+    return control;
+}
+
+QWidget *IconsPage::makeSizes()
+{
+    QStringList texts;
+    for (const int size : iconSizes)
+        texts += QString::number(size);
+    auto *control = new SegmentedControl(texts, this);
+    control->setAccessibleName(tr("Size"));
+    control->setCurrentIndex(firstIconSize);
+    connect(control, &SegmentedControl::chosen, m_table,
+            [table = m_table](int i) { table->setIconPixels(iconSizes[i]); });
+    m_table->setIconPixels(iconSizes[firstIconSize]);
+    return control;
+}
+
+void IconsPage::showSource(int source)
+{
+    m_model->setFiles(filesOf(source));
+    chooseFirst();
+}
+
+void IconsPage::search(const QString &text)
+{
+    m_model->setFilter(text);
+    m_noMatch->setSummary(tr("Nothing matches “%1”").arg(text.trimmed()));
+    chooseFirst();
+}
+
+void IconsPage::showCounts()
+{
+    const int count = m_model->fileCount();
+    m_count->setText(
+            tr("%1 of %2 take the colour").arg(number(m_model->takingCount()), number(count)));
+    const bool isEmpty = m_model->rowCount() == 0;
+    m_table->setVisible(!isEmpty);
+    m_details->setVisible(!isEmpty);
+    m_noPackage->setVisible(count == 0);
+    m_noMatch->setVisible(isEmpty && count > 0);
+}
+
+void IconsPage::chooseFirst()
+{
+    if (!m_table->currentIndex().isValid() && m_model->rowCount() > 0)
+        m_table->setCurrentIndex(m_model->index(0, IconModel::FirstStateColumn));
+    showCounts();
+}
+
+void IconsPage::showDetails()
+{
+    const QModelIndex current = m_table->currentIndex();
+    if (!current.isValid())
+        return;
+    m_details->showIcon(m_model->file(current.row()), m_model->diagnosis(current.row()));
+    const QString state = IconModel::stateOf(current.column());
+    m_details->showColor(state, m_table->colorSet().colorForState(state));
+}

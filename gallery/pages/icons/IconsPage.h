@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Page.h"
+
+class EmptyState;
+class IconDetails;
+class IconModel;
+class IconRenderers;
+class IconTable;
+class LineEdit;
+class OxaLabel;
+class QHBoxLayout;
+
+/// Shows icons in the states of a colour set, and tells which of them take its colours and why the
+/// others do not.
+class IconsPage : public Page
+{
+    Q_OBJECT
+
+public:
+    explicit IconsPage(QWidget *parent = nullptr);
+
+private:
+    QHBoxLayout *makeFilters();
+    QHBoxLayout *makeLooks();
+    QWidget *makeColorSets();
+    QWidget *makeSizes();
+    void showSource(int source);
+    void search(const QString &text);
+    void showCounts();
+    void chooseFirst();
+    void showDetails();
+
+    IconModel *m_model;
+    IconRenderers *m_renderers;
+    IconTable *m_table;
+    IconDetails *m_details;
+    EmptyState *m_noMatch;
+    EmptyState *m_noPackage;
+    LineEdit *m_search;
+    OxaLabel *m_count;
+};
