@@ -7,6 +7,7 @@
 #include "pages/TypographyPage.h"
 #include "pages/icons/IconsPage.h"
 #include "pages/lists/ListsPage.h"
+#include "pages/svgwidgets/SvgWidgetsPage.h"
 
 #include <QCoreApplication>
 
@@ -41,6 +42,7 @@ const std::vector<PageEntry> &pageEntries()
         entry("typography", tr("Typography"), foundations, make<TypographyPage>),
         entry("icons", tr("Icons"), foundations, make<IconsPage>),
         entry("labels", tr("Labels"), widgets, make<LabelsPage>),
+        entry("svg-widgets", tr("SVG widgets"), widgets, make<SvgWidgetsPage>),
         entry("lists", tr("Lists"), models, make<ListsPage>),
     };
     return entries;

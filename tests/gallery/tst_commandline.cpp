@@ -78,7 +78,7 @@ void tst_CommandLine::listsPages()
     QCOMPARE(run.exitCode, 0);
     const QStringList pages = linesOf(run.output);
     for (const char *page :
-         { "colours", "style-text", "typography", "icons", "labels" })
+         { "colours", "style-text", "typography", "icons", "labels", "svg-widgets" })
         QVERIFY2(pages.contains(QLatin1String(page)), page);
 }
 
