@@ -8,9 +8,8 @@
 #include <QApplication>
 #include <QMetaEnum>
 #include <QPointer>
+#include <QVector>
 #include <QWidget>
-
-#include <vector>
 
 namespace {
 
@@ -19,12 +18,12 @@ constexpr char themeTypeProperty[] = "themeType";
 bool isThemed(const QWidget *widget) { return widget->property(themeTypeProperty).isValid(); }
 
 /// Writing a theme type applies it also when it is the same, and so a widget takes new colours.
+/// Some make others anew then.
 void reapplyThemeTypes()
 {
-    const QWidgetList widgets = QApplication::allWidgets();
-    // A widget that takes new colours may replace others.
-    const std::vector<QPointer<QWidget>> remaining(widgets.begin(), widgets.end());
-    for (QWidget *widget : remaining) {
+    const QWidgetList allWidgets = QApplication::allWidgets();
+    const QVector<QPointer<QWidget>> widgets(allWidgets.begin(), allWidgets.end());
+    for (const QPointer<QWidget> &widget : widgets) {
         if (widget && isThemed(widget))
             widget->setProperty(themeTypeProperty, widget->property(themeTypeProperty));
     }

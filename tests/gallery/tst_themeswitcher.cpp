@@ -41,6 +41,7 @@ private Q_SLOTS:
     void swapsTheStores();
     void bringsNewColorsToEveryWidget();
     void bringsNewLinkColorsToLabels();
+    void survivesWidgetsThatGoMeanwhile();
     void setsTheThemeTypeOfWindows();
     void paintsWhatQtPaintsInTheThemesColors();
 };
@@ -104,6 +105,30 @@ void tst_ThemeSwitcher::bringsNewLinkColorsToLabels()
     label.setText(QStringLiteral("<a href=\"x\">x</a>"));
     switcher()->setAppearance(Appearance::Dark);
     QVERIFY(label.text().contains(inOrdinaryStore("button-hyperlink-text").name()));
+}
+
+void tst_ThemeSwitcher::survivesWidgetsThatGoMeanwhile()
+{
+    // Widgets come in any order: of so many, some come after the first that takes all others along.
+    constexpr int count = 200;
+    std::vector<QPointer<OxaWidget>> widgets(count);
+    for (auto &widget : widgets)
+        widget = new OxaWidget;
+    const auto deleteOthers = [&widgets](const OxaWidget *first) {
+        for (auto &widget : widgets) {
+            if (widget != first)
+                delete widget;
+        }
+    };
+    for (const auto &widget : widgets) {
+        connect(widget.data(), &OxaWidget::themeTypeChanged, this,
+                [deleteOthers, first = widget.data()] { deleteOthers(first); });
+    }
+    switcher()->setAppearance(Appearance::Dark);
+    const auto left = std::count_if(widgets.begin(), widgets.end(),
+                                    [](const auto &widget) { return !widget.isNull(); });
+    QCOMPARE(int(left), 1);
+    deleteOthers(nullptr);
 }
 
 void tst_ThemeSwitcher::setsTheThemeTypeOfWindows()
