@@ -95,14 +95,21 @@ void IconMatrix::paintHeadings(QPainter &painter) const
     painter.setPen(OxaThemeUtils::getColorSet("gallery-caption-text", getThemeType()).normal);
     for (int column = 0; column < columns; ++column) {
         const QRect heading(left(column), 0, left(column + 1) - left(column), headingHeight());
-        painter.drawText(QStyle::visualRect(layoutDirection(), rect(), heading),
-                         Qt::AlignLeft | Qt::AlignTop, tr("%1×").arg(ratios[column]));
+        paintHeading(painter, heading, tr("%1×").arg(ratios[column]));
     }
     for (int row = 0; row < rows; ++row) {
         const QRect heading(0, top(row), headingWidth(), painter.fontMetrics().height());
-        painter.drawText(QStyle::visualRect(layoutDirection(), rect(), heading),
-                         Qt::AlignLeft | Qt::AlignTop, QString::number(sizes[row]));
+        paintHeading(painter, heading, QString::number(sizes[row]));
     }
+}
+
+void IconMatrix::paintHeading(QPainter &painter, const QRect &cell, const QString &text) const
+{
+    const Qt::Alignment start = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
+    // A value reads from left to right in any interface.
+    painter.setLayoutDirection(Qt::LeftToRight);
+    painter.drawText(QStyle::visualRect(layoutDirection(), rect(), cell), int(start | Qt::AlignTop),
+                     text);
 }
 
 QImage IconMatrix::picture(int size, qreal ratio) const

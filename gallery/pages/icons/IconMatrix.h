@@ -31,6 +31,7 @@ protected:
 private:
     QRect cell(int row, int column) const;
     void paintHeadings(QPainter &painter) const;
+    void paintHeading(QPainter &painter, const QRect &cell, const QString &text) const;
     QImage picture(int size, qreal ratio) const;
 
     IconRenderers *const m_renderers;

@@ -8,6 +8,7 @@
 
 #include <UiElements/fonts/OxaFont.h>
 
+#include <QGuiApplication>
 #include <QHeaderView>
 
 IconTable::IconTable(IconModel *model, IconRenderers *renderers, QWidget *parent)
@@ -16,17 +17,7 @@ IconTable::IconTable(IconModel *model, IconRenderers *renderers, QWidget *parent
     // Qt asked the style about parts of the table before there were rules for them. It forgets the
     // answers when a widget that is polished gets a sheet.
     ensurePolished();
-    setCSS(QStringLiteral("$backgroundColors: gallery-card-background;"
-                          "$borderColors: gallery-card-border;"
-                          "$borderRadius: 8;"
-                          // The delegate paints the ground of a chosen row.
-                          "IconTable { padding: 1px; selection-background-color: transparent; }"
-                          "QHeaderView, QHeaderView::section {"
-                          " background: $(gallery-card-background); border: none;"
-                          " color: $(gallery-caption-text); }"
-                          "QHeaderView::section { padding: 8px 0; }"
-                          "QHeaderView::section:first { padding: 8px 16px; }")
-           + ScrollArea::scrollBarStyleText());
+    applyLook();
 
     setModel(model);
     setItemDelegate(m_delegate);
@@ -41,6 +32,7 @@ IconTable::IconTable(IconModel *model, IconRenderers *renderers, QWidget *parent
     setUpHeaders();
     m_themeBlock.followTheme();
 
+    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &IconTable::applyLook);
     connect(renderers, &IconRenderers::repaintNeeded, viewport(), qOverload<>(&QWidget::update));
 }
 
@@ -73,7 +65,7 @@ void IconTable::refresh()
     for (int column = IconModel::FirstStateColumn; column < IconModel::ColumnCount; ++column)
         setColumnWidth(column, m_delegate->stateColumnWidth());
     viewport()->update();
-    Q_EMIT currentIconChanged();
+    Q_EMIT colorsChanged();
 }
 
 void IconTable::onThemeChanged() { refresh(); }
@@ -82,6 +74,25 @@ void IconTable::currentChanged(const QModelIndex &current, const QModelIndex &pr
 {
     QTableView::currentChanged(current, previous);
     Q_EMIT currentIconChanged();
+}
+
+void IconTable::applyLook()
+{
+    // To a style sheet the first section is the one to the left, in any direction.
+    const QString nameSection = QGuiApplication::isRightToLeft() ? QStringLiteral("last")
+                                                                 : QStringLiteral("first");
+    setCSS(QStringLiteral("$backgroundColors: gallery-card-background;"
+                          "$borderColors: gallery-card-border;"
+                          "$borderRadius: 8;"
+                          // The delegate paints the ground of a chosen row.
+                          "IconTable { padding: 1px; selection-background-color: transparent; }"
+                          "QHeaderView, QHeaderView::section {"
+                          " background: $(gallery-card-background); border: none;"
+                          " color: $(gallery-caption-text); }"
+                          "QHeaderView::section { padding: 8px 0; }"
+                          "QHeaderView::section:%1 { padding: 8px 16px; }")
+                   .arg(nameSection)
+           + ScrollArea::scrollBarStyleText());
 }
 
 void IconTable::setUpHeaders()

@@ -33,13 +33,17 @@ public:
     void refresh();
 
 Q_SIGNALS:
-    /// Another icon is the current one, or another state, or its colours changed.
+    /// Another icon is the current one, or another state.
     void currentIconChanged();
+
+    /// The icons have other colours.
+    void colorsChanged();
 
 protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
 private:
+    void applyLook();
     void setUpHeaders();
 
     IconDelegate *const m_delegate;

@@ -65,8 +65,9 @@ IconsPage::IconsPage(QWidget *parent)
            parent),
       m_model(new IconModel(this)),
       m_renderers(new IconRenderers(this)),
-      m_table(new IconTable(m_model, m_renderers, this)),
-      m_details(new IconDetails(m_renderers, this)),
+      m_sheet(new OxaWidget(this)),
+      m_table(new IconTable(m_model, m_renderers)),
+      m_details(new IconDetails(m_renderers)),
       m_noMatch(new EmptyState(tr("Try a part of a name, such as “arrow”, or list all files."),
                                tr("Clear the search"), this)),
       m_noPackage(new EmptyState(tr("./dev artwork fetches one. It is looked for in %1")
@@ -75,7 +76,8 @@ IconsPage::IconsPage(QWidget *parent)
       m_search(new LineEdit(this)),
       m_count(Labels::chip(QString(), this))
 {
-    auto *sheet = new QHBoxLayout;
+    auto *sheet = new QHBoxLayout(m_sheet);
+    sheet->setContentsMargins(0, 0, 0, 0);
     sheet->setSpacing(Metrics::spacing);
     sheet->addWidget(m_table, 1);
     sheet->addWidget(m_details);
@@ -84,14 +86,15 @@ IconsPage::IconsPage(QWidget *parent)
     body()->addLayout(makeFilters());
     body()->addLayout(makeLooks());
     body()->addSpacing(Metrics::tight);
-    body()->addLayout(sheet, 1);
+    body()->addWidget(m_sheet, 1);
     body()->addWidget(m_noMatch, 1);
     body()->addWidget(m_noPackage, 1);
 
     connect(m_search, &QLineEdit::textChanged, this, &IconsPage::search);
     connect(m_noMatch, &EmptyState::actionTriggered, m_search, &QLineEdit::clear);
     connect(m_noPackage, &EmptyState::actionTriggered, this, [this] { showSource(Packages); });
-    connect(m_table, &IconTable::currentIconChanged, this, &IconsPage::showDetails);
+    connect(m_table, &IconTable::currentIconChanged, this, &IconsPage::showIcon);
+    connect(m_table, &IconTable::colorsChanged, this, &IconsPage::showColor);
     connect(m_model, &IconModel::surveyed, this, &IconsPage::showCounts);
     connect(m_model, &IconModel::rowsInserted, this, &IconsPage::chooseFirst);
     connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, m_table,
@@ -189,8 +192,7 @@ void IconsPage::showCounts()
     m_count->setText(
             tr("%1 of %2 take the colour").arg(number(m_model->takingCount()), number(count)));
     const bool isEmpty = m_model->rowCount() == 0;
-    m_table->setVisible(!isEmpty);
-    m_details->setVisible(!isEmpty);
+    m_sheet->setVisible(!isEmpty);
     m_noPackage->setVisible(count == 0);
     m_noMatch->setVisible(isEmpty && count > 0);
 }
@@ -202,12 +204,17 @@ void IconsPage::chooseFirst()
     showCounts();
 }
 
-void IconsPage::showDetails()
+void IconsPage::showIcon()
 {
-    const QModelIndex current = m_table->currentIndex();
-    if (!current.isValid())
+    const int row = m_table->currentIndex().row();
+    if (row < 0)
         return;
-    m_details->showIcon(m_model->file(current.row()), m_model->diagnosis(current.row()));
-    const QString state = IconModel::stateOf(current.column());
+    m_details->showIcon(m_model->file(row), m_model->diagnosis(row));
+    showColor();
+}
+
+void IconsPage::showColor()
+{
+    const QString state = IconModel::stateOf(m_table->currentIndex().column());
     m_details->showColor(state, m_table->colorSet().colorForState(state));
 }

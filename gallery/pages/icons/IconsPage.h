@@ -30,10 +30,12 @@ private:
     void search(const QString &text);
     void showCounts();
     void chooseFirst();
-    void showDetails();
+    void showIcon();
+    void showColor();
 
     IconModel *m_model;
     IconRenderers *m_renderers;
+    OxaWidget *m_sheet;
     IconTable *m_table;
     IconDetails *m_details;
     EmptyState *m_noMatch;
