@@ -24,12 +24,12 @@ IconModel::IconModel(QObject *parent) : QAbstractTableModel(parent)
     connect(&m_surveyTimer, &QTimer::timeout, this, &IconModel::survey);
 }
 
-void IconModel::setFiles(std::vector<IconFile> files)
+void IconModel::setFiles(const std::vector<IconFile> &files)
 {
     m_entries.clear();
     m_entries.reserve(files.size());
-    for (IconFile &file : files)
-        m_entries.push_back({ std::move(file), std::nullopt });
+    for (const IconFile &file : files)
+        m_entries.push_back({ file, std::nullopt });
     m_surveyed = 0;
     m_taking = 0;
     m_surveyTimer.start();

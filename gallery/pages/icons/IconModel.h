@@ -36,7 +36,7 @@ public:
     explicit IconModel(QObject *parent = nullptr);
 
     /// Lists \a files.
-    void setFiles(std::vector<IconFile> files);
+    void setFiles(const std::vector<IconFile> &files);
 
     /// Lists the files only whose name holds \a text in any case.
     void setFilter(const QString &text);
