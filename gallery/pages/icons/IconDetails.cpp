@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "IconDetails.h"
 
+#include "GalleryApplication.h"
 #include "IconDiagnosis.h"
 #include "IconFiles.h"
 #include "IconMatrix.h"
 #include "Metrics.h"
+#include "TextSettings.h"
 #include "pages/ColorSetModel.h"
 #include "widgets/Labels.h"
 #include "widgets/ScrollArea.h"
@@ -53,7 +55,7 @@ IconDetails::IconDetails(IconRenderers *renderers, QWidget *parent)
     setCSS(QStringLiteral("$backgroundColors: gallery-card-background;"
                           "$borderColors: gallery-card-border;"
                           "$borderRadius: 8;"));
-    for (OxaLabel *label : { m_name, m_origin }) {
+    for (OxaLabel *label : { m_name, m_origin, m_state }) {
         label->setElideMode(Qt::ElideMiddle);
         label->setMinimumWidth(1);
     }
@@ -80,7 +82,9 @@ IconDetails::IconDetails(IconRenderers *renderers, QWidget *parent)
     auto *frame = new QVBoxLayout(this);
     frame->setContentsMargins(1, 1, 1, 1);
     frame->addWidget(area);
-    setFixedWidth(m_matrix->sizeHint().width() + 2 * Metrics::spacing + Metrics::scrollBar);
+    connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, this,
+            &IconDetails::fitMatrix);
+    fitMatrix();
 }
 
 void IconDetails::showIcon(const IconFile &file, const IconDiagnosis &diagnosis)
@@ -105,4 +109,10 @@ void IconDetails::showColor(const QString &state, const QColor &color)
 {
     m_state->setText(tr("%1, %2, pixel for pixel").arg(state, ColorSetModel::textOf(color)));
     m_matrix->setIcon(m_path, color);
+}
+
+void IconDetails::fitMatrix()
+{
+    m_matrix->updateGeometry();
+    setFixedWidth(m_matrix->sizeHint().width() + 2 * (Metrics::spacing + 1) + Metrics::scrollBar);
 }

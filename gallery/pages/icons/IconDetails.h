@@ -27,6 +27,8 @@ public:
     void showColor(const QString &state, const QColor &color);
 
 private:
+    void fitMatrix();
+
     OxaLabel *m_name;
     OxaLabel *m_origin;
     QVBoxLayout *m_findings;

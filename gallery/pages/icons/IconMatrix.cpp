@@ -60,7 +60,6 @@ void IconMatrix::setIcon(const QString &path, const QColor &color)
 {
     m_path = path;
     m_color = color;
-    updateGeometry();
     update();
 }
 
