@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/layouts/FlowLayout.h>
+
+/// A layout whose items flow from left to right and wrap like the words of a text, while the top of
+/// each one sits under the item of the same column in the row above: rows of unequal heights pack
+/// tightly.
+///
+/// Columns are counted in each row, so that they stand below each other where items are equally
+/// wide. An item whose right edge would touch the layout's wraps already, except at the start of a
+/// row.
+///
+/// The height that the items need is taken from the last row: an item of an earlier one that
+/// reaches lower does not count, and hangs over.
+class UIELEMENTS_EXPORT AutoGridLayout : public FlowLayout
+{
+    Q_OBJECT
+
+public:
+    using FlowLayout::FlowLayout;
+    ~AutoGridLayout() override;
+
+private:
+    int doLayout(const QRect &rect, bool apply) const override;
+};

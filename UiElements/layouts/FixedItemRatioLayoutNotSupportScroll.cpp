@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "FixedItemRatioLayoutNotSupportScroll.h"
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+
+namespace {
+
+/// Cuts the fraction off. What no int can hold, as with a ratio of zero, comes to the nearest.
+int truncated(double value)
+{
+    constexpr double lowest = std::numeric_limits<int>::min();
+    constexpr double highest = std::numeric_limits<int>::max();
+    return static_cast<int>(qBound(lowest, value, highest));
+}
+
+} // namespace
+
+FixedItemRatioLayoutNotSupportScroll::FixedItemRatioLayoutNotSupportScroll(QWidget *parent,
+                                                                           QMargins margins,
+                                                                           int hSpacing,
+                                                                           int vSpacing)
+    : FlowLayout(parent, margins, hSpacing, vSpacing)
+{
+}
+
+FixedItemRatioLayoutNotSupportScroll::FixedItemRatioLayoutNotSupportScroll(QMargins margins,
+                                                                           int hSpacing,
+                                                                           int vSpacing)
+    : FlowLayout(margins, hSpacing, vSpacing)
+{
+}
+
+FixedItemRatioLayoutNotSupportScroll::~FixedItemRatioLayoutNotSupportScroll() = default;
+
+void FixedItemRatioLayoutNotSupportScroll::setItemData(const ItemData &data) { m_itemData = data; }
+
+FixedItemRatioLayoutNotSupportScroll::CalculatedItemData
+FixedItemRatioLayoutNotSupportScroll::getCalculatedItemData() const
+{
+    return m_calculatedItemData;
+}
+
+FixedItemRatioLayoutNotSupportScroll::CalculatedItemData
+FixedItemRatioLayoutNotSupportScroll::getCalculatedItemData(const QSize &size) const
+{
+    return getMaxLayout(size.width(), size.height(), m_itemData, int(getVisibleItems().size()));
+}
+
+QSize FixedItemRatioLayoutNotSupportScroll::minimumSize() const
+{
+    const QMargins margins = contentsMargins();
+    const int width = m_itemData.minimumWidth;
+    return { width + margins.left() + margins.right(),
+             getItemHeightFromWidth(width, m_itemData) + margins.top() + margins.bottom() };
+}
+
+bool FixedItemRatioLayoutNotSupportScroll::hasHeightForWidth() const { return false; }
+
+int FixedItemRatioLayoutNotSupportScroll::doLayout(const QRect &rect, bool apply) const
+{
+    const std::vector<QLayoutItem *> visible = getVisibleItems();
+    if (visible.empty())
+        return 0;
+    const int count = int(visible.size());
+    const QRect effective = rect.marginsRemoved(contentsMargins());
+    if (!apply)
+        return heightFor(effective.width(), count);
+
+    m_calculatedItemData = getMaxLayout(effective.width(), effective.height(), m_itemData, count);
+    place(visible, effective);
+    return 0;
+}
+
+/// Returns the height of \a count items of the smallest width, margins included, where the layout
+/// has \a width inside of its margins; 0 where not even one fits.
+int FixedItemRatioLayoutNotSupportScroll::heightFor(int width, int count) const
+{
+    const int spacing = m_itemData.spacing;
+    const int itemWidth = m_itemData.minimumWidth;
+    // Neither a width nor a spacing: there is no telling how many fit.
+    const int columns = itemWidth + spacing == 0 ? 0 : (width + spacing) / (itemWidth + spacing);
+    if (columns == 0)
+        return 0;
+    const int rows = getRowsOrColumns(count, columns);
+    const QMargins margins = contentsMargins();
+    return getItemHeightFromWidth(itemWidth, m_itemData) * rows + (rows - 1) * spacing
+            + margins.top() + margins.bottom();
+}
+
+void FixedItemRatioLayoutNotSupportScroll::place(const std::vector<QLayoutItem *> &visible,
+                                                 const QRect &effective) const
+{
+    const auto &[itemWidth, itemHeight, rows, columns] = m_calculatedItemData;
+    const int spacing = m_itemData.spacing;
+    const auto startOfRow = [&, itemWidth = itemWidth](int items) {
+        return effective.left()
+                + getBeginSpacing_CenterItems(effective.width(), itemWidth, items, spacing);
+    };
+    const int rest = int(visible.size()) % columns;
+    const int rowStart = startOfRow(columns);
+    const int lastRowStart = rest == 0 ? rowStart : startOfRow(rest);
+
+    const QSize size(itemWidth, itemHeight);
+    QPoint position(rowStart,
+                    effective.top()
+                            + getBeginSpacing_CenterItems(effective.height(), itemHeight, rows,
+                                                          spacing));
+    int row = 1;
+    int column = 1;
+    for (QLayoutItem *item : visible) {
+        item->setGeometry(QRect(position, size));
+        position.rx() += itemWidth + spacing;
+        if (++column <= columns)
+            continue;
+        column = 1;
+        // Where rows stay empty, this never is the last one: a partial row is not centred then.
+        position = { ++row == rows ? lastRowStart : rowStart, position.y() + itemHeight + spacing };
+    }
+}
+
+std::vector<QLayoutItem *> FixedItemRatioLayoutNotSupportScroll::getVisibleItems() const
+{
+    std::vector<QLayoutItem *> visible;
+    visible.reserve(items().size());
+    std::copy_if(items().begin(), items().end(), std::back_inserter(visible),
+                 [](const QLayoutItem *item) { return item && !item->isEmpty(); });
+    return visible;
+}
+
+/// Returns how many rows \a count items fill by \a other columns, or the other way round.
+int FixedItemRatioLayoutNotSupportScroll::getRowsOrColumns(int count, int other) const
+{
+    return (count - 1 + other) / other;
+}
+
+FixedItemRatioLayoutNotSupportScroll::CalculatedItemData
+FixedItemRatioLayoutNotSupportScroll::getMaxLayout(int width, int height, const ItemData &data,
+                                                   int count) const
+{
+    int bestWidth = 0;
+    int bestRows = 1;
+    for (int rows = 1; rows <= count; ++rows) {
+        const int itemWidth = getItemWidth(width, height, data, rows,
+                                           getRowsOrColumns(count, rows));
+        if (itemWidth > bestWidth) {
+            bestWidth = itemWidth;
+            bestRows = rows;
+        }
+    }
+    const int itemWidth = qMax(bestWidth, data.minimumWidth);
+    return { itemWidth, getItemHeightFromWidth(itemWidth, data), bestRows,
+             getRowsOrColumns(count, bestRows) };
+}
+
+/// Returns the width of items that fill \a width or \a height, whichever makes them smaller. The
+/// spacing is added once, and not taken off per item.
+int FixedItemRatioLayoutNotSupportScroll::getItemWidth(int width, int height, const ItemData &data,
+                                                       int rows, int columns) const
+{
+    const float perColumn = float(width + data.spacing) / float(columns);
+    const float perRow = float(height + data.spacing) / float(rows);
+    return qMin(truncated(double(perColumn)),
+                getItemWidthFromHeight(truncated(double(perRow)), data));
+}
+
+int FixedItemRatioLayoutNotSupportScroll::getItemWidthFromHeight(int height, ItemData data) const
+{
+    const int borders = 2 * data.borderWidth;
+    const float inner = float(height - borders) / data.heightToWidthRatio;
+    return truncated(double(inner) + 0.5 + borders);
+}
+
+int FixedItemRatioLayoutNotSupportScroll::getItemHeightFromWidth(int width, ItemData data) const
+{
+    const int borders = 2 * data.borderWidth;
+    const float inner = float(width - borders) * data.heightToWidthRatio;
+    return truncated(double(inner) + 0.5 + borders);
+}
+
+/// Returns the free room before \a count items, so that they stand in the middle of \a total; 0
+/// where they have no room.
+int FixedItemRatioLayoutNotSupportScroll::getBeginSpacing_CenterItems(int total, int itemSize,
+                                                                      int count, int spacing) const
+{
+    return qMax((total - (count - 1) * spacing - itemSize * count) / 2, 0);
+}

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/layouts/FlowLayout.h>
+
+class QStyle;
+
+/// How far from each other the items of a layout stand, worked out for one pass over them.
+///
+/// The layout and its parent are asked once, since nothing that they answer by changes during a
+/// pass; where they leave it to the items' own styles, each style is asked once for a run of items.
+class ItemSpacing
+{
+public:
+    explicit ItemSpacing(const FlowLayout &layout);
+
+    /// Takes the spacing that holds for \a item.
+    void take(QLayoutItem &item)
+    {
+        if (m_leavesToStyle)
+            askStyleOf(item);
+    }
+
+    /// Returns the pixels after the item, to the right.
+    int x() const { return m_x; }
+
+    /// Returns the pixels around the item from the rows above and below.
+    int y() const { return m_y; }
+
+private:
+    void askStyleOf(QLayoutItem &item);
+
+    const int m_ownX;
+    const int m_ownY;
+    const bool m_leavesToStyle;
+    int m_x;
+    int m_y;
+    const QStyle *m_style = nullptr;
+};

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/layouts/FlowLayout.h>
+
+/// A layout whose items flow and wrap, with a limit of items per row or a fixed number of them, and
+/// each of whose rows is aligned by itself.
+class UIELEMENTS_EXPORT SmartLayout : public FlowLayout
+{
+    Q_OBJECT
+
+public:
+    /// Makes the layout of \a parent. Spacings are those of FlowLayout.
+    ///
+    /// With Qt::AlignLeft rows stay at the left, with Qt::AlignCenter they are centred, and with
+    /// any other value, Qt::AlignHCenter included, they go to the right; all of that in any layout
+    /// direction. \a maximumItemsPerRow is -1 for no limit, else positive. With \a useWidgetSizing
+    /// sizes are asked of the widgets, and geometry is given to them, past their items: size
+    /// policies, limits of size and the alignment of an item do not count then.
+    SmartLayout(QWidget *parent, QMargins margins, int hSpacing, int vSpacing,
+                Qt::AlignmentFlag alignment, int maximumItemsPerRow, bool useWidgetSizing);
+    ~SmartLayout() override;
+
+    /// Sets the limit of items per row, -1 for none. A row that wraps early for lack of width
+    /// lowers the limit for the rows below it. With a limit of 1, every item gets its widget's size
+    /// hint. Does not invalidate: the value counts from the next layout pass.
+    void setMaximumItemsPerRow(int value);
+
+    /// Sets the number of items in each row, whatever their width and the limit; 0, the default,
+    /// for none. Does not invalidate.
+    void setFixedItemsPerRow(int value);
+
+    /// Takes all items out and has their widgets deleted later. The items themselves stay alive and
+    /// belong to nobody: who keeps pointers to them may go on using and may delete them.
+    void clear();
+
+protected:
+    int doLayout(const QRect &rect, bool apply) const override;
+
+private:
+    bool shouldBreakLine(int nextX, int spaceX, int lineHeight, int itemLimit,
+                         const QRect &effectiveRect, int index) const;
+    QSize sizeOf(QLayoutItem &item) const;
+    QSize placedSizeOf(QLayoutItem &item, const QSize &size) const;
+    int shiftFor(int spareWidth) const;
+    void place(QLayoutItem &item, const QRect &rect) const;
+
+    int m_maximumItemsPerRow;
+    int m_fixedItemsPerRow = 0;
+    bool m_useWidgetSizing;
+};
