@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Blocks.h"
+#include "support/Guards.h"
+
+#include <UiElements/layouts/AutoGridLayout.h>
+#include <UiElements/layouts/FixedItemRatioLayoutNotSupportScroll.h>
+#include <UiElements/layouts/SmartLayout.h>
+
+#include <QScrollArea>
+#include <QTest>
+#include <QVBoxLayout>
+
+using Blocks::Block;
+
+namespace {
+
+/// A shown window of 100 by 100 pixels with a layout of blocks.
+template <typename LayoutClass, typename... Arguments>
+struct Window : QWidget
+{
+    explicit Window(Arguments... arguments) : layout(this, QMargins(), 5, 3, arguments...)
+    {
+        for (int i = 0; i < 3; ++i)
+            layout.addWidget(new Block(QSize(40, 10)));
+        resize(100, 100);
+        show();
+    }
+
+    LayoutClass layout;
+};
+
+using GridWindow = Window<AutoGridLayout>;
+
+const QString inTwoRows = QStringLiteral("0,0 40x10 | 45,0 40x10 | 0,13 40x10");
+const QString inOneRow = QStringLiteral("0,0 40x10 | 45,0 40x10 | 90,0 40x10");
+
+} // namespace
+
+/// The layouts on windows, as Qt drives them.
+class tst_LayoutsInWindows : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void laysOutWhatIsShown();
+    void laysOutAnewWhenTheWindowChanges();
+    void laysOutAnewWhenAWidgetComes();
+    void laysOutAnewWhenAWidgetGoes();
+    void keepsTheRoomBesideAHiddenWidget();
+    void growsInAColumnWithItsRows();
+    void scrollsByItsHeightForWidth();
+    void exchangesMarginsOnTheScreen();
+    void fillsTheWindowWithTiles();
+};
+
+void tst_LayoutsInWindows::laysOutWhatIsShown()
+{
+    const GridWindow grid;
+    QTRY_COMPARE(Blocks::text(grid.layout), inTwoRows);
+    const Window<SmartLayout, Qt::AlignmentFlag, int, bool> smart(Qt::AlignLeft, -1, true);
+    QTRY_COMPARE(Blocks::text(smart.layout), inTwoRows);
+    QVERIFY(smart.layout.widgetAt(2)->isVisible());
+}
+
+void tst_LayoutsInWindows::laysOutAnewWhenTheWindowChanges()
+{
+    GridWindow window;
+    window.resize(200, 100);
+    QTRY_COMPARE(Blocks::text(window.layout), inOneRow);
+    window.resize(100, 100);
+    QTRY_COMPARE(Blocks::text(window.layout), inTwoRows);
+}
+
+void tst_LayoutsInWindows::laysOutAnewWhenAWidgetComes()
+{
+    GridWindow window;
+    QTRY_COMPARE(Blocks::text(window.layout), inTwoRows);
+    window.layout.addWidget(new Block(QSize(20, 20)));
+    QTRY_COMPARE(Blocks::text(window.layout), inTwoRows + QStringLiteral(" | 45,13 20x20"));
+    window.layout.prependWidget(new Block(QSize(30, 10)));
+    QTRY_COMPARE(Blocks::text(window.layout),
+                 QStringLiteral("0,0 30x10 | 35,0 40x10 | 0,13 40x10 | 45,13 20x20 | 0,26 40x10"));
+}
+
+void tst_LayoutsInWindows::laysOutAnewWhenAWidgetGoes()
+{
+    GridWindow window;
+    QTRY_COMPARE(Blocks::text(window.layout), inTwoRows);
+    delete window.layout.widgetAt(0);
+    QTRY_COMPARE(Blocks::text(window.layout), QStringLiteral("0,0 40x10 | 45,0 40x10"));
+}
+
+void tst_LayoutsInWindows::keepsTheRoomBesideAHiddenWidget()
+{
+    GridWindow window;
+    QTRY_COMPARE(Blocks::text(window.layout), inTwoRows);
+    window.layout.widgetAt(0)->hide();
+    // A hidden widget is an item without a size, and the spacing after it stays.
+    QTRY_COMPARE(window.layout.widgetAt(1)->geometry(), QRect(5, 0, 40, 10));
+    QCOMPARE(window.layout.widgetAt(2)->geometry(), QRect(50, 0, 40, 10));
+}
+
+void tst_LayoutsInWindows::growsInAColumnWithItsRows()
+{
+    QWidget window;
+    QVBoxLayout column(&window);
+    column.setContentsMargins(0, 0, 0, 0);
+    column.setSpacing(0);
+    auto *layout = new AutoGridLayout(QMargins(), 5, 3);
+    column.addLayout(layout);
+    auto *below = new Block(QSize(40, 10));
+    column.addWidget(below, 1);
+    for (int i = 0; i < 3; ++i)
+        layout->addWidget(new Block(QSize(40, 10)));
+    window.resize(100, 100);
+    window.show();
+    QTRY_COMPARE(below->y(), 23);
+    window.resize(200, 100);
+    QTRY_COMPARE(below->y(), 10);
+}
+
+void tst_LayoutsInWindows::scrollsByItsHeightForWidth()
+{
+    QScrollArea area;
+    area.setFrameShape(QFrame::NoFrame);
+    area.setWidgetResizable(true);
+    area.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto *contents = new QWidget;
+    auto *layout = new SmartLayout(contents, QMargins(), 5, 3, Qt::AlignLeft, -1, false);
+    for (int i = 0; i < 20; ++i)
+        layout->addWidget(new Block(QSize(40, 10)));
+    area.setWidget(contents);
+    area.resize(100, 50);
+    area.show();
+    QTRY_COMPARE(contents->height(), 10 * 10 + 9 * 3);
+    area.resize(2000, 50);
+    QTRY_COMPARE(contents->height(), 50);
+}
+
+void tst_LayoutsInWindows::exchangesMarginsOnTheScreen()
+{
+    GridWindow window;
+    window.layout.setContentsMargins(7, 0, 0, 0);
+    QTRY_COMPARE(window.layout.widgetAt(0)->x(), 7);
+    const LayoutDirectionGuard direction(Qt::RightToLeft);
+    QTRY_COMPARE(window.layout.widgetAt(0)->x(), 0);
+}
+
+void tst_LayoutsInWindows::fillsTheWindowWithTiles()
+{
+    Window<FixedItemRatioLayoutNotSupportScroll> window;
+    window.layout.setItemData({ 1.0F, 0, 0, 0 });
+    window.resize(300, 100);
+    QTRY_COMPARE(Blocks::text(window.layout),
+                 QStringLiteral("0,0 100x100 | 100,0 100x100 | 200,0 100x100"));
+    window.layout.widgetAt(1)->hide();
+    QTRY_COMPARE(window.layout.widgetAt(2)->geometry(), QRect(150, 0, 100, 100));
+    QCOMPARE(window.layout.getCalculatedItemData().columns, 2);
+}
+
+QTEST_MAIN(tst_LayoutsInWindows)
+#include "tst_layouts_inwindows.moc"
