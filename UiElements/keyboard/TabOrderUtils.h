@@ -43,7 +43,9 @@ UIELEMENTS_EXPORT QWidget *getNextPrevFocusableWidget(QWidget *widget, bool next
 UIELEMENTS_EXPORT bool focusNextPrevChild(bool next, QWidget *widget, QLayout *layout);
 
 /// Puts the widgets of \a layout behind \a first in the tab order, in the order of the layout.
-/// Widgets that never take the focus are left out.
+///
+/// Qt chains nothing to a widget that never takes the focus: what follows one in the layout is not
+/// chained to what stands before it.
 UIELEMENTS_EXPORT void fixFocusChainFromLayout(QWidget *first, QLayout *layout);
 
 /// Does the same and puts \a last behind them. Does nothing when an argument is null or the layout
