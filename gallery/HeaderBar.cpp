@@ -126,6 +126,7 @@ QWidget *HeaderBar::makeFontScaleControl()
     auto *slider = new Slider(scaleStepsPerUnit / 2, scaleStepsPerUnit * 3 / 2, scaleStepsPerUnit,
                               control);
     slider->setFixedWidth(88);
+    slider->setAccessibleName(tr("Font scale"));
     auto *value = Labels::caption(percentage(slider->value()), control);
     value->setMinimumWidth(40);
     row->addWidget(slider);

@@ -5,7 +5,9 @@
 #include "pages/LabelsPage.h"
 #include "pages/StyleTextPage.h"
 #include "pages/TypographyPage.h"
+#include "pages/focus/FocusPage.h"
 #include "pages/icons/IconsPage.h"
+#include "pages/layouts/LayoutsPage.h"
 #include "pages/lists/ListsPage.h"
 #include "pages/svgwidgets/SvgWidgetsPage.h"
 
@@ -36,6 +38,7 @@ const std::vector<PageEntry> &pageEntries()
     static const QString foundations = tr("Foundations");
     static const QString widgets = tr("Widgets");
     static const QString models = tr("Models");
+    static const QString behaviour = tr("Behaviour");
     static const std::vector<PageEntry> entries = {
         entry("colours", tr("Colours"), foundations, make<ColoursPage>),
         entry("style-text", tr("Style text"), foundations, make<StyleTextPage>),
@@ -44,6 +47,8 @@ const std::vector<PageEntry> &pageEntries()
         entry("labels", tr("Labels"), widgets, make<LabelsPage>),
         entry("svg-widgets", tr("SVG widgets"), widgets, make<SvgWidgetsPage>),
         entry("lists", tr("Lists"), models, make<ListsPage>),
+        entry("layouts", tr("Layouts"), behaviour, make<LayoutsPage>),
+        entry("focus", tr("Focus"), behaviour, make<FocusPage>),
     };
     return entries;
 }

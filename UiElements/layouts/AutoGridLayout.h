@@ -7,9 +7,9 @@
 /// each one sits under the item of the same column in the row above: rows of unequal heights pack
 /// tightly.
 ///
-/// Columns are counted in each row, so that they stand below each other where items are equally
-/// wide. An item whose right edge would touch the layout's wraps already, except at the start of a
-/// row.
+/// It is made for items of one width. Columns are counted in each row, so that with unequal widths
+/// they don't stand below each other, and an item may overlap one of a row further up. An item
+/// whose right edge would touch the layout's wraps already, except at the start of a row.
 ///
 /// The height that the items need is taken from the last row: an item of an earlier one that
 /// reaches lower does not count, and hangs over.

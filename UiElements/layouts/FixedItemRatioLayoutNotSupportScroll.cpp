@@ -141,13 +141,19 @@ FixedItemRatioLayoutNotSupportScroll::getMaxLayout(int width, int height, const 
 {
     int bestWidth = 0;
     int bestRows = 1;
-    for (int rows = 1; rows <= count; ++rows) {
-        const int itemWidth = getItemWidth(width, height, data, rows,
-                                           getRowsOrColumns(count, rows));
+    // More rows of as many columns only make items narrower, unless there is less than no height.
+    const bool onlyFewest = height + data.spacing >= 0 && data.heightToWidthRatio > 0;
+    int rows = 1;
+    while (rows <= count) {
+        const int columns = getRowsOrColumns(count, rows);
+        const int itemWidth = getItemWidth(width, height, data, rows, columns);
         if (itemWidth > bestWidth) {
             bestWidth = itemWidth;
             bestRows = rows;
         }
+        if (onlyFewest && columns == 1)
+            break;
+        rows = onlyFewest ? getRowsOrColumns(count, columns - 1) : rows + 1;
     }
     const int itemWidth = qMax(bestWidth, data.minimumWidth);
     return { itemWidth, getItemHeightFromWidth(itemWidth, data), bestRows,

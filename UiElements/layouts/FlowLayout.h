@@ -15,7 +15,8 @@
 ///
 /// Positions are computed from the left edge in any direction. All that a change of the
 /// application's layout direction does is to exchange the left and the right margin; a layout that
-/// is made while the direction is right to left keeps its margins as they are.
+/// is made while the direction is right to left keeps its margins as they are. An OxaWidget does
+/// the same to its layout: on one, both exchanges together change nothing.
 class UIELEMENTS_EXPORT FlowLayout : public QLayout
 {
     Q_OBJECT

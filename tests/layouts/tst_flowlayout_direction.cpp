@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PlainFlow.h"
 #include "support/Guards.h"
+#include "support/TestApplication.h"
 
 #include <UiElements/layouts/AutoGridLayout.h>
 #include <UiElements/layouts/FixedItemRatioLayoutNotSupportScroll.h>
 #include <UiElements/layouts/SmartLayout.h>
+#include <UiElements/widgets/OxaWidget.h>
 
 #include <QTest>
 
@@ -35,6 +37,7 @@ private Q_SLOTS:
     void keepsItsMarginsWhenItIsMadeRightToLeft();
     void exchangesWhatTheMarginsAreByThen();
     void followsWithoutAParentToo();
+    void isExchangedBackByAnOxaWidget();
     void invalidatesWhenTheDirectionChanges();
     void placesFromTheLeftInBothDirections();
 };
@@ -81,6 +84,14 @@ void tst_FlowLayoutDirection::followsWithoutAParentToo()
     QCOMPARE(layout.contentsMargins(), exchanged);
 }
 
+void tst_FlowLayoutDirection::isExchangedBackByAnOxaWidget()
+{
+    OxaWidget widget;
+    const PlainFlow layout(&widget, margins, 0, 0);
+    const LayoutDirectionGuard direction(Qt::RightToLeft);
+    QCOMPARE(layout.contentsMargins(), margins);
+}
+
 void tst_FlowLayoutDirection::invalidatesWhenTheDirectionChanges()
 {
     PlainFlow layout(margins, 0, 0);
@@ -105,5 +116,5 @@ void tst_FlowLayoutDirection::placesFromTheLeftInBothDirections()
     QCOMPARE(placedByAll(), leftToRight);
 }
 
-QTEST_MAIN(tst_FlowLayoutDirection)
+UIELEMENTS_TEST_MAIN(tst_FlowLayoutDirection)
 #include "tst_flowlayout_direction.moc"

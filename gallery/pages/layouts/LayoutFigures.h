@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/widgets/OxaWidget.h>
+
+#include <vector>
+
+class OxaLabel;
+class TileBoard;
+
+/// The numbers of a layout: what it has, what it needs, and how it came out.
+class LayoutFigures : public OxaWidget
+{
+    Q_OBJECT
+
+public:
+    /// Shows the numbers of \a board each time that its tiles are laid out.
+    explicit LayoutFigures(const TileBoard *board, QWidget *parent = nullptr);
+
+private:
+    struct Figure
+    {
+        OxaLabel *caption;
+        OxaLabel *value;
+    };
+
+    void refresh();
+    void set(std::size_t place, const QString &caption, const QString &value);
+    void showFlow();
+    void showRatio();
+
+    const TileBoard *m_board;
+    std::vector<Figure> m_figures;
+};

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LayoutsPage.h"
+
+#include "LayoutControls.h"
+#include "LayoutFigures.h"
+#include "Metrics.h"
+#include "ResizeFrame.h"
+#include "TileBoard.h"
+#include "widgets/Button.h"
+#include "widgets/Card.h"
+#include "widgets/ScrollArea.h"
+#include "widgets/SegmentedControl.h"
+
+#include <QHBoxLayout>
+
+namespace {
+
+constexpr int controlsWidth = 312;
+
+} // namespace
+
+LayoutsPage::LayoutsPage(QWidget *parent)
+    : Page(tr("Layouts"),
+           tr("Three layouts that wrap. Drag the corner, or click a tile and use the arrow keys. "
+              "Tiles are placed from the left in both directions; the margins change sides."),
+           parent),
+      m_board(new TileBoard(this)),
+      m_controls(new LayoutControls(this)),
+      m_area(new ScrollArea(this))
+{
+    auto *row = new QHBoxLayout;
+    row->setSpacing(Metrics::spacing);
+    row->addWidget(makeStageCard(), 1);
+    row->addWidget(makeControlsCard());
+    body()->addLayout(row, 1);
+    connect(m_controls, &LayoutControls::changed, this, &LayoutsPage::applySettings);
+    applySettings();
+}
+
+Card *LayoutsPage::makeStageCard()
+{
+    auto *card = new Card(tr("Tiles"), QString(), this);
+    auto *kind = new SegmentedControl({ tr("Auto grid"), tr("Smart"), tr("Fixed ratio") }, card);
+    kind->setAccessibleName(tr("Layout"));
+    connect(kind, &SegmentedControl::chosen, m_controls, [controls = m_controls](int i) {
+        controls->setKind(static_cast<LayoutSettings::Kind>(i));
+    });
+    card->addToHeading(kind);
+
+    m_area->setCSS(ScrollArea::scrollBarStyleText()
+                   + QStringLiteral("ScrollArea { background-color: $(gallery-code-background);"
+                                    " border: 1px solid $(gallery-card-border); }"));
+    m_area->setContents(m_board);
+    m_area->setFocusPolicy(Qt::NoFocus);
+    card->body()->addWidget(new ResizeFrame(m_area, card), 1);
+    card->body()->addWidget(new LayoutFigures(m_board, card));
+    return card;
+}
+
+Card *LayoutsPage::makeControlsCard()
+{
+    auto *card = new Card(tr("Settings"), QString(), this);
+    card->setFixedWidth(controlsWidth);
+    auto *order = new QHBoxLayout;
+    order->setSpacing(Metrics::small);
+    const std::pair<QString, void (TileBoard::*)()> actions[] = {
+        { tr("Shuffle"), &TileBoard::shuffle },
+        { tr("Sort"), &TileBoard::sortByNumber },
+        { tr("Prepend"), &TileBoard::prependTile },
+    };
+    for (const auto &[text, action] : actions) {
+        auto *button = new Button(text, card);
+        connect(button, &Button::clicked, m_board, action);
+        order->addWidget(button, 1);
+    }
+    card->body()->addWidget(m_controls);
+    card->body()->addLayout(order);
+    card->body()->addStretch(1);
+    return card;
+}
+
+void LayoutsPage::applySettings() { m_board->setSettings(m_controls->settings()); }

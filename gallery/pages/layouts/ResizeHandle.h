@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/theme/ThemeBlock.h>
+
+#include <QWidget>
+
+/// The corner by which a frame is made larger or smaller.
+class ResizeHandle : public QWidget
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QWidget)
+
+public:
+    explicit ResizeHandle(QWidget *parent = nullptr);
+
+Q_SIGNALS:
+    /// The user wants the frame larger by so many pixels, or smaller where a number is negative.
+    /// Going towards the end of a line is larger in any direction.
+    void dragged(const QPoint &by);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    void fitCursor();
+
+    QPoint m_pressedAt;
+    QColor m_color;
+    QColor m_focusBorder;
+};
