@@ -13,6 +13,8 @@
 #include <QSlider>
 #include <QTreeWidget>
 
+#include <utility>
+
 namespace {
 
 QWidget *widgetAt(const QLayout &layout, int index)
@@ -173,12 +175,13 @@ QWidget *TabOrderUtils::getFirstItemInLayoutIf(QLayout *layout,
                                                std::function<bool(QWidget *)> predicate,
                                                bool fromEnd)
 {
+    const auto passes = std::move(predicate);
     if (!layout || layout->isEmpty())
         return nullptr;
     const int count = layout->count();
     for (int i = 0; i < count; ++i) {
         QWidget *widget = widgetAt(*layout, fromEnd ? count - 1 - i : i);
-        if (predicate(widget))
+        if (passes(widget))
             return widget;
     }
     return nullptr;

@@ -115,7 +115,9 @@ int FlowLayout::verticalSpacing() const
 
 void FlowLayout::sort(std::function<bool(QLayoutItem *, QLayoutItem *)> lessThan)
 {
-    std::sort(m_items.begin(), m_items.end(), std::ref(lessThan));
+    // The algorithm copies what it is given many times over: not the function itself, then.
+    std::sort(m_items.begin(), m_items.end(),
+              [&lessThan](QLayoutItem *a, QLayoutItem *b) { return lessThan(a, b); });
     // A widget that stands in the list more than once is followed by what follows its first item.
     std::unordered_map<const QWidget *, std::size_t> positions;
     for (std::size_t i = 0; i < m_items.size(); ++i)

@@ -159,8 +159,9 @@ void TileBoard::makeLayout()
 
 std::vector<Tile *> TileBoard::tiles() const
 {
-    std::vector<Tile *> result;
     const int count = m_flow ? m_flow->count() : 0;
+    std::vector<Tile *> result;
+    result.reserve(std::size_t(count));
     for (int i = 0; i < count; ++i)
         result.push_back(static_cast<Tile *>(m_flow->widgetAt(i)));
     return result;
@@ -172,6 +173,7 @@ void TileBoard::refreshLook()
         return OxaThemeUtils::getColorSet(name.toStdString(), getThemeType()).normal;
     };
     m_look.grounds.clear();
+    m_look.grounds.reserve(std::size_t(AvatarColors::count()));
     for (int i = 0; i < AvatarColors::count(); ++i)
         m_look.grounds.push_back(color(AvatarColors::setName(i)));
     m_look.text = color(QStringLiteral("avatar-text"));
