@@ -188,6 +188,10 @@ void OxaLabel::selectAllText()
 {
     // A selection makes QLabel fill its document, which is filled late otherwise.
     setSelection(0, 0);
-    if (const auto *document = findChild<QTextDocument *>())
-        setSelection(0, document->characterCount() - 1);
+    const auto documents = findChildren<QTextDocument *>();
+    for (const QTextDocument *document : documents) {
+        // One whose parent is the label is a subclass's, and may show less than all.
+        if (document->parent() != this)
+            setSelection(0, document->characterCount() - 1);
+    }
 }

@@ -3,6 +3,7 @@
 
 #include "support/ColorSets.h"
 
+#include <UiElements/emoji/OxaEmojiPushButton.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
@@ -71,6 +72,8 @@ inline const std::vector<ThemedClass> &themedClasses()
         themedClass<OxaPushButton, QPushButton>(),
         themedClass<OxaWidget, QWidget>(Font::Yes, Form::StyledBackground),
         // These inherit the block.
+        themedClass<OxaEmojiLabel, OxaLabel>(),
+        themedClass<OxaEmojiPushButton, OxaEmojiLabel>(),
         themedClass<OxaPillTabButton, OxaSvgPushButton>(Font::Yes, Form::Full, Start::Own),
         themedClass<OxaSvgAnchorButton, OxaSvgPushButton>(),
         themedClass<OxaSvgLabel, OxaLabel>(),

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "EmojiMarkup_p.h"
+
+#include <algorithm>
+
+namespace {
+
+const QLatin1String tagStart("<img src=");
+const QLatin1String sourceStart("src=\"");
+const QLatin1String altStart("alt=\"");
+const QLatin1String placeholderStart("svgFile=");
+const QLatin1String placeholderEnd("unicode");
+const QLatin1String suffix(".svg");
+
+void appendAlt(QString &markup, const QString &emoji)
+{
+    markup += QLatin1String(" alt=\"");
+    markup += emoji;
+    markup += QLatin1String("\">");
+}
+
+/// Returns the text that \a tag stands for, or \a tag itself.
+QString textOf(const QString &tag)
+{
+    const int source = tag.lastIndexOf(sourceStart);
+    if (source < 0)
+        return tag;
+    const int nameStart = source + sourceStart.size();
+    const int bar = tag.indexOf(QLatin1Char('|'), nameStart);
+    if (bar >= 0)
+        return tag.mid(nameStart, bar - nameStart);
+
+    const int alt = tag.lastIndexOf(altStart);
+    if (alt < 0)
+        return tag;
+    const int textStart = alt + altStart.size();
+    const int textEnd = tag.indexOf(QLatin1Char('"'), textStart);
+    return textEnd < 0 ? tag : tag.mid(textStart, textEnd - textStart);
+}
+
+/// Returns where the tag ends that begins at \a start, or where its line or the markup does.
+int endOfTag(const QString &markup, int start)
+{
+    const auto isEnd = [](QChar character) {
+        return character == QLatin1Char('>') || character == QLatin1Char('\n');
+    };
+    const auto end = std::find_if(markup.cbegin() + start + tagStart.size(), markup.cend(), isEnd);
+    return int(end - markup.cbegin());
+}
+
+} // namespace
+
+void EmojiMarkup::appendPlaceholder(QString &markup, const Source &source)
+{
+    markup += QLatin1String("<img src=\"svgFile=");
+    markup += source.path;
+    markup += source.text;
+    markup += QLatin1String("unicode\"");
+    appendAlt(markup, source.text);
+}
+
+void EmojiMarkup::appendImage(QString &markup, const Source &source, int edge)
+{
+    const QString length = QString::number(edge);
+    markup += QLatin1String("<img src=\"qrc") + source.path + QLatin1String("\" width=\"") + length
+            + QLatin1String("\" height=\"") + length + QLatin1String("\" align=\"middle\"");
+    appendAlt(markup, source.text);
+}
+
+std::optional<EmojiMarkup::Source> EmojiMarkup::parseName(const QString &name)
+{
+    const int start = name.indexOf(placeholderStart);
+    if (start < 0)
+        return {};
+    const int pathStart = start + placeholderStart.size();
+    const int pathEnd = name.indexOf(suffix, pathStart);
+    if (pathEnd < 0)
+        return {};
+    const int textStart = pathEnd + suffix.size();
+    const int textEnd = name.indexOf(placeholderEnd, textStart);
+    if (textEnd < 0)
+        return {};
+    return Source { name.mid(pathStart, textStart - pathStart),
+                    name.mid(textStart, textEnd - textStart) };
+}
+
+QString EmojiMarkup::pictureName(const QString &emoji, int number)
+{
+    return emoji + QLatin1Char('|') + QString::number(number);
+}
+
+QString EmojiMarkup::restored(const QString &markup)
+{
+    QString text;
+    int copied = 0;
+    for (int start = markup.indexOf(tagStart); start >= 0;) {
+        const int end = endOfTag(markup, start);
+        if (end == markup.size())
+            break;
+        if (markup.at(end) == QLatin1Char('>')) {
+            text += markup.midRef(copied, start - copied);
+            text += textOf(markup.mid(start, end + 1 - start));
+            copied = end + 1;
+        }
+        start = markup.indexOf(tagStart, end);
+    }
+    return text + markup.midRef(copied);
+}

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+/// The image tags that stand for emoji in markup, written and read.
+namespace EmojiMarkup {
+
+/// The source of a placeholder, which is no address that anything could be loaded from.
+struct Source
+{
+    QString path; ///< The artwork.
+    QString text; ///< The emoji.
+};
+
+/// Adds the placeholder for \a source to \a markup.
+void appendPlaceholder(QString &markup, const Source &source);
+
+/// Adds a tag that Qt can display, of \a edge pixels in width and height, to \a markup.
+void appendImage(QString &markup, const Source &source, int edge);
+
+/// Returns what the placeholder with \a name, an image's name in a document, stands for; nothing
+/// when it is no placeholder.
+std::optional<Source> parseName(const QString &name);
+
+/// Returns the name of the picture that takes a placeholder's place: the emoji and \a number.
+QString pictureName(const QString &emoji, int number);
+
+/// Returns \a markup with its image tags turned back into text. What has no text stays.
+QString restored(const QString &markup);
+
+} // namespace EmojiMarkup

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "LabelLines_p.h"
+
+#include <QFontMetrics>
+#include <QTextLayout>
+
+namespace {
+
+constexpr QChar ellipsis(0x2026);
+
+/// Breaks paragraphs one after the other, until there is no room.
+class Breaker
+{
+public:
+    Breaker(const QFont &font, int width, int maximumHeight)
+        : m_font(font), m_width(width), m_maximumHeight(maximumHeight)
+    {
+    }
+
+    void add(const QString &paragraph)
+    {
+        QTextLayout layout(paragraph, m_font);
+        layout.beginLayout();
+        while (!m_isFull && m_count < LabelLines::maximumCount) {
+            ++m_count;
+            QTextLine line = layout.createLine();
+            if (!line.isValid())
+                break;
+            line.setLineWidth(m_width);
+            add(paragraph, line);
+        }
+        layout.endLayout();
+    }
+
+    bool isFull() const { return m_isFull; }
+    QVector<LabelLines::Line> lines() const { return m_lines; }
+
+private:
+    void add(const QString &paragraph, const QTextLine &line)
+    {
+        m_height += line.height();
+        m_isFull = m_maximumHeight < m_height + line.height();
+        const int length = m_isFull ? -1 : line.textLength();
+        m_lines.append({ paragraph.mid(line.textStart(), length), m_isFull });
+    }
+
+    const QFont &m_font;
+    const int m_width;
+    const int m_maximumHeight;
+    QVector<LabelLines::Line> m_lines;
+    qreal m_height = 0.0;
+    int m_count = 0;
+    bool m_isFull = false;
+};
+
+} // namespace
+
+LabelLines::Lines LabelLines::breakParagraphs(const QStringList &paragraphs, const QFont &font,
+                                              int width, int maximumHeight)
+{
+    Breaker breaker(font, width, maximumHeight);
+    auto paragraph = paragraphs.begin();
+    while (paragraph != paragraphs.end() && !breaker.isFull())
+        breaker.add(*paragraph++);
+    return { breaker.lines(), breaker.isFull() && paragraph != paragraphs.end() };
+}
+
+QString LabelLines::endingInEllipsis(QString line, const QFont &font, int width)
+{
+    if (line.endsWith(ellipsis))
+        return line;
+    const QFontMetrics metrics(font);
+    const QString ending = QString(QChar::Nbsp) + ellipsis;
+    const int endingWidth = metrics.horizontalAdvance(ending);
+    const int ellipsisWidth = metrics.horizontalAdvance(ellipsis);
+    const auto fits = [&] {
+        const int added = line.endsWith(QLatin1Char(' ')) ? ellipsisWidth : endingWidth;
+        return metrics.horizontalAdvance(line) + added <= width;
+    };
+    // An image tag is many times longer than what fits. Where half of the line is too long by
+    // itself, no more than that half has to be measured character by character.
+    while (line.size() > 1 && metrics.horizontalAdvance(line, line.size() / 2) > width)
+        line.truncate(line.size() / 2);
+    while (!line.isEmpty() && !fits())
+        line.chop(1);
+    return line + (line.endsWith(QLatin1Char(' ')) ? QString(ellipsis) : ending);
+}

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/widgets/OxaLabel.h>
+
+#include <QSet>
+
+class QRegularExpression;
+class QTextDocument;
+
+/// A label for text that users write, such as names and messages, which draws emoji from the
+/// application's own artwork. EmojiTextConverter tells how that is named.
+///
+/// A text goes out in the font, emoji included, where it can be selected, where it is centred and
+/// has more than one line, and where it has a "\n" and is centred vertically. That is how a label
+/// starts: align a text of several lines to the top.
+///
+/// The text is laid out anew when it, the size, the font, the style text or the layout direction
+/// changes, and at each change of hover and focus. Alignment, indent, word wrap and elide mode are
+/// read then: set them before the text. Whatever the text, no more than 20 lines are made.
+///
+/// Only text formats other than Qt::RichText may carry what users wrote: markup is laid out as a
+/// whole, and nested tables in a short one can keep Qt at that for minutes.
+///
+/// While text is selected the label paints as before: a selection does not show.
+class UIELEMENTS_EXPORT OxaEmojiLabel : public OxaLabel
+{
+    Q_OBJECT
+    Q_PROPERTY(int textLeftPadding READ getTextLeftPadding WRITE setTextLeftPadding)
+    Q_PROPERTY(int textRightPadding READ getTextRightPadding WRITE setTextRightPadding)
+
+public:
+    /// U+2026 in UTF-8.
+    static constexpr char ELLIPSIS[] = u8"\u2026";
+
+    /// Makes an empty label without an accessible role.
+    explicit OxaEmojiLabel(QWidget *parent = nullptr);
+
+    /// Makes an empty label.
+    OxaEmojiLabel(QWidget *parent, QAccessible::Role role, Qt::WindowFlags flags = {});
+
+    /// Makes a label with \a text.
+    explicit OxaEmojiLabel(const QString &text, QWidget *parent = nullptr,
+                           QAccessible::Role role = QAccessible::NoRole,
+                           Qt::WindowFlags flags = {});
+
+    /// Returns the space in pixels to the left of the text, 0 by default.
+    int getTextLeftPadding() const;
+
+    /// Sets the space to the left of the text, to the right of it in a right-to-left application.
+    /// Repaints, but doesn't lay the text out.
+    void setTextLeftPadding(int padding);
+
+    /// Returns the space in pixels to the right of the text, 0 by default.
+    int getTextRightPadding() const;
+
+    /// Sets the space to the right of the text, as setTextLeftPadding() does.
+    void setTextRightPadding(int padding);
+
+    using OxaLabel::getElidedText;
+
+    /// Returns what the label shows, elided and escaped, with its emoji as text.
+    QString getElidedText() const;
+
+    /// Returns whether the text has more than one line: by a newline, or because it is wrapped.
+    bool isTextMoreThanOneLine() const;
+
+    /// Sets whether the label leaves its text colour alone when it is hovered or focused, because
+    /// it shows the state of its parent. False by default.
+    void setMirrorParentFocus(bool mirrors);
+
+    void setTextInteractionFlags(Qt::TextInteractionFlags flags) override;
+
+    /// The size of the text as it is laid out, and three pixels of width more for each emoji.
+    QSize sizeHint() const override;
+
+    /// Returns where the text is painted. The horizontal place is that of a centred text, else the
+    /// side where lines of the application's layout begin; a text is at the top unless it is
+    /// centred.
+    QPointF getTextOffset() const override;
+
+public Q_SLOTS:
+    void setText(const QString &text) override;
+
+Q_SIGNALS:
+    /// As OxaLabel's signal of this name, which is emitted too.
+    void clicked();
+
+protected:
+    /// Returns an expression that matches a character that ends a line: U+000A, U+000C, U+000D,
+    /// U+000F, U+2028 or U+2029.
+    static QRegularExpression getNewlineCharactersRegEx();
+
+    /// Returns whether \a text has one of those characters.
+    static bool containsNewline(const QString &text);
+
+    /// Returns whether emoji are drawn from artwork.
+    bool shouldDrawSvgEmojis() const;
+
+    /// Lays the text out.
+    void updateText();
+
+    /// Sets the colour of the text in the palette.
+    void updateTextColor(const QColor &color);
+
+    /// Returns \a text as markup, elided before where \a elide is true, with \a separator in the
+    /// place of each newline.
+    QString createElidedLine(const QString &text, bool elide, const QString &separator);
+
+    /// Returns \a text as markup, broken into lines with \a separator between them. What there is
+    /// no room for below the maximum height is elided.
+    QString createElidedLines(const QString &text, const QString &separator);
+
+    /// Returns the style attribute of the text: colour, font families and margins.
+    QString createStyle();
+
+    /// Returns the margins that indent and paddings make, or an empty text.
+    QString createIndentStyle();
+
+    bool event(QEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private Q_SLOTS:
+    void onCssChanged();
+    void onLayoutDirectionChanged();
+
+private:
+    static QSet<QChar> getNewlineCharacters();
+    static QStringList splitStringAtNewlines(const QString &text);
+
+    void showState();
+    QString createBody(const QString &text);
+    bool isLaidOutByQt() const;
+    void fillDocument();
+
+    QTextDocument *m_document;
+    QString m_elidedHtml;
+    int m_textLeftPadding = 0;
+    int m_textRightPadding = 0;
+    bool m_moreThanOneLine = false;
+    bool m_mirrorsParentFocus = false;
+};

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OxaEmojiLabel.h"
+
+#include "EmojiTextConverter.h"
+#include "LabelLines_p.h"
+#include "Newlines_p.h"
+
+#include <QGuiApplication>
+#include <QRegularExpression>
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace {
+
+const QString lineSeparator = QStringLiteral("<br>");
+
+} // namespace
+
+void OxaEmojiLabel::updateText()
+{
+    m_moreThanOneLine = false;
+    QString shownText = text();
+    const bool hasArtwork = shouldDrawSvgEmojis();
+    // A text may come with image tags, from another label or a document: they are emoji as well.
+    if (hasArtwork)
+        shownText = EmojiTextConverter::restore(shownText);
+    m_moreThanOneLine = containsNewline(shownText);
+    m_elidedHtml.clear();
+    m_elidedHtml = createBody(shownText);
+    // Only when it is wrapped does a centred text turn out to have several lines.
+    if (hasArtwork && !shouldDrawSvgEmojis())
+        m_elidedHtml = EmojiTextConverter::restore(m_elidedHtml);
+    fillDocument();
+}
+
+QString OxaEmojiLabel::createBody(const QString &text)
+{
+    if (isLaidOutByQt())
+        return text;
+    return wordWrap() ? createElidedLines(text, lineSeparator)
+                      : createElidedLine(text, true, lineSeparator);
+}
+
+/// Whether the text is a document of its own, whose lines are not broken here.
+bool OxaEmojiLabel::isLaidOutByQt() const
+{
+    const QString markup = text();
+    return wordWrap() && textFormat() == Qt::RichText
+            && (markup.startsWith(QLatin1String("<p>"))
+                || markup.startsWith(QLatin1String("<html>")));
+}
+
+void OxaEmojiLabel::fillDocument()
+{
+    m_document->clear(); // The pictures too, which setHtml() would keep.
+    m_document->setDefaultFont(font());
+    m_document->setDocumentMargin(0.0);
+    m_document->setTextWidth(isLaidOutByQt() ? width() : -1.0);
+    if (m_document->defaultStyleSheet() != styleSheet())
+        m_document->setDefaultStyleSheet(styleSheet());
+
+    // Laid out once, with the pictures in it: a placeholder makes Qt look for a file.
+    QTextCursor cursor(m_document);
+    cursor.beginEditBlock();
+    m_document->setHtml(QLatin1String("<div ") + createStyle() + QLatin1Char('>') + m_elidedHtml
+                        + QLatin1String("</div>"));
+    if (shouldDrawSvgEmojis()) {
+        const EmojiTextConverter converter(fontMetrics().height(), devicePixelRatioF());
+        converter.insertImages(m_document);
+    }
+    cursor.endEditBlock();
+}
+
+QString OxaEmojiLabel::createElidedLine(const QString &text, bool elide, const QString &separator)
+{
+    QString line = text;
+    if (elide && getElideMode() != Qt::ElideNone)
+        line = getElidedText(line, indent(), margin());
+    if (textFormat() != Qt::RichText)
+        line = line.toHtmlEscaped().replace(Newlines::expression(), separator);
+    if (shouldDrawSvgEmojis())
+        line = EmojiTextConverter(fontMetrics().height(), devicePixelRatioF()).convert(line);
+    return line;
+}
+
+QString OxaEmojiLabel::createElidedLines(const QString &text, const QString &separator)
+{
+    const int lineWidth = width() - getElidePadding() - indent() - margin();
+    const LabelLines::Lines broken = LabelLines::breakParagraphs(splitStringAtNewlines(text),
+                                                                 font(), lineWidth,
+                                                                 maximumHeight());
+    QStringList lines;
+    for (const LabelLines::Line &line : broken.lines)
+        lines += createElidedLine(line.text, line.isElided, separator);
+    if (broken.lacksParagraphs && getElideMode() != Qt::ElideNone)
+        lines.last() = LabelLines::endingInEllipsis(lines.last(), font(), lineWidth);
+    m_moreThanOneLine = lines.size() > 1;
+    return lines.join(separator);
+}
+
+QString OxaEmojiLabel::createStyle()
+{
+    static const QString families = QStringList { QStringLiteral("Segoe UI"),
+                                                  QStringLiteral("Segoe UI Emoji") }
+                                            .join(QLatin1Char(','));
+    return QStringLiteral("style=\"color:%1;font-family:%2;%3\"")
+            .arg(palette().color(QPalette::WindowText).name(QColor::HexArgb), families,
+                 createIndentStyle());
+}
+
+QString OxaEmojiLabel::createIndentStyle()
+{
+    int left = m_textLeftPadding;
+    int right = m_textRightPadding;
+    if (indent() > 0) {
+        if (alignment() & Qt::AlignRight)
+            right += indent();
+        else if (alignment() & Qt::AlignLeft)
+            left += indent();
+    }
+    if (left < 1 && right < 1)
+        return {};
+    if (QGuiApplication::isRightToLeft())
+        std::swap(left, right);
+    return QStringLiteral("margin: 0 %1 0 %2;").arg(right).arg(left);
+}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+/// Emoji files under ":/emojis/", as long as the object lives.
+///
+/// The library remembers for the process which files it found: a test that wants one to be missing
+/// uses a name that it never had.
+class EmojiArtwork
+{
+    Q_DISABLE_COPY_MOVE(EmojiArtwork)
+
+public:
+    /// Makes a file "STEM.svg" with \a svg for each of \a stems.
+    explicit EmojiArtwork(const QStringList &stems, const QByteArray &svg = square("#ff0000"));
+    ~EmojiArtwork();
+
+    /// Returns a picture that is filled with \a color.
+    static QByteArray square(const QByteArray &color);
+
+private:
+    QTemporaryDir m_folder;
+};
