@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "GalleryApplication.h"
 
+#include "EmojiFiles.h"
 #include "GalleryWindow.h"
 #include "PageRegistry.h"
 #include "Screenshots.h"
@@ -44,6 +45,7 @@ GalleryApplication::GalleryApplication(int &argc, char **argv)
     setApplicationDisplayName(tr("UiElements Gallery"));
     setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     substituteFonts();
+    EmojiFiles::load();
 }
 
 GalleryApplication *GalleryApplication::get()

@@ -5,6 +5,7 @@
 #include "pages/LabelsPage.h"
 #include "pages/StyleTextPage.h"
 #include "pages/TypographyPage.h"
+#include "pages/emoji/EmojiTextPage.h"
 #include "pages/focus/FocusPage.h"
 #include "pages/icons/IconsPage.h"
 #include "pages/layouts/LayoutsPage.h"
@@ -46,6 +47,7 @@ const std::vector<PageEntry> &pageEntries()
         entry("icons", tr("Icons"), foundations, make<IconsPage>),
         entry("labels", tr("Labels"), widgets, make<LabelsPage>),
         entry("svg-widgets", tr("SVG widgets"), widgets, make<SvgWidgetsPage>),
+        entry("emoji-text", tr("Emoji text"), widgets, make<EmojiTextPage>),
         entry("lists", tr("Lists"), models, make<ListsPage>),
         entry("layouts", tr("Layouts"), behaviour, make<LayoutsPage>),
         entry("focus", tr("Focus"), behaviour, make<FocusPage>),

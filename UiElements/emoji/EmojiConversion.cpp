@@ -42,6 +42,22 @@ void appendWithDash(EmojiSequence &sequence, uint codePoint)
     append(sequence, codePoint);
 }
 
+bool isKeycapBase(QChar unit)
+{
+    return EmojiCharTypes::typeOf(unit.unicode()) == Type::KeycapBase;
+}
+
+/// Returns whether what begins at \a unit is no part of a sequence. That is so of a digit as well
+/// when a letter or another digit follows.
+bool isPlain(const QChar *unit, const QChar *end)
+{
+    if (EmojiCharTypes::isPlain(unit->unicode()))
+        return true;
+    const QChar *const next = unit + 1;
+    return isKeycapBase(*unit) && next != end
+            && (EmojiCharTypes::isPlain(next->unicode()) || isKeycapBase(*next));
+}
+
 } // namespace
 
 EmojiConversion::EmojiConversion(const QString &text, const SequenceWriter &writer)
@@ -201,7 +217,7 @@ void EmojiConversion::copyPlainRun()
     const QChar *const begin = m_text.constData() + m_next;
     const QChar *const end = m_text.constData() + m_text.size();
     const QChar *last = begin;
-    while (last != end && EmojiCharTypes::isPlain(last->unicode()))
+    while (last != end && isPlain(last, end))
         ++last;
     if (last == begin)
         return;

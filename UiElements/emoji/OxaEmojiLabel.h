@@ -19,8 +19,9 @@ class QTextDocument;
 /// changes, and at each change of hover and focus. Alignment, indent, word wrap and elide mode are
 /// read then: set them before the text. Whatever the text, no more than 20 lines are made.
 ///
-/// Only text formats other than Qt::RichText may carry what users wrote: markup is laid out as a
-/// whole, and nested tables in a short one can keep Qt at that for minutes.
+/// Only Qt::PlainText, the default, may carry what users wrote. Qt::RichText is laid out as a
+/// whole, and nested tables in a short text can keep Qt at that for minutes; a text in another
+/// format is escaped before it is shown, but QLabel takes it for markup when it is measured.
 ///
 /// While text is selected the label paints as before: a selection does not show.
 class UIELEMENTS_EXPORT OxaEmojiLabel : public OxaLabel
@@ -31,7 +32,7 @@ class UIELEMENTS_EXPORT OxaEmojiLabel : public OxaLabel
 
 public:
     /// U+2026 in UTF-8.
-    static constexpr char ELLIPSIS[] = u8"\u2026";
+    static constexpr char ELLIPSIS[] = "\xE2\x80\xA6";
 
     /// Makes an empty label without an accessible role.
     explicit OxaEmojiLabel(QWidget *parent = nullptr);

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ArtworkDelegate.h"
+
+#include "ArtworkModel.h"
+#include "Metrics.h"
+
+#include <UiElements/fonts/OxaFont.h>
+
+#include <QPainter>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+namespace {
+
+constexpr int pictureSize = 32;
+constexpr int cellWidth = 84;
+constexpr int radius = 6;
+
+/// Returns the picture at \a path. Reading a file takes long enough to be felt while one scrolls.
+QPixmap pictureOf(const QString &path, qreal pixelRatio)
+{
+    const int edge = int(pictureSize * pixelRatio);
+    const QString key = QStringLiteral("%1@%2").arg(path).arg(edge);
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = QPixmap(edge, edge);
+        picture.fill(Qt::transparent);
+        QSvgRenderer renderer(path);
+        QPainter painter(&picture);
+        renderer.render(&painter);
+        painter.end();
+        QPixmapCache::insert(key, picture);
+    }
+    return picture;
+}
+
+} // namespace
+
+ArtworkDelegate::ArtworkDelegate(QObject *parent) : QStyledItemDelegate(parent) { }
+
+void ArtworkDelegate::refresh(OxaThemeUtils::AppThemeType themeType)
+{
+    m_ground = OxaThemeUtils::getColorSet("gallery-list-item", themeType);
+    m_text = OxaThemeUtils::getColorSet("gallery-list-item-caption-text", themeType);
+    m_focusBorder = OxaThemeUtils::getColorSet("gallery-focus-border", themeType);
+    m_font = OxaFont(OxaFont::Token::RadioButtonLabelSecondary);
+}
+
+QSize ArtworkDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
+{
+    return { cellWidth,
+             pictureSize + QFontMetrics(m_font).height() + Metrics::tight + 2 * Metrics::small };
+}
+
+void ArtworkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                            const QModelIndex &index) const
+{
+    painter->save();
+    paintGround(painter, option);
+    const QRect inner = option.rect.adjusted(Metrics::tight, Metrics::small, -Metrics::tight,
+                                             -Metrics::small);
+    const QRect picture(inner.center().x() - pictureSize / 2 + 1, inner.top(), pictureSize,
+                        pictureSize);
+    painter->drawPixmap(picture,
+                        pictureOf(index.data(ArtworkModel::PathRole).toString(),
+                                  painter->device()->devicePixelRatioF()));
+    // A name reads from left to right in any interface.
+    painter->setLayoutDirection(Qt::LeftToRight);
+    painter->setFont(m_font);
+    const bool isHovered = option.state.testFlag(QStyle::State_MouseOver);
+    painter->setPen(isHovered ? m_text.hovered : m_text.normal);
+    painter->drawText(inner, Qt::AlignHCenter | Qt::AlignBottom,
+                      painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideMiddle,
+                                                        inner.width()));
+    painter->restore();
+}
+
+void ArtworkDelegate::paintGround(QPainter *painter, const QStyleOptionViewItem &option) const
+{
+    const QRectF rect = QRectF(option.rect).adjusted(1, 1, -1, -1);
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter->setPen(option.state.testFlag(QStyle::State_HasFocus) ? QPen(m_focusBorder.normal, 2)
+                                                                  : QPen(Qt::NoPen));
+    painter->setBrush(option.state.testFlag(QStyle::State_MouseOver) ? m_ground.hovered
+                                                                     : QColor(Qt::transparent));
+    painter->drawRoundedRect(rect, radius, radius);
+}

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "widgets/Card.h"
+
+class CodeEdit;
+class ControlRow;
+class OxaLabel;
+class PlaygroundLabel;
+
+/// A text to edit, a label that shows it in a way that can be chosen, and what the converter sees.
+class PlaygroundCard : public Card
+{
+    Q_OBJECT
+
+public:
+    explicit PlaygroundCard(QWidget *parent = nullptr);
+
+    /// Inserts \a text where the cursor stands.
+    void insert(const QString &text);
+
+private:
+    QWidget *makeWidthRow();
+    QWidget *makeElisionRow();
+    QWidget *makeAlignmentRow();
+    QWidget *makeSwitches();
+    QLayout *makeAnalysis();
+    void showText();
+
+    CodeEdit *m_text;
+    PlaygroundLabel *m_label;
+    OxaLabel *m_state;
+    CodeEdit *m_codePoints;
+    CodeEdit *m_stems;
+};

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/emoji/OxaEmojiPushButton.h>
+
+/// An emoji and the number of people who gave it. A click adds the user to them, or takes the user
+/// away again.
+class ReactionButton : public OxaEmojiPushButton
+{
+    Q_OBJECT
+
+public:
+    ReactionButton(const QString &emoji, int count, QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+
+private:
+    void toggle();
+    void showCount();
+
+    const QString m_emoji;
+    int m_count;
+    bool m_isMine = false;
+};
