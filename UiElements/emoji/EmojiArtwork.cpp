@@ -38,7 +38,7 @@ QString EmojiArtwork::pathOf(const QString &stem)
     if (found != foundPaths.constEnd())
         return *found;
 
-    const QString path = QLatin1String(":/emojis/") + stem + QLatin1String(".svg");
+    QString path = QLatin1String(":/emojis/") + stem + QLatin1String(".svg");
     if (!QFile::exists(path) || !QSvgRenderer(contentOf(path)).isValid())
         return {};
     // The stem's characters are copied: the caller's text may hold more memory than it needs.
@@ -55,7 +55,7 @@ QImage EmojiArtwork::picture(const QString &path, int edge)
     if (const QImage *known = pictures.object(key))
         return *known;
 
-    const QImage image = render(path, edge);
+    QImage image = render(path, edge);
     pictures.insert(key, new QImage(image), int(image.sizeInBytes()));
     return image;
 }

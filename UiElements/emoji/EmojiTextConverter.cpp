@@ -81,7 +81,7 @@ QString EmojiTextConverter::convert(const QString &text)
         writeSequence(sequence, markup);
     };
     EmojiConversion conversion(text, writer);
-    const QString markup = conversion.run();
+    QString markup = conversion.run();
     m_hasPlainText = conversion.hasPlainText();
     return markup;
 }

@@ -13,7 +13,6 @@
 namespace {
 
 constexpr int pictureSize = 32;
-constexpr int cellWidth = 84;
 constexpr int radius = 6;
 
 /// Returns the picture at \a path. Reading a file takes long enough to be felt while one scrolls.
@@ -48,8 +47,10 @@ void ArtworkDelegate::refresh(OxaThemeUtils::AppThemeType themeType)
 
 QSize ArtworkDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
 {
-    return { cellWidth,
-             pictureSize + QFontMetrics(m_font).height() + Metrics::tight + 2 * Metrics::small };
+    // As wide as the name of a flag, which is of usual length.
+    const QFontMetrics metrics(m_font);
+    return { metrics.horizontalAdvance(QStringLiteral("1f1ea-1f1ea")) + 2 * Metrics::small,
+             pictureSize + metrics.height() + Metrics::tight + 2 * Metrics::small };
 }
 
 void ArtworkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,

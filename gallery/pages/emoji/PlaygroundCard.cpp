@@ -21,11 +21,14 @@ constexpr int sampleHeight = 96;
 constexpr int textLines = 2;
 constexpr int analysisLines = 5;
 
+constexpr Qt::TextElideMode elideModes[] = { Qt::ElideRight, Qt::ElideMiddle, Qt::ElideLeft,
+                                             Qt::ElideNone };
+
 QString firstText()
 {
     return QStringLiteral("Hi \U0001F44B\U0001F3FD meet "
-                          "\U0001F468\u200D\U0001F469\u200D\U0001F467, "
-                          "gate 7\uFE0F\u20E3 to \U0001F1EF\U0001F1F5 \U0001F680");
+                          "\U0001F469\u200D\U0001F680, "
+                          "gate 7\uFE0F\u20E3 to \U0001F1EF\U0001F1F5 \U0001F389");
 }
 
 } // namespace
@@ -77,13 +80,11 @@ QWidget *PlaygroundCard::makeWidthRow()
 
 QWidget *PlaygroundCard::makeElisionRow()
 {
-    constexpr Qt::TextElideMode modes[] = { Qt::ElideRight, Qt::ElideMiddle, Qt::ElideLeft,
-                                            Qt::ElideNone };
     auto *elision = new SegmentedControl({ tr("Right"), tr("Middle"), tr("Left"), tr("None") },
                                          this);
-    m_label->setElideMode(modes[0]);
-    connect(elision, &SegmentedControl::chosen, this, [this, modes](int index) {
-        m_label->setElideMode(modes[index]);
+    m_label->setElideMode(elideModes[0]);
+    connect(elision, &SegmentedControl::chosen, this, [this](int index) {
+        m_label->setElideMode(elideModes[index]);
         showText();
     });
     return new ControlRow(tr("Elision"), elision, this);
@@ -141,8 +142,10 @@ QLayout *PlaygroundCard::makeAnalysis()
         field->setReadOnly(true);
         field->setLineWrapMode(QPlainTextEdit::NoWrap);
         field->setMinimumLines(analysisLines);
-        column->addWidget(field, 1);
+        field->setMaximumHeight(field->minimumHeight());
+        column->addWidget(field);
     }
+    column->addStretch(1);
     return column;
 }
 

@@ -55,8 +55,7 @@ QString TextAnalysis::stems(const QString &text)
         EmojiTextConverter converter(1, 1.0);
         converter.convert(sequence.text);
         const bool isFound = converter.svgFiles().size() == 1;
-        lines += sequence.stem + QLatin1String("  ")
-                + (isFound ? tr("from artwork") : tr("no artwork"));
+        lines += (isFound ? tr("artwork  ") : tr("text     ")) + sequence.stem;
     }
     return lines.join(QLatin1Char('\n'));
 }

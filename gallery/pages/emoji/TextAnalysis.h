@@ -9,7 +9,7 @@ namespace TextAnalysis {
 /// Returns a line for each code point of \a text: its number, and what it is to a sequence.
 QString codePoints(const QString &text);
 
-/// Returns a line for each sequence in \a text: its stem, and whether there is artwork for it.
+/// Returns a line for each sequence in \a text: whether it is shown by artwork, and its stem.
 QString stems(const QString &text);
 
 } // namespace TextAnalysis
