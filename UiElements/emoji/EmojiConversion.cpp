@@ -42,10 +42,7 @@ void appendWithDash(EmojiSequence &sequence, uint codePoint)
     append(sequence, codePoint);
 }
 
-bool isKeycapBase(QChar unit)
-{
-    return EmojiCharTypes::typeOf(unit.unicode()) == Type::KeycapBase;
-}
+bool isKeycapBase(QChar unit) { return EmojiCharTypes::typeOf(unit.unicode()) == Type::KeycapBase; }
 
 /// Returns whether what begins at \a unit is no part of a sequence. That is so of a digit as well
 /// when a letter or another digit follows.

@@ -25,7 +25,6 @@ void OxaEmojiLabel::updateText()
     if (hasArtwork)
         shownText = EmojiTextConverter::restore(shownText);
     m_moreThanOneLine = containsNewline(shownText);
-    m_elidedHtml.clear();
     m_elidedHtml = createBody(shownText);
     // Only when it is wrapped does a centred text turn out to have several lines.
     if (hasArtwork && !shouldDrawSvgEmojis())

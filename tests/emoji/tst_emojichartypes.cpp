@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+Q_DECLARE_METATYPE(EmojiCharType)
+
 namespace {
 
 using Type = EmojiCharType;
@@ -133,8 +135,6 @@ void tst_EmojiCharTypes::knowsTheFirstCodePointOfAllSequences()
     // The transgender symbol is not in the table.
     QCOMPARE(unknown.join(QLatin1Char(' ')), QStringLiteral("26a7-fe0f 26a7"));
 }
-
-Q_DECLARE_METATYPE(EmojiCharType)
 
 QTEST_GUILESS_MAIN(tst_EmojiCharTypes)
 #include "tst_emojichartypes.moc"

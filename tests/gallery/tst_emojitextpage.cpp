@@ -19,6 +19,8 @@
 #include <widgets/CodeEdit.h>
 #include <widgets/ToggleButton.h>
 
+Q_DECLARE_METATYPE(ArtworkKind)
+
 namespace {
 
 /// Returns the files that \a text is shown with.
@@ -210,8 +212,6 @@ void tst_EmojiTextPage::givesMessagesTheHeightOfTheirLines()
     const int narrow = row.layout()->heightForWidth(160);
     QVERIFY(narrow >= wide + row.fontMetrics().height());
 }
-
-Q_DECLARE_METATYPE(ArtworkKind)
 
 GALLERY_TEST_MAIN(tst_EmojiTextPage)
 #include "tst_emojitextpage.moc"
