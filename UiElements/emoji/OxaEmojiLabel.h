@@ -81,6 +81,7 @@ public:
     QPointF getTextOffset() const override;
 
 public Q_SLOTS:
+    /// Sets the text, lays it out and repaints. Image tags in it stand for their emoji.
     void setText(const QString &text) override;
 
 Q_SIGNALS:

@@ -15,6 +15,8 @@ public:
     using OxaEmojiLabel::OxaEmojiLabel;
 
 protected Q_SLOTS:
+    /// Emits clicked() for the left button, and does nothing else.
     void mouseReleaseEvent(QMouseEvent *event) override;
+    /// Emits clicked() for Space, Return and Enter, and does nothing else.
     void keyPressEvent(QKeyEvent *event) override;
 };
