@@ -167,7 +167,8 @@ void tst_FocusPage::goesWithThePage()
 {
     Shown shown;
     shown.page.hide();
-    QVERIFY(!shown.overlay());
+    QVERIFY(!shown.overlay()->isVisible());
+    QTRY_VERIFY(!shown.overlay());
     QVERIFY(!shown.window.findChild<WindowWatcher *>());
     shown.page.show();
     QVERIFY(shown.overlay());

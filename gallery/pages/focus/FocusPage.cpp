@@ -119,8 +119,12 @@ void FocusPage::showEvent(QShowEvent *event)
 void FocusPage::hideEvent(QHideEvent *event)
 {
     Page::hideEvent(event);
-    delete m_overlay;
-    delete m_watcher;
+    if (!m_overlay)
+        return;
+    // Not deleted at once: the window may be going through its children to hide them.
+    m_overlay->hide();
+    m_overlay->deleteLater();
+    m_watcher->deleteLater();
 }
 
 void FocusPage::follow(QWidget *window)
