@@ -50,12 +50,6 @@ struct Block
                 - (textMargins.left() + textMargins.right()) - iconSize.width();
     }
 
-    QSize textSize(const QString &elided) const
-    {
-        return richText ? richText->size().toSize()
-                        : QSize(fontMetrics.horizontalAdvance(elided), fontMetrics.height());
-    }
-
     QString text;
     QFontMetrics fontMetrics;
     QMargins iconPadding;
@@ -75,6 +69,28 @@ Qt::TextElideMode directedElideMode(Qt::TextElideMode mode)
     if (mode == Qt::ElideRight && QGuiApplication::isRightToLeft())
         return Qt::ElideLeft;
     return mode;
+}
+
+/// A text as it is painted, and the room that it takes.
+struct Line
+{
+    QString text;
+    QSize size;
+};
+
+Line lineOf(const Block &block, int available)
+{
+    if (block.richText)
+        return { QString(), block.richText->size().toSize() };
+    const QFontMetrics &metrics = block.fontMetrics;
+    const int width = metrics.horizontalAdvance(block.text);
+    // Eliding measures as well, and measuring is dear. The width is rounded: one that just fits may
+    // be too large.
+    if (width < available)
+        return { block.text, QSize(width, metrics.height()) };
+    const QString elided = metrics.elidedText(block.text, directedElideMode(block.elideMode),
+                                              available);
+    return { elided, QSize(metrics.horizontalAdvance(elided), metrics.height()) };
 }
 
 /// Moves \a painter to where a block of size \a total stands in \a rect, and returns that place.
@@ -119,12 +135,9 @@ QRect drawIconText(QPainter &painter, const Block &block, const QStyleOption &op
                    const Picture &picture, const OxaColorSet &textColors)
 {
     const int available = block.availableWidth(option.rect, picture.size);
-    const QString elided = block.fontMetrics.elidedText(block.text,
-                                                        directedElideMode(block.elideMode),
-                                                        available);
-    const QSize textSize = block.textSize(elided);
+    const Line line = lineOf(block, available);
     const auto [iconOffset, textOffset,
-                total] = DrawUtils::calculateIconTextOffset(picture.size, textSize,
+                total] = DrawUtils::calculateIconTextOffset(picture.size, line.size,
                                                             block.textMargins, block.iconPadding,
                                                             block.alignment);
 
@@ -135,12 +148,10 @@ QRect drawIconText(QPainter &painter, const Block &block, const QStyleOption &op
         picture.draw(painter, iconOffset);
         painter.restore();
     }
-    painter.save();
     painter.translate(textOffset);
     painter.setPen(colorForStyleState(textColors, option.state));
-    drawText(painter, block, elided,
-             QSize(available, qMax(textSize.height(), block.fontMetrics.height())));
-    painter.restore();
+    drawText(painter, block, line.text,
+             QSize(available, qMax(line.size.height(), block.fontMetrics.height())));
     painter.restore();
     return { place, QSize(static_cast<int>(total.x()), static_cast<int>(total.y())) };
 }

@@ -9,6 +9,8 @@
 namespace {
 
 constexpr double miterLimit = 4.0;
+constexpr QPainter::RenderHints smoothHints = QPainter::Antialiasing
+        | QPainter::SmoothPixmapTransform;
 
 QRectF sourceOf(const QSvgNode &node)
 {
@@ -41,8 +43,60 @@ void mapSourceToTarget(QPainter &painter, const QRectF &source, const QRectF &wa
         return;
     const double sx = target.width() / source.width();
     const double sy = target.height() / source.height();
-    painter.translate(target.x() - source.x() * sx, target.y() - source.y() * sy);
-    painter.scale(sx, sy);
+    // One step: each change of the matrix makes the paint engine look at it anew.
+    painter.setTransform({ sx, 0.0, 0.0, sy, target.x() - source.x() * sx,
+                           target.y() - source.y() * sy },
+                         true);
+}
+
+/// Takes a painter back to what it was before drawSVG(). QPainter::save() would copy the font, the
+/// clip and all the rest, too, which nodes put back by themselves, and of a small icon's time that
+/// is more than a hundredth.
+class PainterGuard
+{
+    Q_DISABLE_COPY_MOVE(PainterGuard)
+
+public:
+    explicit PainterGuard(QPainter &painter)
+        : m_painter(painter),
+          m_transform(painter.worldTransform()),
+          m_isTransformOn(painter.worldMatrixEnabled()),
+          m_pen(painter.pen()),
+          m_brush(painter.brush()),
+          m_opacity(painter.opacity()),
+          m_hints(painter.renderHints())
+    {
+    }
+    ~PainterGuard()
+    {
+        m_painter.setWorldTransform(m_transform);
+        m_painter.setWorldMatrixEnabled(m_isTransformOn);
+        m_painter.setPen(m_pen);
+        m_painter.setBrush(m_brush);
+        m_painter.setOpacity(m_opacity);
+        m_painter.setRenderHints(smoothHints & ~m_hints, false);
+    }
+
+private:
+    QPainter &m_painter;
+    const QTransform m_transform;
+    const bool m_isTransformOn;
+    const QPen m_pen;
+    const QBrush m_brush;
+    const double m_opacity;
+    const QPainter::RenderHints m_hints;
+};
+
+/// Returns the pen that a file starts with, under which a shape without a stroke of its own has
+/// none. The same for all files, and dearer to make than to use.
+const QPen &initialPen()
+{
+    static const QPen pen = [] {
+        QPen made(QBrush(Qt::NoBrush), 1.0, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
+        made.setMiterLimit(miterLimit);
+        return made;
+    }();
+    return pen;
 }
 
 } // namespace
@@ -57,16 +111,13 @@ void DrawUtils::drawSVG(QPainter *painter, QSvgNode *node, QSvgExtraStates &stat
     QRectF target = rect;
     fitRectangle(target, source.width() / source.height());
 
-    painter->save();
+    const PainterGuard guard(*painter);
     mapSourceToTarget(*painter, source, target);
-    QPen pen(QBrush(Qt::NoBrush), 1.0, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
-    pen.setMiterLimit(miterLimit);
-    painter->setPen(pen);
+    painter->setPen(initialPen());
     painter->setBrush(QBrush(color, Qt::SolidPattern));
     painter->setOpacity(opacity);
-    painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter->setRenderHints(smoothHints);
     node->draw(painter, states);
-    painter->restore();
 }
 
 QPixmap DrawUtils::renderPixmap(QSvgNode *node, const QRectF &iconRect, const QSize &pixmapSize,

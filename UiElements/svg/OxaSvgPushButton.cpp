@@ -156,8 +156,9 @@ void OxaSvgPushButton::updateIconPath(const std::unique_ptr<OxaSvgIcon> &icon, c
 
 void OxaSvgPushButton::initButtonStyleOption(QStyleOptionButton *option) const
 {
-    // The style draws the frame only: the text stands beside the icon.
-    OxaPushButton::initButtonStyleOption(option);
+    // The style draws the frame only: the text stands beside the icon. Without the base class,
+    // which would elide it first.
+    QPushButton::initStyleOption(option);
     option->text.clear();
 }
 

@@ -150,6 +150,7 @@ QIcon OxaSvgRenderer::renderIcon(const QString &onName, const QString &offName, 
 
 void OxaSvgRenderer::clear()
 {
+    m_node = nullptr;
     m_document.reset();
     delete m_renderer;
 }
@@ -161,7 +162,11 @@ bool OxaSvgRenderer::loadDocument(const QString &path, const QString &fileName)
         QMessageLogger().warning() << unreadableFileWarning << path;
         return false;
     }
-    return m_document->renderers().size() == 1 || loadRenderer(path, fileName);
+    const QList<QSvgNode *> nodes = m_document->renderers();
+    if (nodes.size() != 1)
+        return loadRenderer(path, fileName);
+    m_node = nodes.constFirst();
+    return true;
 }
 
 bool OxaSvgRenderer::loadRenderer(const QString &path, const QString &fileName)
@@ -180,9 +185,7 @@ bool OxaSvgRenderer::loadRenderer(const QString &path, const QString &fileName)
 
 QSvgNode *OxaSvgRenderer::getSvgNode() const
 {
-    if (!m_document || m_document->renderers().isEmpty()) {
+    if (!m_node)
         QMessageLogger().warning() << noNodeWarning;
-        return nullptr;
-    }
-    return m_document->renderers().constFirst();
+    return m_node;
 }

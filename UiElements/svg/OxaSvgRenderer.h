@@ -98,6 +98,7 @@ private:
     QSvgNode *getSvgNode() const;
 
     std::unique_ptr<QSvgTinyDocument> m_document;
+    QSvgNode *m_node = nullptr; ///< The one of the document.
     QPointer<QSvgRenderer> m_renderer;
     QString m_loadedPath;
 };

@@ -48,6 +48,8 @@ double Comparison::cpuNanoseconds()
 template <typename Result>
 double Comparison::medianOf(Result result) const
 {
+    if (m_ours.empty()) // A benchmark that found a mistake skips its rounds.
+        return 0.0;
     std::vector<double> results(m_ours.size());
     std::transform(m_ours.begin(), m_ours.end(), m_peer.begin(), results.begin(), result);
     const auto middle = results.begin() + std::ptrdiff_t(results.size() / 2);
@@ -58,8 +60,6 @@ double Comparison::medianOf(Result result) const
 /// Hands the medians over as counters, which tools/bench-table reads by these names.
 void Comparison::report(double result, const char *bound, double limit, const char *unit)
 {
-    if (m_ours.empty()) // A benchmark that found a mistake skips its rounds.
-        return;
     m_state.counters["ours"] = medianOf([](double ours, double) { return ours; });
     m_state.counters["peer"] = medianOf([](double, double peer) { return peer; });
     m_state.counters["result"] = result;

@@ -75,8 +75,6 @@ private Q_SLOTS:
     void paintsTheIconBesideTheText_data();
     void paintsTheIconBesideTheText();
     void countsAnInvisibleIconAsAbsent();
-    void elidesAtTheEndOfALine_data();
-    void elidesAtTheEndOfALine();
     void keepsPaddingsFreeOfText();
     void paintsInTheColorsOfTheState();
     void leavesThePainterAsItWas();
@@ -217,51 +215,6 @@ void tst_DrawUtilsIconTextPainting::countsAnInvisibleIconAsAbsent()
     // One pixel narrower than the text alone.
     QCOMPARE(withoutIcon.width(), label.fontMetrics().horizontalAdvance(label.text()) - 1);
     QCOMPARE(Faces::facesIn(image, iconColors), QString());
-}
-
-void tst_DrawUtilsIconTextPainting::elidesAtTheEndOfALine_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<Qt::TextElideMode>("mode");
-    QTest::addColumn<Qt::TextElideMode>("used");
-    QTest::newRow("right") << Qt::LeftToRight << Qt::ElideRight << Qt::ElideRight;
-    QTest::newRow("left stands for right") << Qt::LeftToRight << Qt::ElideLeft << Qt::ElideRight;
-    QTest::newRow("middle") << Qt::LeftToRight << Qt::ElideMiddle << Qt::ElideMiddle;
-    QTest::newRow("none") << Qt::LeftToRight << Qt::ElideNone << Qt::ElideNone;
-    QTest::newRow("right stands for left, right to left")
-            << Qt::RightToLeft << Qt::ElideRight << Qt::ElideLeft;
-    QTest::newRow("left, right to left") << Qt::RightToLeft << Qt::ElideLeft << Qt::ElideLeft;
-    QTest::newRow("middle, right to left") << Qt::RightToLeft << Qt::ElideMiddle << Qt::ElideMiddle;
-    QTest::newRow("none, right to left") << Qt::RightToLeft << Qt::ElideNone << Qt::ElideNone;
-}
-
-void tst_DrawUtilsIconTextPainting::elidesAtTheEndOfALine()
-{
-    QFETCH(const Qt::LayoutDirection, direction);
-    QFETCH(const Qt::TextElideMode, mode);
-    QFETCH(const Qt::TextElideMode, used);
-    const LayoutDirectionGuard layoutDirection(direction);
-    OxaSvgLabel label(longText);
-    label.setElideMode(mode);
-    label.setElidePadding(30);
-    label.setTextHorAlign(direction == Qt::LeftToRight ? HorAlign::LeftAlign
-                                                       : HorAlign::RightAlign);
-    label.setSvgIconAlignment(direction == Qt::LeftToRight ? Alignment::Left : Alignment::Right);
-    const std::unique_ptr<OxaSvgIcon> none;
-    const QImage image = drawing(label, [&](QPainter *painter) {
-        DrawUtils::drawSvgIconText(painter, &label, optionFor(), none, textColors);
-    });
-    const QFontMetrics metrics = label.fontMetrics();
-    const int available = area.width() - 30 + 1; // An absent icon is -1 pixels wide.
-    const QString elided = metrics.elidedText(longText, used, available);
-    QCOMPARE(elided == longText, used == Qt::ElideNone);
-    const QPoint place = placed(area.x(), QSizeF(0, metrics.height())).topLeft();
-    QCOMPARE(image, drawing(label, [&](QPainter *painter) {
-                 painter->translate(place + QPoint(-1, 0));
-                 painter->setPen(textColors.normal);
-                 painter->drawText(QRectF(0, 0, available, metrics.height()), elided,
-                                   QTextOption());
-             }));
 }
 
 void tst_DrawUtilsIconTextPainting::keepsPaddingsFreeOfText()

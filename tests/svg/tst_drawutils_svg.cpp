@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <tuple>
 
 namespace {
 
@@ -51,6 +52,22 @@ QImage filled(const QRect &rect, const QColor &color = red)
     return drawing([&](QPainter *painter) { painter->fillRect(rect, color); });
 }
 
+/// What drawing may change of a painter.
+struct PainterState
+{
+    explicit PainterState(const QPainter &painter)
+        : values(painter.pen(), painter.brush(), painter.opacity(), painter.worldTransform(),
+                 painter.worldMatrixEnabled(), int(painter.renderHints()), painter.font(),
+                 painter.compositionMode(), painter.clipRegion())
+    {
+    }
+    bool operator==(const PainterState &other) const { return values == other.values; }
+
+    std::tuple<QPen, QBrush, double, QTransform, bool, int, QFont, QPainter::CompositionMode,
+               QRegion>
+            values;
+};
+
 } // namespace
 
 /// The painting of a node of Qt SVG.
@@ -69,6 +86,7 @@ private Q_SLOTS:
     void strokesOnlyWhatHasAStroke();
     void keepsThePaintersScale();
     void setsTheOpacity();
+    void leavesThePainterAsItWas_data();
     void leavesThePainterAsItWas();
     void survivesRectanglesAndBoxesWithoutASize_data();
     void survivesRectanglesAndBoxesWithoutASize();
@@ -186,22 +204,42 @@ void tst_DrawUtilsSvg::setsTheOpacity()
              }));
 }
 
+void tst_DrawUtilsSvg::leavesThePainterAsItWas_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<bool>("isTransformOn");
+    const QByteArray path = "<path d='M4 4H8V8H4Z'/>";
+    const QByteArray styled = "<g transform='rotate(30)' fill='blue' stroke='red' opacity='0.5' "
+                              "font-size='20' comp-op='xor'>"
+            + path + "<text x='2' y='9'>A</text></g>";
+    QTest::newRow("a shape") << path << true;
+    QTest::newRow("a shape, on a painter whose transform is switched off") << path << false;
+    QTest::newRow("a group with all that styles can set") << styled << true;
+    QTest::newRow("a group, on a painter whose transform is switched off") << styled << false;
+}
+
 void tst_DrawUtilsSvg::leavesThePainterAsItWas()
 {
-    const auto document = parse("<path d='M4 4H8V8H4Z'/>");
+    QFETCH(const QByteArray, body);
+    QFETCH(const bool, isTransformOn);
+    const auto document = parse(body);
     drawing([&](QPainter *painter) {
+        painter->translate(3.5, 2);
+        painter->setWorldMatrixEnabled(isTransformOn);
         painter->setPen(Qt::blue);
         painter->setBrush(Qt::green);
         painter->setOpacity(0.25);
+        painter->setClipRect(2, 2, 20, 20);
+        const PainterState before(*painter);
         QSvgExtraStates states;
         DrawUtils::drawSVG(painter, document->renderers().constFirst(), states,
                            QRectF(0, 0, 32, 32), red, 1.0);
-        QCOMPARE(painter->pen(), QPen(Qt::blue));
-        QCOMPARE(painter->brush(), QBrush(Qt::green));
-        QCOMPARE(painter->opacity(), 0.25);
-        QCOMPARE(painter->transform(), QTransform());
-        QVERIFY(!painter->testRenderHint(QPainter::Antialiasing));
-        QVERIFY(!painter->testRenderHint(QPainter::SmoothPixmapTransform));
+        QVERIFY(PainterState(*painter) == before);
+        painter->setRenderHints(QPainter::Antialiasing);
+        const PainterState withHint(*painter);
+        DrawUtils::drawSVG(painter, document->renderers().constFirst(), states,
+                           QRectF(0, 0, 32, 32), red, 1.0);
+        QVERIFY(PainterState(*painter) == withHint);
     });
 }
 
