@@ -5,11 +5,13 @@
 #include "pages/LabelsPage.h"
 #include "pages/StyleTextPage.h"
 #include "pages/TypographyPage.h"
+#include "pages/buttons/ButtonsPage.h"
 #include "pages/emoji/EmojiTextPage.h"
 #include "pages/focus/FocusPage.h"
 #include "pages/icons/IconsPage.h"
 #include "pages/layouts/LayoutsPage.h"
 #include "pages/lists/ListsPage.h"
+#include "pages/signals/SignalsPage.h"
 #include "pages/svgwidgets/SvgWidgetsPage.h"
 
 #include <QCoreApplication>
@@ -46,11 +48,13 @@ const std::vector<PageEntry> &pageEntries()
         entry("typography", tr("Typography"), foundations, make<TypographyPage>),
         entry("icons", tr("Icons"), foundations, make<IconsPage>),
         entry("labels", tr("Labels"), widgets, make<LabelsPage>),
+        entry("buttons", tr("Buttons"), widgets, make<ButtonsPage>),
         entry("svg-widgets", tr("SVG widgets"), widgets, make<SvgWidgetsPage>),
         entry("emoji-text", tr("Emoji text"), widgets, make<EmojiTextPage>),
         entry("lists", tr("Lists"), models, make<ListsPage>),
         entry("layouts", tr("Layouts"), behaviour, make<LayoutsPage>),
         entry("focus", tr("Focus"), behaviour, make<FocusPage>),
+        entry("signals", tr("Signals"), behaviour, make<SignalsPage>),
     };
     return entries;
 }

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// Signals of the hub that belong together.
+struct SignalGroup
+{
+    QString heading;
+    int count; ///< How many signals the group has, shorter forms included.
+};
+
+/// Returns the groups of the hub's signals, in the order of its meta-object.
+std::vector<SignalGroup> signalGroups();

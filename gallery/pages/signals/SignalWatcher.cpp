@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "SignalWatcher.h"
+
+#include "SignalArguments.h"
+
+namespace {
+
+/// Gives access to what QObject keeps for the classes derived from it.
+struct Connections : QObject
+{
+    static int count(const QObject *sender, const char *signal)
+    {
+        return (sender->*(&Connections::receivers))(signal);
+    }
+};
+
+bool isShorterForm(const QMetaMethod &signal) { return signal.attributes() & QMetaMethod::Cloned; }
+
+} // namespace
+
+SignalWatcher::SignalWatcher(QObject *sender, Heard heard, QObject *parent)
+    : QObject(parent), m_senderClass(sender->metaObject()), m_heard(std::move(heard))
+{
+    const int firstSlot = QObject::staticMetaObject.methodCount();
+    for (int i = m_senderClass->methodOffset(); i < m_senderClass->methodCount(); ++i) {
+        const QMetaMethod method = m_senderClass->method(i);
+        if (method.methodType() == QMetaMethod::Signal && !isShorterForm(method))
+            QMetaObject::connect(sender, i, this, firstSlot + i, Qt::DirectConnection);
+    }
+}
+
+QMetaMethod SignalWatcher::wholeForm(const QMetaMethod &signal)
+{
+    QMetaMethod form = signal;
+    while (isShorterForm(form))
+        form = form.enclosingMetaObject()->method(form.methodIndex() - 1);
+    return form;
+}
+
+int SignalWatcher::connectionCount(const QObject *sender, const QMetaMethod &signal)
+{
+    // A signal in its text form begins with a "2", as the macro SIGNAL has it.
+    return Connections::count(sender, ("2" + signal.methodSignature()).constData());
+}
+
+int SignalWatcher::qt_metacall(QMetaObject::Call call, int method, void **arguments)
+{
+    const int index = QObject::qt_metacall(call, method, arguments);
+    if (index < 0 || call != QMetaObject::InvokeMetaMethod)
+        return index;
+    const QMetaMethod signal = m_senderClass->method(index);
+    const QByteArrayList types = signal.parameterTypes();
+    QStringList texts;
+    for (int i = 0; i < types.size(); ++i)
+        texts += SignalArguments::text(types[i], arguments[i + 1]); // The result comes first.
+    m_heard(signal, texts);
+    return -1;
+}

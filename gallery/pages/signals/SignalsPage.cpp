@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "SignalsPage.h"
+
+#include "Metrics.h"
+#include "SignalArguments.h"
+#include "SignalModel.h"
+#include "SignalView.h"
+#include "SignalWatcher.h"
+#include "widgets/Button.h"
+#include "widgets/CodeEdit.h"
+#include "widgets/EmptyState.h"
+#include "widgets/Labels.h"
+#include "widgets/LineEdit.h"
+
+#include <UiElements/app/OxaAppSignals.h>
+#include <UiElements/widgets/OxaLabel.h>
+
+#include <QTime>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int searchWidth = 320;
+constexpr int linesToKeep = 1000;
+constexpr int recountMs = 500;
+
+/// Returns \a signal with the values of its arguments, one to a line.
+QString emissionText(const QMetaMethod &signal, const QStringList &arguments)
+{
+    const QByteArrayList names = signal.parameterNames();
+    QString text = QTime::currentTime().toString(QStringLiteral("hh:mm:ss "))
+            + QString::fromLatin1(signal.methodSignature());
+    for (int i = 0; i < arguments.size(); ++i)
+        text += QStringLiteral("\n    %1 = %2").arg(QString::fromLatin1(names[i]), arguments[i]);
+    return text;
+}
+
+} // namespace
+
+SignalsPage::SignalsPage(QWidget *parent)
+    : Page(tr("Signals"),
+           tr("What users want of the application leaves the library as one of these signals. "
+              "Choose one and emit it, or let something else do that: the log hears them all."),
+           parent),
+      m_model(new SignalModel(OxaAppSignals::get(), this)),
+      m_view(new SignalView(m_model, this)),
+      m_emptyState(new EmptyState(tr("Try a part of a name, such as “space”, or of a type."),
+                                  tr("Clear the search"), this)),
+      m_search(new LineEdit(this)),
+      m_count(Labels::chip(QString(), this)),
+      m_log(new CodeEdit(this)),
+      m_emit(makeButton(tr("Emit"), &SignalsPage::emitChosen)),
+      m_addReceiver(makeButton(tr("Add a receiver"), &SignalsPage::addReceiver)),
+      m_removeReceivers(makeButton(tr("Remove receivers"), &SignalsPage::removeReceivers))
+{
+    new SignalWatcher(
+            OxaAppSignals::get(),
+            [this](const QMetaMethod &signal, const QStringList &arguments) {
+                note(signal, arguments);
+            },
+            this);
+
+    auto *row = new QHBoxLayout;
+    row->setSpacing(Metrics::spacing);
+    row->addWidget(m_view, 1);
+    row->addWidget(m_emptyState, 1);
+    row->addLayout(makeLog(), 1);
+    body()->addLayout(makeToolbar());
+    body()->addLayout(row, 1);
+
+    connect(m_search, &QLineEdit::textChanged, this, &SignalsPage::search);
+    connect(m_emptyState, &EmptyState::actionTriggered, m_search, &QLineEdit::clear);
+    connect(m_view, &SignalView::chosen, this, &SignalsPage::choose);
+    connect(m_view, &SignalView::activated, this, &SignalsPage::emitChosen);
+    // Qt tells a sender of its connections, and nobody else.
+    connect(&m_recount, &QTimer::timeout, m_model, &SignalModel::refreshReceivers);
+    search(QString());
+    m_view->setCurrentIndex(m_model->indexOf("closeContactCards(bool)"));
+    addReceiver();
+    emitChosen();
+}
+
+void SignalsPage::showEvent(QShowEvent *event)
+{
+    Page::showEvent(event);
+    m_model->refreshReceivers();
+    m_recount.start(recountMs);
+}
+
+void SignalsPage::hideEvent(QHideEvent *event)
+{
+    Page::hideEvent(event);
+    m_recount.stop();
+}
+
+QBoxLayout *SignalsPage::makeToolbar()
+{
+    m_search->setPlaceholderText(tr("Search names and types"));
+    m_search->setAccessibleName(tr("Search"));
+    m_search->setClearButtonEnabled(true);
+    m_search->setFixedWidth(searchWidth);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(Metrics::small);
+    row->addWidget(m_search);
+    row->addWidget(m_count);
+    row->addStretch(1);
+    row->addWidget(m_emit);
+    row->addWidget(m_addReceiver);
+    row->addWidget(m_removeReceivers);
+    return row;
+}
+
+QBoxLayout *SignalsPage::makeLog()
+{
+    m_log->setReadOnly(true);
+    m_log->setAccessibleName(tr("What is emitted"));
+    m_log->setMaximumBlockCount(linesToKeep);
+    auto *clear = new Button(tr("Clear the log"), this);
+    connect(clear, &Button::clicked, m_log, &CodeEdit::clear);
+    auto *column = new QVBoxLayout;
+    column->setSpacing(Metrics::small);
+    column->addWidget(m_log, 1);
+    column->addWidget(clear, 0, Qt::AlignRight);
+    return column;
+}
+
+Button *SignalsPage::makeButton(const QString &text, void (SignalsPage::*action)())
+{
+    auto *button = new Button(text, this);
+    connect(button, &Button::clicked, this, action);
+    return button;
+}
+
+void SignalsPage::search(const QString &text)
+{
+    m_model->setFilter(text);
+    m_emptyState->setSummary(tr("Nothing matches “%1”").arg(text.trimmed()));
+    const int count = m_model->signalCount();
+    m_count->setText(tr("%1 signals").arg(count));
+    m_view->setVisible(count > 0);
+    m_emptyState->setVisible(count == 0);
+    choose(m_view->currentIndex());
+}
+
+void SignalsPage::choose(const QModelIndex &index)
+{
+    const bool isSignal = m_model->signalAt(index).isValid();
+    for (Button *button : { m_emit, m_addReceiver, m_removeReceivers })
+        button->setEnabled(isSignal);
+}
+
+void SignalsPage::emitChosen()
+{
+    const QMetaMethod signal = m_model->signalAt(m_view->currentIndex());
+    if (signal.isValid())
+        SignalArguments::emitWithDefaults(OxaAppSignals::get(), signal);
+}
+
+void SignalsPage::addReceiver()
+{
+    m_receiver.connectTo(OxaAppSignals::get(), m_model->signalAt(m_view->currentIndex()));
+    m_model->refreshReceivers();
+}
+
+void SignalsPage::removeReceivers()
+{
+    m_receiver.disconnectFrom(OxaAppSignals::get(), m_model->signalAt(m_view->currentIndex()));
+    m_model->refreshReceivers();
+}
+
+void SignalsPage::note(const QMetaMethod &signal, const QStringList &arguments)
+{
+    m_log->appendPlainText(emissionText(signal, arguments));
+}

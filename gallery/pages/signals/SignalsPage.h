@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Page.h"
+#include "SignalReceiver.h"
+
+#include <QTimer>
+
+class Button;
+class CodeEdit;
+class EmptyState;
+class LineEdit;
+class OxaLabel;
+class QBoxLayout;
+class SignalModel;
+class SignalView;
+
+/// Shows the signals of the hub, how many receivers each has, and what is emitted.
+class SignalsPage : public Page
+{
+    Q_OBJECT
+
+public:
+    explicit SignalsPage(QWidget *parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    QBoxLayout *makeToolbar();
+    QBoxLayout *makeLog();
+    Button *makeButton(const QString &text, void (SignalsPage::*action)());
+    void search(const QString &text);
+    void choose(const QModelIndex &index);
+    void emitChosen();
+    void addReceiver();
+    void removeReceivers();
+    void note(const QMetaMethod &signal, const QStringList &arguments);
+
+    SignalModel *m_model;
+    SignalView *m_view;
+    EmptyState *m_emptyState;
+    LineEdit *m_search;
+    OxaLabel *m_count;
+    CodeEdit *m_log;
+    Button *m_emit;
+    Button *m_addReceiver;
+    Button *m_removeReceivers;
+    QTimer m_recount;
+    SignalReceiver m_receiver;
+};

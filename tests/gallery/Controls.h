@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <widgets/Button.h>
+#include <widgets/SegmentedControl.h>
+#include <widgets/ToggleButton.h>
+
+/// Finds and uses the controls of a card as a user does: by what they are called.
+namespace Controls {
+
+/// Returns the child of \a parent with \a name as its accessible name, or null.
+template <typename Widget>
+Widget *called(const QWidget &parent, const char *name)
+{
+    const auto widgets = parent.findChildren<Widget *>();
+    for (Widget *widget : widgets) {
+        if (widget->accessibleName() == QLatin1String(name))
+            return widget;
+    }
+    return nullptr;
+}
+
+/// Returns the button below \a parent whose text is \a text, or null.
+template <typename ButtonClass = Button>
+ButtonClass *withText(const QWidget &parent, const char *text)
+{
+    const auto buttons = parent.findChildren<ButtonClass *>();
+    for (ButtonClass *button : buttons) {
+        if (button->text() == QLatin1String(text))
+            return button;
+    }
+    return nullptr;
+}
+
+/// Chooses the segment \a text of the control called \a name.
+inline void choose(const QWidget &parent, const char *name, const char *text)
+{
+    withText<ToggleButton>(*called<SegmentedControl>(parent, name), text)->click();
+}
+
+} // namespace Controls
