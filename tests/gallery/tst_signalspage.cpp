@@ -89,6 +89,7 @@ private Q_SLOTS:
     void logsWhatTheButtonEmits();
     void logsWhatOthersEmit();
     void connectsAndDisconnectsReceivers();
+    void keepsTheChosenSignalThroughASearch();
     void offersToClearASearchThatFindsNothing();
     void recountsWhileItIsShown();
 };
@@ -294,6 +295,26 @@ void tst_SignalsPage::connectsAndDisconnectsReceivers()
     QCOMPARE(receiversOf(page.model, "contactPerson()"), 2);
     Controls::withText(page.page, "Remove receivers")->click();
     QCOMPARE(receiversOf(page.model, "contactPerson()"), 0);
+}
+
+void tst_SignalsPage::keepsTheChosenSignalThroughASearch()
+{
+    const PageWith page("showContactCard(QRect,QString,Qt::ArrowType)");
+    auto *search = page.page.findChild<LineEdit *>();
+    const auto chosen = [&page] {
+        return page.view.currentIndex().data(SignalModel::NameRole).toString();
+    };
+    search->setText(QStringLiteral("contact"));
+    QCOMPARE(chosen(), QStringLiteral("showContactCard"));
+    QCOMPARE(page.view.currentIndex().data().toString(),
+             QStringLiteral("showContactCard(QRect sourceRect, QString contactId, "
+                            "Qt::ArrowType arrow)"));
+    search->setText(QStringLiteral("guid"));
+    QCOMPARE(chosen(), QStringLiteral("navigateToSpace"));
+    search->setText(QStringLiteral("nowhere"));
+    QVERIFY(!page.view.currentIndex().isValid());
+    search->clear();
+    QCOMPARE(chosen(), QStringLiteral("closeContactCards"));
 }
 
 void tst_SignalsPage::offersToClearASearchThatFindsNothing()

@@ -74,6 +74,11 @@ QModelIndex SignalModel::indexOf(const QByteArray &signature) const
     return found == m_rows.end() ? QModelIndex() : index(int(found - m_rows.begin()));
 }
 
+QModelIndex SignalModel::firstSignal() const
+{
+    return index(1); // Behind the heading of its group.
+}
+
 QString SignalModel::signatureOf(const QMetaMethod &signal)
 {
     return QStringLiteral("%1(%2)").arg(QString::fromLatin1(signal.name()), parametersOf(signal));

@@ -38,6 +38,9 @@ public:
     /// shown.
     QModelIndex indexOf(const QByteArray &signature) const;
 
+    /// Returns the place of the first signal that is shown, if there is one.
+    QModelIndex firstSignal() const;
+
     /// Returns \a signal with the types and names of its parameters.
     static QString signatureOf(const QMetaMethod &signal);
 

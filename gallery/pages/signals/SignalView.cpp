@@ -16,7 +16,8 @@ SignalView::SignalView(SignalModel *model, QWidget *parent)
     setCSS(QStringLiteral("$backgroundColors: gallery-card-background;"
                           "$borderColors: gallery-field-border;"
                           "$borderRadius: 8;"
-                          "SignalView { padding: 1px; }"
+                          // Rows stay clear of the round corners.
+                          "SignalView { padding: 3px; }"
                           // Under the pointer, too, one sees where the focus is.
                           "SignalView:focus { border-color: $(gallery-field-border.focused); }")
            + ScrollArea::scrollBarStyleText());

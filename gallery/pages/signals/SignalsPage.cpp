@@ -133,7 +133,10 @@ Button *SignalsPage::makeButton(const QString &text, void (SignalsPage::*action)
 
 void SignalsPage::search(const QString &text)
 {
+    const QByteArray chosen = m_model->signalAt(m_view->currentIndex()).methodSignature();
     m_model->setFilter(text);
+    const QModelIndex index = m_model->indexOf(chosen);
+    m_view->setCurrentIndex(index.isValid() ? index : m_model->firstSignal());
     m_emptyState->setSummary(tr("Nothing matches “%1”").arg(text.trimmed()));
     const int count = m_model->signalCount();
     m_count->setText(tr("%1 signals").arg(count));
