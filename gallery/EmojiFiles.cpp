@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "EmojiFiles.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QResource>
 
@@ -14,9 +13,8 @@ const QString fileName = QStringLiteral("emojis.rcc");
 /// Qt's macro has to stand outside of any namespace.
 static void dropOwnEmojis() { Q_CLEANUP_RESOURCE(emojis); }
 
-void EmojiFiles::load()
+void EmojiFiles::load(const QString &folder)
 {
-    const QDir folder(QCoreApplication::applicationDirPath());
-    if (QResource::registerResource(folder.filePath(fileName)))
+    if (QResource::registerResource(QDir(folder).filePath(fileName)))
         dropOwnEmojis();
 }

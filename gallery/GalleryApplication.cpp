@@ -45,7 +45,6 @@ GalleryApplication::GalleryApplication(int &argc, char **argv)
     setApplicationDisplayName(tr("UiElements Gallery"));
     setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     substituteFonts();
-    EmojiFiles::load();
 }
 
 GalleryApplication *GalleryApplication::get()
@@ -80,6 +79,7 @@ int GalleryApplication::run(const GalleryOptions &options)
     }
 
     setArtworkFolder(options.artworkFolder);
+    EmojiFiles::load(options.artworkFolder);
     QString problem;
     if (!loadDocuments(options.documents, problem))
         return fail(problem);
