@@ -102,21 +102,27 @@ QWidget *UnderlineCard::makeSwitch(
 void UnderlineCard::setUpSliders()
 {
     auto *width = new Slider(1, 8, m_buttons.front()->getBorderWidth(), this);
-    connect(width, &Slider::valueChanged, this, [this](int value) {
-        for (OxaUnderlineButton *button : m_buttons) {
-            button->setBorderWidth(value);
-            // The line gets its width together with its colours.
-            button->setUnderlineColorSet(QStringLiteral("gallery-accent"));
-            button->update();
-        }
-    });
+    connect(width, &Slider::valueChanged, this, &UnderlineCard::setLineWidth);
     auto *padding = new Slider(0, 16, m_buttons.front()->getBottomPadding(), this);
-    connect(padding, &Slider::valueChanged, this, [this](int value) {
-        for (OxaUnderlineButton *button : m_buttons)
-            button->setBottomPadding(value);
-    });
+    connect(padding, &Slider::valueChanged, this, &UnderlineCard::setBottomPadding);
     body()->addWidget(new ControlRow(tr("Line"), width, this));
     body()->addWidget(new ControlRow(tr("Padding"), padding, this));
+}
+
+void UnderlineCard::setLineWidth(int width)
+{
+    for (OxaUnderlineButton *button : m_buttons) {
+        button->setBorderWidth(width);
+        // The line gets its width together with its colours.
+        button->setUnderlineColorSet(QStringLiteral("gallery-accent"));
+        button->update();
+    }
+}
+
+void UnderlineCard::setBottomPadding(int padding)
+{
+    for (OxaUnderlineButton *button : m_buttons)
+        button->setBottomPadding(padding);
 }
 
 void UnderlineCard::showImages()

@@ -23,6 +23,8 @@ private:
     void addButton(const QString &text);
     QWidget *makeSwitch(const std::function<void(OxaUnderlineButton &button, bool on)> &set);
     void setUpSliders();
+    void setLineWidth(int width);
+    void setBottomPadding(int padding);
     void showImages();
 
     std::vector<OxaUnderlineButton *> m_buttons;
