@@ -194,7 +194,7 @@ QWidget *TabOrderUtils::getFirstFocusableItemInLayout(QLayout *layout, bool from
 
 bool TabOrderUtils::hasDeepFocus(QWidget *widget)
 {
-    return widget && isAncestorOfParent(widget, QApplication::focusWidget());
+    return isAncestorOfParent(widget, QApplication::focusWidget());
 }
 
 bool TabOrderUtils::isAncestorOfParent(const QWidget *ancestor, const QWidget *widget)

@@ -5,18 +5,20 @@
 #include <UiElements/layouts/FixedItemRatioLayoutNotSupportScroll.h>
 #include <UiElements/layouts/SmartLayout.h>
 
-#include <QWidget>
+#include <QLabel>
 
 #include <vector>
 
 /// Widgets in the layouts, as benchmarks need them.
 namespace Tiles {
 
-/// A widget that wants to be of one size.
-class Tile : public QWidget
+/// A label that wants to be of one size.
+class Tile : public QLabel
 {
 public:
-    Tile(const QSize &size, QWidget *parent) : QWidget(parent), m_size(size) { }
+    Tile(const QSize &size, QWidget *parent) : QLabel(QStringLiteral("tile"), parent), m_size(size)
+    {
+    }
     QSize sizeHint() const override { return m_size; }
 
 private:
@@ -61,7 +63,7 @@ inline FlowLayout *makeLayout(Kind kind, QWidget *parent)
     }
     auto *layout = new FixedItemRatioLayoutNotSupportScroll(parent, margins, ofTheStyle,
                                                             ofTheStyle);
-    layout->setItemData({ 0.5625F, 4, 40, 4 });
+    layout->setItemData({ 0.5625F, 4, 16, 4 });
     return layout;
 }
 

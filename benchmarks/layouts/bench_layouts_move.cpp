@@ -127,7 +127,7 @@ const bool areAdded = [] {
             benchmark::RegisterBenchmark((thing + countName + " items/QWidget::setGeometry")
                                                  .c_str(),
                                          moveTiles, kind, count)
-                    ->Iterations(20)
+                    ->Iterations(count <= 1000 ? 100 : 20)
                     ->UseManualTime();
             benchmark::RegisterBenchmark((thing + "nothing of " + countName
                                           + " moves/QWidget::setGeometry")

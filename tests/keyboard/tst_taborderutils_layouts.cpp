@@ -149,11 +149,13 @@ void tst_TabOrderUtilsLayouts::leavesTheChainAloneWithoutItems()
     QFETCH(const bool, hasLast);
     QFETCH(const bool, hasItems);
     Window window;
+    // Another order than that of the chain, which any step of chaining would show in.
+    window.items.insertItem(2, window.items.takeAt(0));
     QHBoxLayout empty;
     QHBoxLayout *layout = hasItems ? &window.items : &empty;
     TabOrderUtils::setCompoundTabOrder(hasFirst ? window.item(2) : nullptr,
                                        hasLayout ? layout : nullptr,
-                                       hasLast ? &window.before : nullptr);
+                                       hasLast ? &window.after : nullptr);
     QCOMPARE(window.tabOrder(), QStringLiteral("<>ABC"));
 }
 
