@@ -88,7 +88,10 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
+    /// The anchor's picture for the checked button was set to \a path, also when it is the same.
     void anchorSvgOnChanged(const QString &path);
+
+    /// The anchor's picture for the unchecked button was set to \a path, also when it is the same.
     void anchorSvgOffChanged(const QString &path);
 
 protected:
@@ -103,6 +106,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 protected Q_SLOTS:
+    /// The base class's; then looks the anchor's colours up anew where they have a set.
     void onThemeChanged() override;
 
 private:

@@ -30,6 +30,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 protected Q_SLOTS:
+    /// The base class's; then looks the icon's colours up anew where they have a set.
     void onThemeChanged() override;
 
 private:

@@ -58,6 +58,7 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
+    /// The icon of the checked button was set to \a path, which is not empty.
     void svgIconCheckedChanged(const QString &path);
 
 protected:
@@ -82,6 +83,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 protected Q_SLOTS:
+    /// The base class's; then looks the icon's colours up anew where they have a set.
     void onThemeChanged() override;
 
 private Q_SLOTS:

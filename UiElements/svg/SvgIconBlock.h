@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+// Longer than headers are here: the macro at its end declares for moc, once more, what the class
+// does.
+
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/svg/OxaSvgIcon.h>
 #include <UiElements/theme/OxaEnum.h>
@@ -27,26 +30,42 @@ public:
     SvgIconBlock(QWidget *widget, const OxaColorSet &textColorSet);
     ~SvgIconBlock();
 
+    /// \name The icon, and the properties of its outer picture
+    /// \{
+
+    /// What the widget's properties of the same names, which begin with "svgIcon", show and set.
+    /// The icon itself is null until it is needed.
     const std::unique_ptr<OxaSvgIcon> &icon() const { return m_icon; }
     std::unique_ptr<OxaSvgIcon> &icon() { return m_icon; }
-
     QString path() const;
     void setPath(const QString &path);
     QSize size() const;
     void setSize(const QSize &size);
     QString colorSetName() const { return m_colorSetName; }
     void setColorSetName(const QString &name);
+    /// \}
 
     /// Returns the icon's colours: what the last setColorSetName() came to.
     OxaColorSet colorSet() const;
 
+    /// \name The properties of its inner picture
+    /// \{
+
+    /// What the widget's properties that begin with "innerSvgIcon" show and set. The setters of
+    /// size and colours repaint the widget.
     QString innerPath() const;
     void setInnerPath(const QString &path);
     QSize innerSize() const;
     void setInnerSize(const QSize &size);
     QString innerColorSetName() const { return m_innerColorSetName; }
     void setInnerColorSetName(const QString &name);
+    /// \}
 
+    /// \name The places of icon and text
+    /// \{
+
+    /// What the widget's properties of the same names show and set. All setters but setPadding()
+    /// repaint the widget.
     OxaEnum::Alignment alignment() const { return m_alignment; }
     void setAlignment(OxaEnum::Alignment alignment);
     OxaEnum::HorAlign textHorAlign() const { return m_textHorAlign; }
@@ -62,6 +81,7 @@ public:
     void setTopLeftPadding(const QPoint &padding);
     QPoint bottomRightPadding() const { return { m_padding.right(), m_padding.bottom() }; }
     void setBottomRightPadding(const QPoint &padding);
+    /// \}
 
     /// Returns the set called \a name in the widget's theme, or its text colours where that is not
     /// valid.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+// Longer than headers are here: beside its properties it opens what its subclasses paint with.
+
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/fonts/FontBlock.h>
 #include <UiElements/theme/ThemeBlock.h>
@@ -122,12 +124,21 @@ public:
     void setAccessibleMode(const RillsAccessible::AccessibleMode &mode);
 
 Q_SIGNALS:
+    /// The button gets the focus; Qt has not seen the event yet.
     void onFocusIn();
+
+    /// The button loses the focus; Qt has not seen the event yet.
     void onFocusOut();
+
     /// The button was held down for 500 ms. No click follows.
     void longPressed();
+
+    /// The pointer came onto the button.
     void mouseEntered();
+
+    /// The pointer left the button.
     void mouseExited();
+
     /// The right mouse button went down on the button.
     void rightClick();
 

@@ -72,6 +72,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 protected Q_SLOTS:
+    /// The base class's; then looks all colours up anew. The underline takes its own set's again.
     void onThemeChanged() override;
 
 private:
