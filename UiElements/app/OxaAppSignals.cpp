@@ -127,8 +127,8 @@ void OxaAppSignals::_registerDebugShortcuts(QWidget *mainWindow)
 
 void OxaAppSignals::registerShortcut(QWidget *mainWindow, const ShortcutRow &row)
 {
-    auto *shortcut = new OxaShortcut(row.key.sequence(), mainWindow, nullptr, nullptr,
-                                     Qt::WindowShortcut);
+    const QKeySequence key = row.key.sequence();
+    auto *shortcut = new OxaShortcut(key, mainWindow, nullptr, nullptr, Qt::WindowShortcut);
     shortcut->setContext(Qt::ApplicationShortcut);
 
     if (shortcutExists(row.id))

@@ -10,9 +10,7 @@
 OxaSvgAnchorButton::OxaSvgAnchorButton(QWidget *parent) : OxaSvgAnchorButton(QString(), parent) { }
 
 OxaSvgAnchorButton::OxaSvgAnchorButton(const QString &text, QWidget *parent)
-    : OxaSvgPushButton(text, parent, QAccessible::PushButton),
-      m_anchorOn(std::make_unique<OxaSvgIcon>()),
-      m_anchorOff(std::make_unique<OxaSvgIcon>())
+    : OxaSvgPushButton(text, parent, QAccessible::PushButton)
 {
     setCheckable(true);
     // Queued: a path that could not be loaded is tried once more when the event loop turns.

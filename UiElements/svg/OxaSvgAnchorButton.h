@@ -114,8 +114,8 @@ private:
     void paintAnchor(QPainter &painter, QPoint position, const QRect &block,
                      QStyle::State state) const;
 
-    const std::unique_ptr<OxaSvgIcon> m_anchorOn;
-    const std::unique_ptr<OxaSvgIcon> m_anchorOff;
+    const std::unique_ptr<OxaSvgIcon> m_anchorOn = std::make_unique<OxaSvgIcon>();
+    const std::unique_ptr<OxaSvgIcon> m_anchorOff = std::make_unique<OxaSvgIcon>();
     QString m_anchorColorSetName;
     QPoint m_anchorOffset;
     bool m_isLeftAnchor = false;
