@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/Pixels.h"
+
 #include <UiElements/svg/DrawUtils.h>
 
 #include <QTest>
@@ -10,6 +12,9 @@ class tst_DrawUtilsGeometry : public QObject
 private Q_SLOTS:
     void fitsARectangleToARatioAroundItsCentre_data();
     void fitsARectangleToARatioAroundItsCentre();
+    void scalesAPixmapToARectangle_data();
+    void scalesAPixmapToARectangle();
+    void smoothsAPixmapThatItScales();
 };
 
 void tst_DrawUtilsGeometry::fitsARectangleToARatioAroundItsCentre_data()
@@ -45,5 +50,56 @@ void tst_DrawUtilsGeometry::fitsARectangleToARatioAroundItsCentre()
     QCOMPARE(rect.center(), centre);
 }
 
-QTEST_APPLESS_MAIN(tst_DrawUtilsGeometry)
+void tst_DrawUtilsGeometry::scalesAPixmapToARectangle_data()
+{
+    QTest::addColumn<QSize>("pixmapSize");
+    QTest::addColumn<QRectF>("rect");
+    QTest::addColumn<double>("devicePixelRatio");
+    QTest::addColumn<QRectF>("fitted");
+    QTest::addColumn<QSize>("scaledSize");
+    const QRectF square(10, 20, 100, 100);
+    QTest::newRow("a wide one") << QSize(40, 20) << square << 1.0 << QRectF(10, 45, 100, 50)
+                                << QSize(100, 50);
+    QTest::newRow("a high one") << QSize(20, 40) << square << 1.0 << QRectF(35, 20, 50, 100)
+                                << QSize(50, 100);
+    QTest::newRow("a larger one") << QSize(400, 400) << square << 1.0 << square << QSize(100, 100);
+    QTest::newRow("two pixels of the device for one")
+            << QSize(40, 20) << square << 2.0 << QRectF(10, 45, 100, 50) << QSize(200, 100);
+    QTest::newRow("parts of a pixel are cut off")
+            << QSize(8, 8) << QRectF(0, 0, 10.75, 10.75) << 1.5 << QRectF(0, 0, 10.75, 10.75)
+            << QSize(16, 16);
+    // 100 by 25.2, of which 25 are left: as wide as that height allows.
+    QTest::newRow("its proportions outlast the cut")
+            << QSize(500, 126) << square << 1.0 << QRectF(10, 57.4, 100, 25.2) << QSize(99, 25);
+}
+
+void tst_DrawUtilsGeometry::scalesAPixmapToARectangle()
+{
+    QFETCH(const QSize, pixmapSize);
+    QFETCH(QRectF, rect);
+    QFETCH(const double, devicePixelRatio);
+    QPixmap pixmap(pixmapSize);
+    pixmap.fill(Qt::red);
+    const QPixmap scaled = DrawUtils::adjustPixmapToRect(pixmap, rect, devicePixelRatio);
+    QTEST(rect, "fitted");
+    QTEST(scaled.size(), "scaledSize");
+    QCOMPARE(scaled.devicePixelRatio(), devicePixelRatio);
+    QCOMPARE(Pixels::countNear(scaled.toImage(), Qt::red), scaled.width() * scaled.height());
+    QCOMPARE(pixmap.size(), pixmapSize);
+}
+
+void tst_DrawUtilsGeometry::smoothsAPixmapThatItScales()
+{
+    QImage halves(2, 1, QImage::Format_RGB32);
+    halves.setPixelColor(0, 0, Qt::black);
+    halves.setPixelColor(1, 0, Qt::white);
+    QRectF rect(0, 0, 40, 20);
+    const QImage scaled = DrawUtils::adjustPixmapToRect(QPixmap::fromImage(halves), rect, 1.0)
+                                  .toImage();
+    QCOMPARE(scaled.pixelColor(0, 10), QColor(Qt::black));
+    QCOMPARE(scaled.pixelColor(39, 10), QColor(Qt::white));
+    QVERIFY(Pixels::countNear(scaled, Qt::gray) > 0);
+}
+
+QTEST_MAIN(tst_DrawUtilsGeometry)
 #include "tst_drawutils_geometry.moc"

@@ -4,6 +4,7 @@
 #include <UiElements/svg/DrawUtils.h>
 
 #include <QPainter>
+#include <QPicture>
 #include <qsvggraphics_p.h>
 #include <qsvgtinydocument_p.h>
 
@@ -68,6 +69,33 @@ struct PainterState
             values;
 };
 
+/// A node without a document that notes how it finds the painter, and paints nothing.
+class RecordingNode : public QSvgNode
+{
+public:
+    explicit RecordingNode(const QRectF &bounds) : m_bounds(bounds) { }
+
+    QTransform transform;
+    QPen pen;
+    QBrush brush;
+    double opacity = 0.0;
+    QPainter::RenderHints hints;
+
+    Type type() const override { return PATH; }
+    QRectF bounds(QPainter *, QSvgExtraStates &) const override { return m_bounds; }
+    void draw(QPainter *painter, QSvgExtraStates &) override
+    {
+        transform = painter->transform();
+        pen = painter->pen();
+        brush = painter->brush();
+        opacity = painter->opacity();
+        hints = painter->renderHints();
+    }
+
+private:
+    const QRectF m_bounds;
+};
+
 } // namespace
 
 /// The painting of a node of Qt SVG.
@@ -81,11 +109,15 @@ private Q_SLOTS:
     void paintsANodeWithoutADocumentByItsBounds();
     void paintsIntoAllOfTheDeviceWithoutARectangle_data();
     void paintsIntoAllOfTheDeviceWithoutARectangle();
+    void paintsInTheNodesSizeWhereTheDeviceHasNone();
+    void mapsBoxToRectangleUnlessTheyAreTheSame_data();
+    void mapsBoxToRectangleUnlessTheyAreTheSame();
     void paintsNothingThatCannotBePainted();
     void paintsAHiddenNodeAllTheSame();
     void strokesOnlyWhatHasAStroke();
     void keepsThePaintersScale();
     void setsTheOpacity();
+    void setsThePainterUpForTheNode();
     void leavesThePainterAsItWas_data();
     void leavesThePainterAsItWas();
     void survivesRectanglesAndBoxesWithoutASize_data();
@@ -146,6 +178,47 @@ void tst_DrawUtilsSvg::paintsIntoAllOfTheDeviceWithoutARectangle()
     QCOMPARE(drawing(document->renderers().constFirst(), rect), filled(QRect(8, 8, 8, 8)));
 }
 
+void tst_DrawUtilsSvg::paintsInTheNodesSizeWhereTheDeviceHasNone()
+{
+    RecordingNode node(QRectF(4, 8, 16, 16));
+    QPicture picture; // It has the size of what was painted so far.
+    QPainter painter(&picture);
+    QSvgExtraStates states;
+    DrawUtils::drawSVG(&painter, &node, states, QRectF(3, 3, 0, 8), red, 1.0);
+    QCOMPARE(node.transform, QTransform::fromTranslate(-4, -8));
+}
+
+void tst_DrawUtilsSvg::mapsBoxToRectangleUnlessTheyAreTheSame_data()
+{
+    QTest::addColumn<QRectF>("box");
+    QTest::addColumn<QRectF>("rect");
+    QTest::addColumn<bool>("isMapped");
+    const QRectF rect(4, 8, 16, 16);
+    QTest::newRow("the same") << rect << rect << false;
+    QTest::newRow("less than a trillionth elsewhere")
+            << rect << QRectF(4 + 2e-12, 8 - 4e-12, 16, 16) << false;
+    QTest::newRow("more than a trillionth to the right")
+            << rect << QRectF(4 + 8e-12, 8, 16, 16) << true;
+    QTest::newRow("more than a trillionth below") << rect << QRectF(4, 8 + 16e-12, 16, 16) << true;
+    QTest::newRow("more than a trillionth larger")
+            << rect << QRectF(4, 8, 16 + 32e-12, 16 + 32e-12) << true;
+    QTest::newRow("a box without a size") << QRectF(4, 8, 0, 0) << rect << false;
+}
+
+void tst_DrawUtilsSvg::mapsBoxToRectangleUnlessTheyAreTheSame()
+{
+    QFETCH(const QRectF, box);
+    QFETCH(const QRectF, rect);
+    QFETCH(const bool, isMapped);
+    RecordingNode node(box);
+    drawing(&node, rect);
+    // Compared exactly, which QTransform does not.
+    const QTransform &transform = node.transform;
+    const bool isIdentity = transform.m11() == 1.0 && transform.m22() == 1.0
+            && transform.dx() == 0.0 && transform.dy() == 0.0;
+    QCOMPARE(!isIdentity, isMapped);
+}
+
 void tst_DrawUtilsSvg::paintsNothingThatCannotBePainted()
 {
     const QRectF rect(0, 0, 16, 16);
@@ -202,6 +275,24 @@ void tst_DrawUtilsSvg::setsTheOpacity()
                  painter->setOpacity(0.5);
                  painter->fillRect(4, 4, 4, 4, red);
              }));
+}
+
+void tst_DrawUtilsSvg::setsThePainterUpForTheNode()
+{
+    RecordingNode node(QRectF(0, 0, 16, 16));
+    drawing([&node](QPainter *painter) {
+        painter->setPen(QPen(Qt::blue, 7.0));
+        painter->setBrush(Qt::green);
+        QSvgExtraStates states;
+        DrawUtils::drawSVG(painter, &node, states, QRectF(0, 0, 32, 32), red, 0.25);
+    });
+    QPen pen(QBrush(Qt::NoBrush), 1.0, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
+    pen.setMiterLimit(4.0);
+    QCOMPARE(node.pen, pen);
+    QCOMPARE(node.brush, QBrush(red, Qt::SolidPattern));
+    QCOMPARE(node.opacity, 0.25);
+    QVERIFY(node.hints.testFlag(QPainter::Antialiasing));
+    QVERIFY(node.hints.testFlag(QPainter::SmoothPixmapTransform));
 }
 
 void tst_DrawUtilsSvg::leavesThePainterAsItWas_data()
