@@ -43,6 +43,7 @@ class tst_OxaApplication : public QObject
 private Q_SLOTS:
     void startsWithoutThemeLogoAndColors();
     void startsWithoutPublishingInformation();
+    void startsWithoutQmlEngineAndMovies();
     void makesTheFontManagerAsItsChild();
     void installsTheApplicationFont();
     void registersTheColorSetByName();
@@ -86,6 +87,12 @@ void tst_OxaApplication::startsWithoutThemeLogoAndColors()
 void tst_OxaApplication::startsWithoutPublishingInformation()
 {
     QVERIFY(!application()->getPublishingInfo());
+}
+
+void tst_OxaApplication::startsWithoutQmlEngineAndMovies()
+{
+    QVERIFY(!application()->getQmlEngine());
+    QVERIFY(!application()->getMovieProviderSource());
 }
 
 void tst_OxaApplication::makesTheFontManagerAsItsChild()

@@ -43,6 +43,15 @@ public:
         return write(name, document("<path d='M0 0H16V16H0Z'/>"));
     }
 
+    /// Writes an icon of two turning shapes in black.
+    QString animated(const QString &name = QStringLiteral("animated.svg")) const
+    {
+        const QByteArray shape = "<rect width='9' height='9'><animateTransform "
+                                 "attributeName='transform' type='rotate' from='0' to='90' "
+                                 "dur='1s' repeatCount='indefinite'/></rect>";
+        return write(name, document(shape + shape));
+    }
+
     /// Announces the warnings of a file at \a path that is not there.
     static void ignoreMissing(const QString &path)
     {

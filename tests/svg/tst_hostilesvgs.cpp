@@ -3,23 +3,23 @@
 // Feeds odd and hostile SVG files to the renderer. A file may fail to load, with a warning; it must
 // not crash or hang the program, nor harm what is painted after it.
 //
-//     tst_hostilesvgs                        feeds the files of HostileSvgs.h
-//     tst_hostilesvgs FOLDER [ARGUMENT]...   feeds every *.svg and *.svgz below FOLDER instead,
-//     such
-//                                            as a whole icon theme, and tells how many load;
-//                                            further arguments are Qt Test's
+//     tst_hostilesvgs [ARGUMENT]...
+//         feeds the files of HostileSvgs.h
+//     tst_hostilesvgs FOLDER [ARGUMENT]...
+//         feeds every *.svg and *.svgz below FOLDER instead, such as a whole icon theme, and tells
+//         how many load
+//
+// Arguments are Qt Test's.
 //
 // A hang ends with Qt Test's own time limit (QTEST_FUNCTION_TIMEOUT, in milliseconds).
 //
 // Three kinds of files are not fed, because Qt SVG 5.15 itself does not survive them:
-// - a picture that refers to itself by <image xlink:href>: Qt loads it again while it loads it,
-// until
-//   the stack is full;
-// - a "stroke-dashoffset" of more than 2^31 times the length of the dashes: Qt walks there dash by
-//   dash;
-// - <use> of <use>, many levels deep, without a view box: Qt limits what it paints of such files,
-// but
-//   not what it measures where the view box is missing.
+// - a picture that refers to itself by <image xlink:href>:
+//   Qt loads it again while it loads it, until the stack is full;
+// - a "stroke-dashoffset" of more than 2^31 times the length of the dashes:
+//   Qt walks there dash by dash;
+// - <use> of <use>, many levels deep, without a view box:
+//   Qt limits what it paints of such files, but not what it measures without a view box.
 #include "HostileSvgs.h"
 
 #include <UiElements/svg/OxaSvgRenderer.h>

@@ -41,9 +41,11 @@ private Q_SLOTS:
     void writesItsStyleTextForEachState();
     void givesTheUncheckedPillABorderOfItsOwn();
     void givesTheCheckedPillABorderInItsFill();
+    void hasNoBorderForABlankName_data();
     void hasNoBorderForABlankName();
     void changesIconAndStyleTogether();
     void overwritesAnIconSetThatACallerChose();
+    void isToggledByMouseAndKey();
     void staysRoundAtAnyHeight();
 
     void neverGrowsPastItsContent();
@@ -177,13 +179,21 @@ void tst_OxaPillTabButton::givesTheCheckedPillABorderInItsFill()
     QVERIFY(pill.getOxaCSS().borderTop);
 }
 
+void tst_OxaPillTabButton::hasNoBorderForABlankName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("white space") << QStringLiteral(" \t ");
+}
+
 void tst_OxaPillTabButton::hasNoBorderForABlankName()
 {
+    QFETCH(const QString, name);
     OxaPillTabButton pill;
     pill.setChecked(true);
     pill.setBackgroundColorSetChecked(groundColors.name);
     QVERIFY(pill.getOxaCSS().borderTop);
-    pill.setBackgroundColorSetChecked(QString());
+    pill.setBackgroundColorSetChecked(name);
     QVERIFY(!pill.getOxaCSS().borderTop && !pill.getOxaCSS().borderRight);
     QVERIFY(!pill.getOxaCSS().borderBottom && !pill.getOxaCSS().borderLeft);
 }
@@ -215,6 +225,18 @@ void tst_OxaPillTabButton::overwritesAnIconSetThatACallerChose()
     pill.setSvgIconColorSet(iconColors.name);
     pill.setChecked(true);
     QCOMPARE(pill.getSvgIconColorSet(), QLatin1String(checkedText));
+}
+
+void tst_OxaPillTabButton::isToggledByMouseAndKey()
+{
+    OxaPillTabButton pill;
+    pill.setIconColorSet(iconColors.name);
+    QTest::mouseClick(&pill, Qt::LeftButton);
+    QVERIFY(pill.isChecked());
+    QCOMPARE(pill.getSvgIconColorSet(), QLatin1String(checkedText));
+    QTest::keyClick(&pill, Qt::Key_Space);
+    QVERIFY(!pill.isChecked());
+    QCOMPARE(pill.getSvgIconColorSet(), iconColors.name);
 }
 
 void tst_OxaPillTabButton::staysRoundAtAnyHeight()
@@ -290,6 +312,7 @@ void tst_OxaPillTabButton::paintsEachState()
     QCOMPARE(Faces::facesIn(image, iconColors), Faces::nameOf(face));
     const bool isChecked = face == Faces::Face::Checked;
     const OxaColorSet &texts = isChecked ? checkedTextColors : textColors;
+    QCOMPARE(Faces::facesIn(image, texts), Faces::nameOf(face));
     const QRect icon = Pixels::boundsNear(image, Faces::colorOf(iconColors, face));
     const QRect text = Pixels::boundsNear(image, Faces::colorOf(texts, face));
     QCOMPARE(text.left() > icon.right(), direction == Qt::LeftToRight);

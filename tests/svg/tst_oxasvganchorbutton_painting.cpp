@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Frames.h"
 #include "support/Faces.h"
 #include "support/Guards.h"
+#include "support/PaintCounter.h"
 #include "support/SvgFiles.h"
 #include "support/TestApplication.h"
 
@@ -34,6 +36,8 @@ private Q_SLOTS:
     void takesTheTextsColorsForASetThatTheThemeLacks();
     void followsTheTheme();
     void paintsItsPixmapInsteadOfTheIcon();
+    void doesNotRepaintForTheFramesOfItsAnchor_data();
+    void doesNotRepaintForTheFramesOfItsAnchor();
 
 private:
     /// Sets up a button of 120 by 40 with an icon, a text, and a square anchor of 8 by 8.
@@ -209,6 +213,26 @@ void tst_OxaSvgAnchorButtonPainting::paintsItsPixmapInsteadOfTheIcon()
     QCOMPARE(Faces::facesIn(image, iconColors), QString());
     QCOMPARE(Faces::facesIn(image, textColors), QStringLiteral("normal"));
     QCOMPARE(Faces::facesIn(image, anchorColors), QStringLiteral("normal"));
+}
+
+void tst_OxaSvgAnchorButtonPainting::doesNotRepaintForTheFramesOfItsAnchor_data()
+{
+    QTest::addColumn<bool>("isChecked");
+    QTest::newRow("on") << true;
+    QTest::newRow("off") << false;
+}
+
+void tst_OxaSvgAnchorButtonPainting::doesNotRepaintForTheFramesOfItsAnchor()
+{
+    QFETCH(const bool, isChecked);
+    const QString animated = m_files.animated();
+    OxaSvgAnchorButton button;
+    button.setChecked(isChecked);
+    button.setAnchorSvgOn(animated);
+    button.setAnchorSvgOff(animated);
+    PaintCounter paints(button);
+    QVERIFY(passFrames(animated));
+    QCOMPARE(paints.take(), 0);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaSvgAnchorButtonPainting)

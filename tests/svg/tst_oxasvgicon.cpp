@@ -14,10 +14,6 @@ namespace {
 constexpr QStyle::State enabled = QStyle::State_Enabled;
 const OxaColorSet outerColors = Faces::colors(QStringLiteral("outer"), 220);
 const OxaColorSet innerColors = Faces::colors(QStringLiteral("inner"), 110);
-const QByteArray turningShapes = SvgFiles::document(
-        "<rect width='9' height='9'><animateTransform "
-        "attributeName='transform' type='rotate' from='0' to='90' dur='1s' "
-        "repeatCount='indefinite'/></rect><g/>");
 
 /// Returns what \a draw paints on white paper, with the origin at (8, 8).
 QImage drawing(const std::function<void(QPainter *)> &draw)
@@ -348,13 +344,13 @@ void tst_OxaSvgIcon::survivesASizeOfZero()
     icon.setColorSet(outerColors);
     icon.setIconSize(QSize(0, 0));
     QCOMPARE(drawing(icon), paper());
-    icon.setFilePath(m_files.write(QStringLiteral("two.svg"), turningShapes));
+    icon.setFilePath(m_files.animated());
     drawing(icon);
 }
 
 void tst_OxaSvgIcon::tellsOfFramesOfEitherPicture()
 {
-    const QString animated = m_files.write(QStringLiteral("animated.svg"), turningShapes);
+    const QString animated = m_files.animated();
     const OxaSvgIcon made(animated);
     OxaSvgIcon outer;
     outer.setFilePath(animated);

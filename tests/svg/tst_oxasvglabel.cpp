@@ -98,6 +98,10 @@ void tst_OxaSvgLabel::hintsTheSizeOfTextIconAndPaddings_data()
     QTest::newRow("an icon without a picture counts") << SetUp(
             [](OxaSvgLabel &label, const QString &) { label.setSvgIconSize(QSize(20, 10)); })
                                                       << QSize(20, 10);
+    // There is an icon then, of which nothing shows.
+    QTest::newRow("an inner picture alone counts as minus one")
+            << SetUp([](OxaSvgLabel &label, const QString &path) { label.setInnerSvgIcon(path); })
+            << QSize(-1, -1);
 }
 
 void tst_OxaSvgLabel::hintsTheSizeOfTextIconAndPaddings()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Frames.h"
 #include "support/Faces.h"
 #include "support/Guards.h"
+#include "support/PaintCounter.h"
 #include "support/SvgFiles.h"
 #include "support/TestApplication.h"
 
@@ -36,7 +38,10 @@ private Q_SLOTS:
     void paintsTheCheckedIconInEachState();
     void showsThePlainIconAgainWithoutACheckedOne();
     void takesTheTextsColorsForBothIcons();
+    void takesTheTextsColorsForACheckedIconAlone();
     void takesTheNamedColorsAnewForAStyleText();
+    void hasNoColorsAfterAStyleTextWhenTheThemeLacksThem();
+    void doesNotRepaintForTheFramesOfItsCheckedIcon();
     void paintsRichTextInTheTextsColors_data() { Faces::addRows(); }
     void paintsRichTextInTheTextsColors();
     void paintsItsTextOnce();
@@ -146,6 +151,16 @@ void tst_OxaSvgPushButtonPainting::takesTheTextsColorsForBothIcons()
     QCOMPARE(Pixels::boundsNear(picture(button), iconColors.checked).width(), 30);
 }
 
+void tst_OxaSvgPushButtonPainting::takesTheTextsColorsForACheckedIconAlone()
+{
+    OxaSvgPushButton button;
+    button.setCheckable(true);
+    button.setChecked(true);
+    button.setCSS(QStringLiteral("$textColors: text;"));
+    button.setSvgIconChecked(m_square);
+    QCOMPARE(Faces::facesIn(picture(button), textColors), QStringLiteral("checked"));
+}
+
 void tst_OxaSvgPushButtonPainting::takesTheNamedColorsAnewForAStyleText()
 {
     OxaSvgPushButton button;
@@ -162,6 +177,37 @@ void tst_OxaSvgPushButtonPainting::takesTheNamedColorsAnewForAStyleText()
     QVERIFY(Pixels::countNear(image, changed.normal) > 0);
     // The inner picture is left alone.
     QVERIFY(Pixels::countNear(image, iconColors.normal) > 0);
+}
+
+void tst_OxaSvgPushButtonPainting::hasNoColorsAfterAStyleTextWhenTheThemeLacksThem()
+{
+    OxaSvgPushButton button;
+    button.setCheckable(true);
+    button.setSvgIcon(m_square);
+    button.setSvgIconColorSet(iconColors.name);
+    button.setSvgIconChecked(m_square);
+    const StoreGuard stores(ColorSets::storeOf({ textColors }));
+    QTest::ignoreMessage(QtWarningMsg, "ColorSet name does not exist!  \"icon\"");
+    button.setCSS(QStringLiteral("$textColors: text;"));
+    // Black is what a brush without a colour paints in. The text's colours are for an empty name.
+    for (const bool isChecked : { false, true }) {
+        button.setChecked(isChecked);
+        const QImage image = picture(button);
+        QVERIFY(Pixels::countNear(image, Qt::black, QRect(52, 12, 16, 16), 0) > 200);
+        QCOMPARE(Faces::facesIn(image, textColors), QString());
+    }
+}
+
+void tst_OxaSvgPushButtonPainting::doesNotRepaintForTheFramesOfItsCheckedIcon()
+{
+    const QString animated = m_files.animated();
+    OxaSvgPushButton button;
+    button.setCheckable(true);
+    button.setChecked(true);
+    button.setSvgIconChecked(animated);
+    PaintCounter paints(button);
+    QVERIFY(passFrames(animated));
+    QCOMPARE(paints.take(), 0);
 }
 
 void tst_OxaSvgPushButtonPainting::paintsRichTextInTheTextsColors()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Frames.h"
 #include "support/SvgFiles.h"
 
 #include <UiElements/svg/OxaSvgRenderer.h>
@@ -144,7 +145,7 @@ void tst_OxaSvgRenderer::readsAPathAgainOnceAnotherWasLoaded()
 {
     const QString path = m_files.write(QStringLiteral("changing.svg"), oneNode);
     OxaSvgRenderer renderer(path);
-    m_files.write(QStringLiteral("changing.svg"), SvgFiles::document(turningShape + turningShape));
+    m_files.animated(QStringLiteral("changing.svg"));
     QVERIFY(renderer.load(m_files.write(QStringLiteral("other.svg"), oneNode)));
     QVERIFY(renderer.load(path));
     QVERIFY(renderer.isAnimated());
@@ -284,23 +285,19 @@ void tst_OxaSvgRenderer::warnsOfAMissingParent()
 
 void tst_OxaSvgRenderer::tellsOfEachFrameOfAnAnimatedFile()
 {
-    const OxaSvgRenderer renderer(m_files.write(QStringLiteral("animated.svg"),
-                                                SvgFiles::document(turningShape + turningShape)));
+    const OxaSvgRenderer renderer(m_files.animated());
     QSignalSpy repaintNeeded(&renderer, &OxaSvgRenderer::repaintNeeded);
     QTRY_VERIFY(repaintNeeded.size() >= 2);
 }
 
 void tst_OxaSvgRenderer::forgetsTheFramesOfAFileThatWasReplaced()
 {
-    const QString animated = m_files.write(QStringLiteral("animated.svg"),
-                                           SvgFiles::document(turningShape + turningShape));
-    const OxaSvgRenderer running(animated);
+    const QString animated = m_files.animated();
     OxaSvgRenderer replaced(animated);
     QVERIFY(replaced.load(m_files.write(QStringLiteral("one.svg"), oneNode)));
     QVERIFY(!replaced.isAnimated());
     const QSignalSpy repaintNeeded(&replaced, &OxaSvgRenderer::repaintNeeded);
-    QSignalSpy frames(&running, &OxaSvgRenderer::repaintNeeded);
-    QTRY_VERIFY(frames.size() >= 2);
+    QVERIFY(passFrames(animated));
     QCOMPARE(repaintNeeded.size(), 0);
 }
 

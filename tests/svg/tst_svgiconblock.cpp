@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Frames.h"
 #include "IconWidgets.h"
 #include "support/Faces.h"
 #include "support/Guards.h"
@@ -74,6 +75,8 @@ private Q_SLOTS:
     void emitsNothingForTheInnerPicture();
     void triesAPathThatFailsTwice_data() { addIconWidgets(); }
     void triesAPathThatFailsTwice();
+    void showsTheLastOfSeveralPaths_data() { addIconWidgets(); }
+    void showsTheLastOfSeveralPaths();
     void repaintsForAPathOnlyWhenTheEventLoopTurns_data() { addIconWidgets(); }
     void repaintsForAPathOnlyWhenTheEventLoopTurns();
     void repaintsForEveryOtherProperty_data() { addIconWidgets(); }
@@ -293,6 +296,22 @@ void tst_SvgIconBlock::triesAPathThatFailsTwice()
     QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
 }
 
+void tst_SvgIconBlock::showsTheLastOfSeveralPaths()
+{
+    FETCH_ICON_WIDGET;
+    const QString square = m_files.square();
+    const QString missing = m_files.path(QStringLiteral("missing.svg"));
+    widget->setProperty("svgIconColorSet", iconColors.name);
+    SvgFiles::ignoreMissing(missing);
+    widget->setProperty("svgIcon", missing);
+    widget->setProperty("svgIcon", square);
+    // Each of them is looked at once more, in their order.
+    SvgFiles::ignoreMissing(missing);
+    QCoreApplication::processEvents();
+    QCOMPARE(widget->property("svgIcon"), QVariant(square));
+    QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
+}
+
 void tst_SvgIconBlock::repaintsForAPathOnlyWhenTheEventLoopTurns()
 {
     FETCH_ICON_WIDGET;
@@ -345,16 +364,13 @@ void tst_SvgIconBlock::storesAWholePaddingWithoutRepainting()
 void tst_SvgIconBlock::repaintsForTheFramesOfItsIcon()
 {
     FETCH_ICON_WIDGET;
-    const QByteArray turning = "<rect width='9' height='9'><animateTransform "
-                               "attributeName='transform' type='rotate' from='0' to='90' dur='1s' "
-                               "repeatCount='indefinite'/></rect>";
-    widget->setProperty("svgIcon",
-                        m_files.write(QStringLiteral("animated.svg"),
-                                      SvgFiles::document(turning + turning)));
+    const QString animated = m_files.animated();
+    widget->setProperty("svgIcon", animated);
     PaintCounter paints(*widget);
     QTRY_VERIFY(paints.count() > 0);
     widget->hide();
     paints.take();
+    QVERIFY(passFrames(animated));
     QCOMPARE(paints.take(), 0);
 }
 

@@ -5,7 +5,10 @@
 #include "support/SignalLog.h"
 #include "support/TestApplication.h"
 
+#include <UiElements/svg/OxaPillTabButton.h>
+#include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
+#include <UiElements/widgets/OxaToggleButton.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
 
 #include <QScreen>
@@ -18,7 +21,22 @@ const OxaColorSet groundColors = Faces::colors(QStringLiteral("ground"), 220);
 const OxaColorSet underlineGround = Faces::colors(QStringLiteral("oxa-underlineButton-background"),
                                                   200);
 const OxaColorSet underlineText = Faces::colors(QStringLiteral("oxa-underlineButton-text"), 120);
+const OxaColorSet pillText(QStringLiteral("oxa-contentTabViewButton-text"), Qt::black);
+const OxaColorSet checkedPillText(QStringLiteral("oxa-contentTabViewButtonChecked-text"),
+                                  Qt::black);
+const OxaColorSet pillBorder(QStringLiteral("oxa-defaultBorderForButton"), Qt::black);
 const QString left = QStringLiteral("1");
+
+/// Shows \a window, with the pointer away from it. Returns whether it came.
+bool showWindow(QWidget &window)
+{
+    if (!RealInput::send({ QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") }))
+        return false;
+    window.move(100, 100);
+    window.show();
+    window.activateWindow();
+    return QTest::qWaitForWindowActive(&window);
+}
 
 /// A window with one button of each kind, and what the first one tells.
 class Window : public QWidget
@@ -46,22 +64,36 @@ public:
         log.record(&svg, &OxaPushButton::onFocusOut, QStringLiteral("onFocusOut"));
     }
 
-    /// Shows the window, with the pointer away from it.
-    bool appear()
-    {
-        if (!RealInput::send(
-                    { QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") }))
-            return false;
-        move(100, 100);
-        show();
-        activateWindow();
-        return QTest::qWaitForWindowActive(this);
-    }
-
     OxaPushButton plain;
     OxaSvgPushButton svg;
     OxaUnderlineButton underline;
     SignalLog log;
+};
+
+/// A window with one checkable button of each kind.
+class Switches : public QWidget
+{
+public:
+    Switches() : toggle(this), anchor(QStringLiteral("anchor"), this), pill(this)
+    {
+        resize(400, 300);
+        int y = 20;
+        for (OxaPushButton *button : all()) {
+            button->setGeometry(50, y, 200, 60);
+            button->setFocusPolicy(Qt::NoFocus);
+            y += 90;
+        }
+        toggle.setCSS(QStringLiteral("$backgroundColors: ground;"));
+        anchor.setCSS(QStringLiteral("$backgroundColors: ground;"));
+        pill.setBackgroundColorSet(groundColors.name);
+        pill.setBackgroundColorSetChecked(groundColors.name);
+    }
+
+    std::vector<OxaPushButton *> all() { return { &toggle, &anchor, &pill }; }
+
+    OxaToggleButton toggle;
+    OxaSvgAnchorButton anchor;
+    OxaPillTabButton pill;
 };
 
 /// Returns what the X server shows of \a button.
@@ -97,6 +129,7 @@ private Q_SLOTS:
     void changesWithThePointer();
     void takesTheFocusByTabAndIsClickedByKeys();
     void changesUnderThePointerAsAnUnderlineButton();
+    void isToggledByClicks();
 
 private:
     std::unique_ptr<StoreGuard> m_stores;
@@ -105,13 +138,14 @@ private:
 void tst_OxaPushButtonInteraction::initTestCase()
 {
     m_stores = std::make_unique<StoreGuard>(
-            ColorSets::storeOf({ groundColors, underlineGround, underlineText }));
+            ColorSets::storeOf({ groundColors, underlineGround, underlineText, pillText,
+                                 checkedPillText, pillBorder }));
 }
 
 void tst_OxaPushButtonInteraction::isClickedAndRightClicked()
 {
     Window window;
-    QVERIFY(window.appear());
+    QVERIFY(showWindow(window));
     QVERIFY(RealInput::moveTo(window.plain, QPoint(20, 30)));
     QTRY_VERIFY(window.plain.underMouse());
     QCOMPARE(window.log.take(), QStringLiteral("mouseEntered"));
@@ -128,7 +162,7 @@ void tst_OxaPushButtonInteraction::isLongPressedWhileItIsHeld()
 {
     Window window;
     window.plain.setLongPressEnabled(true);
-    QVERIFY(window.appear());
+    QVERIFY(showWindow(window));
     QVERIFY(RealInput::moveTo(window.plain, QPoint(20, 30)));
     QSignalSpy longPressed(&window.plain, &OxaPushButton::longPressed);
     QVERIFY(RealInput::send({ QStringLiteral("mousedown"), left }));
@@ -147,7 +181,7 @@ void tst_OxaPushButtonInteraction::changesWithThePointer()
 {
     Window window;
     window.setFocusPolicy(Qt::StrongFocus);
-    QVERIFY(window.appear());
+    QVERIFY(showWindow(window));
     window.setFocus();
     for (OxaPushButton *button : { &window.plain, static_cast<OxaPushButton *>(&window.svg) }) {
         button->setFocusPolicy(Qt::NoFocus);
@@ -167,7 +201,7 @@ void tst_OxaPushButtonInteraction::changesWithThePointer()
 void tst_OxaPushButtonInteraction::takesTheFocusByTabAndIsClickedByKeys()
 {
     Window window;
-    QVERIFY(window.appear());
+    QVERIFY(showWindow(window));
     window.plain.setFocus();
     QTRY_VERIFY(window.plain.hasFocus());
     QVERIFY(RealInput::typeKeys({ QStringLiteral("Tab") }));
@@ -187,12 +221,26 @@ void tst_OxaPushButtonInteraction::takesTheFocusByTabAndIsClickedByKeys()
 void tst_OxaPushButtonInteraction::changesUnderThePointerAsAnUnderlineButton()
 {
     Window window;
-    QVERIFY(window.appear());
+    QVERIFY(showWindow(window));
     QTRY_VERIFY(!isFilled(window.underline, underlineGround.hovered));
     QVERIFY(RealInput::moveTo(window.underline, QPoint(20, 30)));
     QTRY_VERIFY(isFilled(window.underline, underlineGround.hovered));
     QVERIFY(RealInput::moveTo(window, QPoint(5, 5)));
     QTRY_VERIFY(!isFilled(window.underline, underlineGround.hovered));
+}
+
+void tst_OxaPushButtonInteraction::isToggledByClicks()
+{
+    Switches window;
+    QVERIFY(showWindow(window));
+    for (OxaPushButton *button : window.all()) {
+        for (const bool isChecked : { true, false }) {
+            QVERIFY(RealInput::click(*button, QPoint(60, 30)));
+            QTRY_COMPARE(button->isChecked(), isChecked);
+            QVERIFY(RealInput::moveTo(window, QPoint(5, 5)));
+            QTRY_VERIFY(isFilled(*button, isChecked ? groundColors.checked : groundColors.normal));
+        }
+    }
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaPushButtonInteraction)

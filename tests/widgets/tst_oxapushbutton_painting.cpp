@@ -186,6 +186,8 @@ void tst_OxaPushButtonPainting::smoothsWhatHasAnIconPixmapOrBadge()
     QVERIFY(isSmooth(button));
     OxaPushButton made(QIcon(pixmapOf(orange)), QString());
     QVERIFY(isSmooth(made));
+    made.setPixmap(QPixmap()); // The last of the two decides, for the other one too.
+    QVERIFY(!isSmooth(made));
 }
 
 void tst_OxaPushButtonPainting::paintsItsBadgeAtTheTopRight()

@@ -15,6 +15,7 @@ const OxaColorSet ground = Faces::colors(QStringLiteral("oxa-underlineButton-bac
 const OxaColorSet text = Faces::colors(QStringLiteral("oxa-underlineButton-text"), 130);
 const OxaColorSet tabs = Faces::colors(QStringLiteral("oxa-spaceTabs-text"), 75);
 const OxaColorSet line = Faces::colors(QStringLiteral("line"), 175);
+const OxaColorSet dot(QStringLiteral("oxa-unreadCountCircle-background"), QColor(255, 0, 128));
 const QColor orange(255, 128, 0);
 const QColor halfBlack(127, 127, 127); // Half of a black pen, one pixel wide.
 
@@ -60,10 +61,10 @@ private:
 void tst_OxaUnderlineButton::init()
 {
     const auto recolored = [](const OxaColorSet &set) { return OxaColorSet(set.name, orange); };
-    m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf({ ground, text, tabs, line }),
+    m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf({ ground, text, tabs, line, dot }),
                                             ColorSets::storeOf(
                                                     { recolored(ground), recolored(text),
-                                                      recolored(tabs),
+                                                      recolored(tabs), recolored(dot),
                                                       OxaColorSet(line.name,
                                                                   QColor(0, 128, 255)) }));
 }
@@ -132,6 +133,12 @@ void tst_OxaUnderlineButton::repaintsForItsProperties()
     PaintCounter paints(button);
     button.setAnchorIcon(m_files.square());
     QCOMPARE(paints.take(), 1);
+    button.setBottomPadding(5);
+    QCOMPARE(paints.take(), 1);
+    button.setShowUnreadIndicator(true);
+    QCOMPARE(paints.take(), 1);
+    button.setLeftIcon(QImage(4, 4, QImage::Format_RGB32));
+    QCOMPARE(paints.take(), 1);
 }
 
 void tst_OxaUnderlineButton::doesNotRepaintForColors()
@@ -198,10 +205,13 @@ void tst_OxaUnderlineButton::looksItsColorsUpInItsTheme()
     button.resize(100, 40);
     button.setText(QStringLiteral("abc"));
     button.setAnchorIcon(m_files.square());
+    button.setShowUnreadIndicator(true);
     QCOMPARE(Faces::facesIn(Pixels::render(button), text), QStringLiteral("normal"));
     QCOMPARE(Pixels::countNear(Pixels::render(button), tabs.normal), 64);
+    QCOMPARE(Pixels::render(button).pixelColor(5, 17), dot.normal);
     button.setThemeType(QStringLiteral("inverted"));
     QVERIFY(Pixels::countNear(Pixels::render(button), orange) > 64);
+    QCOMPARE(Pixels::render(button).pixelColor(5, 17), orange);
     QCOMPARE(Faces::facesIn(Pixels::render(button), text), QString());
     QCOMPARE(Faces::facesIn(Pixels::render(button), tabs), QString());
     Faces::hover(button);

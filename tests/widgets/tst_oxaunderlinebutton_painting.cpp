@@ -32,6 +32,13 @@ QRect textIn(const QImage &image, const QColor &color = text.normal)
 
 int centreOf(const QRect &rect) { return (rect.left() + rect.right()) / 2; }
 
+void addDirections()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
+}
+
 QImage square(const QColor &color)
 {
     QImage image(4, 4, QImage::Format_RGB32);
@@ -57,10 +64,12 @@ private Q_SLOTS:
     void underlinesWhileItIsHeldDownUnchecked();
     void underlinesADisabledButtonThatIsChecked();
     void centresItsTextAboveTheBottomPadding();
-    void placesTheLeftImage_data();
+    void placesTheLeftImage_data() { addDirections(); }
     void placesTheLeftImage();
+    void makesRoomForTheUnreadDot_data() { addDirections(); }
     void makesRoomForTheUnreadDot();
     void showsTheDotInsteadOfTheImage();
+    void placesTheAnchorIconAtTheRight_data() { addDirections(); }
     void placesTheAnchorIconAtTheRight();
     void paintsTheAnchorInTheStatesColor();
     void elidesItsTextInTheRoomThatIsLeft();
@@ -182,13 +191,6 @@ void tst_OxaUnderlineButtonPainting::centresItsTextAboveTheBottomPadding()
     QCOMPARE(textIn(Pixels::render(button)), before.translated(0, -5));
 }
 
-void tst_OxaUnderlineButtonPainting::placesTheLeftImage_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::newRow("left to right") << Qt::LeftToRight;
-    QTest::newRow("right to left") << Qt::RightToLeft;
-}
-
 void tst_OxaUnderlineButtonPainting::placesTheLeftImage()
 {
     QFETCH(const Qt::LayoutDirection, direction);
@@ -204,6 +206,8 @@ void tst_OxaUnderlineButtonPainting::placesTheLeftImage()
 
 void tst_OxaUnderlineButtonPainting::makesRoomForTheUnreadDot()
 {
+    QFETCH(const Qt::LayoutDirection, direction);
+    const LayoutDirectionGuard layoutDirection(direction);
     OxaUnderlineButton button;
     setUp(button);
     button.setShowUnreadIndicator(true);
@@ -228,6 +232,8 @@ void tst_OxaUnderlineButtonPainting::showsTheDotInsteadOfTheImage()
 
 void tst_OxaUnderlineButtonPainting::placesTheAnchorIconAtTheRight()
 {
+    QFETCH(const Qt::LayoutDirection, direction);
+    const LayoutDirectionGuard layoutDirection(direction);
     OxaUnderlineButton button;
     setUp(button);
     const QRect before = textIn(Pixels::render(button));
