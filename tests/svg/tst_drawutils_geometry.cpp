@@ -32,6 +32,8 @@ void tst_DrawUtilsGeometry::fitsARectangleToARatioAroundItsCentre_data()
             << QRectF(10, 20, 300, 100) << 1.0 << QRectF(110, 20, 100, 100);
     QTest::newRow("a square in a tall rectangle")
             << QRectF(10, 20, 100, 300) << 1.0 << QRectF(10, 120, 100, 100);
+    QTest::newRow("a square in a rectangle that is hardly wider")
+            << QRectF(0, 0, 100, 98) << 1.0 << QRectF(1, 0, 98, 98);
     QTest::newRow("a rectangle of negative position")
             << QRectF(-50, -50, 100, 100) << 4.0 << QRectF(-50, -12.5, 100, 25);
     QTest::newRow("parts of a pixel are kept")
@@ -65,9 +67,8 @@ void tst_DrawUtilsGeometry::scalesAPixmapToARectangle_data()
     QTest::newRow("a larger one") << QSize(400, 400) << square << 1.0 << square << QSize(100, 100);
     QTest::newRow("two pixels of the device for one")
             << QSize(40, 20) << square << 2.0 << QRectF(10, 45, 100, 50) << QSize(200, 100);
-    QTest::newRow("parts of a pixel are cut off")
-            << QSize(8, 8) << QRectF(0, 0, 10.75, 10.75) << 1.5 << QRectF(0, 0, 10.75, 10.75)
-            << QSize(16, 16);
+    QTest::newRow("parts of a pixel are cut off") << QSize(8, 8) << QRectF(0, 0, 10.5, 10.5) << 1.5
+                                                  << QRectF(0, 0, 10.5, 10.5) << QSize(15, 15);
     // 100 by 25.2, of which 25 are left: as wide as that height allows.
     QTest::newRow("its proportions outlast the cut")
             << QSize(500, 126) << square << 1.0 << QRectF(10, 57.4, 100, 25.2) << QSize(99, 25);

@@ -83,6 +83,7 @@ private Q_SLOTS:
     void paintsAPlainTextWithoutADocument_data();
     void paintsAPlainTextWithoutADocument();
     void paintsAPixmapInTheButtonsIconSize();
+    void smoothsAPixmapThatItStretches();
 
 private:
     SvgFiles m_files;
@@ -344,6 +345,20 @@ void tst_DrawUtilsIconTextPainting::paintsAPixmapInTheButtonsIconSize()
                                               textColors);
     });
     QCOMPARE(block.width(), textWidth - 1); // No pixmap is as good as no icon.
+}
+
+void tst_DrawUtilsIconTextPainting::smoothsAPixmapThatItStretches()
+{
+    OxaSvgPushButton button;
+    button.setIconSize(QSize(40, 40));
+    QImage halves(2, 1, QImage::Format_RGB32);
+    halves.setPixelColor(0, 0, Qt::black);
+    halves.setPixelColor(1, 0, Qt::white);
+    const QImage image = drawing(button, [&](QPainter *painter) {
+        DrawUtils::drawPixmapIconText(painter, &button, nullptr, optionFor(),
+                                      QPixmap::fromImage(halves), textColors);
+    });
+    QVERIFY(Pixels::countNear(image, Qt::gray) > 0);
 }
 
 UIELEMENTS_TEST_MAIN(tst_DrawUtilsIconTextPainting)

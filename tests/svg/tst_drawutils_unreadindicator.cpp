@@ -64,6 +64,7 @@ private Q_SLOTS:
     void showsTheCountUpTo99_data();
     void showsTheCountUpTo99();
     void measuresTheTextByThePixmapsWidth();
+    void centresTheNumberAcrossAndNotDown();
     void warnsOfColorsThatTheThemeLacks();
 
 private:
@@ -162,6 +163,16 @@ void tst_DrawUtilsUnreadIndicator::measuresTheTextByThePixmapsWidth()
     QVERIFY(numberHeight(QSize(32, 64)) > 0);
     QVERIFY(numberHeight(QSize(64, 64)) > numberHeight(QSize(32, 64)));
     QCOMPARE(numberHeight(QSize(64, 64)), numberHeight(QSize(64, 100)));
+}
+
+void tst_DrawUtilsUnreadIndicator::centresTheNumberAcrossAndNotDown()
+{
+    QPixmap pixmap(40, 120);
+    pixmap.fill(ground);
+    DrawUtils::drawUnreadIndicator(pixmap, QPointF(0, 0), 8);
+    const QRect bounds = Pixels::boundsNear(pixmap.toImage(), number);
+    QVERIFY(bounds.isValid() && qAbs(bounds.center().x() - 20) <= 1);
+    QVERIFY(bounds.bottom() < 40);
 }
 
 void tst_DrawUtilsUnreadIndicator::warnsOfColorsThatTheThemeLacks()

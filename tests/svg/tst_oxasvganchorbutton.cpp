@@ -47,6 +47,7 @@ private Q_SLOTS:
     void hasNoSizeWhileInvisible();
     void keepsAColorSetThatTheThemeLacks();
     void repaintsForEveryProperty();
+    void repaintsForItsPicturesBeforeItLooksAtThemOnceMore();
 
     void leadsOnOneSideOnly_data();
     void leadsOnOneSideOnly();
@@ -212,6 +213,17 @@ void tst_OxaSvgAnchorButton::repaintsForEveryProperty()
     }
     button.setAnchorIconVisible(false);
     QCOMPARE(paints.take(), 1);
+}
+
+void tst_OxaSvgAnchorButton::repaintsForItsPicturesBeforeItLooksAtThemOnceMore()
+{
+    OxaSvgAnchorButton button;
+    PaintCounter paints(button);
+    for (const char *name : { "anchorSvgOn", "anchorSvgOff" }) {
+        button.setProperty(name, m_files.square());
+        QCoreApplication::sendPostedEvents(&button, QEvent::UpdateRequest);
+        QVERIFY2(paints.take() == 2, name);
+    }
 }
 
 void tst_OxaSvgAnchorButton::leadsOnOneSideOnly_data()

@@ -36,6 +36,9 @@ private Q_SLOTS:
     void takesTheTextsColorsForASetThatTheThemeLacks();
     void followsTheTheme();
     void paintsItsPixmapInsteadOfTheIcon();
+    void paintsARichText();
+    void paintsOverItsBackgroundAndUnderItsBadge();
+    void paintsTheFrameOfTheFocus();
     void doesNotRepaintForTheFramesOfItsAnchor_data();
     void doesNotRepaintForTheFramesOfItsAnchor();
 
@@ -213,6 +216,45 @@ void tst_OxaSvgAnchorButtonPainting::paintsItsPixmapInsteadOfTheIcon()
     QCOMPARE(Faces::facesIn(image, iconColors), QString());
     QCOMPARE(Faces::facesIn(image, textColors), QStringLiteral("normal"));
     QCOMPARE(Faces::facesIn(image, anchorColors), QStringLiteral("normal"));
+}
+
+void tst_OxaSvgAnchorButtonPainting::paintsARichText()
+{
+    OxaSvgAnchorButton button;
+    setUp(button);
+    button.setText(QStringLiteral("abc<br>def"));
+    button.setTextFormat(Qt::RichText);
+    const QRect text = Pixels::boundsNear(Pixels::render(button), textColors.normal);
+    QVERIFY(text.height() > button.fontMetrics().height());
+}
+
+void tst_OxaSvgAnchorButtonPainting::paintsOverItsBackgroundAndUnderItsBadge()
+{
+    const QColor ground(250, 240, 200);
+    const StoreGuard stores(ColorSets::storeOf(
+            { textColors, iconColors, anchorColors, OxaColorSet(QStringLiteral("ground"), ground),
+              OxaColorSet(QStringLiteral("badge-background"), orange) }));
+    OxaSvgAnchorButton button;
+    setUp(button);
+    button.setCSS(QStringLiteral("$textColors: text; $backgroundColors: ground;"));
+    button.setBadgeVisible(true);
+    const QImage image = Pixels::render(button);
+    QCOMPARE(image.pixelColor(2, 20), ground);
+    QVERIFY(Pixels::countNear(image, orange) > 50);
+    QCOMPARE(Pixels::countNear(image, anchorColors.normal), 64);
+}
+
+void tst_OxaSvgAnchorButtonPainting::paintsTheFrameOfTheFocus()
+{
+    QWidget window;
+    OxaSvgAnchorButton button(&window);
+    setUp(button);
+    button.setCSS(QStringLiteral("QPushButton { border: none; }"));
+    button.setFocusRectColorSet(anchorColors.name);
+    QVERIFY(Faces::focusByKeyboard(button));
+    // Every second pixel of an edge of 2 * 120 + 2 * 38.
+    const QColor inverse(255 - 230, 255, 255);
+    QCOMPARE(Pixels::countNear(Pixels::render(button), inverse, QRect(), 0), 158);
 }
 
 void tst_OxaSvgAnchorButtonPainting::doesNotRepaintForTheFramesOfItsAnchor_data()

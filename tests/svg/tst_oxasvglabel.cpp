@@ -41,6 +41,7 @@ private Q_SLOTS:
     void hintsTheSizeOfTextIconAndPaddings_data();
     void hintsTheSizeOfTextIconAndPaddings();
     void followsTheTextsColorsWithoutASetOfItsOwn();
+    void followsTheThemeWithItsLinks();
     void paintsEachState_data() { Faces::addRows(false); }
     void paintsEachState();
     void paintsMarkupAsPlainText();
@@ -56,7 +57,8 @@ void tst_OxaSvgLabel::initTestCase()
     m_stores = std::make_unique<StoreGuard>(
             ColorSets::storeOf({ textColors, otherTextColors, iconColors,
                                  OxaColorSet(QStringLiteral("ground"), QColor(250, 240, 200)),
-                                 OxaColorSet(QStringLiteral("button-hyperlink-text"), Qt::blue) }));
+                                 OxaColorSet(QStringLiteral("button-hyperlink-text"), Qt::blue) }),
+            ColorSets::storeOf({ OxaColorSet(QStringLiteral("button-hyperlink-text"), Qt::red) }));
 }
 
 void tst_OxaSvgLabel::takesWhatItsConstructorsAreGiven()
@@ -130,6 +132,16 @@ void tst_OxaSvgLabel::followsTheTextsColorsWithoutASetOfItsOwn()
     label.setCSS(QStringLiteral("$textColors: text;"));
     QCOMPARE(Pixels::countNear(picture(label), iconColors.normal), 17 * 17 - 7 * 7);
     QCOMPARE(Pixels::countNear(picture(label), otherTextColors.normal), 7 * 7);
+}
+
+void tst_OxaSvgLabel::followsTheThemeWithItsLinks()
+{
+    OxaSvgLabel label;
+    label.setTextFormat(Qt::RichText);
+    label.setText(QStringLiteral("<a href='x'>y</a>"));
+    QVERIFY(label.text().contains(QLatin1String("#0000ff")));
+    label.setThemeType(QStringLiteral("inverted"));
+    QVERIFY(label.text().contains(QLatin1String("#ff0000")));
 }
 
 void tst_OxaSvgLabel::paintsEachState()

@@ -305,6 +305,9 @@ void tst_OxaSvgPushButton::writesTheDocumentInTheButtonsDirection()
     OxaSvgPushButton button(QStringLiteral("abc"));
     button.setTextFormat(Qt::RichText);
     QCOMPARE(documentOf(button)->defaultTextOption().textDirection(), direction);
+    button.setLayoutDirection(Qt::RightToLeft); // The button's own counts.
+    button.setTextFormat(Qt::RichText);
+    QCOMPARE(documentOf(button)->defaultTextOption().textDirection(), Qt::RightToLeft);
 }
 
 void tst_OxaSvgPushButton::keepsItsDocumentWhileTheTextIsRich()

@@ -44,9 +44,11 @@ private Q_SLOTS:
     void doesNotRepaintForTheFramesOfItsCheckedIcon();
     void paintsRichTextInTheTextsColors_data() { Faces::addRows(); }
     void paintsRichTextInTheTextsColors();
+    void repaintsForARichTextAlsoWhenItIsTheSame();
     void paintsItsTextOnce();
     void elidesATextThatIsTooLong();
     void paintsOverItsBackgroundAndUnderItsBadge();
+    void followsTheThemeWithItsFrame();
 
 private:
     SvgFiles m_files;
@@ -60,10 +62,12 @@ void tst_OxaSvgPushButtonPainting::initTestCase()
     m_square = m_files.square();
     m_half = m_files.write(QStringLiteral("half.svg"),
                            SvgFiles::document("<path d='M0 0H16V8H0Z'/>"));
-    m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf(
-            { textColors, otherTextColors, iconColors,
-              OxaColorSet(QStringLiteral("ground"), QColor(250, 240, 200)),
-              OxaColorSet(QStringLiteral("badge-background"), QColor(255, 128, 0)) }));
+    m_stores = std::make_unique<StoreGuard>(
+            ColorSets::storeOf(
+                    { textColors, otherTextColors, iconColors,
+                      OxaColorSet(QStringLiteral("ground"), QColor(250, 240, 200)),
+                      OxaColorSet(QStringLiteral("badge-background"), QColor(255, 128, 0)) }),
+            ColorSets::storeOf({ OxaColorSet(iconColors.name, QColor(255, 128, 0)) }));
 }
 
 void tst_OxaSvgPushButtonPainting::paintsEachState()
@@ -227,6 +231,17 @@ void tst_OxaSvgPushButtonPainting::paintsRichTextInTheTextsColors()
     QVERIFY(text.height() > button.fontMetrics().height());
 }
 
+void tst_OxaSvgPushButtonPainting::repaintsForARichTextAlsoWhenItIsTheSame()
+{
+    OxaSvgPushButton button(QStringLiteral("<b>abc</b>"));
+    button.setTextFormat(Qt::RichText);
+    PaintCounter paints(button);
+    button.setText(button.text());
+    QCOMPARE(paints.take(), 1);
+    button.setFont(button.font());
+    QCOMPARE(paints.take(), 1);
+}
+
 void tst_OxaSvgPushButtonPainting::paintsItsTextOnce()
 {
     // Beside a wide icon, the style would paint the text under it.
@@ -262,6 +277,21 @@ void tst_OxaSvgPushButtonPainting::paintsOverItsBackgroundAndUnderItsBadge()
     QCOMPARE(image.pixelColor(2, 20), QColor(250, 240, 200));
     QCOMPARE(image.pixelColor(60, 20), textColors.normal);
     QVERIFY(Pixels::countNear(image, QColor(255, 128, 0)) > 50);
+}
+
+void tst_OxaSvgPushButtonPainting::followsTheThemeWithItsFrame()
+{
+    QWidget window;
+    OxaSvgPushButton button(&window);
+    button.setCSS(QStringLiteral("QPushButton { border: none; }"));
+    button.resize(60, 40);
+    button.setFocusRectColorSet(iconColors.name);
+    QVERIFY(Faces::focusByKeyboard(button));
+    // Every second pixel of an edge of 2 * 60 + 2 * 38, in the inverse of the set's colour.
+    QCOMPARE(Pixels::countNear(Pixels::render(button), QColor(255 - 220, 255, 255), QRect(), 0),
+             98);
+    button.setThemeType(QStringLiteral("inverted"));
+    QCOMPARE(Pixels::countNear(Pixels::render(button), QColor(0, 127, 255), QRect(), 0), 98);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaSvgPushButtonPainting)

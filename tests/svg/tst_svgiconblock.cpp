@@ -179,6 +179,8 @@ void tst_SvgIconBlock::takesTheTextsColorsUntilItHasItsOwn()
     // No name stands for the text's colours.
     widget->setProperty("svgIconColorSet", QString());
     QCOMPARE(paintedSet(*widget), QStringLiteral("text"));
+    widget->setProperty("css", QByteArrayLiteral("$textColors: icon;"));
+    QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
 }
 
 void tst_SvgIconBlock::tellsOfItsColors()
@@ -244,6 +246,7 @@ void tst_SvgIconBlock::colorsTheInnerPictureLikeTheOuterOne()
     widget->setProperty("innerSvgIcon", m_files.square());
     QCOMPARE(paintedSet(*widget), QStringLiteral("text"));
     widget->setProperty("innerSvgIconColorSet", iconColors.name);
+    widget->setProperty("innerSvgIcon", m_files.square(QStringLiteral("other.svg")));
     QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
     ignoreUnknownSet(QStringLiteral("late"));
     widget->setProperty("innerSvgIconColorSet", lateColors.name);

@@ -20,20 +20,31 @@ public:
     using OxaPushButton::OxaPushButton;
 };
 
-/// Returns an icon of 16 by 16 whose left half is black and whose right half is empty.
+QRect halfOf(QIcon::State state) { return { state == QIcon::Off ? 0 : 8, 0, 8, 16 }; }
+
+/// Returns an icon of 16 by 16 whose left half is black for "off" and whose right half is black for
+/// "on". The other halves are empty.
 QIcon halfIcon()
 {
-    QPixmap pixmap(16, 16);
-    pixmap.fill(Qt::transparent);
-    QPainter(&pixmap).fillRect(0, 0, 8, 16, Qt::black);
-    return QIcon(pixmap);
+    QIcon icon;
+    for (const QIcon::State state : { QIcon::Off, QIcon::On }) {
+        QPixmap pixmap(16, 16);
+        pixmap.fill(Qt::transparent);
+        QPainter(&pixmap).fillRect(halfOf(state), Qt::black);
+        icon.addPixmap(pixmap, QIcon::Normal, state);
+    }
+    return icon;
 }
 
+/// Returns the colour that all of the painted half has, and nothing else.
 QColor colorOf(const OxaPushButton &button, QIcon::Mode mode, QIcon::State state)
 {
     const QImage image = button.icon().pixmap(QSize(16, 16), mode, state).toImage();
-    // Only the half that was painted takes a colour.
-    return image.pixelColor(12, 8).alpha() == 0 ? image.pixelColor(4, 8) : QColor();
+    const QColor color = image.pixelColor(halfOf(state).center());
+    QImage expected(image.size(), image.format());
+    expected.fill(Qt::transparent);
+    QPainter(&expected).fillRect(halfOf(state), color);
+    return image == expected ? color : QColor();
 }
 
 } // namespace

@@ -173,6 +173,10 @@ void tst_OxaUnderlineButton::underlinesInTheLastSetThatWasGiven()
 
 void tst_OxaUnderlineButton::underlinesInTheUnderlinesColorAfterAThemeChange()
 {
+    OxaUnderlineButton fresh; // Its underline has the text's set.
+    fresh.setThemeType(QStringLiteral("global"));
+    QCOMPARE(underlineOf(fresh), text.normal);
+
     OxaUnderlineButton button;
     button.setUnderlineColorSet(line.name);
     button.setTextColorSet(text.name);
