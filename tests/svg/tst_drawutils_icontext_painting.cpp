@@ -1,55 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "support/Faces.h"
+#include "IconTextPictures.h"
 #include "support/Guards.h"
 #include "support/SvgFiles.h"
 #include "support/TestApplication.h"
 
 #include <UiElements/svg/DrawUtils.h>
-#include <UiElements/svg/OxaSvgIcon.h>
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 
-#include <QPainter>
-#include <QStyleOption>
-#include <QTextDocument>
-
-#include <functional>
-
 using OxaEnum::Alignment;
 using OxaEnum::HorAlign;
+using namespace IconTextPictures;
 
 namespace {
 
-const QRect area(10, 20, 200, 60);
 const QString longText = QStringLiteral("A text that is too long for what is left");
-const OxaColorSet iconColors = Faces::colors(QStringLiteral("icon"), 220);
-const OxaColorSet textColors = Faces::colors(QStringLiteral("text"), 130);
-
-QStyleOption optionFor(QStyle::State state = QStyle::State_Enabled)
-{
-    QStyleOption option;
-    option.rect = area;
-    option.state = state;
-    return option;
-}
-
-/// Returns what \a draw paints on white paper in the font of \a widget.
-QImage drawing(const QWidget &widget, const std::function<void(QPainter *)> &draw)
-{
-    QImage image(240, 100, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.setFont(widget.font());
-    draw(&painter);
-    return image;
-}
-
-std::unique_ptr<OxaSvgIcon> makeIcon(const QString &path)
-{
-    auto icon = std::make_unique<OxaSvgIcon>(path);
-    icon->setColorSet(iconColors);
-    return icon;
-}
 
 /// Returns the rectangle of a block of \a size in the area.
 QRect placed(double x, const QSizeF &size)
@@ -78,12 +43,6 @@ private Q_SLOTS:
     void keepsPaddingsFreeOfText();
     void paintsInTheColorsOfTheState();
     void leavesThePainterAsItWas();
-
-    void paintsARichTextOnAButton();
-    void paintsAPlainTextWithoutADocument_data();
-    void paintsAPlainTextWithoutADocument();
-    void paintsAPixmapInTheButtonsIconSize();
-    void smoothsAPixmapThatItStretches();
 
 private:
     SvgFiles m_files;
@@ -276,89 +235,6 @@ void tst_DrawUtilsIconTextPainting::leavesThePainterAsItWas()
         QCOMPARE(painter->transform(), QTransform());
         QVERIFY(!painter->testRenderHint(QPainter::Antialiasing));
     });
-}
-
-void tst_DrawUtilsIconTextPainting::paintsARichTextOnAButton()
-{
-    OxaSvgPushButton button(QStringLiteral("a<br><b>bcd</b><br>"
-                                           "<font color='#ff8000'>efg</font>"));
-    button.setTextFormat(Qt::RichText);
-    QTextDocument document;
-    document.setDocumentMargin(0.0);
-    document.setHtml(button.text());
-    const auto icon = makeIcon(m_files.square());
-    QRect block;
-    const QImage image = drawing(button, [&](QPainter *painter) {
-        block = DrawUtils::drawSvgIconText(painter, &button, &document, optionFor(), icon,
-                                           textColors);
-    });
-    const QSize size = document.size().toSize();
-    QCOMPARE(block.size(), QSize(size.width() + 16, size.height()));
-    QVERIFY(size.height() > 2 * button.fontMetrics().height());
-    QCOMPARE(Faces::facesIn(image, textColors), QStringLiteral("normal"));
-    QVERIFY(Pixels::countNear(image, QColor(0xff, 0x80, 0x00)) > 0);
-}
-
-void tst_DrawUtilsIconTextPainting::paintsAPlainTextWithoutADocument_data()
-{
-    QTest::addColumn<Qt::TextFormat>("format");
-    QTest::addColumn<bool>("hasDocument");
-    QTest::newRow("rich without a document") << Qt::RichText << false;
-    QTest::newRow("plain with a document") << Qt::PlainText << true;
-}
-
-void tst_DrawUtilsIconTextPainting::paintsAPlainTextWithoutADocument()
-{
-    QFETCH(const Qt::TextFormat, format);
-    QFETCH(const bool, hasDocument);
-    OxaSvgPushButton button(QStringLiteral("<b>a</b>"));
-    button.setTextFormat(format);
-    QTextDocument document(QStringLiteral("something else"));
-    const auto icon = makeIcon(m_files.square());
-    drawing(button, [&](QPainter *painter) {
-        const QRect block = DrawUtils::drawSvgIconText(painter, &button,
-                                                       hasDocument ? &document : nullptr,
-                                                       optionFor(), icon, textColors);
-        QCOMPARE(block.width(), 16 + button.fontMetrics().horizontalAdvance(button.text()));
-    });
-}
-
-void tst_DrawUtilsIconTextPainting::paintsAPixmapInTheButtonsIconSize()
-{
-    OxaSvgPushButton button(QStringLiteral("abc"));
-    button.setIconSize(QSize(20, 10));
-    QPixmap pixmap(4, 4);
-    pixmap.fill(QColor(0xff, 0x80, 0x00));
-    QRect block;
-    const QImage image = drawing(button, [&](QPainter *painter) {
-        block = DrawUtils::drawPixmapIconText(painter, &button, nullptr, optionFor(), pixmap,
-                                              textColors);
-    });
-    const int textWidth = button.fontMetrics().horizontalAdvance(QStringLiteral("abc"));
-    QCOMPARE(block.width(), 20 + textWidth);
-    const QRect painted = Pixels::boundsNear(image, QColor(0xff, 0x80, 0x00));
-    QCOMPARE(painted.size(), QSize(20, 10));
-    QCOMPARE(painted.left(), block.left());
-    QCOMPARE(Faces::facesIn(image, textColors), QStringLiteral("normal"));
-    drawing(button, [&](QPainter *painter) {
-        block = DrawUtils::drawPixmapIconText(painter, &button, nullptr, optionFor(), QPixmap(),
-                                              textColors);
-    });
-    QCOMPARE(block.width(), textWidth - 1); // No pixmap is as good as no icon.
-}
-
-void tst_DrawUtilsIconTextPainting::smoothsAPixmapThatItStretches()
-{
-    OxaSvgPushButton button;
-    button.setIconSize(QSize(40, 40));
-    QImage halves(2, 1, QImage::Format_RGB32);
-    halves.setPixelColor(0, 0, Qt::black);
-    halves.setPixelColor(1, 0, Qt::white);
-    const QImage image = drawing(button, [&](QPainter *painter) {
-        DrawUtils::drawPixmapIconText(painter, &button, nullptr, optionFor(),
-                                      QPixmap::fromImage(halves), textColors);
-    });
-    QVERIFY(Pixels::countNear(image, Qt::gray) > 0);
 }
 
 UIELEMENTS_TEST_MAIN(tst_DrawUtilsIconTextPainting)

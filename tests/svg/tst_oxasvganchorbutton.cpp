@@ -245,6 +245,9 @@ void tst_OxaSvgAnchorButton::leadsOnOneSideOnly()
     OpenAnchorButton button;
     button.setIsLeftAnchor(isLeftAnchor);
     QTEST(button.isLeading(), "isLeading");
+    // The application's direction counts, not the button's.
+    button.setLayoutDirection(direction == Qt::LeftToRight ? Qt::RightToLeft : Qt::LeftToRight);
+    QTEST(button.isLeading(), "isLeading");
 }
 
 void tst_OxaSvgAnchorButton::takesTheAnchorsRoomOffTheRectangle_data()

@@ -336,6 +336,11 @@ void tst_OxaSvgPushButton::dropsTheDocumentForPlainText()
     QTRY_VERIFY(!document);
     button.setTextFormat(Qt::PlainText);
     QVERIFY(!documentOf(button));
+    // One that is about to go is not taken up again.
+    for (const Qt::TextFormat format : { Qt::RichText, Qt::PlainText, Qt::RichText })
+        button.setTextFormat(format);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(documentOf(button));
 }
 
 void tst_OxaSvgPushButton::ignoresOtherTextFormats_data()

@@ -72,6 +72,7 @@ private Q_SLOTS:
 
     void tintsAnIconInBothStates();
     void tintsAnIconInOneState();
+    void tintsAnIconInTheButtonsIconSize();
     void leavesAButtonWithoutAnIconWithout();
 
     void looksItsFocusColorsUp();
@@ -261,6 +262,18 @@ void tst_OxaPushButton::tintsAnIconInOneState()
     button.setIconColor(Qt::red, QIcon::Normal, QIcon::On);
     QCOMPARE(colorOf(button, QIcon::Normal, QIcon::On), QColor(Qt::red));
     QCOMPARE(colorOf(button, QIcon::Normal, QIcon::Off), QColor(Qt::black));
+}
+
+void tst_OxaPushButton::tintsAnIconInTheButtonsIconSize()
+{
+    OxaPushButton button;
+    button.setIcon(halfIcon());
+    button.setIconSize(QSize(8, 8));
+    button.setIconColor(Qt::red, QIcon::Normal, QIcon::On);
+    const QSize original(16, 16);
+    QCOMPARE(button.icon().availableSizes(QIcon::Normal, QIcon::Off), { original });
+    QCOMPARE(button.icon().availableSizes(QIcon::Normal, QIcon::On),
+             QList<QSize>({ original, QSize(8, 8) }));
 }
 
 void tst_OxaPushButton::leavesAButtonWithoutAnIconWithout()
