@@ -175,6 +175,8 @@ void OxaPushButton::mousePressEvent(QMouseEvent *event)
         if (!m_longPressTimer) {
             m_longPressTimer = new QTimer(this);
             m_longPressTimer->setSingleShot(true);
+            // A coarse one may be early, and take a click for a long press.
+            m_longPressTimer->setTimerType(Qt::PreciseTimer);
             connect(m_longPressTimer, &QTimer::timeout, this, &OxaPushButton::onButtonDownTimeout);
         }
         m_longPressTimer->start(longPressMs);
