@@ -112,7 +112,7 @@ void tst_TabOrderUtilsLayouts::chainsTheItemsBetweenTwoWidgets()
 {
     Window window;
     // The label takes no focus: it would end the chain.
-    delete window.items.takeAt(4)->widget();
+    delete window.item(4);
     QPushButton last(QStringLiteral("!"), &window);
     TabOrderUtils::setCompoundTabOrder(&window.after, &window.items, &last);
     QCOMPARE(window.tabOrder(), QStringLiteral("<>ABC!"));

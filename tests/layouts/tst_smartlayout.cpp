@@ -4,12 +4,9 @@
 #include <UiElements/layouts/SmartLayout.h>
 
 #include <QMetaObject>
-#include <QPointer>
-#include <QSpacerItem>
 #include <QTest>
 
 using Blocks::Block;
-using Blocks::Item;
 using Blocks::Opened;
 
 Q_DECLARE_METATYPE(std::vector<QSize>)
@@ -77,12 +74,6 @@ private Q_SLOTS:
     void needsItsBottomMarginWithoutItems();
     void measuresWithoutMovingAnything();
     void placesWithinItsRectangleAndMargins();
-    void asksItemsForSizesByDefault();
-    void asksWidgetsForSizesWhenItUsesWidgetSizing();
-    void usesTheItemWhereThereIsNoWidget();
-    void givesASingleColumnTheSizesOfItsWidgets();
-    void deletesWidgetsWhenItClears();
-    void deletesNothingWhenItClearsSpacers();
 };
 
 void tst_SmartLayout::addsNothingToTheMetaObject()
@@ -315,102 +306,6 @@ void tst_SmartLayout::placesWithinItsRectangleAndMargins()
     QCOMPARE(Blocks::text(layout), QStringLiteral("111,220 20x10 | 136,220 20x10 | 136,233 20x10"));
     QCOMPARE(layout.heightForWidth(86), 20 + 23 + 40);
     QCOMPARE(layout.heightForWidth(85), 20 + 36 + 40);
-}
-
-namespace {
-
-/// A window with a block that wants 20 by 10 pixels and may have 15 by 40.
-struct Limited
-{
-    explicit Limited(bool useWidgetSizing, int maximumItemsPerRow = -1)
-        : layout(&window, QMargins(), 5, 3, Qt::AlignLeft, maximumItemsPerRow, useWidgetSizing)
-    {
-        block->setMaximumSize(15, 40);
-        block->setMinimumHeight(12);
-        layout.addWidget(block);
-        layout.setGeometry(QRect(0, 0, 100, 100));
-    }
-
-    QWidget window;
-    Block *block = new Block(QSize(20, 10));
-    SmartLayout layout;
-};
-
-} // namespace
-
-void tst_SmartLayout::asksItemsForSizesByDefault()
-{
-    const Limited limited(ofItems);
-    QCOMPARE(limited.layout.itemAt(0)->sizeHint(), QSize(15, 12));
-    QCOMPARE(limited.block->geometry(), QRect(0, 0, 15, 12));
-    QCOMPARE(limited.layout.heightForWidth(100), 12);
-}
-
-void tst_SmartLayout::asksWidgetsForSizesWhenItUsesWidgetSizing()
-{
-    const Limited limited(ofWidgets);
-    QCOMPARE(limited.layout.heightForWidth(100), 10);
-    // A widget keeps its own limits in any geometry that it is given.
-    QCOMPARE(limited.block->geometry(), QRect(0, 0, 15, 12));
-    limited.block->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    limited.block->setMinimumHeight(0);
-    limited.block->hide();
-    const_cast<SmartLayout &>(limited.layout).setGeometry(QRect(0, 0, 50, 50));
-    // The item of a hidden widget would have wanted nothing and moved nothing.
-    QCOMPARE(limited.layout.itemAt(0)->sizeHint(), QSize(0, 0));
-    QCOMPARE(limited.block->geometry(), QRect(0, 0, 20, 10));
-}
-
-void tst_SmartLayout::usesTheItemWhereThereIsNoWidget()
-{
-    SmartLayout layout(nullptr, QMargins(), 5, 3, Qt::AlignLeft, 1, ofWidgets);
-    Blocks::fill(layout, { { 20, 10 }, { 30, 10 } });
-    layout.setGeometry(QRect(0, 0, 100, 100));
-    QCOMPARE(Blocks::text(layout), QStringLiteral("0,0 20x10 | 0,13 30x10"));
-}
-
-void tst_SmartLayout::givesASingleColumnTheSizesOfItsWidgets()
-{
-    const Limited limited(ofItems, 1);
-    limited.block->setMinimumHeight(0);
-    limited.block->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    limited.block->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    QCOMPARE(limited.layout.itemAt(0)->sizeHint(), QSize(0, 0));
-    const_cast<SmartLayout &>(limited.layout).setGeometry(QRect(0, 0, 50, 50));
-    QCOMPARE(limited.block->geometry(), QRect(0, 0, 20, 10));
-    // The height is measured with what the item wants, all the same.
-    QCOMPARE(limited.layout.heightForWidth(50), 0);
-}
-
-void tst_SmartLayout::deletesWidgetsWhenItClears()
-{
-    QWidget window;
-    SmartLayout layout(&window, QMargins(), 5, 3, Qt::AlignLeft, -1, ofItems);
-    const QPointer<QWidget> first = new Block(QSize(20, 10));
-    const QPointer<QWidget> second = new Block(QSize(20, 10));
-    layout.addWidget(first);
-    layout.addWidget(second);
-    const std::unique_ptr<QLayoutItem> items[] = { std::unique_ptr<QLayoutItem>(layout.itemAt(0)),
-                                                   std::unique_ptr<QLayoutItem>(layout.itemAt(1)) };
-    layout.clear();
-    QCOMPARE(layout.count(), 0);
-    QVERIFY(first && second);
-    QCOMPARE(items[1]->widget(), second.data());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(!first && !second);
-}
-
-void tst_SmartLayout::deletesNothingWhenItClearsSpacers()
-{
-    Smart layout;
-    const auto spacer = std::make_unique<QSpacerItem>(20, 10);
-    const auto item = std::make_unique<Item>(QSize(20, 10));
-    layout.addItem(spacer.get());
-    layout.addItem(item.get());
-    layout.clear();
-    QCOMPARE(layout.count(), 0);
-    QCOMPARE(spacer->sizeHint(), QSize(20, 10));
-    QCOMPARE(item->sizeHint(), QSize(20, 10));
 }
 
 QTEST_MAIN(tst_SmartLayout)
