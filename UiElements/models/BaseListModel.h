@@ -127,6 +127,7 @@ public:
 Q_SIGNALS:
     /// Rows came or went. Follows Qt's own signals of the change.
     void countChanged(int count);
+    /// The header was set to another value.
     void headerChanged();
 
 protected:

@@ -46,6 +46,7 @@ public:
 Q_SIGNALS:
     /// Comes before the filter runs: the rows are still the old ones.
     void firstVisibleIndexChanged();
+    /// The header was set to another value.
     void headerChanged();
 
 protected:
