@@ -124,9 +124,8 @@ void OxaUnderlineButton::paintEvent(QPaintEvent *)
                                                       textRect.width()));
     if (m_showUnreadIndicator)
         drawUnreadDot(painter, option.rect);
-    DrawUtils::drawFocusRect(&painter, option.state,
-                             option.rect.adjusted(0, 0, 0, -m_bottomPadding),
-                             m_backgroundColorSet.pressed, this);
+    const QRect frame = option.rect.adjusted(0, 0, 0, -m_bottomPadding);
+    DrawUtils::drawFocusRect(&painter, option.state, frame, m_backgroundColorSet.pressed, this);
 }
 
 OxaColorSet OxaUnderlineButton::colorSet(const QString &name) const

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void takesTheTextsColorsForASetThatTheThemeLacks();
     void followsTheTheme();
     void paintsItsPixmapInsteadOfTheIcon();
+    void repaintsOnceMoreForThePixmapsSize();
     void paintsARichText();
     void paintsOverItsBackgroundAndUnderItsBadge();
     void paintsTheFrameOfTheFocus();
@@ -216,6 +217,18 @@ void tst_OxaSvgAnchorButtonPainting::paintsItsPixmapInsteadOfTheIcon()
     QCOMPARE(Faces::facesIn(image, iconColors), QString());
     QCOMPARE(Faces::facesIn(image, textColors), QStringLiteral("normal"));
     QCOMPARE(Faces::facesIn(image, anchorColors), QStringLiteral("normal"));
+}
+
+void tst_OxaSvgAnchorButtonPainting::repaintsOnceMoreForThePixmapsSize()
+{
+    OxaSvgAnchorButton button;
+    PaintCounter paints(button);
+    button.setPixmap(QPixmap(20, 11));
+    button.update();
+    // Painting makes it the icon's size, which asks for another painting, and no more.
+    QCOMPARE(paints.take(), 2);
+    button.update();
+    QCOMPARE(paints.take(), 1);
 }
 
 void tst_OxaSvgAnchorButtonPainting::paintsARichText()

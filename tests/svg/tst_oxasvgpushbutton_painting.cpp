@@ -161,8 +161,10 @@ void tst_OxaSvgPushButtonPainting::takesTheTextsColorsForACheckedIconAlone()
     button.setCheckable(true);
     button.setChecked(true);
     button.setCSS(QStringLiteral("$textColors: text;"));
-    button.setSvgIconChecked(m_square);
-    QCOMPARE(Faces::facesIn(picture(button), textColors), QStringLiteral("checked"));
+    for (const QString &path : { m_square, m_half }) {
+        button.setSvgIconChecked(path);
+        QCOMPARE(Faces::facesIn(picture(button), textColors), QStringLiteral("checked"));
+    }
 }
 
 void tst_OxaSvgPushButtonPainting::takesTheNamedColorsAnewForAStyleText()
