@@ -30,13 +30,15 @@ void ThemeBlock::setCSS(const QString &styleText)
     m_cssData = result.oxaCSS;
     if (m_keptSets)
         *m_keptSets = { result.backgroundColorSet, result.borderColorSet, result.textColorSet };
-    if (m_form == Form::StyledBackground)
-        m_widget->setAttribute(Qt::WA_StyledBackground, !result.expandedStyleSheet.isEmpty());
 
+    const QString &sheet = result.expandedStyleSheet;
+    // Switched on only: who has a use for it besides, as rules of a parent's sheet, keeps it.
+    if (m_form == Form::StyledBackground && !sheet.isEmpty())
+        m_widget->setAttribute(Qt::WA_StyledBackground);
     // Taking an empty sheet from a widget that has none would still make Qt work out its style
     // anew.
-    if (!result.expandedStyleSheet.isEmpty() || !m_widget->styleSheet().isEmpty())
-        m_widget->QWidget::setStyleSheet(result.expandedStyleSheet);
+    if (!sheet.isEmpty() || !m_widget->styleSheet().isEmpty())
+        m_widget->QWidget::setStyleSheet(sheet);
     m_class.emitCssChanged(m_widget);
     if (m_form == Form::Full)
         followObjectName();

@@ -5,6 +5,8 @@
 #include "support/SignalLog.h"
 #include "support/TestApplication.h"
 
+#include <UiElements/svg/VisualUtils.h>
+
 #include <QMetaMethod>
 #include <QSignalSpy>
 
@@ -57,8 +59,12 @@ private Q_SLOTS:
     void takesStyleTextsAsUtf8ThroughTheProperty();
     void givesAnEmptyStyleTextNoSheet_data() { addThemedClasses(); }
     void givesAnEmptyStyleTextNoSheet();
-    void paintsAStyledBackgroundOnlyForAnExpandedSheet_data();
-    void paintsAStyledBackgroundOnlyForAnExpandedSheet();
+    void costsQtNothingWithoutAStyleText_data() { addPlainThemedClasses(); }
+    void costsQtNothingWithoutAStyleText();
+    void paintsAStyledBackgroundFromItsFirstSheetOn_data();
+    void paintsAStyledBackgroundFromItsFirstSheetOn();
+    void followsItsObjectNameFromTheFirstStyleTextOn_data() { addPlainThemedClasses(); }
+    void followsItsObjectNameFromTheFirstStyleTextOn();
     void expandsAgainUnderANewObjectName_data() { addThemedClasses(); }
     void expandsAgainUnderANewObjectName();
     void expandsOnceForOneNewNameAfterManyStyleTexts_data() { addThemedClasses(); }
@@ -192,22 +198,59 @@ void tst_ThemeBlock::givesAnEmptyStyleTextNoSheet()
     QVERIFY(themed.cssData(*widget) == OxaCSSData());
 }
 
-void tst_ThemeBlock::paintsAStyledBackgroundOnlyForAnExpandedSheet_data()
+void tst_ThemeBlock::costsQtNothingWithoutAStyleText()
+{
+    FETCH_THEMED_CLASS;
+    // Under a parent with a sheet, to take an empty one away is as much work as to set one.
+    QWidget parent;
+    parent.setStyleSheet(QStringLiteral("QWidget { color: red; }"));
+    const auto widget = themed.make(&parent);
+    widget->ensurePolished();
+    int styleChanges = 0;
+    const VisualUtils::EventFilter filter(widget.get(), { QEvent::StyleChange },
+                                          [&styleChanges](QEvent *) {
+                                              ++styleChanges;
+                                              return false;
+                                          });
+    widget->setProperty("css", QByteArray());
+    widget->setProperty("themeType", QStringLiteral("dark"));
+    QCOMPARE(styleChanges, 0);
+    widget->setProperty("css", styleText.toUtf8());
+    QVERIFY(styleChanges > 0);
+}
+
+void tst_ThemeBlock::paintsAStyledBackgroundFromItsFirstSheetOn_data()
 {
     addThemedClasses([](const ThemedClass &themed) {
         return themed.form == ThemedClass::Form::StyledBackground;
     });
 }
 
-void tst_ThemeBlock::paintsAStyledBackgroundOnlyForAnExpandedSheet()
+void tst_ThemeBlock::paintsAStyledBackgroundFromItsFirstSheetOn()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
+    widget->setProperty("css", QByteArray());
     QVERIFY(!widget->testAttribute(Qt::WA_StyledBackground));
     widget->setProperty("css", styleText.toUtf8());
     QVERIFY(widget->testAttribute(Qt::WA_StyledBackground));
+    // Without a sheet of its own, one of a parent may need it.
     widget->setProperty("css", QByteArray());
-    QVERIFY(!widget->testAttribute(Qt::WA_StyledBackground));
+    QVERIFY(widget->testAttribute(Qt::WA_StyledBackground));
+}
+
+void tst_ThemeBlock::followsItsObjectNameFromTheFirstStyleTextOn()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    const QSignalSpy cssChanged(widget.get(), SIGNAL(cssChanged()));
+    widget->setObjectName(QStringLiteral("before"));
+    // A widget that paints its background follows its name from the start.
+    const int expansions = themed.form == ThemedClass::Form::StyledBackground ? 1 : 0;
+    QCOMPARE(cssChanged.size(), expansions);
+    widget->setProperty("css", QByteArray());
+    widget->setObjectName(QStringLiteral("after"));
+    QCOMPARE(cssChanged.size(), expansions + 2);
 }
 
 void tst_ThemeBlock::expandsAgainUnderANewObjectName()
