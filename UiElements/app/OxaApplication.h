@@ -104,11 +104,23 @@ public:
     static bool isInFocus();
 
 Q_SIGNALS:
+    /// The property `theme` changed to \a themeName.
     void themeChanged(const QString &themeName);
+
+    /// The property `isDarkTheme` changed to \a isDarkTheme.
     void isDarkThemeChanged(bool isDarkTheme);
+
+    /// The property `isHighContrastTheme` changed to \a isHighContrastTheme.
     void isHighContrastThemeChanged(bool isHighContrastTheme);
+
+    /// The font scale factor was set to \a scale, which it may have been before.
     void fontScaleFactorChanged(float scale);
+
+    /// The SVG logo's path was set, which it may have been before. It is what the argument holds:
+    /// the parameter's name is part of the meta-object, and stays.
     void logoSvgPathChanged(const QString &isDarkTheme);
+
+    /// The PNG logo's path was set; otherwise as logoSvgPathChanged().
     void logoPngPathChanged(const QString &isDarkTheme);
 
 protected:

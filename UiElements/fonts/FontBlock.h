@@ -21,12 +21,22 @@ public:
     explicit FontBlock(QWidget *widget);
     ~FontBlock() = default;
 
+    /// Returns the token; the default one at first.
     OxaFont::Token token() const { return m_token; }
+
+    /// Stores \a token, sets the widget's font to its font, with \a useFallbackFamilies the one for
+    /// further scripts, and then does what update() does. There is no comparison.
     void setToken(OxaFont::Token token, bool useFallbackFamilies);
 
+    /// Returns the view whose scaled fonts the widget follows; FontType::Default, none, at first.
     FontManagerEnum::FontType type() const { return m_type; }
+
+    /// Stores \a type and does what update() does; nothing where it is the same.
     void setType(FontManagerEnum::FontType type);
 
+    /// Sets the widget's font to the token's font of its view, and keeps it there whenever that
+    /// view's fonts change. Without a view or a font manager the widget keeps the font that it has,
+    /// and follows no longer; without an OxaApplication a warning is logged besides.
     void update();
 
 private:

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+// Longer than headers are here: the block is a class and the declarations that forward to it, and
+// each is read with the other.
+
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/theme/OxaThemeUtils.h>
 
@@ -30,7 +33,7 @@ public:
     /// How a style text takes hold of the widget.
     enum class Form {
         Full,             ///< Follows the object name from the first style text on.
-        StyledBackground, ///< Makes a plain QWidget paint its background; follows no name.
+        StyledBackground, ///< Has a plain QWidget paint its sheet's background; follows no name.
     };
 
     /// Serves \a widget, which must outlive the block. With \a keptSets each setCSS() leaves the
@@ -50,19 +53,36 @@ public:
     /// Connects the widget's object name to refreshCSS(), once however often it is called.
     void followObjectName();
 
+    /// Returns the style text as it was last given.
     QString styleText() const { return m_styleText; }
-    QByteArray styleTextAsUtf8() const { return m_styleText.toUtf8(); }
+
+    /// Returns what the style text was last read as.
     const OxaCSSData &cssData() const { return m_cssData; }
+
+    /// Stores \a styleText, expands it for the widget, gives the sheet to Qt and emits
+    /// cssChanged(), also when nothing differs. An empty sheet is kept from a widget that has none.
     void setCSS(const QString &styleText);
+
+    /// Expands the style text anew, in the colours of this moment; otherwise as setCSS().
     void refreshCSS() { setCSS(m_styleText); }
 
+    /// Gives \a styleSheet to Qt as it is. Without a style text it becomes that, too.
     void setStyleSheet(const QString &styleSheet);
 
+    /// Returns the theme type's word as it was last given; "global" at first.
     QString themeType() const { return m_themeType; }
+
+    /// Returns the theme type that counts: the widget's own, or its window's where that is global.
     OxaThemeUtils::AppThemeType effectiveThemeType() const;
+
+    /// Stores \a themeType, does what refreshCSS() does, and emits themeTypeChanged(), also when
+    /// the word is the same.
     void setThemeType(const QString &themeType);
 
+    /// Follows a new parent, and takes over its theme type. For the widget's changeEvent().
     void changeEvent(const QEvent *event);
+
+    /// Takes over the theme type of the widget's parent, or else of its window, where that differs.
     void onParentThemeTypeChanged();
 
 private:
@@ -156,7 +176,7 @@ private Q_SLOTS:                                                                
                                                                                                    \
 private:                                                                                           \
     friend class ThemeBlock;                                                                       \
-    QByteArray _getCSS() const { return m_themeBlock.styleTextAsUtf8(); }                          \
+    QByteArray _getCSS() const { return m_themeBlock.styleText().toUtf8(); }                       \
     void _setCSS(const QByteArray &utf8) { m_themeBlock.setCSS(QString::fromUtf8(utf8)); }         \
     QString _getThemeType() const { return m_themeBlock.themeType(); }                             \
     ThemeBlock m_themeBlock { this };
