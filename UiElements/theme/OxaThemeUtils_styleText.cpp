@@ -3,9 +3,8 @@
 
 #include "StyleBorder_p.h"
 #include "StyleDraft_p.h"
+#include "StyleTag_p.h"
 #include "StyleText_p.h"
-
-#include <array>
 
 namespace {
 
@@ -18,22 +17,13 @@ void appendNameDirective(QString &text, OxaThemeUtils::ColorSetType type, const 
         return;
     if (!text.isEmpty())
         text += QLatin1Char(' ');
-    text += StyleText::colorTag(type).toString() + QLatin1Char(' ') + trimmed + QLatin1Char(';');
+    text += textOf(tagOf(type)).toString() + QLatin1Char(' ') + trimmed + QLatin1Char(';');
 }
 
 /// Returns \a draft's text without the first directive of each kind, trimmed.
 QString withoutDirectives(StyleDraft draft)
 {
-    using OxaThemeUtils::ColorSetType;
-    const std::array<QStringView, 6> tags = {
-        StyleText::colorTag(ColorSetType::Background),
-        StyleText::colorTag(ColorSetType::Border),
-        StyleText::colorTag(ColorSetType::Text),
-        StyleBorder::bordersTag,
-        StyleBorder::radiusTag,
-        StyleBorder::widthTag,
-    };
-    for (const QStringView tag : tags) {
+    for (const StyleTag tag : styleTags) {
         if (const auto directive = draft.findDirective(tag))
             draft.remove(*directive);
     }
@@ -51,8 +41,9 @@ OxaThemeUtils::CSSParserResult OxaThemeUtils::parseCSS(const QString &selector,
     if (styleText.isEmpty() || selector.isEmpty() || colorSets.empty())
         return result;
 
-    StyleDraft draft(styleText, StyleText::roomFor(styleText, selector));
+    StyleDraft draft(styleText);
     result.oxaCSS.plainStyleSheet = withoutDirectives(draft);
+    draft.reserve(StyleText::roomFor(draft, selector) + StyleBorder::roomFor(selector));
 
     const auto expand = [&](ColorSetType type) {
         return StyleText::expandColorDirective(draft, type, selector, colorSets);
@@ -67,13 +58,8 @@ OxaThemeUtils::CSSParserResult OxaThemeUtils::parseCSS(const QString &selector,
     data.borderColorSetName = nameIfValid(result.borderColorSet);
     data.textColorSetName = nameIfValid(result.textColorSet);
 
-    const int position = StyleBorder::readDirectives(draft, selector, data);
-    if (position >= 0) {
-        const QString rule = StyleBorder::toRule(selector, data);
-        result.expandedStyleSheet = draft.text(rule.size()).insert(position, rule);
-    } else {
-        result.expandedStyleSheet = draft.text();
-    }
+    StyleBorder::expandDirectives(draft, selector, data);
+    result.expandedStyleSheet = draft.text();
     return result;
 }
 
@@ -96,7 +82,7 @@ void OxaThemeUtils::removeOxaCSSFromStyleSheet(QString &styleText)
 
 QString OxaThemeUtils::getColorSetNameFromString(ColorSetType type, const QString &styleText)
 {
-    const auto directive = StyleDraft(styleText).findDirective(StyleText::colorTag(type));
+    const auto directive = StyleDraft(styleText).findDirective(tagOf(type));
     return directive ? directive->value.toString() : QString();
 }
 

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleBorder_p.h"
 #include "StyleDraft_p.h"
+#include "StyleTag_p.h"
 #include "TextWriter_p.h"
+
+#include <QVarLengthArray>
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace {
 
@@ -64,22 +68,36 @@ bool holds(QStringView text, QStringView word)
 
 /// Removes the first directive of \a tag and returns what it says; \a position becomes its own
 /// unless that is nothing.
-QStringView takeDirective(StyleDraft &draft, QStringView tag, int &position)
+QStringView takeDirective(StyleDraft &draft, StyleTag tag, int &position)
 {
     const auto directive = draft.findDirective(tag);
     if (!directive)
         return {};
-    const int ownPosition = draft.remove(*directive);
     if (!directive->value.isEmpty())
-        position = ownPosition;
+        position = draft.positionOf(*directive);
+    draft.remove(*directive);
     return directive->value;
+}
+
+/// The number that \a text is, if that is a few digits and nothing else, as it is nearly always.
+/// What else Qt takes for a number is left to it: QStringView::toInt() makes a QString first.
+std::optional<int> plainNumber(QStringView text)
+{
+    constexpr int mostDigits = 9;
+    int number = 0;
+    for (const QChar digit : text) {
+        if (digit < QLatin1Char('0') || digit > QLatin1Char('9') || text.size() > mostDigits)
+            return std::nullopt;
+        number = 10 * number + digit.unicode() - u'0';
+    }
+    return number;
 }
 
 quint8 readWidth(QStringView value)
 {
-    bool ok = false;
-    const int width = value.toString().toInt(&ok);
-    return ok && width >= 1 ? static_cast<quint8>(width) : quint8(1);
+    const auto number = plainNumber(value);
+    const int width = number ? *number : value.toInt(); // 0 for what is no number.
+    return width >= 1 ? static_cast<quint8>(width) : quint8(1);
 }
 
 void readSides(QStringView value, OxaCSSData &data)
@@ -90,6 +108,16 @@ void readSides(QStringView value, OxaCSSData &data)
     }
     for (const Side &side : sides)
         data.*side.flag = holds(value, side.word);
+}
+
+/// The bit of the corner that \a text ends with; none without one.
+unsigned cornerBit(QStringView text)
+{
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        if (text.endsWith(corners[i]))
+            return 1U << i;
+    }
+    return 0;
 }
 
 /// The corners that \a text does not round. The capital R of the radius directive means that all
@@ -103,13 +131,22 @@ quint8 squareCorners(QStringView text)
     for (auto at = text.begin();
          (at = std::search(at, text.end(), word.begin(), word.end())) != text.end(); ++at) {
         const QStringView before(text.begin(), at);
-        hasDirective |= before.endsWith(QLatin1Char('R'));
-        for (std::size_t i = 0; i < corners.size(); ++i) {
-            if (before.endsWith(QStringView(u"-r")) && before.chopped(2).endsWith(corners[i]))
-                mask &= ~(1U << i);
-        }
+        if (before.endsWith(QLatin1Char('R')))
+            hasDirective = true;
+        else if (before.endsWith(QStringView(u"-r")))
+            mask &= ~cornerBit(before.chopped(2));
     }
     return static_cast<quint8>(mask == all && hasDirective ? 0 : mask);
+}
+
+/// The corners that the text of \a draft, whose rules begin with \a selector, does not round.
+quint8 squareCorners(const StyleDraft &draft, const QString &selector)
+{
+    QVarLengthArray<QChar, 1024> text(draft.length());
+    TextWriter writer(text.data());
+    // Rules hold no corners, but their selector may, or complete what stands before it.
+    draft.writeBeginnings(writer, selector.size() + 1);
+    return squareCorners(QStringView(text.data(), writer.end()));
 }
 
 int readCorner(QStringView word)
@@ -131,7 +168,8 @@ void readRadius(QStringView value, OxaCSSData &data)
     const auto blank = value.indexOf(QLatin1Char(' '));
     const bool hasCorner = blank >= 0 && value.lastIndexOf(QLatin1Char(' ')) == blank;
     const QStringView radius = hasCorner ? value.left(blank) : value;
-    data.borderRadius = static_cast<quint8>(radius.toString().toUInt());
+    const auto number = plainNumber(radius);
+    data.borderRadius = static_cast<quint8>(number ? static_cast<uint>(*number) : radius.toUInt());
     if (hasCorner)
         data.radiusCorner = readCorner(value.mid(blank + 1));
 }
@@ -178,7 +216,7 @@ void writeRadiusDirective(TextWriter &text, const OxaCSSData &data)
 {
     if (data.borderRadius == 0)
         return;
-    text << StyleBorder::radiusTag << data.borderRadius;
+    text << textOf(StyleTag::BorderRadius) << data.borderRadius;
     if (data.radiusCorner == topCorners)
         text << u" top";
     else if (isOneCorner(data.radiusCorner))
@@ -188,14 +226,14 @@ void writeRadiusDirective(TextWriter &text, const OxaCSSData &data)
 
 void writeSidesDirectives(TextWriter &text, const OxaCSSData &data)
 {
-    text << StyleBorder::bordersTag;
+    text << textOf(StyleTag::Borders);
     if (hasAllSides(data))
         text << u" all";
     for (const Side &side : sides) {
         if (data.*side.flag && !hasAllSides(data))
             text << u" " << side.word;
     }
-    text << u"; " << StyleBorder::widthTag << data.borderWidth << u";";
+    text << u"; " << textOf(StyleTag::BorderWidth) << data.borderWidth << u";";
 }
 
 void writeDirectives(TextWriter &text, const OxaCSSData &data)
@@ -205,9 +243,9 @@ void writeDirectives(TextWriter &text, const OxaCSSData &data)
     writeRadiusDirective(text, data);
 }
 
-} // namespace
-
-int StyleBorder::readDirectives(StyleDraft &draft, const QString &selector, OxaCSSData &data)
+/// Takes the border directives out of \a draft and fills the border fields of \a data. Returns
+/// where the border rule belongs, or -1 when there is none.
+int readDirectives(StyleDraft &draft, const QString &selector, OxaCSSData &data)
 {
     const bool hasBorderSet = !data.borderColorSetName.isEmpty();
     const bool hasSet = hasBorderSet || !data.backgroundColorSetName.isEmpty()
@@ -217,27 +255,33 @@ int StyleBorder::readDirectives(StyleDraft &draft, const QString &selector, OxaC
     int position = hasSet ? 0 : -1;
     int widthPosition = -1; // A width alone makes no border.
 
-    const QStringView width = takeDirective(draft, widthTag, widthPosition);
+    const QStringView width = takeDirective(draft, StyleTag::BorderWidth, widthPosition);
     if (!width.isEmpty())
         data.borderWidth = readWidth(width);
 
-    const QStringView borders = takeDirective(draft, bordersTag, position);
+    const QStringView borders = takeDirective(draft, StyleTag::Borders, position);
     if (!borders.isEmpty()) {
         readSides(borders, data);
-        // Rules hold no corners, but their selector may, or complete what stands before it.
-        data.rectangularCornerMask = squareCorners(draft.textWithBeginnings(selector.size() + 1));
+        data.rectangularCornerMask = squareCorners(draft, selector);
     }
 
-    const QStringView radius = takeDirective(draft, radiusTag, position);
+    const QStringView radius = takeDirective(draft, StyleTag::BorderRadius, position);
     if (!radius.isEmpty())
         readRadius(radius, data);
     data.noBorder = !hasBorderSet && data.borderRadius != 0;
     return position;
 }
 
-QString StyleBorder::toRule(const QString &selector, const OxaCSSData &data)
+} // namespace
+
+int StyleBorder::roomFor(const QString &selector) { return selector.size() + borderLength; }
+
+void StyleBorder::expandDirectives(StyleDraft &draft, const QString &selector, OxaCSSData &data)
 {
-    return writtenText(selector.size() + borderLength, [&](TextWriter &sheet) {
+    const int position = readDirectives(draft, selector, data);
+    if (position < 0)
+        return;
+    draft.insert(position, [&](TextWriter &sheet) {
         sheet << selector << u"{";
         writeBorder(sheet, data);
         sheet << u"}";

@@ -3,8 +3,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <functional>
-#include <numeric>
 
 namespace {
 
@@ -34,22 +32,23 @@ qsizetype find(QStringView text, QChar character, qsizetype from = 0)
 
 } // namespace
 
-StyleDraft::StyleDraft(const QString &styleText, int room) : m_text(styleText), m_room(room)
+StyleDraft::StyleDraft(const QString &styleText) : m_text(styleText)
 {
     const QStringView text(m_text);
     for (qsizetype begin = 0; begin < text.size();) {
         const qsizetype end = find(text, sign, begin + 1);
-        m_pieces.append(text.mid(begin, end - begin));
+        m_pieces.append({ {}, text.mid(begin, end - begin) });
         begin = end;
     }
 }
 
-std::optional<StyleDraft::Span> StyleDraft::findDirective(QStringView tag)
+std::optional<StyleDraft::Span> StyleDraft::findDirective(StyleTag tag)
 {
+    const QStringView tagText = textOf(tag);
     for (int piece = 0; piece < m_pieces.size(); ++piece) {
-        if (!beginsWith(m_pieces[piece], tag))
+        if (!beginsWith(m_pieces[piece].text, tagText))
             continue;
-        const auto span = spanUpTo(QLatin1Char(';'), piece, static_cast<int>(tag.size()));
+        const auto span = spanUpTo(QLatin1Char(';'), piece, static_cast<int>(tagText.size()));
         if (!span)
             return std::nullopt;
         return Span { span->first, span->last, span->end, span->value.trimmed() };
@@ -60,89 +59,90 @@ std::optional<StyleDraft::Span> StyleDraft::findDirective(QStringView tag)
 std::optional<StyleDraft::Span> StyleDraft::reference(int piece)
 {
     constexpr QStringView opening = u"$(";
-    const QStringView begin = m_pieces[piece];
+    const QStringView begin = m_pieces[piece].text;
     if (begin.size() < 2 || begin[0] != opening[0] || begin[1] != opening[1])
         return std::nullopt;
     const auto span = spanUpTo(QLatin1Char(')'), piece, static_cast<int>(opening.size()));
-    return span && !span->value.contains(QLatin1Char('\n')) ? span : std::nullopt;
+    return span && find(span->value, QLatin1Char('\n')) == span->value.size() ? span : std::nullopt;
 }
 
 /// Returns what runs from the beginning of \a piece through the first \a end at or after \a offset.
 std::optional<StyleDraft::Span> StyleDraft::spanUpTo(QChar end, int piece, int offset)
 {
-    const QStringView begin = m_pieces[piece].mid(offset);
+    const QStringView begin = m_pieces[piece].text.mid(offset);
     const qsizetype position = find(begin, end);
     if (position < begin.size())
         return Span { piece, piece, offset + static_cast<int>(position) + 1, begin.left(position) };
 
     m_value = begin.toString();
     for (int last = piece + 1; last < m_pieces.size(); ++last) {
-        const qsizetype lastPosition = find(m_pieces[last], end);
-        m_value.append(m_pieces[last].left(lastPosition));
-        if (lastPosition < m_pieces[last].size())
-            return Span { piece, last, static_cast<int>(lastPosition) + 1, m_value };
+        int before = 0;
+        for (const QStringView part : { m_pieces[last].written, m_pieces[last].text }) {
+            const qsizetype partPosition = find(part, end);
+            m_value.append(part.left(partPosition));
+            if (partPosition < part.size())
+                return Span { piece, last, before + static_cast<int>(partPosition) + 1, m_value };
+            before = static_cast<int>(part.size());
+        }
     }
     return std::nullopt;
 }
 
-void StyleDraft::replacePieces(const Span &span, QStringView replacement)
+/// Takes \a span out.
+void StyleDraft::cut(const Span &span)
 {
-    const QStringView rest = m_pieces[span.last].mid(span.end);
-    m_pieces[span.first] = replacement;
-    m_pieces.erase(m_pieces.begin() + span.first + 1, m_pieces.begin() + span.last + 1);
-    m_pieces.insert(m_pieces.begin() + span.first + 1, rest);
+    for (int piece = span.first; piece < span.last; ++piece)
+        m_pieces[piece] = {};
+    Piece &last = m_pieces[span.last];
+    const auto writtenLength = std::min(last.written.size(), qsizetype(span.end));
+    last.written = last.written.mid(writtenLength);
+    last.text = last.text.mid(span.end - writtenLength);
 }
 
-int StyleDraft::remove(const Span &span)
+void StyleDraft::remove(const Span &span)
 {
-    qsizetype position = 0;
-    for (int piece = 0; piece < span.first; ++piece)
-        position += m_pieces[piece].size();
-
-    QStringView &rest = m_pieces[span.last];
-    rest = rest.mid(span.end);
-    int first = span.first;
-    if (first > 0 && isUnfinishedTag(m_pieces[first - 1])) {
-        --first;
-        m_joined.append(m_pieces[first].toString() + rest.toString());
-        rest = m_joined.constLast();
-    }
-    m_pieces.erase(m_pieces.begin() + first,
-                   m_pieces.begin() + span.last + (rest.isEmpty() ? 1 : 0));
-    return static_cast<int>(position);
+    cut(span);
+    joinBefore(span.last);
 }
 
-int StyleDraft::length() const
+/// Joins piece \a piece with the last one before it where the two may make up a tag.
+void StyleDraft::joinBefore(int piece)
 {
-    return static_cast<int>(std::accumulate(m_pieces.begin(), m_pieces.end(), qsizetype(0),
-                                            [](qsizetype length, QStringView piece) {
-                                                return length + piece.size();
-                                            }));
+    Piece &end = m_pieces[piece];
+    int before = piece - 1;
+    while (before >= 0 && m_pieces[before].size() == 0)
+        --before;
+    if (before < 0 || !isUnfinishedTag(m_pieces[before].text) || !end.written.isEmpty())
+        return;
+    m_joined.append(m_pieces[before].text.toString() + end.text.toString());
+    m_pieces[before].text = m_joined.constLast();
+    end = {};
 }
 
-QString StyleDraft::text(int room) const
+/// Returns the length of the first \a pieceCount pieces.
+int StyleDraft::lengthOf(int pieceCount) const
 {
-    const int length = this->length();
-    QString text;
-    text.reserve(length + room);
-    text.resize(length);
-    TextWriter writer(text.data());
-    for (const QStringView piece : m_pieces)
-        writer << piece;
+    qsizetype length = 0;
+    for (int piece = 0; piece < pieceCount; ++piece)
+        length += m_pieces[piece].size();
+    return static_cast<int>(length);
+}
+
+QString StyleDraft::text() const
+{
+    const auto writePieces = [this](TextWriter &writer) {
+        for (const Piece &piece : m_pieces)
+            writer << piece.written << piece.text;
+    };
+    const int insertionLength = static_cast<int>(m_insertion.size());
+    QString text = writtenText(length() + insertionLength, writePieces);
+    if (insertionLength > 0)
+        text.insert(m_insertionPosition, m_insertion.data(), insertionLength);
     return text;
 }
 
-QString StyleDraft::textWithBeginnings(int length) const
+void StyleDraft::writeBeginnings(TextWriter &writer, int length) const
 {
-    return writtenText(this->length(), [&](TextWriter &text) {
-        for (const QStringView piece : m_pieces)
-            text << (isWritten(piece) ? piece.left(length) : piece);
-    });
-}
-
-bool StyleDraft::isWritten(QStringView piece) const
-{
-    const std::less_equal<const QChar *> notAfter;
-    return notAfter(m_written.data(), piece.begin())
-            && notAfter(piece.end(), m_written.data() + m_writtenLength);
+    for (const Piece &piece : m_pieces)
+        writer << piece.written.left(length) << piece.text;
 }

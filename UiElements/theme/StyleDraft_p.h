@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "StyleTag_p.h"
 #include "TextWriter_p.h"
 
 #include <QStringList>
@@ -25,14 +26,18 @@ public:
         QStringView value; ///< What it holds. Good until the next look-up.
     };
 
-    /// Cuts \a styleText. Nothing longer than \a room characters in all will be written into it.
-    explicit StyleDraft(const QString &styleText, int room = 0);
+    /// Cuts \a styleText.
+    explicit StyleDraft(const QString &styleText);
 
     int pieceCount() const { return m_pieces.size(); }
 
+    /// Makes room for all that will be written: \a length characters at most. To be called before
+    /// the first of them.
+    void reserve(int length) { m_written.reserve(length); }
+
     /// Finds the first \a tag, and what stands between it and the next ";", trimmed. A tag with no
     /// ";" after it is no directive.
-    std::optional<Span> findDirective(QStringView tag);
+    std::optional<Span> findDirective(StyleTag tag);
 
     /// Takes piece \a piece for the beginning of "$(…)", all of it on one line.
     std::optional<Span> reference(int piece);
@@ -42,36 +47,67 @@ public:
     template <typename Write>
     void replace(const Span &span, Write write)
     {
-        m_written.reserve(m_room); // Once: pieces point there.
-        TextWriter writer(m_written.data() + m_writtenLength);
-        write(writer);
-        const QStringView replacement(m_written.data() + m_writtenLength, writer.end());
-        m_writtenLength += static_cast<int>(replacement.size());
-        Q_ASSERT(m_writtenLength <= m_room);
-        replacePieces(span, replacement);
+        cut(span);
+        m_pieces[span.first].written = written(write);
     }
 
-    /// Removes \a span and returns its position. What stood around it may make up a tag now.
-    int remove(const Span &span);
+    /// Inserts what \a write, a function of a TextWriter &, writes at \a position, as
+    /// QString::insert() does: a position behind the end is reached with blanks. Comes last, once.
+    template <typename Write>
+    void insert(int position, Write write)
+    {
+        m_insertion = written(write);
+        m_insertionPosition = position;
+    }
 
-    /// Returns the text as it stands now, with capacity for \a room characters more.
-    QString text(int room = 0) const;
+    /// Removes \a span. What stood around it may make up a tag now.
+    void remove(const Span &span);
 
-    /// Returns the text as it stands now, but of each replacement only the first \a length
-    /// characters.
-    QString textWithBeginnings(int length) const;
+    /// Returns where in the text \a span begins.
+    int positionOf(const Span &span) const { return lengthOf(span.first); }
+
+    /// Returns the length of the text as it stands now.
+    int length() const { return lengthOf(pieceCount()); }
+
+    /// Returns the text as it stands now.
+    QString text() const;
+
+    /// Writes the text as it stands now, but of what was written into it only the first \a length
+    /// characters each time.
+    void writeBeginnings(TextWriter &writer, int length) const;
 
 private:
+    /// What was written in place of something, and what stands after it.
+    struct Piece
+    {
+        qsizetype size() const { return written.size() + text.size(); }
+
+        QStringView written;
+        QStringView text;
+    };
+
+    template <typename Write>
+    QStringView written(Write write)
+    {
+        QChar *const begin = m_written.data() + m_writtenLength;
+        TextWriter writer(begin);
+        write(writer);
+        m_writtenLength += static_cast<int>(writer.end() - begin);
+        Q_ASSERT(m_writtenLength <= m_written.capacity());
+        return { begin, writer.end() };
+    }
+
     std::optional<Span> spanUpTo(QChar end, int piece, int offset);
-    void replacePieces(const Span &span, QStringView replacement);
-    int length() const;
-    bool isWritten(QStringView piece) const;
+    int lengthOf(int pieceCount) const;
+    void cut(const Span &span);
+    void joinBefore(int piece);
 
     const QString m_text;
-    const int m_room;
+    QVarLengthArray<Piece, 32> m_pieces;
+    QVarLengthArray<QChar, 2048> m_written; ///< What was written, one after the other.
     int m_writtenLength = 0;
-    QVarLengthArray<QChar, 2048> m_written; ///< The replacements, one after the other.
+    QStringView m_insertion; ///< What is yet to be inserted.
+    int m_insertionPosition = 0;
     QStringList m_joined; ///< What has to be in one piece, although it isn't in the text.
     QString m_value;      ///< A value that is not in one piece.
-    QVarLengthArray<QStringView, 32> m_pieces;
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleDraft_p.h"
+#include "StyleTag_p.h"
 #include "StyleText_p.h"
 #include "TextWriter_p.h"
 
@@ -18,46 +19,28 @@ constexpr char invalidReferenceWarning[] =
         "OxaThemeUtils: format is invalid! expected: $(colorSetName.state) found:";
 
 /// One row for each ColorSetType, in its order.
-struct ColorDirective
-{
-    QStringView tag;
-    QStringView blockBegin;
-};
-constexpr std::array<ColorDirective, 3> colorDirectives = { {
-        { u"$backgroundColors:", u"{background-color:" },
-        { u"$borderColors:", u"{border-color:" },
-        { u"$textColors:", u"{color:" },
-} };
+constexpr std::array<QStringView, 3> blockBegins = { u"{background-color:", u"{border-color:",
+                                                     u"{color:" };
 
 constexpr QStringView gradientMarker = u"gradient-";
 
-/// Room for the longest block that a state can need besides its selector.
-constexpr int blockLength = 48;
+/// Room for what the longest rule of a state needs besides its selector.
+constexpr int blockLength = 40;
 constexpr int colorNameLength = 9;
-constexpr int stateCount = 6;
-
-/// Room for the rules of one directive: one for each state, and the outline's.
-int rulesLength(const QString &selector)
-{
-    return (stateCount + 1) * (selector.size() + blockLength);
-}
-
-const ColorDirective &directiveOf(ColorSetType type)
-{
-    return colorDirectives[static_cast<std::size_t>(type)];
-}
+/// A directive has a rule for each of six states at most, and one for the outline.
+constexpr int ruleCount = 7;
 
 /// Finds the set that a style text calls \a name.
 const OxaColorSet *findSet(const OxaColorSetMap &colorSets, QStringView name)
 {
     std::string key(static_cast<std::size_t>(name.size()), '\0');
+    char16_t bits = 0;
+    std::transform(name.begin(), name.end(), key.begin(), [&bits](QChar character) {
+        bits |= character.unicode();
+        return static_cast<char>(character.unicode());
+    });
     // Names are ASCII but for a user's own, and then nothing needs converting.
-    const bool isAscii = std::all_of(name.begin(), name.end(),
-                                     [](QChar character) { return character.unicode() < 0x80; });
-    if (isAscii)
-        std::transform(name.begin(), name.end(), key.begin(),
-                       [](QChar character) { return character.toLatin1(); });
-    else
+    if (bits >= 0x80)
         key = name.toUtf8().toStdString();
 
     const auto found = colorSets.find(key);
@@ -69,7 +52,9 @@ class RuleWriter
 {
 public:
     RuleWriter(TextWriter &text, const QString &selector, ColorSetType type)
-        : m_selector(selector), m_blockBegin(directiveOf(type).blockBegin), m_writer(text)
+        : m_selector(selector),
+          m_blockBegin(blockBegins[static_cast<std::size_t>(type)]),
+          m_writer(text)
     {
     }
 
@@ -108,8 +93,9 @@ bool usesGlobalFocusBorders()
 {
     // Asked for by name only where it is there: a property that isn't is looked for the longest.
     const QCoreApplication *app = QCoreApplication::instance();
-    const char name[] = "useGlobalFocusBorders";
-    return app && app->dynamicPropertyNames().contains(name) && app->property(name).toBool();
+    const auto name = QByteArrayLiteral("useGlobalFocusBorders");
+    return app && app->dynamicPropertyNames().contains(name)
+            && app->property(name.constData()).toBool();
 }
 
 bool needsOutlineRule(ColorSetType type, const OxaColorSet &set)
@@ -195,13 +181,10 @@ QColor referencedColor(QStringView reference, const OxaColorSetMap &colorSets)
 
 } // namespace
 
-QStringView StyleText::colorTag(ColorSetType type) { return directiveOf(type).tag; }
-
-int StyleText::roomFor(const QString &styleText, const QString &selector)
+int StyleText::roomFor(const StyleDraft &draft, const QString &selector)
 {
-    constexpr int shortestReference = 3;
-    return int(colorDirectives.size()) * rulesLength(selector)
-            + styleText.size() / shortestReference * colorNameLength;
+    return draft.pieceCount() * colorNameLength
+            + int(blockBegins.size()) * ruleCount * (selector.size() + blockLength);
 }
 
 void StyleText::substituteColorReferences(StyleDraft &draft, const OxaColorSetMap &colorSets)
@@ -222,7 +205,7 @@ OxaColorSet StyleText::expandColorDirective(StyleDraft &draft, ColorSetType type
                                             const QString &selector,
                                             const OxaColorSetMap &colorSets)
 {
-    const auto directive = draft.findDirective(colorTag(type));
+    const auto directive = draft.findDirective(tagOf(type));
     if (!directive)
         return {};
 

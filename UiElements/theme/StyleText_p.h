@@ -8,11 +8,8 @@ class StyleDraft;
 /// The colour half of the style language, as functions on drafts.
 namespace StyleText {
 
-/// The tag of a colour directive, such as "$textColors:".
-QStringView colorTag(OxaThemeUtils::ColorSetType type);
-
-/// Returns at most how much the two functions below write into a draft of \a styleText.
-int roomFor(const QString &styleText, const QString &selector);
+/// Returns at most how much the two functions below write into \a draft.
+int roomFor(const StyleDraft &draft, const QString &selector);
 
 /// Replaces each "$(name.state)" in \a draft by the colour's name, alpha first.
 void substituteColorReferences(StyleDraft &draft, const OxaColorSetMap &colorSets);

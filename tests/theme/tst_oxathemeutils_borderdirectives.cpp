@@ -52,6 +52,8 @@ private Q_SLOTS:
     void wantsOnlyARadiusWithoutABorderSet();
     void marksSquareCorners_data();
     void marksSquareCorners();
+    void findsRoundCornersInTheSelectorsOfRulesToo_data();
+    void findsRoundCornersInTheSelectorsOfRulesToo();
     void honoursTheFirstDirectiveOfAKindOnly();
     void leavesDirectivesWithoutAnEnd_data();
     void leavesDirectivesWithoutAnEnd();
@@ -222,7 +224,12 @@ void tst_OxaThemeUtilsBorderDirectives::readsTheWidth_data()
     QTest::newRow("a fraction") << "2.5" << 1;
     QTest::newRow("two numbers") << "2 3" << 1;
     QTest::newRow("a hexadecimal number") << "0x10" << 1;
-    QTest::newRow("more than an int holds") << "99999999999" << 1;
+    QTest::newRow("nine digits") << "999999999" << (999999999 & 0xff);
+    QTest::newRow("all that an int holds") << "2147483647" << 255;
+    QTest::newRow("one more than an int holds") << "2147483648" << 1;
+    QTest::newRow("zeros before a number") << "00000000003" << 3;
+    QTest::newRow("a plus before a number") << "+3" << 3;
+    QTest::newRow("digits of another script") << "\xd9\xa3" << 1;
     QTest::newRow("white space around") << "\t3\n" << 3;
     QTest::newRow("nothing, which leaves it") << "" << 1;
 }
@@ -273,6 +280,9 @@ void tst_OxaThemeUtilsBorderDirectives::readsTheRadius_data()
     QTest::newRow("a word") << "round" << 0 << 0 << "";
     QTest::newRow("a unit") << "4px" << 0 << 0 << "";
     QTest::newRow("below zero") << "-4" << 0 << 0 << "";
+    QTest::newRow("more than an int holds") << "4294967044" << 4 << 0 << "border-radius:4px;";
+    QTest::newRow("more than an unsigned number holds") << "4294967300" << 0 << 0 << "";
+    QTest::newRow("a plus before a number") << "+4" << 4 << 0 << "border-radius:4px;";
     QTest::newRow("a word with a corner") << "round top-left" << 0 << 1 << "";
     QTest::newRow("the other way round") << "top-left 4" << 0 << 0 << "";
 }
@@ -364,6 +374,35 @@ void tst_OxaThemeUtilsBorderDirectives::marksSquareCorners()
     QFETCH(const QString, text);
     QFETCH(const int, mask);
     QCOMPARE(int(StyleTexts::parse(text).oxaCSS.rectangularCornerMask), mask);
+}
+
+void tst_OxaThemeUtilsBorderDirectives::findsRoundCornersInTheSelectorsOfRulesToo_data()
+{
+    QTest::addColumn<QString>("selector");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("mask");
+    QTest::newRow("a corner") << "#top-left-radius"
+                              << "$textColors: y; $borders: all;" << 14;
+    QTest::newRow("a corner of a rule for a state") << "#bottom-left-radius"
+                                                    << "$textColors: x; $borders: all;" << 11;
+    QTest::newRow("a corner that the text before it begins")
+            << "left-radius"
+            << "top-$textColors: y; $borders: all;" << 14;
+    QTest::newRow("what only the directive says") << "#Radius"
+                                                  << "$textColors: y; $borders: all;" << 0;
+    QTest::newRow("nothing before there are rules") << "#top-left-radius"
+                                                    << "$borders: all;" << 15;
+    QTest::newRow("a corner in what a directive takes from rules")
+            << "#top-left-radius"
+            << "$borderWidth: $textColors: x; $borders: all;" << 14;
+}
+
+void tst_OxaThemeUtilsBorderDirectives::findsRoundCornersInTheSelectorsOfRulesToo()
+{
+    QFETCH(const QString, selector);
+    QFETCH(const QString, text);
+    const auto result = OxaThemeUtils::parseCSS(selector, text, StyleTexts::store());
+    QTEST(int(result.oxaCSS.rectangularCornerMask), "mask");
 }
 
 void tst_OxaThemeUtilsBorderDirectives::honoursTheFirstDirectiveOfAKindOnly()
