@@ -75,6 +75,8 @@ QColor stateColor(const QJsonObject &token, QLatin1String state, const OxaColorP
                   const QColor &fallback)
 {
     const QJsonValue value = token[state];
+    if (value.isUndefined())
+        return fallback;
     if (palette.empty()) {
         const QColor color = colorFromRgba(value.toObject());
         return color.isValid() ? color : fallback;

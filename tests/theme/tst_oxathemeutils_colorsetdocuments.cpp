@@ -51,6 +51,7 @@ private Q_SLOTS:
     void takesNormalSilentlyForAnUnusableState();
     void takesNormalForAllStatesWhenItIsAlone_data();
     void takesNormalForAllStatesWhenItIsAlone();
+    void takesNoNamelessPaletteColorForAMissingState();
 
     void givesNothingWhenNormalIsUnusable_data();
     void givesNothingWhenNormalIsUnusable();
@@ -171,6 +172,15 @@ void tst_OxaThemeUtilsColorSetDocuments::takesNormalForAllStatesWhenItIsAlone()
                                                                           : OxaColorPalette());
     QCOMPARE(sets.at("panel"), OxaColorSet(QStringLiteral("panel"), QColor(0, 0, 1)));
     QVERIFY(sets.at("panel").isValid());
+}
+
+void tst_OxaThemeUtilsColorSetDocuments::takesNoNamelessPaletteColorForAMissingState()
+{
+    // No document gives a palette with such a colour, but a client may.
+    const OxaColorPalette palette = { { "", QColor(0, 0, 9) }, { "one", QColor(0, 0, 1) } };
+    QCOMPARE(setsOf(QStringLiteral(R"("panel":{"normal":"one","hovered":""})"), palette),
+             QLatin1String("panel=\"panel\" #ff000001 #ff000009 #ff000001 #ff000001 #ff000001 "
+                           "#ff000001"));
 }
 
 void tst_OxaThemeUtilsColorSetDocuments::givesNothingWhenNormalIsUnusable_data()

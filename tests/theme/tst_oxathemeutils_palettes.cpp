@@ -95,6 +95,17 @@ void tst_OxaThemeUtilsPalettes::readsColors_data()
     QTest::newRow("an alias beats even an invalid colour") << QStringList(
             red + comma + QStringLiteral(R"({"name":"twin","alias":"red","rgba":{"r":256}})"))
                                                            << redAndTwin;
+    QTest::newRow("the first of two colours of one name")
+            << QStringList { red, entry("red", R"({"r":0,"g":0,"b":255,"a":1})") }
+            << "red=#ffff0000";
+    QTest::newRow("a colour before an alias of its name")
+            << QStringList(red + comma + blue + comma + alias("red", "blue")) << redAndBlue;
+    QTest::newRow("a colour even behind an alias of its name")
+            << QStringList(alias("red", "blue") + comma + red + comma + blue) << redAndBlue;
+    QTest::newRow("the first of two aliases of one name")
+            << QStringList(red + comma + blue + comma + alias("twin", "red") + comma
+                           + alias("twin", "blue"))
+            << QString(redAndBlue + QStringLiteral(", twin=#ffff0000"));
     QTest::newRow("an empty alias is none")
             << QStringList(QStringLiteral(R"({"name":"blue","alias":"",)"
                                           R"("rgba":{"r":0,"g":0,"b":255,"a":1}})"))
