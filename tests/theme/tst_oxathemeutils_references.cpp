@@ -21,6 +21,7 @@ private Q_SLOTS:
     void resolvesReferencesAroundOneThatStays();
     void endsAReferenceAtTheFirstBracket();
     void findsSetsByNamesBeyondAscii();
+    void takesHalfACharacterInANameForAQuestionMark();
 
     void substitutesBeforeItExpands();
     void addsNoBorderRuleForReferencesAlone();
@@ -60,6 +61,8 @@ void tst_OxaThemeUtilsReferences::putsAColorForAReference_data()
                                         << "$#ff778899";
     QTest::newRow("one inside brackets") << "rgb($(y))"
                                          << "rgb(#ff778899)";
+    QTest::newRow("one beside half a character") << QStringLiteral("$(y)") + QChar(0xd83d)
+                                                 << QStringLiteral("#ff778899") + QChar(0xd83d);
     QTest::newRow("one in a value that is no colour directive") << "$shadow: $(y);"
                                                                 << "$shadow: #ff778899;";
 }
@@ -174,6 +177,16 @@ void tst_OxaThemeUtilsReferences::findsSetsByNamesBeyondAscii()
                                     "che",
                                     OxaColorSet(umlaut, Qt::red) } };
     QCOMPARE(StyleTexts::sheetOf(QStringLiteral("$(%1.normal)").arg(umlaut), sets),
+             QLatin1String("#ffff0000"));
+}
+
+// Names are looked up as UTF-8, which has nothing for it.
+void tst_OxaThemeUtilsReferences::takesHalfACharacterInANameForAQuestionMark()
+{
+    const OxaColorSetMap sets = ColorSets::storeOf({ OxaColorSet(QStringLiteral("?"), Qt::red) });
+    const QString half = QChar(0xd83d);
+    QCOMPARE(half.toStdString(), std::string("?"));
+    QCOMPARE(StyleTexts::sheetOf(QStringLiteral("$(%1)").arg(half), sets),
              QLatin1String("#ffff0000"));
 }
 

@@ -88,6 +88,10 @@ void tst_OxaThemeUtilsStyleText::passesEverythingElseThrough_data()
     QTest::newRow("dollars and brackets") << "$ $$ $) ) ( $ (x) $(";
     QTest::newRow("a style sheet's own words") << "background-color: x; borders: all;";
     QTest::newRow("letters beyond ASCII") << "/* \xc3\xa4\xf0\x9f\x98\x80 */";
+    QTest::newRow("a character's first half") << QString(QChar(0xd83d));
+    QTest::newRow("a character's second half") << QString(QChar(0xde00));
+    QTest::newRow("a character's halves the wrong way round")
+            << QString(QChar(0xde00)) + QChar(0xd83d);
     QTest::newRow("tags that end nowhere")
             << "$backgroundColors: x $borderColors: y $textColors: x $borders: all "
                "$borderRadius: 4 $borderWidth: 2";
