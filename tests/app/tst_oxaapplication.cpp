@@ -40,6 +40,10 @@ class tst_OxaApplication : public QObject
 {
     Q_OBJECT
 
+public Q_SLOTS:
+    /// Notes the value of the property whose signal it is connected to.
+    void noteProperty() { m_noted += application()->property(m_property.constData()); }
+
 private Q_SLOTS:
     void startsWithoutThemeLogoAndColors();
     void startsWithoutPublishingInformation();
@@ -57,6 +61,8 @@ private Q_SLOTS:
 
     void tellsOfAPropertyThatIsSet_data();
     void tellsOfAPropertyThatIsSet();
+    void tellsOfAPropertyOnceItHasTheValue_data();
+    void tellsOfAPropertyOnceItHasTheValue();
     void keepsTheFlagsApart();
     void setsLogoPathsByName();
 
@@ -68,6 +74,10 @@ private Q_SLOTS:
 
     void handsOutACopyOfThePublishingInformation();
     void isInFocusOnceAWindowIsActive();
+
+private:
+    QByteArray m_property;
+    QVariantList m_noted;
 };
 
 void tst_OxaApplication::startsWithoutThemeLogoAndColors()
@@ -172,6 +182,7 @@ void tst_OxaApplication::showsItsInvokables_data()
     QTest::addColumn<QString>("returnType");
     QTest::newRow("getColorSet(QString,QString)") << "OxaColorSet";
     QTest::newRow("getColorSet(QString)") << "OxaColorSet";
+    QTest::newRow("getKeySequence(OxaAppSignals::Shortcut)") << "QKeySequence";
     QTest::newRow("animationsDisabled()") << "bool";
 }
 
@@ -221,6 +232,33 @@ void tst_OxaApplication::tellsOfAPropertyThatIsSet()
     QCOMPARE(notified.size(), tellsOfTwo);
     for (const QVariantList &arguments : notified)
         QCOMPARE(arguments, QVariantList { value });
+}
+
+void tst_OxaApplication::tellsOfAPropertyOnceItHasTheValue_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("isDarkTheme") << QVariant(true);
+    QTest::newRow("isHighContrastTheme") << QVariant(true);
+    QTest::newRow("theme") << QVariant(QStringLiteral("dusk"));
+    QTest::newRow("logoSvgPath") << QVariant(QStringLiteral(":/logo.svg"));
+    QTest::newRow("logoPngPath") << QVariant(QStringLiteral(":/logo.png"));
+    QTest::newRow("fontScaleFactor") << QVariant(1.25F);
+}
+
+void tst_OxaApplication::tellsOfAPropertyOnceItHasTheValue()
+{
+    QFETCH(const QVariant, value);
+    m_property = QTest::currentDataTag();
+    m_noted.clear();
+    const ApplicationPropertyGuard guard(m_property.constData(),
+                                         application()->property(m_property.constData()));
+    const QMetaMethod note = metaObject()->method(metaObject()->indexOfSlot("noteProperty()"));
+    QVERIFY(note.isValid());
+    const auto connection = connect(application(),
+                                    propertyOf(m_property.constData()).notifySignal(), this, note);
+    application()->setProperty(m_property.constData(), value);
+    disconnect(connection);
+    QCOMPARE(m_noted, QVariantList { value });
 }
 
 void tst_OxaApplication::keepsTheFlagsApart()

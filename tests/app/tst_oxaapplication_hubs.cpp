@@ -3,6 +3,7 @@
 
 #include <UiElements/app/OxaGlobalSignalListener.h>
 #include <UiElements/fonts/OxaFontManager.h>
+#include <UiElements/widgets/OxaWidget.h>
 
 #include <QMetaType>
 
@@ -88,9 +89,11 @@ void tst_OxaApplicationHubs::takesItsChildrenWithIt()
     auto application = std::make_unique<Application>();
     const QPointer<OxaAppSignals> hub = (*application)->getAppSignals();
     const QPointer<OxaGlobalSignalListener> listener = (*application)->getGlobalSignalListener();
-    QVERIFY(hub && listener);
+    const QPointer<OxaFontManager> fontManager = (*application)->getOxaFontManager();
+    QVERIFY(hub && listener && fontManager);
     application.reset();
     QVERIFY(!hub);
+    QVERIFY(!fontManager);
     QVERIFY(!listener);
 }
 
@@ -99,11 +102,19 @@ void tst_OxaApplicationHubs::survivesTheEndOfItsChildren()
     Application application;
     delete application->getAppSignals();
     delete application->getGlobalSignalListener();
+    delete application->getOxaFontManager();
     QVERIFY(!application->getAppSignals());
+    QVERIFY(!application->getOxaFontManager());
     QVERIFY(!application->getGlobalSignalListener());
     QVERIFY(!OxaAppSignals::get());
     QVERIFY(!OxaGlobalSignalListener::get());
+    QVERIFY(!OxaFontManager::get());
     QCOMPARE(application->getKeySequence(search), QKeySequence());
+
+    OxaWidget widget;
+    widget.setFontToken(OxaFont::Token::Title);
+    widget.setFontType(FontManagerEnum::FontType::MessagingView);
+    QCOMPARE(widget.font().pixelSize(), 20);
 }
 
 QTEST_APPLESS_MAIN(tst_OxaApplicationHubs)

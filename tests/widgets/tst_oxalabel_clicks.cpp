@@ -57,6 +57,8 @@ private Q_SLOTS:
     void isNotClickedByTheMouseWhileTextIsSelected();
     void isClickedByKeysAlsoWhileTextIsSelected();
     void tellsOfTheClickBeforeItsLinkIsFollowed();
+    void tellsOfTheClickBeforeItsLinkIsFollowedByKey();
+    void leavesKeysToQtAllTheSame();
 
     void selectsAllTextByTheRightButton_data();
     void selectsAllTextByTheRightButton();
@@ -180,6 +182,31 @@ void tst_OxaLabelClicks::tellsOfTheClickBeforeItsLinkIsFollowed()
     log.record(&label, &OxaLabel::linkActivated, QStringLiteral("linkActivated"));
     QTest::mouseClick(&label, Qt::LeftButton);
     QCOMPARE(log.take(), QStringLiteral("clicked | linkActivated"));
+}
+
+void tst_OxaLabelClicks::tellsOfTheClickBeforeItsLinkIsFollowedByKey()
+{
+    OxaLabel label;
+    label.setTextFormat(Qt::RichText);
+    label.setTextInteractionFlags(Qt::LinksAccessibleByKeyboard);
+    label.setText(QStringLiteral("<a href=\"x\">A link</a>"));
+    label.show();
+    label.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&label));
+    QTest::keyClick(&label, Qt::Key_Tab);
+    SignalLog log;
+    log.record(&label, &OxaLabel::clicked, QStringLiteral("clicked"));
+    log.record(&label, &OxaLabel::linkActivated, QStringLiteral("linkActivated"));
+    QTest::keyClick(&label, Qt::Key_Return);
+    QCOMPARE(log.take(), QStringLiteral("clicked | linkActivated"));
+}
+
+void tst_OxaLabelClicks::leavesKeysToQtAllTheSame()
+{
+    OxaLabel label(QStringLiteral("some text"));
+    label.setTextInteractionFlags(Qt::TextSelectableByKeyboard);
+    QTest::keyClick(&label, Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(label.selectedText(), QStringLiteral("some text"));
 }
 
 void tst_OxaLabelClicks::selectsAllTextByTheRightButton_data()
