@@ -16,22 +16,25 @@ struct Cut
     QString value;
 };
 
-Cut find(const QString &text, const QString &tag)
+/// Finds the first directive whose tag, less its "$" and ":", is \a word.
+Cut find(const QString &text, const QString &word)
 {
-    const int start = text.indexOf(tag);
-    const int end = start < 0 ? -1 : text.indexOf(QStringLiteral(";"), start + tag.length());
-    if (end < 0)
-        return {};
-    const QString value = text.mid(start + tag.length(), end - start - tag.length());
-    return { start, end - start + 1, value.trimmed() };
+    const QRegularExpression directive(QStringLiteral("\\$%1:([^;]*);").arg(word));
+    const QRegularExpressionMatch match = directive.match(text);
+    return { match.capturedStart(), match.capturedLength(), match.captured(1).trimmed() };
 }
 
-Cut take(QString &text, const QString &tag)
+Cut take(QString &text, const QString &word)
 {
-    const Cut cut = find(text, tag);
+    const Cut cut = find(text, word);
     if (cut.position >= 0)
         text.remove(cut.position, cut.length);
     return cut;
+}
+
+bool has(const QString &text, const QString &word)
+{
+    return text.contains(QRegularExpression(word));
 }
 
 OxaColorSet lookUp(const QString &name, const OxaColorSetMap &colorSets)
@@ -87,7 +90,7 @@ QString gradientOf(const QString &value, const QString &selector, const OxaColor
     const QString rest = value.section(QStringLiteral("gradient-"), 1);
     QString kind = rest == QStringLiteral("primary") ? QStringLiteral("primary")
                                                      : QStringLiteral("secondary");
-    if (value.contains(QStringLiteral("-dialog")))
+    if (has(value, QStringLiteral("-dialog")))
         kind = QStringLiteral("dialog-secondary");
     const std::string first =
             QStringLiteral("theme-gradient-%1-1-background").arg(kind).toStdString();
@@ -102,10 +105,10 @@ QString gradientOf(const QString &value, const QString &selector, const OxaColor
                            colorSets.at(last).normal.name(QColor::HexArgb));
 }
 
-OxaColorSet expand(QString &text, const QString &tag, const QString &property,
+OxaColorSet expand(QString &text, const QString &word, const QString &property,
                    const QString &selector, const OxaColorSetMap &colorSets)
 {
-    const Cut cut = find(text, tag);
+    const Cut cut = find(text, word);
     if (cut.position < 0)
         return OxaColorSet();
     const bool isBackground = property == QStringLiteral("background-color:");
@@ -121,7 +124,7 @@ OxaColorSet expand(QString &text, const QString &tag, const QString &property,
         QString rule;
         if (cut.value == QStringLiteral("none"))
             rule = selector + block(property, QColor(Qt::transparent));
-        else if (cut.value.contains(QStringLiteral("gradient-")))
+        else if (has(cut.value, QStringLiteral("gradient-")))
             rule = gradientOf(cut.value, selector, colorSets);
         if (rule.isEmpty())
             return OxaColorSet();
@@ -192,7 +195,7 @@ QString borderDeclarations(const OxaCSSData &data)
 
 void readWidth(QString &text, OxaCSSData &data)
 {
-    const Cut cut = take(text, QStringLiteral("$borderWidth:"));
+    const Cut cut = take(text, QStringLiteral("borderWidth"));
     if (cut.value.isEmpty())
         return;
     bool isNumber = false;
@@ -202,22 +205,22 @@ void readWidth(QString &text, OxaCSSData &data)
 
 void readSides(QString &text, OxaCSSData &data, int &position)
 {
-    const Cut cut = take(text, QStringLiteral("$borders:"));
+    const Cut cut = take(text, QStringLiteral("borders"));
     if (cut.value.isEmpty())
         return;
-    const bool all = cut.value.contains(QStringLiteral("all"));
-    data.borderTop = all || cut.value.contains(QStringLiteral("top"));
-    data.borderRight = all || cut.value.contains(QStringLiteral("right"));
-    data.borderBottom = all || cut.value.contains(QStringLiteral("bottom"));
-    data.borderLeft = all || cut.value.contains(QStringLiteral("left"));
+    const bool all = has(cut.value, QStringLiteral("all"));
+    data.borderTop = all || has(cut.value, QStringLiteral("top"));
+    data.borderRight = all || has(cut.value, QStringLiteral("right"));
+    data.borderBottom = all || has(cut.value, QStringLiteral("bottom"));
+    data.borderLeft = all || has(cut.value, QStringLiteral("left"));
     position = cut.position;
 
     int mask = 0;
     for (int corner = 1; corner <= 4; ++corner) {
-        if (!text.contains(cornerOf(corner) + QStringLiteral("-radius")))
+        if (!has(text, cornerOf(corner) + QStringLiteral("-radius")))
             mask += 1 << (corner - 1);
     }
-    if (mask == 15 && text.contains(QStringLiteral("Radius")))
+    if (mask == 15 && has(text, QStringLiteral("Radius")))
         mask = 0;
     data.rectangularCornerMask = static_cast<quint8>(mask);
 }
@@ -228,7 +231,7 @@ int cornerIn(const QString &word)
     if (parts == 1 && word == QStringLiteral("top"))
         return 5;
     for (int corner = 1; parts == 2 && corner <= 4; ++corner) {
-        if (word.contains(cornerOf(corner)))
+        if (has(word, cornerOf(corner)))
             return corner;
     }
     return 0;
@@ -236,7 +239,7 @@ int cornerIn(const QString &word)
 
 void readRadius(QString &text, OxaCSSData &data, int &position)
 {
-    const Cut cut = take(text, QStringLiteral("$borderRadius:"));
+    const Cut cut = take(text, QStringLiteral("borderRadius"));
     if (cut.value.isEmpty())
         return;
     const QStringList parts = cut.value.split(QStringLiteral(" "), Qt::KeepEmptyParts);
@@ -297,11 +300,11 @@ OxaThemeUtils::CSSParserResult NaiveStyleText::parse(const QString &selector, co
         return result;
 
     QString working = substituteReferences(text, colorSets);
-    result.backgroundColorSet = expand(working, QStringLiteral("$backgroundColors:"),
+    result.backgroundColorSet = expand(working, QStringLiteral("backgroundColors"),
                                        QStringLiteral("background-color:"), selector, colorSets);
-    result.borderColorSet = expand(working, QStringLiteral("$borderColors:"),
+    result.borderColorSet = expand(working, QStringLiteral("borderColors"),
                                    QStringLiteral("border-color:"), selector, colorSets);
-    result.textColorSet = expand(working, QStringLiteral("$textColors:"), QStringLiteral("color:"),
+    result.textColorSet = expand(working, QStringLiteral("textColors"), QStringLiteral("color:"),
                                  selector, colorSets);
     if (result.backgroundColorSet.isValid())
         result.oxaCSS.backgroundColorSetName = result.backgroundColorSet.name;
@@ -312,9 +315,9 @@ OxaThemeUtils::CSSParserResult NaiveStyleText::parse(const QString &selector, co
     insertBorderRule(working, result.oxaCSS, selector);
 
     QString plain = text;
-    for (const char *tag : { "$backgroundColors:", "$borderColors:", "$textColors:", "$borders:",
-                             "$borderRadius:", "$borderWidth:" })
-        take(plain, QLatin1String(tag));
+    for (const char *word : { "backgroundColors", "borderColors", "textColors", "borders",
+                              "borderRadius", "borderWidth" })
+        take(plain, QLatin1String(word));
     result.oxaCSS.plainStyleSheet = plain.trimmed();
     result.expandedStyleSheet = working;
     return result;

@@ -3,8 +3,8 @@
 
 #include <UiElements/theme/OxaThemeUtils.h>
 
-/// The style language a second time, step by step and without a thought of speed: what the library
-/// is held against, for its results and for its time.
+/// The style language a second time, step by step, by regular expressions and replacement and
+/// without a thought of speed: what the library is held against, for its results and for its time.
 ///
 /// It shares the value records and OxaColorSet with the library, and nothing of its scanner.
 namespace NaiveStyleText {
