@@ -32,6 +32,7 @@ private Q_SLOTS:
     void showsEmojiInTheFontWhereItCanBeSelected();
     void copiesWhatWasWritten();
     void takesTagsInItsTextForEmoji();
+    void keepsTagsInATextThatCanBeSelected();
     void escapesTextsThatAreNotRich_data();
     void escapesTextsThatAreNotRich();
     void keepsMarkupOfRichText();
@@ -158,6 +159,18 @@ void tst_OxaEmojiLabel::takesTagsInItsTextForEmoji()
                            + QStringLiteral("<img src=\"%1|17\">b").arg(heart));
     QCOMPARE(label.pictures(), QStringList({ face, heart }));
     QCOMPARE(body(label), QStringLiteral("a{fffc}{fffc}b"));
+}
+
+void tst_OxaEmojiLabel::keepsTagsInATextThatCanBeSelected()
+{
+    const QString tag = EmojiNotation::tag("1f600", face);
+    EmojiLabel label;
+    label.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label.setText(tag);
+    QCOMPARE(label.document().toPlainText(), tag);
+    QCOMPARE(label.getElidedText(), tag.toHtmlEscaped());
+    label.setTextFormat(Qt::RichText);
+    QCOMPARE(label.getElidedText(), tag);
 }
 
 void tst_OxaEmojiLabel::escapesTextsThatAreNotRich_data()

@@ -35,11 +35,14 @@ private Q_SLOTS:
     void elidesTheLastLineThatThereIsRoomFor();
     void endsInAnEllipsisWhenParagraphsAreLeftOut();
     void endsWithoutAnEllipsisWhenNothingIsElided();
+    void cutsATagLikeAnyOtherText();
+    void joinsLinesByAnySeparator();
     void leavesRoomForPaddingIndentAndMargin();
     void showsTwentyLinesOfALongText();
     void showsEmojiInTheFontWhenItIsCentred();
     void leavesRichParagraphsToQt_data();
     void leavesRichParagraphsToQt();
+    void showsEmojiOfRichParagraphsInTheFont();
     void takesItsOwnLinesAgainAfterRichText();
     void wrapsItsTextAnewWhenItIsResized();
 
@@ -101,6 +104,25 @@ void tst_OxaEmojiLabelLines::endsWithoutAnEllipsisWhenNothingIsElided()
     label.setElideMode(Qt::ElideNone);
     label.setText(QStringLiteral("one\ntwo\nthree"));
     QCOMPARE(label.getElidedText(), QStringLiteral("one<br>two"));
+    QVERIFY(label.isTextMoreThanOneLine());
+}
+
+void tst_OxaEmojiLabelLines::cutsATagLikeAnyOtherText()
+{
+    // Meant so: what is measured is the markup, and a tag is longer than most lines.
+    WrappingLabel label(12, 2);
+    label.setText(QStringLiteral("one\n%1\nthree").arg(face));
+    const QString text = label.getElidedText();
+    QVERIFY2(text.startsWith(QLatin1String("one<br><img ")), qPrintable(text));
+    QVERIFY2(text.endsWith(QChar(0x2026)), qPrintable(text));
+    QVERIFY(!label.pictures().contains(face));
+}
+
+void tst_OxaEmojiLabelLines::joinsLinesByAnySeparator()
+{
+    WrappingLabel label(6);
+    QCOMPARE(label.createElidedLines(QStringLiteral("nnnn nnnn\nn"), QStringLiteral("/")),
+             QStringLiteral("nnnn /nnnn/n"));
     QVERIFY(label.isTextMoreThanOneLine());
 }
 
@@ -167,6 +189,24 @@ void tst_OxaEmojiLabelLines::leavesRichParagraphsToQt()
     QCOMPARE(label.getElidedText() == text, isLeftToQt);
     QCOMPARE(label.document().textWidth(), isLeftToQt ? qreal(label.width()) : -1.0);
     QCOMPARE(label.isTextMoreThanOneLine(), !isLeftToQt);
+}
+
+void tst_OxaEmojiLabelLines::showsEmojiOfRichParagraphsInTheFont()
+{
+    const QString text = QStringLiteral("<p>nn\n%1</p>").arg(face);
+    WrappingLabel label(6);
+    label.setTextFormat(Qt::RichText);
+    label.setText(text);
+    QVERIFY(label.shouldDrawSvgEmojis());
+    QVERIFY(label.isTextMoreThanOneLine());
+    QCOMPARE(label.pictures(), QStringList());
+    QCOMPARE(label.getElidedText(), text);
+    // Without word wrap it is a text like any other.
+    label.setWordWrap(false);
+    label.setElideMode(Qt::ElideNone);
+    label.setText(text);
+    QCOMPARE(label.pictures(), QStringList { face });
+    QCOMPARE(label.document().textWidth(), -1.0);
 }
 
 void tst_OxaEmojiLabelLines::takesItsOwnLinesAgainAfterRichText()

@@ -18,6 +18,29 @@ QRectF frameOf(const EmojiLabel &label)
     return document.documentLayout()->frameBoundingRect(document.rootFrame());
 }
 
+/// A label that places its text by itself.
+class PlacedLabel : public EmojiLabel
+{
+public:
+    using EmojiLabel::EmojiLabel;
+    QPointF getTextOffset() const override { return { 31, 7 }; }
+};
+
+/// A label on a screen of two pixels and a half for each of its own.
+class DenseLabel : public EmojiLabel
+{
+public:
+    static constexpr double pixelRatio = 2.5;
+    using EmojiLabel::EmojiLabel;
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        return metric == PdmDevicePixelRatioScaled ? int(pixelRatio * devicePixelRatioFScale())
+                                                   : EmojiLabel::metric(metric);
+    }
+};
+
 /// Returns how many of \a calls ask for \a element.
 int count(const std::vector<RecordingStyle::Call> &calls, QStyle::PrimitiveElement element)
 {
@@ -38,10 +61,13 @@ private Q_SLOTS:
 
     void paintsAnEmojiAsHighAsItsLine_data();
     void paintsAnEmojiAsHighAsItsLine();
+    void rendersEmojiForItsPixelRatio();
     void paintsNothingWithoutText();
+    void paintsItsFrameAroundItsText();
     void paintsItsTextInTheTextColour();
     void placesItsText_data();
     void placesItsText();
+    void paintsItsTextWhereASubclassPlacesIt();
     void placesAnEmptyTextAsALabelDoes();
     void keepsPaddingsFree();
     void asksForTheSizeOfItsText();
@@ -73,6 +99,19 @@ void tst_OxaEmojiLabelPainting::paintsAnEmojiAsHighAsItsLine()
     QCOMPARE(Pixels::boundsNear(image, Qt::red), QRect(0, 0, count * edge, edge));
 }
 
+void tst_OxaEmojiLabelPainting::rendersEmojiForItsPixelRatio()
+{
+    DenseLabel label;
+    label.setText(face);
+    const auto format = label.document().begin().begin().fragment().charFormat().toImageFormat();
+    const QVariant picture = label.document().resource(QTextDocument::ImageResource,
+                                                       QUrl(format.name()));
+    const int height = label.fontMetrics().height();
+    QCOMPARE(format.width(), qreal(height));
+    const int edge = int(height * DenseLabel::pixelRatio);
+    QCOMPARE(picture.value<QImage>().size(), QSize(edge, edge));
+}
+
 void tst_OxaEmojiLabelPainting::paintsNothingWithoutText()
 {
     EmojiLabel label;
@@ -80,6 +119,20 @@ void tst_OxaEmojiLabelPainting::paintsNothingWithoutText()
     QImage blank(200, 50, QImage::Format_ARGB32_Premultiplied);
     blank.fill(Qt::white);
     QCOMPARE(Pixels::render(label), blank);
+}
+
+void tst_OxaEmojiLabelPainting::paintsItsFrameAroundItsText()
+{
+    EmojiLabel label(face);
+    label.setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
+    label.setLineWidth(2);
+    label.resize(200, 50);
+    label.updateTextColor(Qt::magenta);
+    const QImage image = Pixels::render(label);
+    QCOMPARE(Pixels::boundsNear(image, Qt::magenta), QRect(0, 0, 200, 50));
+    QCOMPARE(Pixels::countNear(image, Qt::magenta, QRect(100, 0, 10, 50)), 10 * (2 + 2));
+    // The text is not moved by the frame, and lies on it.
+    QCOMPARE(Pixels::boundsNear(image, Qt::red).topLeft(), QPoint());
 }
 
 void tst_OxaEmojiLabelPainting::paintsItsTextInTheTextColour()
@@ -128,6 +181,14 @@ void tst_OxaEmojiLabelPainting::placesItsText()
     QCOMPARE(label.getTextOffset(), expected(rightToLeft));
 }
 
+void tst_OxaEmojiLabelPainting::paintsItsTextWhereASubclassPlacesIt()
+{
+    PlacedLabel label(face);
+    label.resize(200, 100);
+    const int edge = label.fontMetrics().height();
+    QCOMPARE(Pixels::boundsNear(Pixels::render(label), Qt::red), QRect(31, 7, edge, edge));
+}
+
 void tst_OxaEmojiLabelPainting::placesAnEmptyTextAsALabelDoes()
 {
     EmojiLabel label;
@@ -165,6 +226,10 @@ void tst_OxaEmojiLabelPainting::asksForTheSizeOfItsText()
     QCOMPARE(label.sizeHint(), truncated());
     QCOMPARE(label.sizeHint().height(), label.fontMetrics().height());
     label.setText(face + QLatin1String("some text") + face + unknownFace);
+    QCOMPARE(label.sizeHint(), truncated() + QSize(6, 0));
+    // A tag in the text names its emoji twice, and both count.
+    label.setText(EmojiNotation::tag("1f600", face));
+    QCOMPARE(label.pictures(), QStringList { face });
     QCOMPARE(label.sizeHint(), truncated() + QSize(6, 0));
     label.setTextInteractionFlags(Qt::TextSelectableByMouse);
     QCOMPARE(label.sizeHint(), truncated());

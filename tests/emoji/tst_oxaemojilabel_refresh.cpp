@@ -46,6 +46,7 @@ private Q_SLOTS:
 
     void showsTheNormalColourOfItsStyleText();
     void showsTheHoveredColourUnderThePointer();
+    void showsTheNormalColourWhenFocusComes();
     void refreshesAtFocusAndHover_data();
     void refreshesAtFocusAndHover();
     void leavesItsColourToItsParent();
@@ -87,6 +88,19 @@ void tst_OxaEmojiLabelRefresh::showsTheHoveredColourUnderThePointer()
     send(label, QEvent::Leave);
     QCOMPARE(textColor(label), normal);
     QCOMPARE(shownColor(label), normal);
+}
+
+void tst_OxaEmojiLabelRefresh::showsTheNormalColourWhenFocusComes()
+{
+    EmojiLabel label(QStringLiteral("text"));
+    label.setCSS(QStringLiteral("$textColors: text;"));
+    for (const QEvent::Type type : { QEvent::FocusIn, QEvent::FocusOut }) {
+        label.updateTextColor(Qt::green);
+        QFocusEvent focus(type);
+        QCoreApplication::sendEvent(&label, &focus);
+        QCOMPARE(textColor(label), normal);
+        QCOMPARE(shownColor(label), normal);
+    }
 }
 
 void tst_OxaEmojiLabelRefresh::refreshesAtFocusAndHover_data()
