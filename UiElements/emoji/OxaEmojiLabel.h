@@ -135,8 +135,8 @@ private:
 
     void showState();
     QString createBody(const QString &text);
-    bool isLaidOutByQt() const;
-    void fillDocument();
+    bool isLaidOutByQt(const QString &text) const;
+    void fillDocument(qreal textWidth);
 
     QTextDocument *m_document;
     QString m_elidedHtml;

@@ -29,32 +29,30 @@ void OxaEmojiLabel::updateText()
     // Only when it is wrapped does a centred text turn out to have several lines.
     if (hasArtwork && !shouldDrawSvgEmojis())
         m_elidedHtml = EmojiTextConverter::restore(m_elidedHtml);
-    fillDocument();
+    fillDocument(isLaidOutByQt(shownText) ? width() : -1.0);
 }
 
 QString OxaEmojiLabel::createBody(const QString &text)
 {
-    if (isLaidOutByQt())
+    if (isLaidOutByQt(text))
         return text;
     return wordWrap() ? createElidedLines(text, lineSeparator)
                       : createElidedLine(text, true, lineSeparator);
 }
 
-/// Whether the text is a document of its own, whose lines are not broken here.
-bool OxaEmojiLabel::isLaidOutByQt() const
+/// Returns whether \a text is a document of its own, whose lines are not broken here.
+bool OxaEmojiLabel::isLaidOutByQt(const QString &text) const
 {
-    const QString markup = text();
     return wordWrap() && textFormat() == Qt::RichText
-            && (markup.startsWith(QLatin1String("<p>"))
-                || markup.startsWith(QLatin1String("<html>")));
+            && (text.startsWith(QLatin1String("<p>")) || text.startsWith(QLatin1String("<html>")));
 }
 
-void OxaEmojiLabel::fillDocument()
+void OxaEmojiLabel::fillDocument(qreal textWidth)
 {
     m_document->clear(); // The pictures too, which setHtml() would keep.
     m_document->setDefaultFont(font());
     m_document->setDocumentMargin(0.0);
-    m_document->setTextWidth(isLaidOutByQt() ? width() : -1.0);
+    m_document->setTextWidth(textWidth);
     if (m_document->defaultStyleSheet() != styleSheet())
         m_document->setDefaultStyleSheet(styleSheet());
 

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void showsEmojiInTheFontWhenItIsCentred();
     void leavesRichParagraphsToQt_data();
     void leavesRichParagraphsToQt();
+    void leavesParagraphsBehindAnImageToQt();
     void showsEmojiOfRichParagraphsInTheFont();
     void takesItsOwnLinesAgainAfterRichText();
     void wrapsItsTextAnewWhenItIsResized();
@@ -189,6 +190,16 @@ void tst_OxaEmojiLabelLines::leavesRichParagraphsToQt()
     QCOMPARE(label.getElidedText() == text, isLeftToQt);
     QCOMPARE(label.document().textWidth(), isLeftToQt ? qreal(label.width()) : -1.0);
     QCOMPARE(label.isTextMoreThanOneLine(), !isLeftToQt);
+}
+
+void tst_OxaEmojiLabelLines::leavesParagraphsBehindAnImageToQt()
+{
+    // An image without a text of its own is nothing in a label of emoji.
+    WrappingLabel label(6);
+    label.setTextFormat(Qt::RichText);
+    label.setText(QStringLiteral("<img src=\"ornament.png\" alt=\"\"><p>nnnn nnnn</p>"));
+    QCOMPARE(label.getElidedText(), QStringLiteral("<p>nnnn nnnn</p>"));
+    QCOMPARE(label.document().textWidth(), qreal(label.width()));
 }
 
 void tst_OxaEmojiLabelLines::showsEmojiOfRichParagraphsInTheFont()

@@ -232,6 +232,9 @@ void tst_OxaEmojiLabelRefresh::takesTheStyleSheetForItsDocument()
     label.setText(QStringLiteral("<b>bold</b>"));
     QCOMPARE(label.document().defaultStyleSheet(), label.styleSheet());
     QCOMPARE(shownColor(label), QColor(0x12, 0x34, 0x56));
+    label.setStyleSheet(QString());
+    label.updateText();
+    QVERIFY(shownColor(label) != QColor(0x12, 0x34, 0x56));
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaEmojiLabelRefresh)
