@@ -40,6 +40,8 @@ private Q_SLOTS:
     void leavesRoomForPaddingIndentAndMargin();
     void showsTwentyLinesOfALongText();
     void showsEmojiInTheFontWhenItIsCentred();
+    void showsEmojiInTheFontWhenACentredLineHasANewline();
+    void takesTagsForEmojiAgainAfterSeveralCentredLines();
     void leavesRichParagraphsToQt_data();
     void leavesRichParagraphsToQt();
     void leavesParagraphsBehindAnImageToQt();
@@ -167,6 +169,33 @@ void tst_OxaEmojiLabelLines::showsEmojiInTheFontWhenItIsCentred()
     QVERIFY(!label.shouldDrawSvgEmojis());
     QCOMPARE(label.pictures(), QStringList());
     QCOMPARE(label.getElidedText(), QStringLiteral("nnnn <br>") + face);
+}
+
+void tst_OxaEmojiLabelLines::showsEmojiInTheFontWhenACentredLineHasANewline()
+{
+    WrappingLabel label(6);
+    label.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    label.setText(face + QLatin1Char('\n'));
+    QVERIFY(!label.isTextMoreThanOneLine());
+    QVERIFY(!label.shouldDrawSvgEmojis());
+    QCOMPARE(label.getElidedText(), face);
+    // A separator counts too, until it turns out to end the only line.
+    label.setText(face + QChar(QChar::LineSeparator));
+    QVERIFY(!label.isTextMoreThanOneLine());
+    QVERIFY(label.shouldDrawSvgEmojis());
+    QCOMPARE(label.pictures(), QStringList());
+    QCOMPARE(label.getElidedText(), face);
+}
+
+void tst_OxaEmojiLabelLines::takesTagsForEmojiAgainAfterSeveralCentredLines()
+{
+    WrappingLabel label(6);
+    label.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    label.setText(QStringLiteral("nnnn nnnn"));
+    QVERIFY(label.isTextMoreThanOneLine());
+    label.setText(EmojiNotation::tag("1f600", face));
+    QCOMPARE(label.getElidedText(), face);
+    QCOMPARE(label.pictures(), QStringList { face });
 }
 
 void tst_OxaEmojiLabelLines::leavesRichParagraphsToQt_data()
