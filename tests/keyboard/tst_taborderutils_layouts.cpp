@@ -70,6 +70,7 @@ private Q_SLOTS:
     void breaksTheChainAtAWidgetThatTakesNoFocus();
     void leavesTheChainAloneWithoutItems_data();
     void leavesTheChainAloneWithoutItems();
+    void leavesTheChainAloneWhenAllItemsAreHidden();
     void findsTheItemThatHasTheFocus();
     void findsTheNextItem_data();
     void findsTheNextItem();
@@ -157,6 +158,18 @@ void tst_TabOrderUtilsLayouts::leavesTheChainAloneWithoutItems()
                                        hasLayout ? layout : nullptr,
                                        hasLast ? &window.after : nullptr);
     QCOMPARE(window.tabOrder(), QStringLiteral("<>ABC"));
+}
+
+void tst_TabOrderUtilsLayouts::leavesTheChainAloneWhenAllItemsAreHidden()
+{
+    Window window;
+    for (const int i : { 0, 1, 2, 4 })
+        window.item(i)->hide();
+    TabOrderUtils::setCompoundTabOrder(&window.before, &window.items, &window.after);
+    QCOMPARE(window.tabOrder(), QStringLiteral("<>ABC"));
+    // The items alone are chained even so.
+    TabOrderUtils::fixFocusChainFromLayout(&window.before, &window.items);
+    QCOMPARE(window.tabOrder(), QStringLiteral("<ABC>"));
 }
 
 void tst_TabOrderUtilsLayouts::findsTheItemThatHasTheFocus()

@@ -85,6 +85,7 @@ private Q_SLOTS:
     void takesThatOfAWidgetsStyle();
     void asksTheStyleWithTheWidget();
     void fallsBackToTheStyleOfEachItem();
+    void fallsBackInALayoutThatHasNoSpacing();
     void mixesItsOwnValueWithThatOfAStyle();
     void spacesWhatHasNoWidgetAsTheApplicationDoes();
     void spacesByMinusOneWhereNobodyKnows();
@@ -157,6 +158,25 @@ void tst_FlowLayoutSpacing::fallsBackToTheStyleOfEachItem()
     for (int i = 0; i < 4; ++i)
         tiles.layout.widgetAt(i)->setStyle(i % 2 == 0 ? &style : &other);
     QCOMPARE(tiles.placed(), QStringLiteral("0,0 10x10 | 15,0 10x10 | 33,0 10x10 | 0,14 10x10"));
+}
+
+void tst_FlowLayoutSpacing::fallsBackInALayoutThatHasNoSpacing()
+{
+    SpacingStyle style(QPoint(99, 99), QPoint(5, 2));
+    QWidget window;
+    auto *grid = new QGridLayout(&window);
+    grid->setHorizontalSpacing(13);
+    grid->setVerticalSpacing(4);
+    auto *layout = new AutoGridLayout(QMargins(), -1, -1);
+    grid->addLayout(layout, 0, 0);
+    for (int i = 0; i < 3; ++i) {
+        auto *block = new Block(QSize(10, 10));
+        block->setStyle(&style);
+        layout->addWidget(block);
+    }
+    QCOMPARE(layout->horizontalSpacing(), -1);
+    layout->setGeometry(QRect(0, 0, 30, 100));
+    QCOMPARE(Blocks::text(*layout), QStringLiteral("0,0 10x10 | 15,0 10x10 | 0,12 10x10"));
 }
 
 void tst_FlowLayoutSpacing::mixesItsOwnValueWithThatOfAStyle()

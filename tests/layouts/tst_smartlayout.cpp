@@ -70,6 +70,8 @@ private Q_SLOTS:
     void doesNotDivideByALimitOfZero();
     void alignsEachRowByItself_data();
     void alignsEachRowByItself();
+    void alignsARowThatIsTooWide_data();
+    void alignsARowThatIsTooWide();
     void needsTheHeightOfAllRows();
     void needsItsBottomMarginWithoutItems();
     void measuresWithoutMovingAnything();
@@ -180,6 +182,10 @@ void tst_SmartLayout::lowersTheLimitForTheRowsBelow()
     Smart unlimited;
     Blocks::fill(unlimited, sizes);
     QCOMPARE(unlimited.rows(106), QStringLiteral("3 7"));
+
+    Smart equal(Qt::AlignLeft, 5);
+    Blocks::fill(equal, std::vector<QSize>(10, QSize(20, 10)));
+    QCOMPARE(equal.rows(71), QStringLiteral("3 3 3 1"));
 }
 
 void tst_SmartLayout::fixesItemsPerRow_data()
@@ -268,6 +274,28 @@ void tst_SmartLayout::alignsEachRowByItself()
     Smart layout(alignment, 2);
     Blocks::fill(layout, { { 20, 10 }, { 20, 10 }, { 30, 10 } });
     QTEST(layout.placed(100), "placed");
+}
+
+void tst_SmartLayout::alignsARowThatIsTooWide_data()
+{
+    QTest::addColumn<Qt::AlignmentFlag>("alignment");
+    QTest::addColumn<QString>("placed");
+    // The first row reaches 15 pixels beyond the right edge, the second one spares 10.
+    QTest::newRow("left: it hangs over at the right")
+            << Qt::AlignLeft << QStringLiteral("0,0 20x10 | 25,0 20x10 | 0,13 20x10");
+    QTest::newRow("centre: half of it at each side, cut off to a pixel")
+            << Qt::AlignCenter << QStringLiteral("-7,0 20x10 | 18,0 20x10 | 5,13 20x10");
+    QTest::newRow("right: it hangs over at the left")
+            << Qt::AlignRight << QStringLiteral("-15,0 20x10 | 10,0 20x10 | 10,13 20x10");
+}
+
+void tst_SmartLayout::alignsARowThatIsTooWide()
+{
+    QFETCH(const Qt::AlignmentFlag, alignment);
+    Smart layout(alignment);
+    layout.setFixedItemsPerRow(2);
+    Blocks::fill(layout, std::vector<QSize>(3, QSize(20, 10)));
+    QTEST(layout.placed(30), "placed");
 }
 
 void tst_SmartLayout::needsTheHeightOfAllRows()

@@ -10,6 +10,8 @@
 using Blocks::Block;
 using Blocks::Item;
 
+Q_DECLARE_METATYPE(Qt::AlignmentFlag)
+
 namespace {
 
 constexpr bool ofItems = false;
@@ -44,6 +46,8 @@ private Q_SLOTS:
     void asksWidgetsForSizesWhenItUsesWidgetSizing();
     void usesTheItemWhereThereIsNoWidget();
     void givesASingleColumnTheSizesOfItsWidgets();
+    void alignsASingleColumnByTheSizesOfItsWidgets_data();
+    void alignsASingleColumnByTheSizesOfItsWidgets();
     void deletesWidgetsWhenItClears();
     void deletesNothingWhenItClearsSpacers();
 };
@@ -90,6 +94,29 @@ void tst_SmartLayoutWidgets::givesASingleColumnTheSizesOfItsWidgets()
     QCOMPARE(limited.block->geometry(), QRect(0, 0, 20, 10));
     // The height is measured with what the item wants, all the same.
     QCOMPARE(limited.layout.heightForWidth(50), 0);
+}
+
+void tst_SmartLayoutWidgets::alignsASingleColumnByTheSizesOfItsWidgets_data()
+{
+    QTest::addColumn<Qt::AlignmentFlag>("alignment");
+    QTest::addColumn<int>("left");
+    QTest::newRow("left") << Qt::AlignLeft << 0;
+    QTest::newRow("centre") << Qt::AlignCenter << 40;
+    QTest::newRow("right") << Qt::AlignRight << 80;
+}
+
+void tst_SmartLayoutWidgets::alignsASingleColumnByTheSizesOfItsWidgets()
+{
+    QFETCH(const Qt::AlignmentFlag, alignment);
+    QFETCH(const int, left);
+    QWidget window;
+    SmartLayout layout(&window, QMargins(), 5, 3, alignment, 1, ofItems);
+    auto *block = new Block(QSize(20, 10));
+    block->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    layout.addWidget(block);
+    // By its item, which wants nothing, the row would spare a whole 100 pixels.
+    layout.setGeometry(QRect(0, 0, 100, 100));
+    QCOMPARE(block->geometry(), QRect(left, 0, 20, 10));
 }
 
 void tst_SmartLayoutWidgets::deletesWidgetsWhenItClears()
