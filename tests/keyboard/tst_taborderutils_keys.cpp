@@ -211,6 +211,7 @@ private Q_SLOTS:
     void entersARowOfItemsFromBehindAtItsEnd();
     void movesAlongARowOfItemsWithArrowKeys();
     void followsTheOrderOfASortedLayout();
+    void followsACompoundTabOrder();
     void keepsArrowKeysByTheTypeOfAButton_data();
     void keepsArrowKeysByTheTypeOfAButton();
 
@@ -285,6 +286,25 @@ void tst_TabOrderUtilsKeys::followsTheOrderOfASortedLayout()
     QVERIFY(window.appear("a"));
     QVERIFY(RealInput::typeKeys(repeated("Tab", 4)));
     QTRY_COMPARE(window.visited(), QStringLiteral("b c d a"));
+}
+
+void tst_TabOrderUtilsKeys::followsACompoundTabOrder()
+{
+    Window window;
+    auto *first = make<QLineEdit>("first");
+    auto *last = make<QLineEdit>("last");
+    window.column->addWidget(last);
+    auto *row = new QHBoxLayout;
+    window.column->addLayout(row);
+    for (const char *name : { "c", "hidden", "b", "a" })
+        row->insertWidget(0, make<QPushButton>(name));
+    row->insertSpacing(1, 10);
+    window.child("hidden")->hide();
+    window.column->addWidget(first);
+    TabOrderUtils::setCompoundTabOrder(first, row, last);
+    QVERIFY(window.appear("first"));
+    QVERIFY(RealInput::typeKeys(repeated("Tab", 5) + repeated("shift+Tab", 2)));
+    QTRY_COMPARE(window.visited(), QStringLiteral("a b c last first last c"));
 }
 
 void tst_TabOrderUtilsKeys::keepsArrowKeysByTheTypeOfAButton_data()

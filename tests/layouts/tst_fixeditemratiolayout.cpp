@@ -55,6 +55,7 @@ private Q_SLOTS:
     void doesNotCentreAPartialRowWhereRowsStayEmpty();
     void passesOverHiddenItems();
     void passesOverHiddenWidgets();
+    void passesOverAnItemThatIsMissing();
     void leavesItsDataAloneWithoutVisibleItems();
     void keepsTheDataOfTheLastAppliedPass();
     void answersForASizeWithoutStoringIt();
@@ -239,6 +240,15 @@ void tst_FixedItemRatioLayout::passesOverHiddenWidgets()
     hidden->hide();
     layout.setGeometry(QRect(0, 0, 200, 100));
     QCOMPARE(Blocks::text(layout), QStringLiteral("1,2 3x4 | 0,0 100x100 | 100,0 100x100"));
+}
+
+void tst_FixedItemRatioLayout::passesOverAnItemThatIsMissing()
+{
+    const auto layout = make(2, squares());
+    layout->addItem(nullptr);
+    layout->setGeometry(QRect(0, 0, 200, 100));
+    QCOMPARE(Blocks::text(layout->itemAt(1)->geometry()), QStringLiteral("100,0 100x100"));
+    QCOMPARE(text(layout->getCalculatedItemData()), QStringLiteral("100x100, 1x2"));
 }
 
 void tst_FixedItemRatioLayout::leavesItsDataAloneWithoutVisibleItems()
