@@ -51,6 +51,7 @@ private Q_SLOTS:
     void scrollsByItsHeightForWidth();
     void exchangesMarginsOnTheScreen();
     void fillsTheWindowWithTiles();
+    void tellsItemsTheirPlaceEvenWhereItIsTheSame();
 };
 
 void tst_LayoutsInWindows::laysOutWhatIsShown()
@@ -156,6 +157,17 @@ void tst_LayoutsInWindows::fillsTheWindowWithTiles()
     window.layout.widgetAt(1)->hide();
     QTRY_COMPARE(window.layout.widgetAt(2)->geometry(), QRect(150, 0, 100, 100));
     QCOMPARE(window.layout.getCalculatedItemData().columns, 2);
+}
+
+void tst_LayoutsInWindows::tellsItemsTheirPlaceEvenWhereItIsTheSame()
+{
+    Window<FixedItemRatioLayoutNotSupportScroll> window;
+    window.layout.setItemData({ 1.0F, 0, 0, 0 });
+    window.resize(300, 100);
+    QTRY_COMPARE(window.layout.widgetAt(1)->geometry(), QRect(100, 0, 100, 100));
+    // The item stays where it was, but its widget wants less of it now.
+    window.layout.setAlignment(window.layout.widgetAt(1), Qt::AlignCenter);
+    QTRY_COMPARE(window.layout.widgetAt(1)->geometry(), QRect(130, 45, 40, 10));
 }
 
 QTEST_MAIN(tst_LayoutsInWindows)
