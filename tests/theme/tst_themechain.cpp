@@ -57,6 +57,10 @@ private Q_SLOTS:
     void takesTheWindowsTypeWhenItsParentAgreesWithIt();
     void readsAPropertyOfThatNameOnAnyParent_data() { addThemedClasses(); }
     void readsAPropertyOfThatNameOnAnyParent();
+    void takesTheWindowsTypeUnderAParentWithoutOne_data() { addThemedClasses(); }
+    void takesTheWindowsTypeUnderAParentWithoutOne();
+    void keepsItsTypeWhereNoneIsAboveIt_data() { addThemedClasses(); }
+    void keepsItsTypeWhereNoneIsAboveIt();
 
     void ripplesDownOneGenerationAtATime();
     void consultsOnlyTheWidgetAndItsWindow();
@@ -189,6 +193,28 @@ void tst_ThemeChain::readsAPropertyOfThatNameOnAnyParent()
     window.setProperty("themeType", QStringLiteral("dark"));
     const auto widget = themed.make(nullptr);
     widget->setParent(&window);
+    QCOMPARE(storedType(*widget), QStringLiteral("dark"));
+}
+
+void tst_ThemeChain::takesTheWindowsTypeUnderAParentWithoutOne()
+{
+    FETCH_THEMED_CLASS;
+    OxaWidget window;
+    window.setThemeType(QStringLiteral("dark"));
+    QWidget parent(&window);
+    const auto widget = themed.make(nullptr);
+    widget->setParent(&parent);
+    QCOMPARE(storedType(*widget), QStringLiteral("dark"));
+}
+
+void tst_ThemeChain::keepsItsTypeWhereNoneIsAboveIt()
+{
+    FETCH_THEMED_CLASS;
+    QWidget window;
+    QWidget parent(&window);
+    const auto widget = themed.make(nullptr);
+    widget->setProperty("themeType", QStringLiteral("dark"));
+    widget->setParent(&parent);
     QCOMPARE(storedType(*widget), QStringLiteral("dark"));
 }
 
