@@ -55,7 +55,8 @@ AppThemeType OxaThemeUtils::getThemeTypeOfWidget(const QWidget *widget)
     if (!widget)
         return AppThemeType::Global;
     const AppThemeType own = ownThemeType(widget);
-    return own != AppThemeType::Global ? own : ownThemeType(widget->window());
+    const QWidget *window = widget->window();
+    return own != AppThemeType::Global || window == widget ? own : ownThemeType(window);
 }
 
 OxaThemeUtils::CSSParserResult OxaThemeUtils::parseCSS(QWidget *widget, const QString &styleText,
