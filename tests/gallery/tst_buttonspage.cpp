@@ -17,6 +17,8 @@
 #include <widgets/CodeEdit.h>
 #include <widgets/Slider.h>
 
+Q_DECLARE_METATYPE(QStyle::State)
+
 namespace {
 
 using Controls::choose;
@@ -263,8 +265,6 @@ void tst_ButtonsPage::leavesTheToolTipToTheApplication()
     QCOMPARE(toolTip->text(), QStringLiteral("Unmute"));
     QCOMPARE(Controls::called<OxaLabel>(card, "Name")->text(), QStringLiteral("Unmute"));
 }
-
-Q_DECLARE_METATYPE(QStyle::State)
 
 GALLERY_TEST_MAIN(tst_ButtonsPage)
 #include "tst_buttonspage.moc"

@@ -7,6 +7,8 @@
 
 #include <ColorDocuments.h>
 
+Q_DECLARE_METATYPE(OxaColorSetMap)
+
 namespace {
 
 constexpr qreal wantedContrast = 4.5;
@@ -48,7 +50,8 @@ qreal luminance(const QColor &color)
 
 qreal contrast(const QColor &a, const QColor &b)
 {
-    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
+    // A list, since minmax() of two temporaries would return references to them.
+    const auto [darker, lighter] = std::minmax({ luminance(a), luminance(b) });
     return (lighter + 0.05) / (darker + 0.05);
 }
 
@@ -127,8 +130,6 @@ void tst_Contrast::reachesTheContrastOfEachAppearance()
         lines += shortfalls(sets, pair.toObject(), wanted);
     QCOMPARE(lines.join(QLatin1Char('\n')), QString());
 }
-
-Q_DECLARE_METATYPE(OxaColorSetMap)
 
 GALLERY_TEST_MAIN(tst_Contrast)
 #include "tst_contrast.moc"

@@ -4,6 +4,7 @@
 #include <UiElements/widgets/OxaLabel.h>
 
 #include <QDir>
+#include <QToolButton>
 
 #include <pages/icons/IconDetails.h>
 #include <pages/icons/IconMatrix.h>
@@ -171,11 +172,15 @@ void tst_IconsPage::tellsWhenNothingMatches()
     const Pane pane;
     auto *search = pane.page.findChild<LineEdit *>();
     search->setText(QStringLiteral("zebra"));
+    const auto *clearButton = search->findChild<QToolButton *>();
+    QTRY_COMPARE(clearButton->property("opacity").toReal(), 1.0);
     QTRY_VERIFY(pane.tells("Nothing matches “zebra”"));
     QVERIFY(!pane.table().isVisible());
     pane.press("Clear the search");
     QVERIFY(search->text().isEmpty());
     QVERIFY(pane.table().isVisible());
+    // Nobody but itself owns the button's fading while it runs.
+    QTRY_COMPARE(clearButton->property("opacity").toReal(), 0.0);
 }
 
 void tst_IconsPage::offersToLookAgainForAnIconPack()

@@ -18,6 +18,8 @@
 #include <widgets/EmptyState.h>
 #include <widgets/LineEdit.h>
 
+Q_DECLARE_METATYPE(QMetaMethod)
+
 namespace {
 
 /// What a watcher hears of the hub, as lines.
@@ -350,8 +352,6 @@ void tst_SignalsPage::recountsWhileItIsShown()
     receiver.connectTo(OxaAppSignals::get(), signal);
     QVERIFY(!spy.wait(700));
 }
-
-Q_DECLARE_METATYPE(QMetaMethod)
 
 GALLERY_TEST_MAIN(tst_SignalsPage)
 #include "tst_signalspage.moc"
