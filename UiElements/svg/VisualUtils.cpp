@@ -56,7 +56,9 @@ bool EventFilter::eventFilter(QObject *watched, QEvent *event)
         watched->removeEventFilter(this);
         deleteLater();
     }
-    return m_handler(event);
+    // The handler may delete the filter, and must not go with it while it runs.
+    const Handler handler = m_handler;
+    return handler(event);
 }
 
 bool EventFilter::isHandled(const QObject *watched, const QEvent *event) const

@@ -81,6 +81,8 @@ private Q_SLOTS:
     void goesWithItsTarget();
     void staysAfterItsFirstUse();
     void goesAfterItsFirstUseWhenAsked();
+    void isGoneFromTheTargetBeforeTheHandlerOfItsOnlyUse();
+    void keepsAHandlerThatDeletesTheFilterToItsEnd();
 
     void acceptsWhatAltGrTypes_data();
     void acceptsWhatAltGrTypes();
@@ -203,6 +205,38 @@ void tst_VisualUtils::goesAfterItsFirstUseWhenAsked()
     QCOMPARE(handled.types.size(), 1);
     QVERIFY(filter);
     QTRY_VERIFY(!filter);
+}
+
+void tst_VisualUtils::isGoneFromTheTargetBeforeTheHandlerOfItsOnlyUse()
+{
+    Target target;
+    int uses = 0;
+    EventFilter filter(&target, { QEvent::Enter }, [&](QEvent *) {
+        if (++uses < 3)
+            send(&target, QEvent::Enter);
+        return true;
+    });
+    filter.setRemoveAfterFirstUse(true);
+    target.reached.clear();
+    send(&target, QEvent::Enter);
+    QCOMPARE(uses, 1);
+    QCOMPARE(target.reached, QList<QEvent::Type>({ QEvent::Enter }));
+}
+
+void tst_VisualUtils::keepsAHandlerThatDeletesTheFilterToItsEnd()
+{
+    Target target;
+    QPointer<EventFilter> filter;
+    const QString captured = QStringLiteral("what the handler captured");
+    QString seen;
+    filter = new EventFilter(&target, { QEvent::Enter }, [&filter, &seen, captured](QEvent *) {
+        delete filter;
+        seen = captured;
+        return false;
+    });
+    send(&target, QEvent::Enter);
+    QVERIFY(!filter);
+    QCOMPARE(seen, captured);
 }
 
 void tst_VisualUtils::acceptsWhatAltGrTypes_data()
