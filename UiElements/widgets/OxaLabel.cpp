@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QTextDocument>
 
 namespace {
@@ -139,9 +140,9 @@ const OxaColorSet &OxaLabel::textColors() const { return m_colorSets.text; }
 void OxaLabel::mouseReleaseEvent(QMouseEvent *event)
 {
     if (isInteractive() && !hasSelectedText()) {
-        if (event->button() == Qt::LeftButton)
-            Q_EMIT clicked();
-        else if (event->button() == Qt::RightButton && !text().isEmpty())
+        if (event->button() == Qt::LeftButton && !survivesClick())
+            return;
+        if (event->button() == Qt::RightButton && !text().isEmpty())
             selectAllText();
     }
     QLabel::mouseReleaseEvent(event);
@@ -150,8 +151,9 @@ void OxaLabel::mouseReleaseEvent(QMouseEvent *event)
 void OxaLabel::keyPressEvent(QKeyEvent *event)
 {
     const int key = event->key();
-    if (isInteractive() && (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter))
-        Q_EMIT clicked();
+    const bool isClick = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (isClick && isInteractive() && !survivesClick())
+        return;
     QLabel::keyPressEvent(event);
 }
 
@@ -182,6 +184,14 @@ void OxaLabel::onLayoutDirectionChanged()
 }
 
 bool OxaLabel::isInteractive() const { return textInteractionFlags() != Qt::NoTextInteraction; }
+
+/// Emits clicked() and returns whether the label is still there: a slot may delete it.
+bool OxaLabel::survivesClick()
+{
+    const QPointer<OxaLabel> self(this);
+    Q_EMIT clicked();
+    return !self.isNull();
+}
 
 /// Selects what the label shows, which for rich text is shorter than text().
 void OxaLabel::selectAllText()

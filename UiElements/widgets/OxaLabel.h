@@ -103,7 +103,7 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// The label was clicked with the left button, or Space, Return or Enter was pressed on it.
     /// Does not fire for a label without text interaction, nor for the mouse while text is
-    /// selected.
+    /// selected. A slot may delete the label.
     void clicked();
 
     /// The label was shown or hidden.
@@ -124,6 +124,7 @@ private Q_SLOTS:
 
 private:
     bool isInteractive() const;
+    bool survivesClick();
     void selectAllText();
     void paintText(QPainter &painter, const QStyleOptionFrame &option) const;
     void paintElidedLine(QPainter &painter) const;

@@ -6,6 +6,7 @@
 
 #include <UiElements/widgets/OxaLabel.h>
 
+#include <QPointer>
 #include <QSignalSpy>
 
 namespace {
@@ -59,6 +60,8 @@ private Q_SLOTS:
     void tellsOfTheClickBeforeItsLinkIsFollowed();
     void tellsOfTheClickBeforeItsLinkIsFollowedByKey();
     void leavesKeysToQtAllTheSame();
+    void mayBeDeletedWhenItIsClicked_data();
+    void mayBeDeletedWhenItIsClicked();
 
     void selectsAllTextByTheRightButton_data();
     void selectsAllTextByTheRightButton();
@@ -207,6 +210,26 @@ void tst_OxaLabelClicks::leavesKeysToQtAllTheSame()
     label.setTextInteractionFlags(Qt::TextSelectableByKeyboard);
     QTest::keyClick(&label, Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(label.selectedText(), QStringLiteral("some text"));
+}
+
+void tst_OxaLabelClicks::mayBeDeletedWhenItIsClicked_data()
+{
+    QTest::addColumn<bool>("byKey");
+    QTest::newRow("by the mouse") << false;
+    QTest::newRow("by a key") << true;
+}
+
+void tst_OxaLabelClicks::mayBeDeletedWhenItIsClicked()
+{
+    QFETCH(const bool, byKey);
+    QPointer<OxaLabel> label = new OxaLabel(QStringLiteral("text"));
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    connect(label.data(), &OxaLabel::clicked, this, [&label] { delete label; });
+    if (byKey)
+        deliver(*label, QEvent::KeyPress, Qt::Key_Return);
+    else
+        QTest::mouseRelease(label, Qt::LeftButton);
+    QVERIFY(!label);
 }
 
 void tst_OxaLabelClicks::selectsAllTextByTheRightButton_data()
