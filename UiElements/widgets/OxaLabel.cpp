@@ -131,8 +131,12 @@ void OxaLabel::setText(const QString &text)
 void OxaLabel::onThemeChanged()
 {
     m_linkColors = OxaThemeUtils::getColorSet("button-hyperlink-text", getThemeType());
-    if (textFormat() == Qt::RichText)
-        setText(m_rawText);
+    if (textFormat() != Qt::RichText)
+        return;
+    // QLabel keeps the selection of a text that is the same, and of others until it lays them out.
+    if (hasSelectedText())
+        setSelection(0, 0);
+    setText(m_rawText);
 }
 
 const OxaColorSet &OxaLabel::textColors() const { return m_colorSets.text; }

@@ -97,7 +97,8 @@ public:
 
 public Q_SLOTS:
     /// Sets the text. Rich text with links gets a style element in the colours of the set
-    /// "button-hyperlink-text", so that text() returns more than was set.
+    /// "button-hyperlink-text", so that text() returns more than was set. Rich text is set again at
+    /// each change of the theme type, and loses its selection then.
     virtual void setText(const QString &text);
 
 Q_SIGNALS:

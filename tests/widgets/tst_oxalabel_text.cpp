@@ -62,7 +62,8 @@ private Q_SLOTS:
     void takesTheColorsOfItsWindowsThemeType();
     void setsTheTextAgainForRichTextOnly_data();
     void setsTheTextAgainForRichTextOnly();
-    void losesTheSelectionInLinkedTextWhenItsColorsChange();
+    void losesTheSelectionInRichTextWhenTheThemeTypeChanges_data();
+    void losesTheSelectionInRichTextWhenTheThemeTypeChanges();
     void warnsAndTakesBlackForLinksWithoutTheirSet();
 
 private:
@@ -216,22 +217,39 @@ void tst_OxaLabelText::setsTheTextAgainForRichTextOnly()
     QTEST(label.texts, "texts");
 }
 
-void tst_OxaLabelText::losesTheSelectionInLinkedTextWhenItsColorsChange()
+void tst_OxaLabelText::losesTheSelectionInRichTextWhenTheThemeTypeChanges_data()
 {
-    OxaLabel linked;
-    OxaLabel plain;
-    for (OxaLabel *label : { &linked, &plain }) {
-        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        label->setTextFormat(label == &linked ? Qt::RichText : Qt::PlainText);
-        label->setText(link);
-        label->setSelection(0, 4);
-        QCOMPARE(label->selectedText(), QStringLiteral("Read"));
-        label->setThemeType(QStringLiteral("inverted"));
-    }
-    // QLabel takes a text to heart only when it has to lay it out.
-    linked.sizeHint();
-    QVERIFY(!linked.hasSelectedText());
-    QCOMPARE(plain.selectedText(), QStringLiteral("Read"));
+    QTest::addColumn<Qt::TextFormat>("format");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("themeType");
+    QTest::addColumn<QString>("selected");
+    const QString bold = QStringLiteral("Read <b>it</b>.");
+    const QString inverted = QStringLiteral("inverted");
+    QTest::newRow("links in other colours") << Qt::RichText << link << inverted << QString();
+    QTest::newRow("links in the same colours")
+            << Qt::RichText << link << QStringLiteral("light") << QString();
+    QTest::newRow("no links") << Qt::RichText << bold << inverted << QString();
+    QTest::newRow("plain text keeps it")
+            << Qt::PlainText << link << inverted << QStringLiteral("Read");
+    QTest::newRow("text of either format keeps it")
+            << Qt::AutoText << bold << inverted << QStringLiteral("Read");
+}
+
+void tst_OxaLabelText::losesTheSelectionInRichTextWhenTheThemeTypeChanges()
+{
+    QFETCH(const Qt::TextFormat, format);
+    QFETCH(const QString, text);
+    QFETCH(const QString, themeType);
+    OxaLabel label;
+    label.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    label.setTextFormat(format);
+    label.setText(text);
+    label.setSelection(0, 4);
+    QCOMPARE(label.selectedText(), QStringLiteral("Read"));
+    label.setThemeType(themeType);
+    QTEST(label.selectedText(), "selected");
+    label.sizeHint();
+    QTEST(label.selectedText(), "selected");
 }
 
 void tst_OxaLabelText::warnsAndTakesBlackForLinksWithoutTheirSet()
