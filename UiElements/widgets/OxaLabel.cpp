@@ -48,7 +48,7 @@ void OxaLabel::setTextFormat(Qt::TextFormat format)
 {
     const bool changes = format != textFormat();
     QLabel::setTextFormat(format);
-    if (changes && !m_rawText.isEmpty())
+    if (changes && !m_rawText.isEmpty() && showsItsText())
         setText(m_rawText);
 }
 
@@ -125,13 +125,14 @@ void OxaLabel::setText(const QString &text)
 {
     m_rawText = text;
     const bool hasLinks = textFormat() == Qt::RichText && text.contains(QLatin1String("<a"));
-    QLabel::setText(hasLinks ? withLinkColors(text, m_linkColors) : text);
+    m_shownText = hasLinks ? withLinkColors(text, m_linkColors) : text;
+    QLabel::setText(m_shownText);
 }
 
 void OxaLabel::onThemeChanged()
 {
     m_linkColors = OxaThemeUtils::getColorSet("button-hyperlink-text", getThemeType());
-    if (textFormat() != Qt::RichText)
+    if (textFormat() != Qt::RichText || !showsItsText())
         return;
     // QLabel keeps the selection of a text that is the same, and of others until it lays them out.
     if (hasSelectedText())
@@ -188,6 +189,10 @@ void OxaLabel::onLayoutDirectionChanged()
 }
 
 bool OxaLabel::isInteractive() const { return textInteractionFlags() != Qt::NoTextInteraction; }
+
+/// Whether the label shows what setText() has set, and not what took its place since: a number, a
+/// picture, or nothing at all.
+bool OxaLabel::showsItsText() const { return text() == m_shownText; }
 
 /// Emits clicked() and returns whether the label is still there: a slot may delete it.
 bool OxaLabel::survivesClick()

@@ -125,6 +125,7 @@ private Q_SLOTS:
 
 private:
     bool isInteractive() const;
+    bool showsItsText() const;
     bool survivesClick();
     void selectAllText();
     void paintText(QPainter &painter, const QStyleOptionFrame &option) const;
@@ -136,6 +137,7 @@ private:
     StyleColorSets m_colorSets;
     OxaColorSet m_linkColors;
     QString m_rawText;
+    QString m_shownText;
     QString m_uniqueElementId;
     QTextOption::WrapMode m_wrapMode = QTextOption::WordWrap;
     Qt::TextElideMode m_elideMode = Qt::ElideNone;

@@ -9,6 +9,8 @@ namespace {
 
 const QString link = QStringLiteral("Read <a href=\"x\">it</a>.");
 
+using Change = std::function<void(OxaLabel &)>;
+
 /// Notes the texts that it is given.
 class NotingLabel : public OxaLabel
 {
@@ -39,6 +41,8 @@ QString withLinkColors(const char *normal, const char *focused, const char *hove
 
 } // namespace
 
+Q_DECLARE_METATYPE(Change)
+
 /// The texts of OxaLabel, and how it colours the links in them.
 class tst_OxaLabelText : public QObject
 {
@@ -64,6 +68,8 @@ private Q_SLOTS:
     void setsTheTextAgainForRichTextOnly();
     void losesTheSelectionInRichTextWhenTheThemeTypeChanges_data();
     void losesTheSelectionInRichTextWhenTheThemeTypeChanges();
+    void leavesWhatHasTakenTheTextsPlace_data();
+    void leavesWhatHasTakenTheTextsPlace();
     void warnsAndTakesBlackForLinksWithoutTheirSet();
 
 private:
@@ -250,6 +256,34 @@ void tst_OxaLabelText::losesTheSelectionInRichTextWhenTheThemeTypeChanges()
     QTEST(label.selectedText(), "selected");
     label.sizeHint();
     QTEST(label.selectedText(), "selected");
+}
+
+void tst_OxaLabelText::leavesWhatHasTakenTheTextsPlace_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::newRow("nothing") << Change([](OxaLabel &label) { label.clear(); });
+    QTest::newRow("a number") << Change([](OxaLabel &label) { label.setNum(7); });
+    QTest::newRow("a picture") << Change([](OxaLabel &label) {
+        QPixmap pixmap(3, 4);
+        pixmap.fill(Qt::red);
+        label.setPixmap(pixmap);
+    });
+}
+
+void tst_OxaLabelText::leavesWhatHasTakenTheTextsPlace()
+{
+    QFETCH(const Change, change);
+    OxaLabel label;
+    label.setTextFormat(Qt::RichText);
+    label.setText(link);
+    change(label);
+    const QString text = label.text();
+    const QSize pixmapSize = label.pixmap(Qt::ReturnByValue).size();
+    label.setThemeType(QStringLiteral("inverted"));
+    QCOMPARE(label.text(), text);
+    label.setTextFormat(Qt::PlainText);
+    QCOMPARE(label.text(), text);
+    QCOMPARE(label.pixmap(Qt::ReturnByValue).size(), pixmapSize);
 }
 
 void tst_OxaLabelText::warnsAndTakesBlackForLinksWithoutTheirSet()
