@@ -127,6 +127,9 @@ void OxaLabel::setText(const QString &text)
     const bool hasLinks = textFormat() == Qt::RichText && text.contains(QLatin1String("<a"));
     m_shownText = hasLinks ? withLinkColors(text, m_linkColors) : text;
     QLabel::setText(m_shownText);
+    // QLabel leaves its margins out, into which an elided text reaches.
+    if (m_elideMode != Qt::ElideNone)
+        update();
 }
 
 void OxaLabel::onThemeChanged()

@@ -2,11 +2,13 @@
 #include "support/ColorSets.h"
 #include "support/Guards.h"
 #include "support/PaintCounter.h"
+#include "support/Pixels.h"
 #include "support/TestApplication.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
 #include <QMetaMethod>
+#include <QScreen>
 #include <QSignalSpy>
 
 namespace {
@@ -23,6 +25,11 @@ QPixmap shape()
         image.setPixelColor(1, y, QColor(0, 255, 0, 128));
     }
     return QPixmap::fromImage(image);
+}
+
+QImage onScreen(const OxaLabel &label)
+{
+    return label.screen()->grabWindow(label.winId()).toImage();
 }
 
 QMetaMethod methodOf(const char *signature)
@@ -53,8 +60,11 @@ private Q_SLOTS:
     void repaintsWhenItsTextIsMadeSelectable_data();
     void repaintsWhenItsTextIsMadeSelectable();
     void doesNotRepaintForWhatItDoesNotPaintWith();
+    void repaintsItsMarginsTooForAnotherText_data();
+    void repaintsItsMarginsTooForAnotherText();
 
     void recolorsItsPixmapKeepingTheShape();
+    void recolorsAPixmapOfTwoPixelsForOne();
     void recolorsNothingWithoutAPixmap();
 
     void tellsWhenItIsShownAndHidden();
@@ -208,6 +218,39 @@ void tst_OxaLabel::doesNotRepaintForWhatItDoesNotPaintWith()
     QCOMPARE(paints.take(), 0);
 }
 
+void tst_OxaLabel::repaintsItsMarginsTooForAnotherText_data()
+{
+    QTest::addColumn<Qt::TextElideMode>("mode");
+    QTest::addColumn<bool>("wrap");
+    QTest::newRow("as QLabel does") << Qt::ElideNone << false;
+    QTest::newRow("in one line") << Qt::ElideRight << false;
+    QTest::newRow("in wrapped lines") << Qt::ElideRight << true;
+}
+
+void tst_OxaLabel::repaintsItsMarginsTooForAnotherText()
+{
+    QFETCH(const Qt::TextElideMode, mode);
+    QFETCH(const bool, wrap);
+    OxaLabel label;
+    label.setElideMode(mode);
+    label.setWordWrap(wrap);
+    // What elides paints into these, what QLabel paints does not.
+    label.setContentsMargins(20, 2, 20, 2);
+    label.resize(200, 60);
+    PaintCounter paints(label);
+    const QImage empty = onScreen(label);
+    label.setText(QStringLiteral("A text that is much longer than its label is wide"));
+    paints.take();
+    const QImage written = onScreen(label);
+    QVERIFY(written != empty);
+    label.update();
+    paints.take();
+    QCOMPARE(written, onScreen(label));
+    label.setText(QString());
+    paints.take();
+    QCOMPARE(onScreen(label), empty);
+}
+
 void tst_OxaLabel::recolorsItsPixmapKeepingTheShape()
 {
     OxaLabel label;
@@ -220,6 +263,20 @@ void tst_OxaLabel::recolorsItsPixmapKeepingTheShape()
         QCOMPARE(image.pixelColor(1, y), QColor(0, 0, 255, 128));
         QCOMPARE(image.pixelColor(2, y).alpha(), 0);
     }
+}
+
+void tst_OxaLabel::recolorsAPixmapOfTwoPixelsForOne()
+{
+    QPixmap pixmap(6, 4);
+    pixmap.fill(Qt::red);
+    pixmap.setDevicePixelRatio(2.0);
+    OxaLabel label;
+    label.setPixmap(pixmap);
+    label.setPixmapColor(Qt::blue);
+    const QPixmap recolored = label.pixmap(Qt::ReturnByValue);
+    QCOMPARE(recolored.devicePixelRatio(), 2.0);
+    QCOMPARE(recolored.size(), QSize(6, 4));
+    QCOMPARE(Pixels::countNear(recolored.toImage(), Qt::blue, QRect(), 0), 6 * 4);
 }
 
 void tst_OxaLabel::recolorsNothingWithoutAPixmap()
