@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QStyleOptionFocusRect>
 #include <QTextDocument>
@@ -172,19 +173,23 @@ void OxaEmojiLabel::showState()
 
 void OxaEmojiLabel::mouseReleaseEvent(QMouseEvent *event)
 {
+    const QPointer<OxaEmojiLabel> self(this); // A slot may delete the label.
     if (event->button() == Qt::LeftButton && textInteractionFlags() != Qt::NoTextInteraction
         && !hasSelectedText())
         Q_EMIT clicked();
-    OxaLabel::mouseReleaseEvent(event);
+    if (self)
+        OxaLabel::mouseReleaseEvent(event);
 }
 
 void OxaEmojiLabel::keyPressEvent(QKeyEvent *event)
 {
+    const QPointer<OxaEmojiLabel> self(this); // A slot may delete the label.
     const int key = event->key();
     if (textInteractionFlags() != Qt::NoTextInteraction
         && (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter))
         Q_EMIT clicked();
-    OxaLabel::keyPressEvent(event);
+    if (self)
+        OxaLabel::keyPressEvent(event);
 }
 
 void OxaEmojiLabel::paintEvent(QPaintEvent *)

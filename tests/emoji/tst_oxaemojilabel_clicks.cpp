@@ -5,6 +5,7 @@
 #include <UiElements/emoji/OxaEmojiPushButton.h>
 
 #include <QKeyEvent>
+#include <QPointer>
 #include <QSignalSpy>
 
 namespace {
@@ -41,6 +42,8 @@ private Q_SLOTS:
     void labelIsNotClickedByTheMouseWhileTextIsSelected();
     void labelIsClickedByNothingElse();
     void labelPassesKeysOn();
+    void labelMayBeDeletedWhenItIsClicked_data();
+    void labelMayBeDeletedWhenItIsClicked();
     void buttonIsClickedWithoutInteraction_data();
     void buttonIsClickedWithoutInteraction();
     void buttonIsClickedByNothingElse();
@@ -113,6 +116,25 @@ void tst_OxaEmojiLabelClicks::labelPassesKeysOn()
     press(label, Qt::Key_A);
     press(label, Qt::Key_Space);
     QCOMPARE(parent.keys, 2);
+}
+
+void tst_OxaEmojiLabelClicks::labelMayBeDeletedWhenItIsClicked_data()
+{
+    QTest::addColumn<bool>("byKey");
+    QTest::newRow("by the mouse") << false;
+    QTest::newRow("by a key") << true;
+}
+
+void tst_OxaEmojiLabelClicks::labelMayBeDeletedWhenItIsClicked()
+{
+    QFETCH(const bool, byKey);
+    QPointer<OxaEmojiLabel> label = new OxaEmojiLabel(QStringLiteral("text"));
+    connect(label.data(), &OxaEmojiLabel::clicked, this, [&label] { delete label; });
+    if (byKey)
+        press(*label, Qt::Key_Return);
+    else
+        QTest::mouseRelease(label, Qt::LeftButton);
+    QVERIFY(!label);
 }
 
 void tst_OxaEmojiLabelClicks::buttonIsClickedWithoutInteraction_data()
