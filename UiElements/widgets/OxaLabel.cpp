@@ -148,7 +148,7 @@ const OxaColorSet &OxaLabel::textColors() const { return m_colorSets.text; }
 void OxaLabel::mouseReleaseEvent(QMouseEvent *event)
 {
     if (isInteractive() && !hasSelectedText()) {
-        if (event->button() == Qt::LeftButton && !survivesClick())
+        if (event->button() == Qt::LeftButton && !emitClicked())
             return;
         if (event->button() == Qt::RightButton && !text().isEmpty())
             selectAllText();
@@ -160,7 +160,7 @@ void OxaLabel::keyPressEvent(QKeyEvent *event)
 {
     const int key = event->key();
     const bool isClick = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (isClick && isInteractive() && !survivesClick())
+    if (isClick && isInteractive() && !emitClicked())
         return;
     QLabel::keyPressEvent(event);
 }
@@ -198,7 +198,7 @@ bool OxaLabel::isInteractive() const { return textInteractionFlags() != Qt::NoTe
 bool OxaLabel::showsItsText() const { return text() == m_shownText; }
 
 /// Emits clicked() and returns whether the label is still there: a slot may delete it.
-bool OxaLabel::survivesClick()
+bool OxaLabel::emitClicked()
 {
     const QPointer<OxaLabel> self(this);
     Q_EMIT clicked();

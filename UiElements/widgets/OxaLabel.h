@@ -126,7 +126,7 @@ private Q_SLOTS:
 private:
     bool isInteractive() const;
     bool showsItsText() const;
-    bool survivesClick();
+    bool emitClicked();
     void selectAllText();
     void paintText(QPainter &painter, const QStyleOptionFrame &option) const;
     void paintElidedLine(QPainter &painter) const;
