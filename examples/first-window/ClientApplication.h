@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/app/OxaApplication.h>
+
+/// The application object of the client: it reads the colour documents and switches between them.
+class ClientApplication : public OxaApplication
+{
+    Q_OBJECT
+
+public:
+    ClientApplication(int &argc, char **argv);
+
+    /// Shows all windows in the dark colours, or in the light ones.
+    void setDark(bool dark);
+
+    // What the library may ask of its client. This one has no QML, and nothing to start anew.
+    void onQmlEngineCreated(OxaQmlEngine *) override { }
+    void restart() override { }
+    void registerMainWindowShortcuts(OxaMainWindow *) override { }
+
+private:
+    OxaColorSetMap m_light;
+    OxaColorSetMap m_dark;
+};

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "FirstWindow.h"
+
+#include "PeopleModel.h"
+
+#include <UiElements/app/OxaAppSignals.h>
+#include <UiElements/emoji/OxaEmojiLabel.h>
+#include <UiElements/layouts/SmartLayout.h>
+#include <UiElements/svg/OxaSvgPushButton.h>
+#include <UiElements/svg/OxaSvgRenderer.h>
+
+#include <QGuiApplication>
+#include <QListView>
+#include <QVBoxLayout>
+
+FirstWindow::FirstWindow(QWidget *parent) : OxaWidget(parent)
+{
+    setObjectName(QStringLiteral("firstWindow"));
+    setCSS(QStringLiteral("$backgroundColors: window-background;"
+                          "QListView { background: $(panel); color: $(text-primary); border: none; "
+                          "padding: 4px; }"));
+
+    auto *list = makeList();
+    auto *column = new QVBoxLayout(this);
+    column->addWidget(makeHeading());
+    column->addWidget(makeGreeting());
+    column->addWidget(list);
+    column->addLayout(makeButtons());
+    connectShortcuts(list);
+}
+
+QWidget *FirstWindow::makeHeading()
+{
+    auto *heading = new OxaLabel(tr("Good morning"), this);
+    heading->setFontToken(OxaFont::Token::Title);
+    heading->setCSS(QStringLiteral("$textColors: text-primary;"));
+    return heading;
+}
+
+QWidget *FirstWindow::makeGreeting()
+{
+    auto *greeting = new OxaEmojiLabel(this);
+    greeting->setCSS(QStringLiteral("$backgroundColors: panel; $textColors: text-primary; "
+                                    "$borderRadius: 6;"));
+    greeting->setTextLeftPadding(8);
+    greeting->setTextRightPadding(8);
+    greeting->setMinimumHeight(40);
+    greeting->setText(tr("Ada waves at you \xF0\x9F\x91\x8B"));
+    return greeting;
+}
+
+QListView *FirstWindow::makeList()
+{
+    auto *people = new PeopleModel(this);
+    people->appendRows({ { "ada", { { PeopleModel::NameRole, QStringLiteral("Ada") } } },
+                         { "grace", { { PeopleModel::NameRole, QStringLiteral("Grace") } } } });
+    auto *list = new QListView(this);
+    list->setModel(people);
+    return list;
+}
+
+QLayout *FirstWindow::makeButtons()
+{
+    const auto makeButton = [this](const QString &text) {
+        auto *button = new OxaSvgPushButton(text, this);
+        button->setSvgIcon(OxaSvgRenderer::resourcePath(QStringLiteral("bell")));
+        button->setSvgIconPadding(QMargins(12, 0, 8, 0));
+        button->setTextRightPadding(12);
+        button->setCSS(QStringLiteral("$backgroundColors: action-button; $textColors: action-text; "
+                                      "$borderRadius: 4;"));
+        button->setCheckable(true);
+        return button;
+    };
+    auto *dark = makeButton(tr("Dark"));
+    connect(dark, &OxaSvgPushButton::toggled, this, &FirstWindow::darkChosen);
+    auto *rightToLeft = makeButton(tr("Right to left"));
+    connect(rightToLeft, &OxaSvgPushButton::toggled, this, [](bool on) {
+        QGuiApplication::setLayoutDirection(on ? Qt::RightToLeft : Qt::LeftToRight);
+    });
+
+    auto *buttons = new SmartLayout(nullptr, QMargins(), 8, 8, Qt::AlignCenter, -1, false);
+    buttons->addWidget(dark);
+    buttons->addWidget(rightToLeft);
+    return buttons;
+}
+
+void FirstWindow::connectShortcuts(QListView *list)
+{
+    OxaAppSignals *hub = OxaAppSignals::get();
+    hub->registerShortcuts(this, OxaShortcut::All);
+    connect(hub, &OxaAppSignals::openGlobalSearch, list,
+            [list] { list->setFocus(Qt::ShortcutFocusReason); });
+}
