@@ -46,6 +46,16 @@ private:
     QString m_sheet;
 };
 
+/// Gives \a label the sheet of \a styleText, and returns the sheet.
+QString applyTo(QLabel &label, const QString &styleText)
+{
+    const OxaColorSetMap sets = ColorSets::storeOf({ OxaColorSet(QStringLiteral("panel"), panel) });
+    const QString sheet = OxaThemeUtils::parseCSS(&label, styleText, sets).expandedStyleSheet;
+    label.setStyleSheet(sheet);
+    label.ensurePolished();
+    return sheet;
+}
+
 void expectAnUnknownReference()
 {
     QTest::ignoreMessage(QtWarningMsg,
@@ -54,6 +64,16 @@ void expectAnUnknownReference()
 }
 
 } // namespace
+
+namespace outer {
+
+/// A class whose name no selector can bear.
+class InnerLabel : public QLabel
+{
+    Q_OBJECT
+};
+
+} // namespace outer
 
 /// What a user sees of a style text with something in it that could not be expanded. The text costs
 /// rules, never a widget; which rules, and whether Qt tells, depends on where the rest stands.
@@ -71,6 +91,13 @@ private Q_SLOTS:
     void losesTheRulesAfterADirectiveThatStaysSilently();
     void keepsTheRulesBeforeADirectiveThatStaysSilently_data();
     void keepsTheRulesBeforeADirectiveThatStaysSilently();
+    void losesDeclarationsWithoutARuleAndWhatFollows_data();
+    void losesDeclarationsWithoutARuleAndWhatFollows();
+    void losesDeclarationsWithoutARuleSilentlyUnderAClass();
+    void keepsDeclarationsInARule();
+    void matchesNothingByANameThatNoSelectorCanBear_data();
+    void matchesNothingByANameThatNoSelectorCanBear();
+    void matchesNothingByAClassInANamespace();
 };
 
 void tst_StyleSheetShapes::showsAWholeSheet()
@@ -157,6 +184,70 @@ void tst_StyleSheetShapes::keepsTheRulesBeforeADirectiveThatStaysSilently()
     StyledLabel label(text);
     QVERIFY(label.sheet().contains(QLatin1String("$textColors:")));
     QVERIFY(label.showsThePanel());
+}
+
+void tst_StyleSheetShapes::losesDeclarationsWithoutARuleAndWhatFollows_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("keepsThePanel");
+    QTest::newRow("behind the rules") << "$backgroundColors: panel; color: red;" << true;
+    QTest::newRow("between rules")
+            << "$backgroundColors: panel; color: red; #bar{margin:4px;}" << true;
+    QTest::newRow("before the rules") << "color: red; $backgroundColors: panel;" << false;
+}
+
+void tst_StyleSheetShapes::losesDeclarationsWithoutARuleAndWhatFollows()
+{
+    QFETCH(const QString, text);
+    QFETCH(const bool, keepsThePanel);
+    StyledLabel label(text);
+    label.expectQtToRejectTheSheet();
+    QCOMPARE(label.showsThePanel(), keepsThePanel);
+    QVERIFY(label.palette().color(QPalette::WindowText) != QColor(Qt::red));
+}
+
+void tst_StyleSheetShapes::losesDeclarationsWithoutARuleSilentlyUnderAClass()
+{
+    QLabel label;
+    applyTo(label, QStringLiteral("$backgroundColors: panel; color: red;"));
+    QCOMPARE(label.palette().color(QPalette::Window), panel);
+    QVERIFY(label.palette().color(QPalette::WindowText) != QColor(Qt::red));
+}
+
+void tst_StyleSheetShapes::keepsDeclarationsInARule()
+{
+    StyledLabel label(QStringLiteral("$backgroundColors: panel; #bar { color: red; }"));
+    QVERIFY(label.showsThePanel());
+    QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::red));
+}
+
+void tst_StyleSheetShapes::matchesNothingByANameThatNoSelectorCanBear_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("matches");
+    QTest::newRow("letters and digits") << "panel2" << true;
+    QTest::newRow("a digit first") << "2panel" << true;
+    QTest::newRow("hyphen and underscore") << "the-panel_2" << true;
+    QTest::newRow("a space") << "the panel" << false;
+    QTest::newRow("a dot") << "the.panel" << false;
+}
+
+void tst_StyleSheetShapes::matchesNothingByANameThatNoSelectorCanBear()
+{
+    QFETCH(const QString, name);
+    QFETCH(const bool, matches);
+    QLabel label;
+    label.setObjectName(name);
+    applyTo(label, QStringLiteral("$backgroundColors: panel;"));
+    QCOMPARE(label.palette().color(QPalette::Window) == panel, matches);
+}
+
+void tst_StyleSheetShapes::matchesNothingByAClassInANamespace()
+{
+    outer::InnerLabel label;
+    const QString sheet = applyTo(label, QStringLiteral("$backgroundColors: panel;"));
+    QVERIFY(sheet.contains(QLatin1String("outer::InnerLabel{background-color:")));
+    QVERIFY(label.palette().color(QPalette::Window) != panel);
 }
 
 QTEST_MAIN(tst_StyleSheetShapes)
