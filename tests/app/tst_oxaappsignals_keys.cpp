@@ -3,6 +3,7 @@
 #include "ShortcutsTable.h"
 #include "support/SignalLog.h"
 
+#include <QFile>
 #include <QMetaMethod>
 #include <QTest>
 #include <QWidget>
@@ -63,8 +64,10 @@ class tst_OxaAppSignalsKeys : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void emitsTheSignalOfTheKeysAndNoOther_data();
+    void emitsTheSignalOfTheKeysAndNoOther_data() { addTable(); }
     void emitsTheSignalOfTheKeysAndNoOther();
+    void standsInTheDocumentation_data() { addTable(); }
+    void standsInTheDocumentation();
     void listensInEachWindowOfTheApplication();
     void ignoresTheKeysOfAGroupThatIsNotRegistered();
     void ignoresTheKeysOfADisabledShortcut();
@@ -73,25 +76,38 @@ private Q_SLOTS:
     void mayBeDisabledByItsOwnSignal();
     void showsTheDebugWindowForTheDevelopersKeys();
     void leavesKeysThatTwoShortcutsShareWithoutEffect();
+
+private:
+    static void addTable();
 };
 
-void tst_OxaAppSignalsKeys::emitsTheSignalOfTheKeysAndNoOther_data()
+void tst_OxaAppSignalsKeys::addTable()
 {
-    QTest::addColumn<QKeySequence>("keys");
-    QTest::addColumn<QString>("signal");
+    QTest::addColumn<const ShortcutData *>("row");
     for (const ShortcutData &row : shortcutsTable())
-        QTest::newRow(row.name) << row.keys << QString::fromLatin1(row.signal);
+        QTest::newRow(row.name) << &row;
 }
 
 void tst_OxaAppSignalsKeys::emitsTheSignalOfTheKeysAndNoOther()
 {
-    QFETCH(QKeySequence, keys);
-    QFETCH(QString, signal);
+    QFETCH(const ShortcutData *, row);
     Hub hub;
     QWidget window;
     hub.registerShortcuts(&window, OxaShortcut::All);
     QVERIFY(activate(window));
-    QCOMPARE(hub.emittedFor(window, keys), signal);
+    QCOMPARE(hub.emittedFor(window, row->keys), QString::fromLatin1(row->signal));
+}
+
+void tst_OxaAppSignalsKeys::standsInTheDocumentation()
+{
+    QFETCH(const ShortcutData *, row);
+    QFile page(QStringLiteral(SHORTCUTS_PAGE));
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const QString line = QStringLiteral("\n| %1 | %2 | `%3` | `%4` |\n")
+                                 .arg(row->keys.toString(QKeySequence::PortableText),
+                                      QLatin1String(row->description), QLatin1String(row->name),
+                                      QLatin1String(row->signal));
+    QVERIFY2(QString::fromUtf8(page.readAll()).contains(line), qPrintable(line));
 }
 
 void tst_OxaAppSignalsKeys::listensInEachWindowOfTheApplication()
