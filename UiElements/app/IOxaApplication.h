@@ -23,13 +23,14 @@ public:
     IOxaApplication(int &argc, char **argv);
     ~IOxaApplication() override;
 
-    /// Returns where animated images are fetched from.
+    /// Returns where animated images are fetched from. Null in this version.
     virtual IOxaMovieProviderSource *getMovieProviderSource() = 0;
 
-    /// Called once for each new QML engine, for the outer application to set \a engine up.
+    /// Called once for each new QML engine, for the outer application to set \a engine up. There is
+    /// no engine in this version, and so no call.
     virtual void onQmlEngineCreated(OxaQmlEngine *engine) = 0;
 
-    /// Returns the QML engine, or null as long as there is none.
+    /// Returns the QML engine, or null as long as there is none, as always in this version.
     OxaQmlEngine *getQmlEngine() const;
 
     /// Returns the ordinary store. The reference holds until the store is next replaced.

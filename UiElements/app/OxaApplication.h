@@ -21,8 +21,9 @@ class OxaMainWindow;
 /// the font manager. The theme's flags and name have no public setter: the outer application sets
 /// them as Qt properties.
 ///
-/// Widgets do not follow these signals. After a change of theme or stores, set "themeType" on the
-/// top-level windows: the parent chain takes it to every widget.
+/// Widgets do not follow these signals. After a change of theme or stores, write the "themeType" of
+/// all themed widgets, the same word again: what children take from their parents by themselves is
+/// another type than theirs, and never the same one in new colours.
 class UIELEMENTS_EXPORT OxaApplication : public IOxaApplication
 {
     Q_OBJECT
@@ -54,7 +55,7 @@ public:
     virtual void restart() = 0;
 
     /// Called from the constructor of each main window, for the outer application to register its
-    /// shortcuts on \a window.
+    /// shortcuts on \a window. There is no main window in this version, and so no call.
     virtual void registerMainWindowShortcuts(OxaMainWindow *window) = 0;
 
     /// Returns the signal hub, or null once it is gone.

@@ -15,29 +15,29 @@ class UIELEMENTS_EXPORT OxaFont : public QFont
     Q_GADGET
 
 public:
-    /// The steps of the type scale.
+    /// The steps of the type scale: size in pixels before the scale factor, and weight.
     enum class Token {
-        Default = 0,
-        Title = 1,
-        Header = 2,
-        SubheaderPrimary = 3,
-        SubheaderSecondary = 4,
-        BodyPrimary = 5,
-        BodySecondary = 6,
-        BodyTertiary = 7,
-        BannerPrimary = 8,
-        BannerSecondary = 9,
-        BannerTertiary = 10,
-        HighlightPrimary = 11,
-        HighlightSecondary = 12,
-        HighlightTertiary = 13,
-        HyperlinkPrimary = 14,
-        HyperlinkSecondary = 15,
-        TagLabelPrimary = 16,
-        TagLabelSecondary = 17,
-        CodeBlocks = 18,
-        RadioButtonLabelSecondary = 19,
-        Display = 20,
+        Default = 0,                    ///< 16 pixels, normal.
+        Title = 1,                      ///< 20, semi-bold.
+        Header = 2,                     ///< 16, bold.
+        SubheaderPrimary = 3,           ///< 16, semi-bold.
+        SubheaderSecondary = 4,         ///< 14, semi-bold.
+        BodyPrimary = 5,                ///< 16, normal.
+        BodySecondary = 6,              ///< 14, normal.
+        BodyTertiary = 7,               ///< 12, semi-bold.
+        BannerPrimary = 8,              ///< 26, semi-bold.
+        BannerSecondary = 9,            ///< 26, normal.
+        BannerTertiary = 10,            ///< 26, bold.
+        HighlightPrimary = 11,          ///< 16, bold.
+        HighlightSecondary = 12,        ///< 14, bold.
+        HighlightTertiary = 13,         ///< 12, bold.
+        HyperlinkPrimary = 14,          ///< 16, normal, underlined.
+        HyperlinkSecondary = 15,        ///< 14, normal, underlined.
+        TagLabelPrimary = 16,           ///< 14, semi-bold.
+        TagLabelSecondary = 17,         ///< 12, semi-bold.
+        CodeBlocks = 18,                ///< 16, normal, monospace.
+        RadioButtonLabelSecondary = 19, ///< 12, normal.
+        Display = 20,                   ///< 40, semi-bold.
     };
     Q_ENUM(Token)
 
@@ -56,7 +56,8 @@ public:
                     &font); // NOLINT(google-explicit-constructor): a QFont is an OxaFont's whole
 
     /// Makes the font of \a token. With \a useFallbackFamilies it names the families for scripts
-    /// that the first one lacks; a CodeBlocks font then loses its monospace family to that list. A
-    /// value outside the enumeration logs a warning and gives a plain font of 16 pixels.
+    /// that the first one lacks; a CodeBlocks font then loses its monospace family to that list,
+    /// and so it does in a process without an OxaApplication. A value outside the enumeration logs
+    /// a warning and gives a plain font of 16 pixels.
     explicit OxaFont(Token token, bool useFallbackFamilies = false);
 };

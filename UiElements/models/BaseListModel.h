@@ -19,8 +19,8 @@ using ModelRow = std::pair<std::string, std::unordered_map<int, QVariant>>;
 
 /// The general row store for item views and QML: rows found by id, and changes told exactly.
 ///
-/// Derive from it and supply roleNames(). Use it for lists that fit in memory, 10,000 rows at most;
-/// LazyLoadedListModel serves longer ones.
+/// Derive from it, supply roleNames(), and for Qt's item views a data() for Qt::DisplayRole. Use it
+/// for lists that fit in memory, 10,000 rows at most; LazyLoadedListModel serves longer ones.
 ///
 /// Each operation copies what it is given. The signals of each, their order and their arguments are
 /// part of the contract, also where they are more or other than Qt expects of a model: see

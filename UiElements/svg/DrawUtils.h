@@ -40,7 +40,7 @@ UIELEMENTS_EXPORT QPixmap adjustPixmapToRect(const QPixmap &pixmap, QRectF &rect
 
 /// Returns where an icon and a text stand in relation to each other: the icon's offset, the text's
 /// offset, and the size of both together as a point. The icon comes first at the top, and at the
-/// side where a line starts; margins are on-screen ones.
+/// side where a line starts; the left margin of each is on that side as well.
 UIELEMENTS_EXPORT std::tuple<QPointF, QPointF, QPointF> calculateIconTextOffset(
         const QSize &iconSize, const QSize &textSize, const QMargins &textMargins,
         const QMargins &iconMargins, OxaEnum::Alignment alignment);

@@ -109,6 +109,14 @@ private:
 /// without a semicolon, and leaves the access at private. The class initialises `m_iconBlock` in
 /// its constructor.
 ///
+/// Properties, in pixels and in reading direction where they have sides: `svgIcon`, the icon's
+/// path, such as OxaSvgRenderer::resourcePath() gives it, with `svgIconSize` (16 by 16) and
+/// `svgIconColorSet` (the text's colours); the same of a second picture on its centre, which begin
+/// with "inner"; `svgIconAlignment`, the side of the text on which the icon stands (Left);
+/// `textHorAlign`, where the two stand in the widget (CenterAlign); `textLeftPadding` and
+/// `textRightPadding` around the text (0); and `svgIconTopLeftPadding` and
+/// `svgIconBottomRightPadding` around the icon (0), as points of left and top, right and bottom.
+///
 /// setSvgIcon() loads the file at a path and emits svgIconChanged(); the widget looks at the path
 /// once more, and repaints, when the event loop turns. setSvgIconColorSet() keeps the name, so that
 /// a theme change can look it up again, and emits svgIconColorSetChanged(); setSvgIconSize() emits

@@ -66,7 +66,7 @@ UIELEMENTS_EXPORT QJsonObject readJsonObject(const QString &path);
 /// empty palette.
 UIELEMENTS_EXPORT OxaColorPalette parseOxaColorsFromJson(const QJsonObject &document);
 
-/// Reads the colour document in the file at \a path.
+/// Reads the colour document in the file at \a path; one that can't be read is silently empty.
 UIELEMENTS_EXPORT OxaColorPalette parseOxaColorsFromJson(const QString &path);
 
 /// Reads a colour-set document whose states name colours of \a palette; with an empty palette the

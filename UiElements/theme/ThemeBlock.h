@@ -137,7 +137,8 @@ const ThemeBlock::WidgetClass ThemeBlock::classOf = {
 /// getThemeType() tells the effective type, which may be the window's.
 /// setCSS() expands and applies the style text and emits cssChanged(). setThemeType() stores the
 /// word, applies the style text again, and emits cssChanged() and themeTypeChanged(), also when the
-/// word is the same. Children whose parent has a themeTypeChanged() signal follow it.
+/// word is the same. Children whose parent has a themeTypeChanged() signal follow it where its type
+/// is another one than theirs; a plain QWidget in between stops it.
 /// onThemeChanged() runs at each change of the type, to fetch what a class paints with by itself.
 #define UIELEMENTS_THEME_BLOCK(QtClass)                                                            \
     Q_PROPERTY(QString styleSheet READ styleSheet WRITE setStyleSheet)                             \

@@ -18,6 +18,7 @@ class QTimer;
 
 /// The library's button: a QPushButton that takes part in theming, elides its text, and tells of
 /// long presses, right clicks, hover and focus. It can carry a badge and a pixmap under its frame.
+/// Its size hint is that of the whole text: a layout elides it only where it has a minimum width.
 ///
 /// Every button starts as an auto-default one.
 class UIELEMENTS_EXPORT OxaPushButton : public QPushButton
@@ -89,7 +90,8 @@ public:
     bool isBadgeVisible() const;
 
     /// Shows or hides the badge, a dot at the top right in the colour of the set
-    /// "badge-background". Repaints at once.
+    /// "badge-background", which is the application's own also where the button has another theme.
+    /// Repaints at once.
     void setBadgeVisible(bool visible);
 
     /// Sets the icon, as QAbstractButton does.
