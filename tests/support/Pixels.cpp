@@ -39,6 +39,21 @@ QImage Pixels::render(QWidget &widget, const QColor &ground, qreal devicePixelRa
     return image;
 }
 
+QImage Pixels::paper(const QSize &size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    return image;
+}
+
+QImage Pixels::drawing(const QSize &size, const std::function<void(QPainter *)> &draw)
+{
+    QImage image = paper(size);
+    QPainter painter(&image);
+    draw(&painter);
+    return image;
+}
+
 int Pixels::countNear(const QImage &image, const QColor &color, const QRect &area, int tolerance)
 {
     int count = 0;

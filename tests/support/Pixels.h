@@ -4,6 +4,9 @@
 #include <QColor>
 #include <QImage>
 
+#include <functional>
+
+class QPainter;
 class QWidget;
 
 /// Pictures of widgets, and what is in them.
@@ -12,6 +15,12 @@ namespace Pixels {
 /// Paints \a widget with its background as it would stand on screen, over \a ground, at
 /// \a devicePixelRatio.
 QImage render(QWidget &widget, const QColor &ground = Qt::white, qreal devicePixelRatio = 1.0);
+
+/// Returns white paper of \a size.
+QImage paper(const QSize &size);
+
+/// Returns what \a draw paints on white paper of \a size.
+QImage drawing(const QSize &size, const std::function<void(QPainter *)> &draw);
 
 /// Returns how many pixels of \a image inside \a area, or in all of it, lie near \a color: each
 /// channel within \a tolerance.

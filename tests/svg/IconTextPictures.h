@@ -30,12 +30,10 @@ inline QStyleOption optionFor(QStyle::State state = QStyle::State_Enabled)
 /// Returns what \a draw paints on white paper in the font of \a widget.
 inline QImage drawing(const QWidget &widget, const std::function<void(QPainter *)> &draw)
 {
-    QImage image(240, 100, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.setFont(widget.font());
-    draw(&painter);
-    return image;
+    return Pixels::drawing(QSize(240, 100), [&](QPainter *painter) {
+        painter->setFont(widget.font());
+        draw(painter);
+    });
 }
 
 /// Returns the icon at \a path in the icon's colours.

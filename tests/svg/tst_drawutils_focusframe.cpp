@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/Guards.h"
+#include "support/Pixels.h"
 #include "support/RecordingStyle.h"
 
 #include <UiElements/svg/DrawUtils.h>
@@ -16,21 +17,13 @@ constexpr QStyle::State keyboardFocus = QStyle::State_HasFocus | QStyle::State_K
 const QColor ground(200, 100, 30);
 const QColor inverse(55, 155, 225);
 
-QImage paper()
-{
-    QImage image(40, 30, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    return image;
-}
+constexpr QSize paperSize(40, 30);
 
-/// Returns what \a draw paints on white paper.
+QImage paper() { return Pixels::paper(paperSize); }
+
 QImage drawing(const std::function<void(QPainter *)> &draw)
 {
-    QImage image = paper();
-    QPainter painter(&image);
-    draw(&painter);
-    painter.end();
-    return image;
+    return Pixels::drawing(paperSize, draw);
 }
 
 /// Returns the picture of a frame just inside \a rect, every second pixel of which is \a dots.

@@ -24,12 +24,10 @@ const OxaColorSet textColors = Faces::colors(QStringLiteral("text"), 130);
 /// Returns what \a draw paints on white paper in the font of \a widget.
 QImage drawing(const QWidget &widget, const std::function<void(QPainter *)> &draw)
 {
-    QImage image(320, 100, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.setFont(widget.font());
-    draw(&painter);
-    return image;
+    return Pixels::drawing(QSize(320, 100), [&](QPainter *painter) {
+        painter->setFont(widget.font());
+        draw(painter);
+    });
 }
 
 /// Returns what \a label paints into \a rect without an icon.

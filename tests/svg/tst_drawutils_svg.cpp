@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/Pixels.h"
 #include "support/SvgFiles.h"
 
 #include <UiElements/svg/DrawUtils.h>
@@ -33,11 +34,7 @@ QPainterPath square(const QRectF &rect)
 /// Returns what \a draw paints on white paper of 32 by 32.
 QImage drawing(const std::function<void(QPainter *)> &draw)
 {
-    QImage image(32, 32, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    draw(&painter);
-    return image;
+    return Pixels::drawing(QSize(32, 32), draw);
 }
 
 QImage drawing(QSvgNode *node, const QRectF &rect)

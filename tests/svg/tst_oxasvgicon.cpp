@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/Faces.h"
+#include "support/Pixels.h"
 #include "support/SvgFiles.h"
 
 #include <UiElements/svg/OxaSvgIcon.h>
@@ -18,12 +19,10 @@ const OxaColorSet innerColors = Faces::colors(QStringLiteral("inner"), 110);
 /// Returns what \a draw paints on white paper, with the origin at (8, 8).
 QImage drawing(const std::function<void(QPainter *)> &draw)
 {
-    QImage image(32, 32, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.translate(8, 8);
-    draw(&painter);
-    return image;
+    return Pixels::drawing(QSize(32, 32), [&](QPainter *painter) {
+        painter->translate(8, 8);
+        draw(painter);
+    });
 }
 
 QImage drawing(const OxaSvgIcon &icon, QStyle::State state = enabled)

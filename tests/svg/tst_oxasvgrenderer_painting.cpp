@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/Pixels.h"
 #include "support/SvgFiles.h"
 
 #include <UiElements/svg/OxaSvgRenderer.h>
@@ -15,20 +16,13 @@ const QByteArray wideShape = "<path d='M0 0H16V8H0Z'/>";
 /// Two nodes that fill a wide document: the one, left half in blue, the other in black.
 const QByteArray wideHalves = "<path d='M0 0H8V8H0Z' fill='#00f'/><path d='M8 0H16V8H8Z'/>";
 
-QImage paper(const QSize &size = QSize(32, 32))
-{
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    return image;
-}
+constexpr QSize paperSize(32, 32);
 
-/// Returns what \a draw paints on white paper.
+QImage paper(const QSize &size = paperSize) { return Pixels::paper(size); }
+
 QImage drawing(const std::function<void(QPainter *)> &draw)
 {
-    QImage image = paper();
-    QPainter painter(&image);
-    draw(&painter);
-    return image;
+    return Pixels::drawing(paperSize, draw);
 }
 
 QImage filled(const QRect &rect, const QColor &color)

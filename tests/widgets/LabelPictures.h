@@ -2,6 +2,7 @@
 #pragma once
 
 #include "support/ColorSets.h"
+#include "support/Pixels.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
@@ -58,12 +59,7 @@ inline OxaColorSetMap store()
 }
 
 /// Returns an empty picture of \a label.
-inline QImage paper(const OxaLabel &label)
-{
-    QImage image(label.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    return image;
-}
+inline QImage paper(const OxaLabel &label) { return Pixels::paper(label.size()); }
 
 /// Prepares \a painter to write as \a label does.
 inline void takePen(QPainter &painter, const OxaLabel &label)
