@@ -1,24 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // The main function of all benchmark programs.
 
-#include <UiElements/app/OxaApplication.h>
+#include "support/BenchmarkApplication.h"
 
 #include <benchmark/benchmark.h>
-
-namespace {
-
-/// An outer application whose hooks do nothing.
-class BenchmarkApplication final : public OxaApplication
-{
-public:
-    using OxaApplication::OxaApplication;
-
-    void onQmlEngineCreated(OxaQmlEngine *) override { }
-    void restart() override { }
-    void registerMainWindowShortcuts(OxaMainWindow *) override { }
-};
-
-} // namespace
 
 int main(int argc, char **argv)
 {

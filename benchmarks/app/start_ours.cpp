@@ -1,32 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 // Shows a window of 20 themed widgets and ends at its first paint.
 #include "FirstPaint.h"
+#include "support/BenchmarkApplication.h"
 #include "support/Stores.h"
 
-#include <UiElements/app/OxaApplication.h>
 #include <UiElements/theme/OxaThemeUtils.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaWidget.h>
 
 #include <QVBoxLayout>
 
-namespace {
-
-class Application final : public OxaApplication
-{
-public:
-    using OxaApplication::OxaApplication;
-
-    void onQmlEngineCreated(OxaQmlEngine *) override { }
-    void restart() override { }
-    void registerMainWindowShortcuts(OxaMainWindow *) override { }
-};
-
-} // namespace
-
 int main(int argc, char **argv)
 {
-    const Application application(argc, argv);
+    const BenchmarkApplication application(argc, argv);
     OxaThemeUtils::setAppOxaColorSets(Stores::make(10));
     OxaWidget window;
     const FirstPaint firstPaint(&window);
