@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+// Longer than headers are here: one operation of the model after the other, each in its plainest
+// form.
+
 #include "LetterListModel.h"
 
 /// What a BaseListModel must do, in the plainest form: no index, nothing kept between calls. Rows

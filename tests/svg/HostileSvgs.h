@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+// Longer than headers are here: the files are a table.
+
 #include "support/SvgFiles.h"
 
 #include <vector>
