@@ -29,6 +29,68 @@ public:
     }
 };
 
+/// What a proxy must show, in the plainest form.
+struct ShownLetters
+{
+    explicit ShownLetters(const OverflowListProxyModel &model) : proxy(model) { }
+
+    /// Filters \a row anew.
+    void look(int row)
+    {
+        const QChar letter = letters.at(row).toLower();
+        letters[row] = row > proxy.firstVisibleIndex() ? letter.toUpper() : letter;
+    }
+
+    QString shown() const
+    {
+        QString text;
+        for (const QChar letter : letters)
+            text += letter.isUpper() ? QString(letter.toLower()) : QString();
+        return text;
+    }
+
+    const OverflowListProxyModel &proxy;
+    QString letters; ///< For each source row its letter, in upper case where the proxy shows it.
+};
+
+/// Does one random change to the models and to \a expected, and returns its name.
+QString changeBoth(std::mt19937 &generator, LetterListModel &source, OverflowListProxyModel &proxy,
+                   ShownLetters &expected)
+{
+    const int last = expected.letters.size() - 1;
+    const int row = randomFrom(generator, 0, qMax(0, last));
+    const QChar letter = QLatin1Char(char('a' + randomFrom(generator, 0, 25)));
+    const std::string id(1, letter.toLatin1());
+    switch (randomFrom(generator, 0, 3)) {
+    case 0: {
+        const int index = randomFrom(generator, -2, 12);
+        const bool isNew = index != proxy.firstVisibleIndex();
+        proxy.setFirstVisibleIndex(index);
+        for (int each = 0; isNew && each <= last; ++each)
+            expected.look(each);
+        return QStringLiteral("show from %1").arg(index);
+    }
+    case 1:
+        if (last < 0)
+            return QStringLiteral("nothing");
+        source.removeRows(row, 1);
+        expected.letters.remove(row, 1);
+        return QStringLiteral("remove %1").arg(row);
+    case 2:
+        source.setRoleValueForRow(id, { { LetterListModel::Number, row } });
+        if (source.hasRow(id))
+            expected.look(source.getRowIndex(id));
+        return QStringLiteral("change %1").arg(letter);
+    default:
+        if (source.hasRow(id))
+            return QStringLiteral("nothing");
+        source.insertRows(row, LetterListModel::rowsOf(letter));
+        expected.letters.insert(row, letter);
+        expected.look(row);
+        return QStringLiteral("insert %1 at %2").arg(letter).arg(row);
+    }
+}
+
 } // namespace
 
 /// The tail that an OverflowListProxyModel shows of its source.
@@ -206,54 +268,13 @@ void tst_OverflowListProxyModel::followsItsSourceThroughRandomChanges()
     LetterListModel source;
     CountingProxy proxy;
     proxy.setSourceModel(&source);
-    // For each source row its letter, in upper case where the proxy shows it.
-    QString letters;
-    const auto look = [&](int row) {
-        const QChar letter = letters.at(row).toLower();
-        letters[row] = row > proxy.firstVisibleIndex() ? letter.toUpper() : letter;
-    };
+    ShownLetters expected(proxy);
     for (int i = 0; i < 100000; ++i) {
-        const int row = letters.isEmpty() ? 0 : randomFrom(generator, 0, letters.size() - 1);
-        const QChar letter = QLatin1Char(char('a' + randomFrom(generator, 0, 25)));
-        const std::string id(1, letter.toLatin1());
-        const int choice = randomFrom(generator, 0, 3);
-        const QString before = QStringLiteral("%1: %2 %3 at %4 of %5: ")
+        const QString before = expected.letters;
+        const QString change = QStringLiteral("%1: %2 of %3: ")
                                        .arg(i)
-                                       .arg(choice)
-                                       .arg(letter)
-                                       .arg(row)
-                                       .arg(letters);
-        switch (choice) {
-        case 0: {
-            const int index = randomFrom(generator, -2, 12);
-            const bool isNew = index != proxy.firstVisibleIndex();
-            proxy.setFirstVisibleIndex(index);
-            for (int each = 0; isNew && each < letters.size(); ++each)
-                look(each);
-            break;
-        }
-        case 1:
-            if (letters.isEmpty())
-                break;
-            source.removeRows(row, 1);
-            letters.remove(row, 1);
-            break;
-        case 2:
-            source.setRoleValueForRow(id, { { LetterListModel::Number, i } });
-            if (source.hasRow(id))
-                look(source.getRowIndex(id));
-            break;
-        default:
-            if (source.hasRow(id))
-                break;
-            source.insertRows(row, LetterListModel::rowsOf(letter));
-            letters.insert(row, letter);
-            look(row);
-        }
-        QString shown;
-        for (const QChar each : qAsConst(letters))
-            shown += each.isUpper() ? QString(each.toLower()) : QString();
-        QCOMPARE(before + proxy.text(), before + shown);
+                                       .arg(changeBoth(generator, source, proxy, expected), before);
+        QCOMPARE(change + proxy.text(), change + expected.shown());
     }
 }
 
