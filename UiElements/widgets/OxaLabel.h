@@ -15,8 +15,8 @@
 /// text itself: one elided line, or with word wrap as many lines as there is room for, the last of
 /// them elided at its end. While text is selected it paints as QLabel does, without an ellipsis.
 /// The size hints stay those of the whole text, so that a layout makes the label narrower only
-/// where it has a minimum width. Such a text keeps off the edges by margin() and indent(), not by a
-/// padding of the style text.
+/// where it has a minimum width. Such a text keeps off the edges by margin(), not by a padding of
+/// the style text.
 ///
 /// The horizontal alignment follows the layout direction of the application, and is set anew at
 /// each change of it: one that was set before, centring included, is lost then. Set it after
