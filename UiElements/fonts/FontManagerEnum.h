@@ -21,10 +21,10 @@ public:
 
     /// How far a view is enlarged.
     enum class FontScalingFactor {
-        Small = -1,
-        Regular = 0,
-        Medium = 1,
-        Large = 2,
+        Small = -1,  ///< Body text of 14 pixels.
+        Regular = 0, ///< Body text of 16 pixels, times the application's font scale factor.
+        Medium = 1,  ///< Body text of 20 pixels.
+        Large = 2,   ///< Body text of 26 pixels.
     };
     Q_ENUM(FontScalingFactor)
 };
