@@ -4,6 +4,7 @@
 #include "WidgetStyleText_p.h"
 
 #include <QMetaMethod>
+#include <QPointer>
 #include <QVariant>
 
 using OxaThemeUtils::AppThemeType;
@@ -39,8 +40,10 @@ void ThemeBlock::setCSS(const QString &styleText)
     // anew.
     if (!sheet.isEmpty() || !m_widget->styleSheet().isEmpty())
         m_widget->QWidget::setStyleSheet(sheet);
+    // Who hears of it may delete the widget, and the block with it.
+    const QPointer<QWidget> widget(m_widget);
     m_class.emitCssChanged(m_widget);
-    if (m_form == Form::Full)
+    if (widget && m_form == Form::Full)
         followObjectName();
 }
 
@@ -61,8 +64,10 @@ AppThemeType ThemeBlock::effectiveThemeType() const
 void ThemeBlock::setThemeType(const QString &themeType)
 {
     m_themeType = themeType;
+    const QPointer<QWidget> widget(m_widget);
     refreshCSS();
-    m_class.emitThemeTypeChanged(m_widget);
+    if (widget)
+        m_class.emitThemeTypeChanged(m_widget);
 }
 
 void ThemeBlock::changeEvent(const QEvent *event)

@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ThemedWidgets.h"
+#include "support/Guards.h"
+#include "support/SignalLog.h"
+#include "support/TestApplication.h"
+
+#include <QPointer>
+
+namespace {
+
+const QByteArray backgroundText = QByteArrayLiteral("$backgroundColors: panel;");
+const QByteArray textText = QByteArrayLiteral("$textColors: panel;");
+
+/// Calls a function at each of a widget's signals, however the widget's class calls itself.
+class Listener : public QObject
+{
+    Q_OBJECT
+
+public:
+    Listener(QWidget *widget, const QByteArray &signal, const std::function<void()> &listen)
+        : m_listen(listen)
+    {
+        connect(widget, signal.constData(), this, SLOT(hear()));
+    }
+
+private Q_SLOTS:
+    void hear() { m_listen(); }
+
+private:
+    const std::function<void()> m_listen;
+};
+
+/// Returns what \a widget, called "w", says of its theme: "dark | $textColors: x; | #w{…}".
+QString stateOf(const QWidget &widget)
+{
+    return widget.property("themeType").toString() + QLatin1String(" | ")
+            + QString::fromUtf8(widget.property("css").toByteArray()) + QLatin1String(" | ")
+            + widget.styleSheet();
+}
+
+QString stateWith(const char *themeType, const char *color)
+{
+    return QStringLiteral("%1 | $backgroundColors: panel; | "
+                          "#w{border:none;}#w{background-color:%2;}")
+            .arg(QLatin1String(themeType), QLatin1String(color));
+}
+
+std::unique_ptr<QWidget> makeNamed(const ThemedClass &themed, QWidget *parent = nullptr)
+{
+    auto widget = themed.make(parent);
+    widget->setObjectName(QStringLiteral("w"));
+    return widget;
+}
+
+} // namespace
+
+/// What a widget's listeners find when they are told, and what they may do with it: a row for each
+/// themed class.
+class tst_ThemeBlockListeners : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_stores = std::make_unique<StoreGuard>(storeWith("#ff112233"), storeWith("#ff445566"));
+    }
+    void cleanup() { m_stores.reset(); }
+
+    void hearOfAStyleTextThatIsInForce_data() { addThemedClasses(); }
+    void hearOfAStyleTextThatIsInForce();
+    void hearOfATypeThatIsInForce_data() { addThemedClasses(); }
+    void hearOfATypeThatIsInForce();
+    void maySetAnotherStyleTextWhenTheTypeChanges_data() { addThemedClasses(); }
+    void maySetAnotherStyleTextWhenTheTypeChanges();
+    void maySetAnotherTypeWhenTheStyleTextChanges_data() { addThemedClasses(); }
+    void maySetAnotherTypeWhenTheStyleTextChanges();
+    void mayReplaceTheStoresWhenTheTypeChanges_data() { addThemedClasses(); }
+    void mayReplaceTheStoresWhenTheTypeChanges();
+
+    void mayDeleteTheWidgetWhenItsStyleTextIsSet_data() { addThemedClasses(); }
+    void mayDeleteTheWidgetWhenItsStyleTextIsSet();
+    void mayDeleteTheWidgetWhenItsNameIsSet_data() { addThemedClasses(); }
+    void mayDeleteTheWidgetWhenItsNameIsSet();
+    void mayDeleteTheWidgetWhenItsTypeIsSet_data() { addWaysToHear(); }
+    void mayDeleteTheWidgetWhenItsTypeIsSet();
+    void mayDeleteTheWidgetWhenItsParentsTypeIsSet_data() { addWaysToHear(); }
+    void mayDeleteTheWidgetWhenItsParentsTypeIsSet();
+    void mayDeleteTheParentWhenItsTypeIsSet_data() { addWaysToHear(); }
+    void mayDeleteTheParentWhenItsTypeIsSet();
+
+private:
+    static void addWaysToHear();
+
+    std::unique_ptr<StoreGuard> m_stores;
+};
+
+/// Adds a row for each themed class and each of its two signals.
+void tst_ThemeBlockListeners::addWaysToHear()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QByteArray>("signal");
+    int row = 0;
+    for (const ThemedClass &themed : themedClasses()) {
+        QTest::addRow("%s by its style text", themed.name)
+                << row << QByteArray(SIGNAL(cssChanged()));
+        QTest::addRow("%s by its type", themed.name)
+                << row << QByteArray(SIGNAL(themeTypeChanged()));
+        ++row;
+    }
+}
+
+void tst_ThemeBlockListeners::hearOfAStyleTextThatIsInForce()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = makeNamed(themed);
+    QString heard;
+    const Listener listener(widget.get(), SIGNAL(cssChanged()), [&] {
+        heard = stateOf(*widget) + QLatin1String(" | ")
+                + themed.cssData(*widget).backgroundColorSetName;
+    });
+    widget->setProperty("css", backgroundText);
+    QCOMPARE(heard, stateWith("global", "#ff112233") + QLatin1String(" | panel"));
+}
+
+void tst_ThemeBlockListeners::hearOfATypeThatIsInForce()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = makeNamed(themed);
+    widget->setProperty("css", backgroundText);
+    SignalLog heard;
+    const Listener cssListener(widget.get(), SIGNAL(cssChanged()),
+                               [&] { heard.note(QLatin1String("css: ") + stateOf(*widget)); });
+    const Listener typeListener(widget.get(), SIGNAL(themeTypeChanged()),
+                                [&] { heard.note(QLatin1String("type: ") + stateOf(*widget)); });
+    widget->setProperty("themeType", QStringLiteral("dark"));
+    const QString dark = stateWith("dark", "#ff445566");
+    QCOMPARE(heard.take(), QLatin1String("css: ") + dark + QLatin1String(" | type: ") + dark);
+}
+
+void tst_ThemeBlockListeners::maySetAnotherStyleTextWhenTheTypeChanges()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = makeNamed(themed);
+    widget->setProperty("css", textText);
+    const Listener listener(widget.get(), SIGNAL(themeTypeChanged()),
+                            [&] { widget->setProperty("css", backgroundText); });
+    widget->setProperty("themeType", QStringLiteral("dark"));
+    QCOMPARE(stateOf(*widget), stateWith("dark", "#ff445566"));
+}
+
+void tst_ThemeBlockListeners::maySetAnotherTypeWhenTheStyleTextChanges()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = makeNamed(themed);
+    widget->setProperty("css", backgroundText);
+    SignalLog heard;
+    const Listener typeListener(widget.get(), SIGNAL(themeTypeChanged()),
+                                [&] { heard.note(widget->property("themeType").toString()); });
+    const Listener listener(widget.get(), SIGNAL(cssChanged()), [&] {
+        if (widget->property("themeType") == QStringLiteral("dark"))
+            widget->setProperty("themeType", QStringLiteral("light"));
+    });
+    widget->setProperty("themeType", QStringLiteral("dark"));
+    QCOMPARE(heard.take(), QStringLiteral("light | light"));
+    QCOMPARE(stateOf(*widget), stateWith("light", "#ff112233"));
+}
+
+void tst_ThemeBlockListeners::mayReplaceTheStoresWhenTheTypeChanges()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = makeNamed(themed);
+    widget->setProperty("css", backgroundText);
+    const Listener listener(widget.get(), SIGNAL(themeTypeChanged()), [] {
+        OxaThemeUtils::setAppOxaColorSets(storeWith("#ff778899"));
+        OxaThemeUtils::setAppInvertedOxaColorSets(storeWith("#ffaabbcc"));
+    });
+    widget->setProperty("themeType", QStringLiteral("dark"));
+    QCOMPARE(stateOf(*widget), stateWith("dark", "#ff445566"));
+    QVERIFY(QMetaObject::invokeMethod(widget.get(), "refreshCSS"));
+    QCOMPARE(stateOf(*widget), stateWith("dark", "#ffaabbcc"));
+}
+
+void tst_ThemeBlockListeners::mayDeleteTheWidgetWhenItsStyleTextIsSet()
+{
+    FETCH_THEMED_CLASS;
+    const QPointer<QWidget> widget = themed.make(nullptr).release();
+    const Listener listener(widget, SIGNAL(cssChanged()), [&] { delete widget; });
+    widget->setProperty("css", backgroundText);
+    QVERIFY(!widget);
+}
+
+void tst_ThemeBlockListeners::mayDeleteTheWidgetWhenItsNameIsSet()
+{
+    FETCH_THEMED_CLASS;
+    const QPointer<QWidget> widget = themed.make(nullptr).release();
+    widget->setProperty("css", backgroundText);
+    const Listener listener(widget, SIGNAL(cssChanged()), [&] { delete widget; });
+    widget->setObjectName(QStringLiteral("w"));
+    QVERIFY(!widget);
+}
+
+void tst_ThemeBlockListeners::mayDeleteTheWidgetWhenItsTypeIsSet()
+{
+    FETCH_THEMED_CLASS;
+    QFETCH(const QByteArray, signal);
+    const QPointer<QWidget> widget = themed.make(nullptr).release();
+    const Listener listener(widget, signal, [&] { delete widget; });
+    widget->setProperty("themeType", QStringLiteral("dark"));
+    QVERIFY(!widget);
+}
+
+void tst_ThemeBlockListeners::mayDeleteTheWidgetWhenItsParentsTypeIsSet()
+{
+    FETCH_THEMED_CLASS;
+    QFETCH(const QByteArray, signal);
+    OxaWidget parent;
+    const QPointer<QWidget> widget = themed.make(&parent).release();
+    const OxaWidget sibling(&parent);
+    const Listener listener(widget, signal, [&] { delete widget; });
+    parent.setThemeType(QStringLiteral("dark"));
+    QVERIFY(!widget);
+    QCOMPARE(sibling.property("themeType").toString(), QStringLiteral("dark"));
+}
+
+void tst_ThemeBlockListeners::mayDeleteTheParentWhenItsTypeIsSet()
+{
+    FETCH_THEMED_CLASS;
+    QFETCH(const QByteArray, signal);
+    const QPointer<OxaWidget> parent = new OxaWidget;
+    const QPointer<QWidget> widget = themed.make(parent).release();
+    const Listener listener(widget, signal, [&] { delete parent; });
+    parent->setThemeType(QStringLiteral("dark"));
+    QVERIFY(!parent);
+    QVERIFY(!widget);
+}
+
+UIELEMENTS_TEST_MAIN(tst_ThemeBlockListeners)
+#include "tst_themeblock_listeners.moc"
