@@ -15,13 +15,6 @@ void ThemeBlock::followTheme()
     followParent();
 }
 
-void ThemeBlock::followObjectName()
-{
-    if (!m_followsObjectName)
-        m_class.followObjectName(m_widget);
-    m_followsObjectName = true;
-}
-
 void ThemeBlock::setCSS(const QString &styleText)
 {
     m_styleText = styleText;

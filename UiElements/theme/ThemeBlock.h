@@ -51,7 +51,7 @@ public:
     void followTheme();
 
     /// Connects the widget's object name to refreshCSS(), once however often it is called.
-    void followObjectName();
+    void followObjectName() { m_class.followObjectName(m_widget); }
 
     /// Returns the style text as it was last given.
     QString styleText() const { return m_styleText; }
@@ -107,7 +107,6 @@ private:
     QString m_styleText;
     OxaCSSData m_cssData;
     QString m_themeType = QStringLiteral("global");
-    bool m_followsObjectName = false;
 };
 
 template <typename Widget>
@@ -121,7 +120,8 @@ const ThemeBlock::WidgetClass ThemeBlock::classOf = {
     },
     [](QWidget *widget) {
         auto *self = static_cast<Widget *>(widget);
-        QObject::connect(self, &QObject::objectNameChanged, self, &Widget::refreshCSS);
+        QObject::connect(self, &QObject::objectNameChanged, self, &Widget::refreshCSS,
+                         Qt::UniqueConnection);
     },
 };
 

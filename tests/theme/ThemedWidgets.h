@@ -107,6 +107,12 @@ inline void addThemedClasses(const std::function<bool(const ThemedClass &)> &isW
     }
 }
 
+/// Adds those rows for the classes of \a form.
+inline void addThemedClasses(ThemedClass::Form form)
+{
+    addThemedClasses([form](const ThemedClass &themed) { return themed.form == form; });
+}
+
 /// Adds those rows for the classes that start plain.
 inline void addPlainThemedClasses()
 {

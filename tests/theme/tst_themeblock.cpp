@@ -10,6 +10,7 @@
 #include <QMetaMethod>
 #include <QSignalSpy>
 
+using Form = ThemedClass::Form;
 using OxaThemeUtils::AppThemeType;
 
 namespace {
@@ -61,7 +62,10 @@ private Q_SLOTS:
     void givesAnEmptyStyleTextNoSheet();
     void costsQtNothingWithoutAStyleText_data() { addPlainThemedClasses(); }
     void costsQtNothingWithoutAStyleText();
-    void paintsAStyledBackgroundFromItsFirstSheetOn_data();
+    void paintsAStyledBackgroundFromItsFirstSheetOn_data()
+    {
+        addThemedClasses(Form::StyledBackground);
+    }
     void paintsAStyledBackgroundFromItsFirstSheetOn();
     void followsItsObjectNameFromTheFirstStyleTextOn_data() { addPlainThemedClasses(); }
     void followsItsObjectNameFromTheFirstStyleTextOn();
@@ -69,6 +73,8 @@ private Q_SLOTS:
     void expandsAgainUnderANewObjectName();
     void expandsOnceForOneNewNameAfterManyStyleTexts_data() { addThemedClasses(); }
     void expandsOnceForOneNewNameAfterManyStyleTexts();
+    void followsItsNameAgainFromAStyleTextAfterADisconnect_data() { addThemedClasses(Form::Full); }
+    void followsItsNameAgainFromAStyleTextAfterADisconnect();
 
     void makesTheFirstStyleSheetTheStyleText_data() { addPlainThemedClasses(); }
     void makesTheFirstStyleSheetTheStyleText();
@@ -81,6 +87,8 @@ private Q_SLOTS:
     void takesItsStoreByItsThemeType();
     void ignoresAReplacedStoreUntilItIsRefreshed_data() { addThemedClasses(); }
     void ignoresAReplacedStoreUntilItIsRefreshed();
+    void ignoresAnotherThemeUntilItIsRefreshed_data() { addThemedClasses(); }
+    void ignoresAnotherThemeUntilItIsRefreshed();
 
     void keepsItsFontOnTheToken_data();
     void keepsItsFontOnTheToken();
@@ -219,13 +227,6 @@ void tst_ThemeBlock::costsQtNothingWithoutAStyleText()
     QVERIFY(styleChanges > 0);
 }
 
-void tst_ThemeBlock::paintsAStyledBackgroundFromItsFirstSheetOn_data()
-{
-    addThemedClasses([](const ThemedClass &themed) {
-        return themed.form == ThemedClass::Form::StyledBackground;
-    });
-}
-
 void tst_ThemeBlock::paintsAStyledBackgroundFromItsFirstSheetOn()
 {
     FETCH_THEMED_CLASS;
@@ -246,7 +247,7 @@ void tst_ThemeBlock::followsItsObjectNameFromTheFirstStyleTextOn()
     const QSignalSpy cssChanged(widget.get(), SIGNAL(cssChanged()));
     widget->setObjectName(QStringLiteral("before"));
     // A widget that paints its background follows its name from the start.
-    const int expansions = themed.form == ThemedClass::Form::StyledBackground ? 1 : 0;
+    const int expansions = themed.form == Form::StyledBackground ? 1 : 0;
     QCOMPARE(cssChanged.size(), expansions);
     widget->setProperty("css", QByteArray());
     widget->setObjectName(QStringLiteral("after"));
@@ -271,6 +272,18 @@ void tst_ThemeBlock::expandsOnceForOneNewNameAfterManyStyleTexts()
     const QSignalSpy cssChanged(widget.get(), SIGNAL(cssChanged()));
     widget->setObjectName(QStringLiteral("w"));
     QCOMPARE(cssChanged.size(), 1);
+}
+
+void tst_ThemeBlock::followsItsNameAgainFromAStyleTextAfterADisconnect()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    widget->setProperty("css", styleText.toUtf8());
+    // A client that is done with a widget's signals may cut them all.
+    widget->disconnect();
+    widget->setProperty("css", styleText.toUtf8());
+    widget->setObjectName(QStringLiteral("w"));
+    QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff112233"));
 }
 
 void tst_ThemeBlock::makesTheFirstStyleSheetTheStyleText()
@@ -340,6 +353,20 @@ void tst_ThemeBlock::ignoresAReplacedStoreUntilItIsRefreshed()
     QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff112233"));
     QVERIFY(QMetaObject::invokeMethod(widget.get(), "refreshCSS"));
     QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff778899"));
+}
+
+void tst_ThemeBlock::ignoresAnotherThemeUntilItIsRefreshed()
+{
+    FETCH_THEMED_CLASS;
+    const auto widget = themed.make(nullptr);
+    widget->setObjectName(QStringLiteral("w"));
+    widget->setProperty("themeType", QStringLiteral("dark"));
+    widget->setProperty("css", styleText.toUtf8());
+    m_stores->setFlags(true, false);
+    const ApplicationPropertyGuard theme("theme", QStringLiteral("night"));
+    QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff445566"));
+    QVERIFY(QMetaObject::invokeMethod(widget.get(), "refreshCSS"));
+    QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff112233"));
 }
 
 void tst_ThemeBlock::keepsItsFontOnTheToken_data()
