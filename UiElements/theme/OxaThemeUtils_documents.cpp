@@ -104,7 +104,8 @@ std::optional<OxaColorSet> readColorSet(const QString &name, const QJsonObject &
 QJsonObject OxaThemeUtils::readJsonObject(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    // Qt itself would warn of a file without a name.
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return {};
     return QJsonDocument::fromJson(file.readAll()).object();
 }

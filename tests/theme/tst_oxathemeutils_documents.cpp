@@ -29,6 +29,7 @@ private Q_SLOTS:
     void givesAnEmptyObjectForOtherFiles();
     void givesAnEmptyObjectForAMissingFile();
     void givesAnEmptyObjectForAFolder();
+    void givesAnEmptyObjectForNoPathSilently();
 
     void readsAPaletteFromAFile();
     void readsAnEmptyPaletteFromOtherFilesSilently_data() { addUselessFiles(); }
@@ -87,6 +88,13 @@ void tst_OxaThemeUtilsDocuments::givesAnEmptyObjectForAMissingFile()
 void tst_OxaThemeUtilsDocuments::givesAnEmptyObjectForAFolder()
 {
     QVERIFY(OxaThemeUtils::readJsonObject(m_folder.path()).isEmpty());
+}
+
+void tst_OxaThemeUtilsDocuments::givesAnEmptyObjectForNoPathSilently()
+{
+    // An outer application that has no document for a theme has no path, either.
+    QVERIFY(OxaThemeUtils::readJsonObject(QString()).isEmpty());
+    QVERIFY(OxaThemeUtils::parseOxaColorsFromJson(QString()).empty());
 }
 
 void tst_OxaThemeUtilsDocuments::readsAPaletteFromAFile()
