@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QStyleOptionButton>
 #include <QTimer>
 
@@ -169,8 +170,12 @@ void OxaPushButton::onButtonDownTimeout()
 
 void OxaPushButton::mousePressEvent(QMouseEvent *event)
 {
+    // A slot may delete the button: that of a menu which it opens, for one.
+    const QPointer<OxaPushButton> self(this);
     if (event->button() == Qt::RightButton)
         Q_EMIT rightClick();
+    if (!self)
+        return;
     if (m_isLongPressEnabled) {
         if (!m_longPressTimer) {
             m_longPressTimer = new QTimer(this);

@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTimer>
 
@@ -74,6 +75,7 @@ private Q_SLOTS:
     void startsTheTimerForTheRightButtonToo();
     void tellsOfARightClickBeforeQtSeesThePress();
     void tellsOfARightClickWhileDisabledNot();
+    void mayBeDeletedByARightClick();
     void clicksByItsKeys();
     void tellsOfTheFocusBeforeQtHandlesIt();
     void tellsOfThePointer();
@@ -204,6 +206,19 @@ void tst_OxaPushButtonInput::tellsOfARightClickWhileDisabledNot()
                       Qt::NoModifier);
     QCoreApplication::sendEvent(&button, &press);
     QCOMPARE(rightClick.size(), 0);
+}
+
+void tst_OxaPushButtonInput::mayBeDeletedByARightClick()
+{
+    // As by a menu that a slot opens, with the entry that removes the button.
+    const QPointer<OxaPushButton> button = new OxaPushButton;
+    button->setLongPressEnabled(true);
+    connect(button, &OxaPushButton::rightClick, this, [&] { delete button; });
+    // Qt Test would wait for the release of what it pressed.
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(), Qt::RightButton, Qt::RightButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(button, &press);
+    QVERIFY(!button);
 }
 
 void tst_OxaPushButtonInput::clicksByItsKeys()
