@@ -29,9 +29,13 @@ void ThemeBlock::setCSS(const QString &styleText)
     // Switched on only: who has a use for it besides, as rules of a parent's sheet, keeps it.
     if (m_form == Form::StyledBackground && !sheet.isEmpty())
         m_widget->setAttribute(Qt::WA_StyledBackground);
+    const bool hasSheet = !m_widget->styleSheet().isEmpty();
+    // Qt overlooks another sheet of a widget that is not polished, if a child has read the first.
+    if (hasSheet)
+        m_widget->ensurePolished();
     // Taking an empty sheet from a widget that has none would still make Qt work out its style
     // anew.
-    if (!sheet.isEmpty() || !m_widget->styleSheet().isEmpty())
+    if (!sheet.isEmpty() || hasSheet)
         m_widget->QWidget::setStyleSheet(sheet);
     // Who hears of it may delete the widget, and the block with it.
     const QPointer<QWidget> widget(m_widget);

@@ -71,9 +71,6 @@ void tst_FirstWindow::init()
 {
     m_window = std::make_unique<FirstWindow>();
     m_window->resize(360, 320);
-    // As a window that shows is. Qt overlooks a new sheet of one that is not, and has styled
-    // children.
-    m_window->ensurePolished();
     connect(m_window.get(), &FirstWindow::darkChosen, m_window.get(),
             [](bool dark) { qobject_cast<ClientApplication *>(qApp)->setDark(dark); });
 }
