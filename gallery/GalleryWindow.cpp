@@ -13,6 +13,24 @@
 
 namespace {
 
+/// Returns the rules for all scroll bars of the window: its sheet reaches everything in it.
+QString scrollBarStyleText()
+{
+    return QStringLiteral("QScrollBar { background: transparent; border: none; }"
+                          "QScrollBar:vertical { width: %1px; }"
+                          "QScrollBar:horizontal { height: %1px; }"
+                          "QScrollBar::handle {"
+                          " background: $(gallery-scrollbar); border-radius: 3px; margin: 3px; }"
+                          "QScrollBar::handle:hover { background: $(gallery-scrollbar.hovered); }"
+                          "QScrollBar::handle:pressed { background: $(gallery-scrollbar.pressed); }"
+                          "QScrollBar::handle:vertical { min-height: 32px; }"
+                          "QScrollBar::handle:horizontal { min-width: 32px; }"
+                          "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
+                          "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }"
+                          "QAbstractScrollArea::corner { background: transparent; border: none; }")
+            .arg(Metrics::scrollBar);
+}
+
 QWidget *makeDivider(QWidget *parent)
 {
     auto *divider = new OxaWidget(parent);
@@ -32,7 +50,7 @@ GalleryWindow::GalleryWindow(QWidget *parent)
       m_pages(new PageStack(this))
 {
     setThemeType(GalleryApplication::get()->themeSwitcher()->themeType());
-    setCSS(QStringLiteral("$backgroundColors: gallery-window-background;"));
+    setCSS(QStringLiteral("$backgroundColors: gallery-window-background;") + scrollBarStyleText());
     resize(Metrics::windowWidth, Metrics::windowHeight);
 
     auto *row = new QHBoxLayout;

@@ -4,8 +4,6 @@
 #include "ColorSetModel.h"
 #include "Metrics.h"
 
-#include <UiElements/fonts/OxaFont.h>
-
 #include <QPainter>
 
 namespace {
@@ -28,34 +26,15 @@ void paintChecks(QPainter *painter, const QRect &rect)
 
 } // namespace
 
-ColorSetDelegate::ColorSetDelegate(QObject *parent) : QStyledItemDelegate(parent) { }
-
-void ColorSetDelegate::refresh(OxaThemeUtils::AppThemeType themeType)
-{
-    m_ground = OxaThemeUtils::getColorSet("gallery-list-item", themeType);
-    m_headingText = OxaThemeUtils::getColorSet("gallery-heading-text", themeType);
-    m_nameText = OxaThemeUtils::getColorSet("gallery-list-item-text", themeType);
-    m_valueText = OxaThemeUtils::getColorSet("gallery-list-item-caption-text", themeType);
-    m_line = OxaThemeUtils::getColorSet("gallery-card-border", themeType);
-    m_focusBorder = OxaThemeUtils::getColorSet("gallery-focus-border", themeType);
-    m_headingFont = OxaFont(OxaFont::Token::TagLabelPrimary);
-    m_nameFont = OxaFont(OxaFont::Token::BodySecondary);
-    m_valueFont = OxaFont(OxaFont::Token::RadioButtonLabelSecondary);
-}
-
 int ColorSetDelegate::rowHeight() const
 {
-    return swatchHeight + Metrics::tight + QFontMetrics(m_valueFont).height() + 2 * Metrics::small;
-}
-
-int ColorSetDelegate::headingHeight() const
-{
-    return QFontMetrics(m_headingFont).height() + Metrics::gap;
+    return swatchHeight + Metrics::tight + QFontMetrics(look().captionFont).height()
+            + 2 * Metrics::small;
 }
 
 int ColorSetDelegate::swatchColumnWidth() const
 {
-    return QFontMetrics(m_valueFont).horizontalAdvance(QStringLiteral("#dddddddd"))
+    return QFontMetrics(look().captionFont).horizontalAdvance(QStringLiteral("#dddddddd"))
             + 2 * Metrics::small;
 }
 
@@ -69,42 +48,20 @@ void ColorSetDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     } else {
         paintGround(painter, option);
         if (index.column() == 0)
-            paintName(painter, option.rect, text);
+            paintName(painter, option, text);
         else
             paintSwatch(painter, option.rect, index);
     }
     painter->restore();
 }
 
-void ColorSetDelegate::paintGround(QPainter *painter, const QStyleOptionViewItem &option) const
+void ColorSetDelegate::paintName(QPainter *painter, const QStyleOptionViewItem &option,
+                                 const QString &name) const
 {
-    if (option.state.testFlag(QStyle::State_MouseOver))
-        painter->fillRect(option.rect, m_ground.hovered);
-    painter->setPen(m_line.normal);
-    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-    if (!option.state.testFlag(QStyle::State_HasFocus))
-        return;
-    painter->setPen(QPen(m_focusBorder.normal, 2));
-    painter->drawRect(option.rect.adjusted(1, 1, -1, -2));
-}
-
-void ColorSetDelegate::paintHeading(QPainter *painter, const QRect &rect, const QString &text) const
-{
-    painter->setFont(m_headingFont);
-    painter->setPen(m_headingText.normal);
-    painter->drawText(rect.adjusted(Metrics::spacing, 0, -Metrics::spacing, -Metrics::small),
-                      Qt::AlignLeft | Qt::AlignBottom, text);
-    painter->setPen(m_line.normal);
-    painter->drawLine(rect.bottomLeft(), rect.bottomRight());
-}
-
-void ColorSetDelegate::paintName(QPainter *painter, const QRect &rect, const QString &name) const
-{
-    const QRect textRect = rect.adjusted(Metrics::spacing, 0, -Metrics::spacing, 0);
-    painter->setFont(m_nameFont);
-    painter->setPen(m_nameText.normal);
-    painter->drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter,
-                      painter->fontMetrics().elidedText(name, Qt::ElideMiddle, textRect.width()));
+    painter->setFont(look().font);
+    painter->setPen(look().text.normal);
+    drawElided(painter, option.rect.adjusted(Metrics::spacing, 0, -Metrics::spacing, 0), name,
+               option.direction, Qt::ElideMiddle);
 }
 
 void ColorSetDelegate::paintSwatch(QPainter *painter, const QRect &rect,
@@ -117,13 +74,13 @@ void ColorSetDelegate::paintSwatch(QPainter *painter, const QRect &rect,
         paintChecks(painter, swatch.adjusted(1, 1, -1, -1));
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setBrush(color);
-    painter->setPen(m_line.normal);
+    painter->setPen(look().line.normal);
     painter->drawRoundedRect(QRectF(swatch).adjusted(0.5, 0.5, -0.5, -0.5), swatchRadius,
                              swatchRadius);
     // A value reads from left to right in any interface.
     painter->setLayoutDirection(Qt::LeftToRight);
-    painter->setFont(m_valueFont);
-    painter->setPen(m_valueText.normal);
+    painter->setFont(look().captionFont);
+    painter->setPen(look().captionText.normal);
     painter->drawText(QRect(rect.left(), swatch.bottom() + Metrics::tight, rect.width(),
                             painter->fontMetrics().height()),
                       Qt::AlignHCenter, index.data().toString());

@@ -2,7 +2,6 @@
 #include "CodeEdit.h"
 
 #include "Metrics.h"
-#include "widgets/ScrollArea.h"
 
 CodeEdit::CodeEdit(QWidget *parent) : QPlainTextEdit(parent)
 {
@@ -16,8 +15,7 @@ CodeEdit::CodeEdit(QWidget *parent) : QPlainTextEdit(parent)
                           "$textColors: gallery-code-text;"
                           "CodeEdit { padding: 4px; }"
                           // Under the pointer, too, one sees where the focus is.
-                          "CodeEdit:focus { border-color: $(gallery-field-border.focused); }")
-           + ScrollArea::scrollBarStyleText());
+                          "CodeEdit:focus { border-color: $(gallery-field-border.focused); }"));
 }
 
 void CodeEdit::setMinimumLines(int lines)

@@ -16,7 +16,4 @@ public:
 
     /// Shows \a contents, over the ground that the area lies on.
     void setContents(QWidget *contents);
-
-    /// Returns the style text for scroll bars, for any widget that has some.
-    static QString scrollBarStyleText();
 };

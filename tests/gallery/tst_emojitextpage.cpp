@@ -8,7 +8,6 @@
 
 #include <pages/emoji/ArtworkCard.h>
 #include <pages/emoji/ArtworkModel.h>
-#include <pages/emoji/ArtworkView.h>
 #include <pages/emoji/EmojiTextPage.h>
 #include <pages/emoji/MessageRow.h>
 #include <pages/emoji/Messages.h>
@@ -17,6 +16,7 @@
 #include <pages/emoji/ReactionButton.h>
 #include <pages/emoji/TextAnalysis.h>
 #include <widgets/CodeEdit.h>
+#include <widgets/ListView.h>
 #include <widgets/ToggleButton.h>
 
 Q_DECLARE_METATYPE(ArtworkKind)
@@ -150,10 +150,10 @@ void tst_EmojiTextPage::putsChosenArtworkIntoThePlayground()
     EmojiTextPage page;
     auto *text = page.findChild<PlaygroundCard *>()->findChild<CodeEdit *>();
     text->clear();
-    const auto *view = page.findChild<ArtworkView *>();
+    const auto *view = page.findChild<ListView *>();
     const QModelIndex first = view->model()->index(0, 0);
     QSignalSpy chosen(page.findChild<ArtworkCard *>(), &ArtworkCard::chosen);
-    Q_EMIT page.findChild<ArtworkView *>()->clicked(first);
+    Q_EMIT page.findChild<ListView *>()->clicked(first);
     QCOMPARE(chosen.size(), 1);
     QCOMPARE(text->toPlainText(), first.data(ArtworkModel::EmojiRole).toString());
 }

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ArtworkCard.h"
 
+#include "ArtworkDelegate.h"
 #include "ArtworkModel.h"
-#include "ArtworkView.h"
+#include "widgets/ListView.h"
 #include "widgets/SegmentedControl.h"
 
 #include <QVBoxLayout>
@@ -61,7 +62,12 @@ QWidget *ArtworkCard::makeKinds()
 
 QWidget *ArtworkCard::makeView()
 {
-    auto *view = new ArtworkView(m_model, this);
+    auto *view = new ListView(m_model, new ArtworkDelegate, this);
+    view->setAccessibleName(tr("Artwork"));
+    view->setFlow(QListView::LeftToRight);
+    view->setWrapping(true);
+    view->setResizeMode(QListView::Adjust);
+    view->setUniformItemSizes(true);
     view->setFixedHeight(viewHeight);
     const auto choose = [this](const QModelIndex &index) {
         Q_EMIT chosen(index.data(ArtworkModel::EmojiRole).toString());

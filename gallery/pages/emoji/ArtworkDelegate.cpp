@@ -4,8 +4,6 @@
 #include "ArtworkModel.h"
 #include "Metrics.h"
 
-#include <UiElements/fonts/OxaFont.h>
-
 #include <QPainter>
 #include <QPixmapCache>
 #include <QSvgRenderer>
@@ -35,20 +33,10 @@ QPixmap pictureOf(const QString &path, qreal pixelRatio)
 
 } // namespace
 
-ArtworkDelegate::ArtworkDelegate(QObject *parent) : QStyledItemDelegate(parent) { }
-
-void ArtworkDelegate::refresh(OxaThemeUtils::AppThemeType themeType)
-{
-    m_ground = OxaThemeUtils::getColorSet("gallery-list-item", themeType);
-    m_text = OxaThemeUtils::getColorSet("gallery-list-item-caption-text", themeType);
-    m_focusBorder = OxaThemeUtils::getColorSet("gallery-focus-border", themeType);
-    m_font = OxaFont(OxaFont::Token::RadioButtonLabelSecondary);
-}
-
 QSize ArtworkDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
 {
     // As wide as the name of a flag, which is of usual length.
-    const QFontMetrics metrics(m_font);
+    const QFontMetrics metrics(look().captionFont);
     return { metrics.horizontalAdvance(QStringLiteral("1f1ea-1f1ea")) + 2 * Metrics::small,
              pictureSize + metrics.height() + Metrics::tight + 2 * Metrics::small };
 }
@@ -57,7 +45,7 @@ void ArtworkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
                             const QModelIndex &index) const
 {
     painter->save();
-    paintGround(painter, option);
+    paintTile(painter, option);
     const QRect inner = option.rect.adjusted(Metrics::tight, Metrics::small, -Metrics::tight,
                                              -Metrics::small);
     const QRect picture(inner.center().x() - pictureSize / 2 + 1, inner.top(), pictureSize,
@@ -67,22 +55,22 @@ void ArtworkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
                                   painter->device()->devicePixelRatioF()));
     // A name reads from left to right in any interface.
     painter->setLayoutDirection(Qt::LeftToRight);
-    painter->setFont(m_font);
-    const bool isHovered = option.state.testFlag(QStyle::State_MouseOver);
-    painter->setPen(isHovered ? m_text.hovered : m_text.normal);
+    painter->setFont(look().captionFont);
+    painter->setPen(colorFor(look().captionText, option.state & ~QStyle::State_Selected));
     painter->drawText(inner, Qt::AlignHCenter | Qt::AlignBottom,
                       painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideMiddle,
                                                         inner.width()));
     painter->restore();
 }
 
-void ArtworkDelegate::paintGround(QPainter *painter, const QStyleOptionViewItem &option) const
+void ArtworkDelegate::paintTile(QPainter *painter, const QStyleOptionViewItem &option) const
 {
     const QRectF rect = QRectF(option.rect).adjusted(1, 1, -1, -1);
     painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter->setPen(option.state.testFlag(QStyle::State_HasFocus) ? QPen(m_focusBorder.normal, 2)
-                                                                  : QPen(Qt::NoPen));
-    painter->setBrush(option.state.testFlag(QStyle::State_MouseOver) ? m_ground.hovered
+    painter->setPen(option.state.testFlag(QStyle::State_HasFocus)
+                            ? QPen(look().focusBorder.normal, 2)
+                            : QPen(Qt::NoPen));
+    painter->setBrush(option.state.testFlag(QStyle::State_MouseOver) ? look().ground.hovered
                                                                      : QColor(Qt::transparent));
     painter->drawRoundedRect(rect, radius, radius);
 }

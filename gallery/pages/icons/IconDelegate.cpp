@@ -5,7 +5,6 @@
 #include "IconRenderers.h"
 #include "Metrics.h"
 
-#include <UiElements/fonts/OxaFont.h>
 #include <UiElements/svg/OxaSvgRenderer.h>
 
 #include <QAbstractItemView>
@@ -40,33 +39,28 @@ QRect squareIn(const QRect &rect, int size)
 } // namespace
 
 IconDelegate::IconDelegate(const IconModel *model, IconRenderers *renderers, QObject *parent)
-    : QStyledItemDelegate(parent), m_model(model), m_renderers(renderers)
+    : ItemDelegate(parent), m_model(model), m_renderers(renderers)
 {
 }
 
 void IconDelegate::refresh(OxaThemeUtils::AppThemeType themeType)
 {
-    m_ground = OxaThemeUtils::getColorSet("gallery-list-item", themeType);
-    m_nameText = OxaThemeUtils::getColorSet("gallery-list-item-text", themeType);
-    m_captionText = OxaThemeUtils::getColorSet("gallery-list-item-caption-text", themeType);
-    m_line = OxaThemeUtils::getColorSet("gallery-card-border", themeType);
-    m_focusBorder = OxaThemeUtils::getColorSet("gallery-focus-border", themeType);
+    ItemDelegate::refresh(themeType);
     m_good = OxaThemeUtils::getColorSet("gallery-success-text", themeType);
     m_other = OxaThemeUtils::getColorSet("gallery-note-text", themeType);
     m_bad = OxaThemeUtils::getColorSet("gallery-error-text", themeType);
-    m_nameFont = OxaFont(OxaFont::Token::BodySecondary);
-    m_captionFont = OxaFont(OxaFont::Token::RadioButtonLabelSecondary);
 }
 
 int IconDelegate::rowHeight() const
 {
-    const int lines = QFontMetrics(m_nameFont).height() + QFontMetrics(m_captionFont).height();
+    const int lines = QFontMetrics(look().font).height()
+            + QFontMetrics(look().captionFont).height();
     return qMax(lines, m_iconSize) + Metrics::spacing;
 }
 
 int IconDelegate::stateColumnWidth() const
 {
-    const int word = QFontMetrics(m_captionFont).horizontalAdvance(QStringLiteral("disabled"));
+    const int word = QFontMetrics(look().captionFont).horizontalAdvance(QStringLiteral("disabled"));
     return qMax(word, m_iconSize) + Metrics::small;
 }
 
@@ -85,13 +79,10 @@ void IconDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
 void IconDelegate::paintFrame(QPainter *painter, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const
 {
-    painter->setPen(m_line.normal);
-    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    paintLine(painter, option.rect);
     const auto *view = qobject_cast<const QAbstractItemView *>(option.widget);
-    if (!view || view->currentIndex() != index)
-        return;
-    painter->setPen(QPen(m_focusBorder.normal, 2));
-    painter->drawRect(option.rect.adjusted(1, 1, -1, -2));
+    if (view && view->currentIndex() == index)
+        paintFocusFrame(painter, option.rect);
 }
 
 void IconDelegate::paintName(QPainter *painter, const QStyleOptionViewItem &option,
@@ -99,22 +90,19 @@ void IconDelegate::paintName(QPainter *painter, const QStyleOptionViewItem &opti
 {
     // Only the name has the ground of a chosen row: the icons have the colours of a set that is
     // made for the ground of the card.
-    const bool isChosen = option.state.testFlag(QStyle::State_Selected);
-    if (isChosen)
-        painter->fillRect(option.rect, m_ground.checked);
-    else if (option.state.testFlag(QStyle::State_MouseOver))
-        painter->fillRect(option.rect, m_ground.hovered);
+    painter->fillRect(option.rect, colorFor(look().ground, option.state));
 
     const IconDiagnosis &diagnosis = m_model->diagnosis(index.row());
-    const Qt::LayoutDirection direction = painter->layoutDirection();
+    const bool isChosen = option.state.testFlag(QStyle::State_Selected);
     const QRect inner = option.rect.adjusted(Metrics::spacing, 0, -Metrics::small, 0);
     const QRect mark(inner.topLeft(), QSize(markSize, inner.height()));
-    const QColor markColor = isChosen ? m_nameText.checked : markColors(diagnosis.outcome).normal;
+    const QColor markColor = isChosen ? look().text.checked : markColors(diagnosis.outcome).normal;
     m_renderers->get(OxaSvgRenderer::resourcePath(markOf(diagnosis.outcome)))
-            ->draw(painter, squareIn(QStyle::visualRect(direction, option.rect, mark), markSize),
+            ->draw(painter,
+                   squareIn(QStyle::visualRect(option.direction, option.rect, mark), markSize),
                    markColor, 1.0);
     const QRect texts = inner.adjusted(markSize + Metrics::small, 0, 0, 0);
-    paintTexts(painter, QStyle::visualRect(direction, option.rect, texts), index, isChosen);
+    paintTexts(painter, option, QStyle::visualRect(option.direction, option.rect, texts), index);
 }
 
 const OxaColorSet &IconDelegate::markColors(IconDiagnosis::Outcome outcome) const
@@ -130,25 +118,21 @@ const OxaColorSet &IconDelegate::markColors(IconDiagnosis::Outcome outcome) cons
     }
 }
 
-void IconDelegate::paintTexts(QPainter *painter, const QRect &rect, const QModelIndex &index,
-                              bool isChosen) const
+void IconDelegate::paintTexts(QPainter *painter, const QStyleOptionViewItem &option,
+                              const QRect &rect, const QModelIndex &index) const
 {
-    const auto paintLine = [painter, &rect](int y, const QFont &font, const QString &text) {
-        painter->setFont(font);
-        const QFontMetrics metrics = painter->fontMetrics();
-        painter->drawText(QRect(rect.x(), y, rect.width(), metrics.height()),
-                          Qt::AlignLeft | Qt::AlignVCenter,
-                          metrics.elidedText(text, Qt::ElideRight, rect.width()));
-    };
     const IconDiagnosis &diagnosis = m_model->diagnosis(index.row());
-    const int nameHeight = QFontMetrics(m_nameFont).height();
-    const int captionHeight = QFontMetrics(m_captionFont).height();
+    const int nameHeight = QFontMetrics(look().font).height();
+    const int captionHeight = QFontMetrics(look().captionFont).height();
     const int top = rect.y() + (rect.height() - nameHeight - captionHeight) / 2;
-    painter->setPen(isChosen ? m_nameText.checked : m_nameText.normal);
-    paintLine(top, m_nameFont, index.data().toString());
-    painter->setPen(isChosen ? m_captionText.checked : m_captionText.normal);
-    paintLine(top + nameHeight, m_captionFont,
-              tr("%1, %2").arg(diagnosis.title(), diagnosis.painterText()));
+    painter->setFont(look().font);
+    painter->setPen(colorFor(look().text, option.state));
+    drawElided(painter, QRect(rect.x(), top, rect.width(), nameHeight), index.data().toString(),
+               option.direction);
+    painter->setFont(look().captionFont);
+    painter->setPen(colorFor(look().captionText, option.state));
+    drawElided(painter, QRect(rect.x(), top + nameHeight, rect.width(), captionHeight),
+               tr("%1, %2").arg(diagnosis.title(), diagnosis.painterText()), option.direction);
 }
 
 void IconDelegate::paintIcon(QPainter *painter, const QRect &rect, const QModelIndex &index) const

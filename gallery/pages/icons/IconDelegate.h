@@ -2,17 +2,13 @@
 #pragma once
 
 #include "IconDiagnosis.h"
-
-#include <UiElements/theme/OxaThemeUtils.h>
-
-#include <QFont>
-#include <QStyledItemDelegate>
+#include "widgets/ItemDelegate.h"
 
 class IconModel;
 class IconRenderers;
 
 /// Paints the cells of an IconModel: names with diagnoses, and icons in the colours of a set.
-class IconDelegate : public QStyledItemDelegate
+class IconDelegate : public ItemDelegate
 {
     Q_OBJECT
 
@@ -20,8 +16,7 @@ public:
     /// Paints \a model with \a renderers; both must outlive the delegate.
     IconDelegate(const IconModel *model, IconRenderers *renderers, QObject *parent = nullptr);
 
-    /// Takes the colours of \a themeType, and the fonts at the scale of this moment.
-    void refresh(OxaThemeUtils::AppThemeType themeType);
+    void refresh(OxaThemeUtils::AppThemeType themeType) override;
 
     /// Paints the icons in the colours of \a colorSet.
     void setColorSet(const OxaColorSet &colorSet) { m_colorSet = colorSet; }
@@ -45,22 +40,15 @@ private:
     void paintName(QPainter *painter, const QStyleOptionViewItem &option,
                    const QModelIndex &index) const;
     const OxaColorSet &markColors(IconDiagnosis::Outcome outcome) const;
-    void paintTexts(QPainter *painter, const QRect &rect, const QModelIndex &index,
-                    bool isChosen) const;
+    void paintTexts(QPainter *painter, const QStyleOptionViewItem &option, const QRect &rect,
+                    const QModelIndex &index) const;
     void paintIcon(QPainter *painter, const QRect &rect, const QModelIndex &index) const;
 
     const IconModel *const m_model;
     IconRenderers *const m_renderers;
     int m_iconSize = 16;
     OxaColorSet m_colorSet;
-    OxaColorSet m_ground;
-    OxaColorSet m_nameText;
-    OxaColorSet m_captionText;
-    OxaColorSet m_line;
-    OxaColorSet m_focusBorder;
     OxaColorSet m_good;
     OxaColorSet m_other;
     OxaColorSet m_bad;
-    QFont m_nameFont;
-    QFont m_captionFont;
 };

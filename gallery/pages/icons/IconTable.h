@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <UiElements/theme/ThemeBlock.h>
-
-#include <QTableView>
+#include "widgets/TableView.h"
 
 class IconDelegate;
 class IconModel;
@@ -11,10 +9,9 @@ class IconRenderers;
 
 /// A contact sheet: a row for each icon, in the six states of a colour set. It has a current cell,
 /// which is an icon in a state.
-class IconTable : public QTableView
+class IconTable : public TableView
 {
     Q_OBJECT
-    UIELEMENTS_THEME_BLOCK(QTableView)
 
 public:
     /// Shows \a model with \a renderers; both must outlive the table.
@@ -29,8 +26,7 @@ public:
     /// Returns the colours of the icons.
     OxaColorSet colorSet() const;
 
-    /// Takes the colours of the theme, and the fonts at the scale of this moment.
-    void refresh();
+    void refresh() override;
 
 Q_SIGNALS:
     /// Another icon is the current one, or another state.
@@ -43,8 +39,7 @@ protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
 private:
-    void applyLook();
-    void setUpHeaders();
+    IconTable(IconModel *model, IconRenderers *renderers, IconDelegate *delegate, QWidget *parent);
 
     IconDelegate *const m_delegate;
     QString m_colorSetName;

@@ -47,9 +47,8 @@ Card *LayoutsPage::makeStageCard()
     });
     card->addToHeading(kind);
 
-    m_area->setCSS(ScrollArea::scrollBarStyleText()
-                   + QStringLiteral("ScrollArea { background-color: $(gallery-code-background);"
-                                    " border: 1px solid $(gallery-card-border); }"));
+    m_area->setCSS(QStringLiteral("ScrollArea { background-color: $(gallery-code-background);"
+                                  " border: 1px solid $(gallery-card-border); }"));
     m_area->setContents(m_board);
     m_area->setFocusPolicy(Qt::NoFocus);
     card->body()->addWidget(new ResizeFrame(m_area, card), 1);

@@ -2,8 +2,9 @@
 #include "ConversationList.h"
 
 #include "ConversationModel.h"
-#include "ConversationView.h"
+#include "RowDelegate.h"
 #include "widgets/EmptyState.h"
+#include "widgets/ListView.h"
 
 #include <QStackedLayout>
 
@@ -15,12 +16,14 @@ constexpr int listHeight = 272;
 
 ConversationList::ConversationList(ConversationModel *model, QWidget *parent)
     : OxaWidget(parent),
-      m_view(new ConversationView(model, this)),
+      m_view(new ListView(model, new RowDelegate, this)),
       m_stack(new QStackedLayout(this))
 {
     auto *emptyState = new EmptyState(model->property("emptyStateSubtitle").toString(),
                                       tr("Start some"), this);
     emptyState->setSummary(model->property("emptyStateHeader").toString());
+    m_view->setAccessibleName(tr("Conversations"));
+    m_view->setUniformItemSizes(true);
     m_stack->addWidget(m_view);
     m_stack->addWidget(emptyState);
     setMinimumHeight(listHeight);

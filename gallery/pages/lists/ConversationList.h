@@ -4,7 +4,7 @@
 #include <UiElements/widgets/OxaWidget.h>
 
 class ConversationModel;
-class ConversationView;
+class ListView;
 class QStackedLayout;
 
 /// A list of conversations, or while it has none the texts that the model has for this case.
@@ -16,13 +16,13 @@ public:
     /// Shows \a model, which must outlive the list.
     explicit ConversationList(ConversationModel *model, QWidget *parent = nullptr);
 
-    ConversationView *view() const { return m_view; }
+    ListView *view() const { return m_view; }
 
 Q_SIGNALS:
     /// The user wants the empty list filled.
     void fillRequested();
 
 private:
-    ConversationView *m_view;
+    ListView *m_view;
     QStackedLayout *m_stack;
 };

@@ -3,7 +3,6 @@
 
 #include "ConversationList.h"
 #include "ConversationModel.h"
-#include "ConversationView.h"
 #include "Conversations.h"
 #include "Metrics.h"
 #include "ModelRecorder.h"
@@ -11,6 +10,7 @@
 #include "widgets/Button.h"
 #include "widgets/CodeEdit.h"
 #include "widgets/Labels.h"
+#include "widgets/ListView.h"
 #include "widgets/Slider.h"
 
 #include <UiElements/widgets/OxaLabel.h>

@@ -4,7 +4,7 @@
 #include "GalleryApplication.h"
 #include "RowDelegate.h"
 #include "TextSettings.h"
-#include "widgets/ScrollArea.h"
+#include "widgets/ListView.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -13,16 +13,7 @@
 LongListView::LongListView(QAbstractItemModel *model, QWidget *parent)
     : QAbstractScrollArea(parent), m_model(model), m_delegate(new RowDelegate(this))
 {
-    // Qt asked the style about the scroll bars before there were rules for them. It forgets the
-    // answers when a widget that is polished gets a sheet.
-    ensurePolished();
-    setCSS(QStringLiteral("$backgroundColors: gallery-card-background;"
-                          "$borderColors: gallery-field-border;"
-                          "$borderRadius: 6;"
-                          "LongListView { padding: 1px; }"
-                          // Under the pointer, too, one sees where the focus is.
-                          "LongListView:focus { border-color: $(gallery-field-border.focused); }")
-           + ScrollArea::scrollBarStyleText());
+    setCSS(ListView::frameStyleText());
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setFocusPolicy(Qt::StrongFocus);

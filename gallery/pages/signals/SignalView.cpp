@@ -5,7 +5,6 @@
 #include "SignalDelegate.h"
 #include "SignalModel.h"
 #include "TextSettings.h"
-#include "widgets/ScrollArea.h"
 
 SignalView::SignalView(SignalModel *model, QWidget *parent)
     : QListView(parent), m_delegate(new SignalDelegate(this))
@@ -19,8 +18,7 @@ SignalView::SignalView(SignalModel *model, QWidget *parent)
                           // Rows stay clear of the round corners.
                           "SignalView { padding: 3px; }"
                           // Under the pointer, too, one sees where the focus is.
-                          "SignalView:focus { border-color: $(gallery-field-border.focused); }")
-           + ScrollArea::scrollBarStyleText());
+                          "SignalView:focus { border-color: $(gallery-field-border.focused); }"));
     setAccessibleName(tr("Signals"));
     setModel(model);
     setItemDelegate(m_delegate);

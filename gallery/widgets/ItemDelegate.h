@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/theme/OxaThemeUtils.h>
+
+#include <QFont>
+#include <QStyledItemDelegate>
+
+/// The colours and the fonts of items in lists and tables.
+struct ItemLook
+{
+    /// Makes the look of \a themeType, with fonts at the scale of this moment.
+    explicit ItemLook(OxaThemeUtils::AppThemeType themeType);
+
+    OxaColorSet ground;
+    OxaColorSet headingText;
+    OxaColorSet text;
+    OxaColorSet captionText;
+    OxaColorSet line; ///< Below each item.
+    OxaColorSet focusBorder;
+    OxaColorSet badgeGround;
+    OxaColorSet badgeText;
+    QFont headingFont;
+    QFont font;
+    QFont captionFont;
+};
+
+/// The base of the delegates: it paints what items have in common, and leaves to a subclass what is
+/// its own.
+class ItemDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit ItemDelegate(QObject *parent = nullptr);
+
+    /// Takes the colours of \a themeType, and the fonts at the scale of this moment.
+    virtual void refresh(OxaThemeUtils::AppThemeType themeType);
+
+    /// Returns the height of a heading's row.
+    int headingHeight() const;
+
+protected:
+    const ItemLook &look() const { return m_look; }
+
+    /// Returns the size of a badge with \a text.
+    QSize badgeSize(const QString &text) const;
+
+    /// Fills \a option's rectangle with the ground of its state, draws the line below it, and marks
+    /// the focus.
+    void paintGround(QPainter *painter, const QStyleOptionViewItem &option) const;
+
+    void paintLine(QPainter *painter, const QRect &rect) const;
+    void paintFocusFrame(QPainter *painter, const QRect &rect) const;
+    void paintHeading(QPainter *painter, const QRect &rect, const QString &text) const;
+    void paintBadge(QPainter *painter, const QRect &rect, const QString &text,
+                    QStyle::State state) const;
+
+    /// Returns the colour of \a colorSet for an item that is chosen, under the pointer, or neither.
+    static const QColor &colorFor(const OxaColorSet &colorSet, QStyle::State state);
+
+    /// Draws \a text on one line, from where lines of a layout in \a direction begin, but in its
+    /// own direction: a full stop stands behind an English sentence in any interface.
+    static void drawElided(QPainter *painter, const QRect &rect, const QString &text,
+                           Qt::LayoutDirection direction, Qt::TextElideMode mode = Qt::ElideRight);
+
+private:
+    ItemLook m_look;
+};

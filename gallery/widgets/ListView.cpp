@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ListView.h"
+
+#include "GalleryApplication.h"
+#include "ItemDelegate.h"
+#include "TextSettings.h"
+
+ListView::ListView(QAbstractItemModel *model, ItemDelegate *delegate, QWidget *parent)
+    : QListView(parent), m_delegate(delegate)
+{
+    delegate->setParent(this);
+    setCSS(frameStyleText());
+    setModel(model);
+    setItemDelegate(delegate);
+    setMouseTracking(true);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_themeBlock.followTheme();
+
+    connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, this,
+            &ListView::refresh);
+}
+
+QString ListView::frameStyleText()
+{
+    return QStringLiteral("$backgroundColors: gallery-card-background;"
+                          "$borderColors: gallery-field-border;"
+                          "$borderRadius: 6;"
+                          // Rows stay clear of the round corners.
+                          "QAbstractScrollArea { padding: 3px; }"
+                          // Under the pointer, too, one sees where the focus is.
+                          "QAbstractScrollArea:focus {"
+                          " border-color: $(gallery-field-border.focused); }");
+}
+
+void ListView::onThemeChanged() { refresh(); }
+
+void ListView::refresh()
+{
+    m_delegate->refresh(getThemeType());
+    scheduleDelayedItemsLayout();
+    viewport()->update();
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/theme/ThemeBlock.h>
+
+#include <QListView>
+
+class ItemDelegate;
+
+/// A list in a frame, whose delegate follows the theme and the size of text.
+class ListView : public QListView
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QListView)
+
+public:
+    /// Shows \a model by \a delegate, which belongs to the view from now on.
+    ListView(QAbstractItemModel *model, ItemDelegate *delegate, QWidget *parent = nullptr);
+
+    /// Returns the style text of the frame, for whatever else scrolls items.
+    static QString frameStyleText();
+
+private:
+    void refresh();
+
+    ItemDelegate *const m_delegate;
+};

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/theme/ThemeBlock.h>
+
+#include <QTableView>
+
+class ItemDelegate;
+
+/// A table in a frame, whose first column takes the room that the others leave, and scrolls where
+/// that is not enough for a name. Its header and its delegate follow the theme and the size of
+/// text.
+class TableView : public QTableView
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QTableView)
+
+public:
+    /// Shows \a model by \a delegate, which belongs to the table from now on.
+    TableView(QAbstractItemModel *model, ItemDelegate *delegate, QWidget *parent = nullptr);
+
+    /// Takes the colours of the theme, and the fonts at the scale of this moment.
+    virtual void refresh();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+    /// Gives the first column the room that the others leave.
+    void fitFirstColumn();
+
+private:
+    void applyLook();
+    void setUpHeaders();
+
+    ItemDelegate *const m_delegate;
+};
