@@ -5,7 +5,6 @@
 #include "HeaderBar.h"
 #include "Metrics.h"
 #include "NavigationList.h"
-#include "TextSettings.h"
 #include "ThemeSwitcher.h"
 #include "widgets/PageStack.h"
 
@@ -51,6 +50,7 @@ GalleryWindow::GalleryWindow(QWidget *parent)
 {
     setThemeType(GalleryApplication::get()->themeSwitcher()->themeType());
     setCSS(QStringLiteral("$backgroundColors: gallery-window-background;") + scrollBarStyleText());
+    setMinimumSize(Metrics::smallestWindowWidth, Metrics::smallestWindowHeight);
     resize(Metrics::windowWidth, Metrics::windowHeight);
 
     auto *row = new QHBoxLayout;
@@ -64,13 +64,10 @@ GalleryWindow::GalleryWindow(QWidget *parent)
     column->setSpacing(0);
     column->addWidget(m_header);
     column->addLayout(row, 1);
-    // Pages scroll: the header alone decides how small the window may be, and pages come later.
+    // Pages scroll, and the header wraps: neither decides how small the window may be.
     column->setSizeConstraint(QLayout::SetNoConstraint);
-    fitHeader();
 
     connect(m_navigation, &NavigationList::pageChosen, m_pages, &PageStack::showPage);
-    connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, this,
-            &GalleryWindow::fitHeader);
 }
 
 void GalleryWindow::showPage(const QString &name)
@@ -78,5 +75,3 @@ void GalleryWindow::showPage(const QString &name)
     m_navigation->setCurrentPage(name);
     m_pages->showPage(name);
 }
-
-void GalleryWindow::fitHeader() { setMinimumWidth(m_header->minimumSizeHint().width()); }

@@ -19,8 +19,6 @@ public:
     void showPage(const QString &name);
 
 private:
-    void fitHeader();
-
     HeaderBar *m_header;
     NavigationList *m_navigation;
     PageStack *m_pages;

@@ -7,6 +7,7 @@
 #include "widgets/Labels.h"
 #include "widgets/SegmentedControl.h"
 #include "widgets/Slider.h"
+#include "widgets/WrapLayout.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
@@ -31,14 +32,18 @@ HeaderBar::HeaderBar(ThemeSwitcher *themeSwitcher, TextSettings *textSettings, Q
     : OxaWidget(parent),
       m_themeSwitcher(themeSwitcher),
       m_textSettings(textSettings),
-      m_row(new QHBoxLayout(this))
+      m_controls(new WrapLayout(Metrics::spacing))
 {
     setCSS(QStringLiteral("$backgroundColors: gallery-header-background;"
                           "$borderColors: gallery-divider; $borders: bottom;"));
-    m_row->setContentsMargins(Metrics::gap, Metrics::small, Metrics::gap, Metrics::small);
-    m_row->setSpacing(Metrics::spacing);
-    m_row->addWidget(Labels::heading(tr("UiElements"), this));
-    m_row->addStretch(1);
+    OxaLabel *title = Labels::heading(tr("UiElements"), this);
+    // The controls begin where the page below them does.
+    title->setMinimumWidth(Metrics::sidebarWidth + Metrics::margin - Metrics::gap);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(Metrics::gap, Metrics::small, Metrics::gap, Metrics::small);
+    row->setSpacing(1);
+    row->addWidget(title);
+    row->addLayout(m_controls, 1);
     addControl(tr("Appearance"), makeAppearanceControl());
     addControl(tr("Theme type"), makeThemeTypeControl());
     addControl(tr("Direction"), makeDirectionControl());
@@ -49,11 +54,13 @@ HeaderBar::HeaderBar(ThemeSwitcher *themeSwitcher, TextSettings *textSettings, Q
 void HeaderBar::addControl(const QString &caption, QWidget *control)
 {
     control->setAccessibleName(caption);
-    auto *column = new QVBoxLayout;
+    auto *captioned = new OxaWidget(this);
+    auto *column = new QVBoxLayout(captioned);
+    column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Metrics::tight);
     column->addWidget(Labels::caption(caption, this));
     column->addWidget(control, 1);
-    m_row->addLayout(column);
+    m_controls->addWidget(captioned);
 }
 
 QWidget *HeaderBar::makeAppearanceControl()

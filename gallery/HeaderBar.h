@@ -3,11 +3,12 @@
 
 #include <UiElements/widgets/OxaWidget.h>
 
-class QHBoxLayout;
 class TextSettings;
 class ThemeSwitcher;
+class WrapLayout;
 
-/// The bar at the top of the window: what the whole gallery is shown in, always at hand.
+/// The bar at the top of the window: what the whole gallery is shown in, always at hand. Controls
+/// that have no room beside the others go to another row.
 class HeaderBar : public OxaWidget
 {
     Q_OBJECT
@@ -25,5 +26,5 @@ private:
 
     ThemeSwitcher *const m_themeSwitcher;
     TextSettings *const m_textSettings;
-    QHBoxLayout *m_row;
+    WrapLayout *m_controls;
 };

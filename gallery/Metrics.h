@@ -11,8 +11,11 @@ constexpr int gap = 24;     ///< Between groups.
 constexpr int margin = 32;  ///< Around a page.
 
 constexpr int scrollBar = 12;
+constexpr int leastListHeight = 256; ///< Of a list that takes what room a page leaves.
 constexpr int sidebarWidth = 216;
 constexpr int windowWidth = 1200;
 constexpr int windowHeight = 800;
+constexpr int smallestWindowWidth = 900;
+constexpr int smallestWindowHeight = 600;
 
 } // namespace Metrics

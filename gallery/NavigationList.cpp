@@ -4,6 +4,7 @@
 #include "Metrics.h"
 #include "PageRegistry.h"
 #include "widgets/Labels.h"
+#include "widgets/ScrollArea.h"
 #include "widgets/ToggleButton.h"
 
 #include <UiElements/widgets/OxaLabel.h>
@@ -35,22 +36,32 @@ OxaLabel *makeGroupHeading(const QString &text, QWidget *parent)
 
 } // namespace
 
-NavigationList::NavigationList(QWidget *parent) : OxaWidget(parent)
+NavigationList::NavigationList(QWidget *parent) : OxaWidget(parent), m_area(new ScrollArea(this))
 {
     setCSS(QStringLiteral("$backgroundColors: gallery-sidebar-background;"));
     setMinimumWidth(Metrics::sidebarWidth);
-    auto *column = new QVBoxLayout(this);
+    auto *items = new OxaWidget;
+    auto *column = new QVBoxLayout(items);
     column->setContentsMargins(Metrics::small, Metrics::small, Metrics::small, Metrics::small);
     column->setSpacing(2);
     addEntries(column);
     column->addStretch(1);
+
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_area->setFocusPolicy(Qt::NoFocus);
+    m_area->setContents(items);
+    auto *frame = new QVBoxLayout(this);
+    frame->setContentsMargins(0, 0, 0, 0);
+    frame->addWidget(m_area);
 }
 
 void NavigationList::setCurrentPage(const QString &name)
 {
     const auto found = m_items.find(name);
-    if (found != m_items.end())
-        found->second->setChecked(true);
+    if (found == m_items.end())
+        return;
+    found->second->setChecked(true);
+    m_area->ensureWidgetVisible(found->second);
 }
 
 void NavigationList::addEntries(QVBoxLayout *column)

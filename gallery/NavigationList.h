@@ -6,6 +6,7 @@
 #include <map>
 
 class QVBoxLayout;
+class ScrollArea;
 class ToggleButton;
 struct PageEntry;
 
@@ -28,5 +29,6 @@ private:
     void addEntries(QVBoxLayout *column);
     ToggleButton *addItem(const PageEntry &entry);
 
+    ScrollArea *m_area;
     std::map<QString, ToggleButton *> m_items;
 };

@@ -2,15 +2,25 @@
 #include "Page.h"
 
 #include "Metrics.h"
+#include "widgets/ColumnsLayout.h"
 #include "widgets/Labels.h"
 #include "widgets/ScrollArea.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
+#include <QScrollBar>
 #include <QVBoxLayout>
+
+namespace {
+
+/// Around a body that scrolls, which takes the focus so that keys can scroll it.
+constexpr int focusFrame = 2;
+
+} // namespace
 
 Page::Page(const QString &title, const QString &summary, QWidget *parent) : OxaWidget(parent)
 {
+    setAccessibleName(title);
     auto *head = new QVBoxLayout;
     head->setContentsMargins(Metrics::margin, Metrics::gap, Metrics::margin, Metrics::spacing);
     head->setSpacing(Metrics::tight);
@@ -31,14 +41,35 @@ Page::Page(const QString &title, const QString &summary, QWidget *parent) : OxaW
 void Page::makeBodyScroll()
 {
     auto *area = new ScrollArea(this);
+    area->setAccessibleName(accessibleName());
+    area->setCSS(QStringLiteral("ScrollArea { border: %1px solid transparent; }"
+                                "ScrollArea:focus { border-color: $(gallery-focus-border); }")
+                         .arg(focusFrame));
     auto *contents = new OxaWidget(area->viewport());
     auto *scrolled = new QVBoxLayout(contents);
     scrolled->setSpacing(m_body->spacing());
-    contents->setLayoutContentsMargins(Metrics::margin, 0, Metrics::margin - Metrics::scrollBar,
-                                       Metrics::margin);
+    const QScrollBar *bar = area->verticalScrollBar();
+    // Cards are as wide with a scroll bar beside them as without. Tab stops at what keys can
+    // scroll.
+    const auto followBar = [area, contents, bar] {
+        constexpr int side = Metrics::margin - focusFrame;
+        const bool scrolls = bar->maximum() > 0;
+        area->setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
+        contents->setLayoutContentsMargins(side, 0, side - (scrolls ? Metrics::scrollBar : 0),
+                                           side);
+    };
+    connect(bar, &QScrollBar::rangeChanged, contents, followBar);
+    followBar();
     area->setContents(contents);
 
-    m_body->setContentsMargins(0, 0, 0, 0);
+    m_body->setContentsMargins(0, -focusFrame, 0, 0);
     m_body->addWidget(area);
     m_body = scrolled;
+}
+
+ColumnsLayout *Page::makeColumns()
+{
+    auto *columns = new ColumnsLayout(Metrics::spacing, Metrics::spacing);
+    m_body->addLayout(columns);
+    return columns;
 }

@@ -3,6 +3,7 @@
 
 #include <UiElements/widgets/OxaWidget.h>
 
+class ColumnsLayout;
 class QVBoxLayout;
 
 /// A page of the gallery: a title, a line that says what it shows, and a body that fills the rest.
@@ -19,6 +20,9 @@ protected:
 
     /// Turns the body into one that scrolls as a whole. Comes before anything is put into it.
     void makeBodyScroll();
+
+    /// Appends columns for cards to the body and returns them.
+    ColumnsLayout *makeColumns();
 
 private:
     QVBoxLayout *m_body;

@@ -3,12 +3,11 @@
 
 #include "ColorSetModel.h"
 #include "ColorSetTable.h"
-#include "GalleryApplication.h"
 #include "Metrics.h"
-#include "TextSettings.h"
 #include "widgets/EmptyState.h"
 #include "widgets/Labels.h"
 #include "widgets/LineEdit.h"
+#include "widgets/WrapLayout.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
@@ -35,6 +34,8 @@ ColoursPage::ColoursPage(QWidget *parent)
       m_count(Labels::chip(QString(), this)),
       m_store(Labels::chip(QString(), this))
 {
+    makeBodyScroll();
+    m_table->setMinimumHeight(Metrics::leastListHeight);
     body()->addLayout(makeToolbar());
     body()->addWidget(m_table, 1);
     body()->addWidget(m_emptyState, 1);
@@ -43,27 +44,22 @@ ColoursPage::ColoursPage(QWidget *parent)
     connect(m_emptyState, &EmptyState::actionTriggered, m_search, &QLineEdit::clear);
     connect(m_table, &ColorSetTable::copied, this,
             [this](const QString &text) { m_copied->setText(tr("Copied %1").arg(text)); });
-    connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, m_table,
-            &ColorSetTable::refresh);
     showStore();
 }
 
 void ColoursPage::onThemeChanged() { showStore(); }
 
-QHBoxLayout *ColoursPage::makeToolbar()
+QLayout *ColoursPage::makeToolbar()
 {
     m_search->setPlaceholderText(tr("Search names and colour values"));
     m_search->setAccessibleName(tr("Search"));
     m_search->setClearButtonEnabled(true);
     m_search->setFixedWidth(searchWidth);
-    auto *row = new QHBoxLayout;
-    row->setSpacing(Metrics::small);
+    auto *row = new WrapLayout(Metrics::small);
     row->addWidget(m_search);
-    row->addSpacing(Metrics::small);
-    row->addWidget(m_copied);
-    row->addStretch(1);
     row->addWidget(m_count);
     row->addWidget(m_store);
+    row->addWidget(m_copied);
     return row;
 }
 

@@ -8,7 +8,7 @@ class ColorSetTable;
 class EmptyState;
 class LineEdit;
 class OxaLabel;
-class QHBoxLayout;
+class QLayout;
 
 /// Shows the colour sets of the store that the window takes its colours from, and finds some of
 /// them.
@@ -23,7 +23,7 @@ protected:
     void onThemeChanged() override;
 
 private:
-    QHBoxLayout *makeToolbar();
+    QLayout *makeToolbar();
     void search(const QString &text);
     void showStore();
     void showCount();

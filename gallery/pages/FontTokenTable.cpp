@@ -15,7 +15,7 @@ FontTokenTable::FontTokenTable(QWidget *parent) : OxaWidget(parent)
 {
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(Metrics::gap);
+    grid->setHorizontalSpacing(Metrics::spacing);
     grid->setVerticalSpacing(Metrics::small);
     grid->setColumnStretch(1, 1);
     const auto tokens = QMetaEnum::fromType<OxaFont::Token>();

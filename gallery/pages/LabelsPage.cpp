@@ -4,6 +4,7 @@
 #include "Metrics.h"
 #include "TintedStar.h"
 #include "widgets/Card.h"
+#include "widgets/ColumnsLayout.h"
 #include "widgets/ControlRow.h"
 #include "widgets/Labels.h"
 #include "widgets/SegmentedControl.h"
@@ -11,7 +12,7 @@
 
 #include <UiElements/widgets/OxaLabel.h>
 
-#include <QGridLayout>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -49,17 +50,13 @@ LabelsPage::LabelsPage(QWidget *parent)
            parent)
 {
     makeBodyScroll();
-    auto *grid = new QGridLayout;
-    grid->setSpacing(Metrics::spacing);
-    grid->addWidget(makeElisionCard(), 0, 0);
-    grid->addWidget(makeWrappingCard(), 0, 1);
-    grid->addWidget(makeLinksCard(), 1, 0);
-    grid->addWidget(makeClicksCard(), 1, 1);
-    grid->addWidget(makeDirectionCard(), 2, 0);
-    grid->addWidget(makePixmapCard(), 2, 1);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
-    body()->addLayout(grid);
+    ColumnsLayout *cards = makeColumns();
+    cards->addWidget(makeElisionCard());
+    cards->addWidget(makeWrappingCard());
+    cards->addWidget(makeLinksCard());
+    cards->addWidget(makeClicksCard());
+    cards->addWidget(makeDirectionCard());
+    cards->addWidget(makePixmapCard());
     body()->addStretch(1);
 }
 

@@ -42,7 +42,7 @@ ScaledFontTable::ScaledFontTable(QWidget *parent) : OxaWidget(parent)
 {
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(Metrics::gap);
+    grid->setHorizontalSpacing(Metrics::spacing);
     grid->setVerticalSpacing(Metrics::small);
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(2, 1);

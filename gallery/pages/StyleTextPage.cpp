@@ -10,6 +10,7 @@
 #include "widgets/Button.h"
 #include "widgets/Card.h"
 #include "widgets/CodeEdit.h"
+#include "widgets/ColumnsLayout.h"
 #include "widgets/StatusBox.h"
 
 #include <QGridLayout>
@@ -55,13 +56,15 @@ StatusBox *makeFinding(const Leftover &leftover, QWidget *parent)
 }
 
 /// Puts two cards one above the other; the lower one takes the room that is left.
-QLayout *stacked(Card *upper, Card *lower)
+QWidget *stacked(Card *upper, Card *lower)
 {
-    auto *column = new QVBoxLayout;
+    auto *stack = new OxaWidget;
+    auto *column = new QVBoxLayout(stack);
+    column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Metrics::spacing);
     column->addWidget(upper);
     column->addWidget(lower, 1);
-    return column;
+    return stack;
 }
 
 void clear(QLayout *layout)
@@ -87,11 +90,9 @@ StyleTextPage::StyleTextPage(QWidget *parent)
       m_findings(new QVBoxLayout)
 {
     makeBodyScroll();
-    auto *columns = new QHBoxLayout;
-    columns->setSpacing(Metrics::spacing);
-    columns->addLayout(stacked(makeEditorCard(), makeSheetCard()), 5);
-    columns->addLayout(stacked(makePreviewCard(), makeDataCard()), 4);
-    body()->addLayout(columns);
+    ColumnsLayout *columns = makeColumns();
+    columns->addWidget(stacked(makeEditorCard(), makeSheetCard()));
+    columns->addWidget(stacked(makePreviewCard(), makeDataCard()));
 
     connect(m_editor, &QPlainTextEdit::textChanged, this, &StyleTextPage::expand);
     m_editor->setPlainText(styleTextExamples().front().styleText);

@@ -8,6 +8,12 @@
 
 #include <QVBoxLayout>
 
+namespace {
+
+constexpr int headingHeight = 32;
+
+} // namespace
+
 Card::Card(const QString &heading, const QString &explanation, QWidget *parent)
     : OxaWidget(parent), m_headingLine(new QHBoxLayout), m_body(new QVBoxLayout)
 {
@@ -16,16 +22,18 @@ Card::Card(const QString &heading, const QString &explanation, QWidget *parent)
                           "$borderRadius: 8;"));
 
     m_headingLine->setSpacing(Metrics::small);
+    // As high as a control beside the heading, so that headings of neighbours are on one line.
+    m_headingLine->addStrut(headingHeight);
     m_headingLine->addWidget(Labels::heading(heading, this), 1);
     m_body->setSpacing(Metrics::spacing);
 
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(Metrics::gap, Metrics::spacing, Metrics::gap, Metrics::gap);
-    column->setSpacing(Metrics::tight);
+    column->setContentsMargins(Metrics::gap, Metrics::small + 3, Metrics::gap, Metrics::gap);
+    column->setSpacing(0);
     column->addLayout(m_headingLine);
     if (!explanation.isEmpty())
         column->addWidget(Labels::paragraph(explanation, this));
-    column->addSpacing(Metrics::small);
+    column->addSpacing(Metrics::small + Metrics::tight);
     column->addLayout(m_body, 1);
 }
 

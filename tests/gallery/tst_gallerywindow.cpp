@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "GalleryTest.h"
 
+#include <QScrollBar>
+
 #include <GalleryWindow.h>
+#include <HeaderBar.h>
+#include <Metrics.h>
+#include <NavigationList.h>
 #include <PageRegistry.h>
 #include <TextSettings.h>
 #include <ThemeSwitcher.h>
 #include <widgets/PageStack.h>
+#include <widgets/ScrollArea.h>
+#include <widgets/SegmentedControl.h>
 #include <widgets/ToggleButton.h>
 
 namespace {
@@ -18,6 +25,18 @@ std::unique_ptr<GalleryWindow> makeWindow()
         window->showPage(name);
     return window;
 }
+
+/// A window that is shown at its smallest size, where nobody sees it.
+struct ShownWindow : GalleryWindow
+{
+    ShownWindow()
+    {
+        setAttribute(Qt::WA_DontShowOnScreen);
+        resize(minimumSize());
+        show();
+        QCoreApplication::processEvents();
+    }
+};
 
 QStringList themedWidgetsOfAnotherType(const QWidget &window, const QString &type)
 {
@@ -55,7 +74,12 @@ private Q_SLOTS:
     void leavesNoStyleTextUnexpanded();
     void marksTheCurrentPage();
     void makesAPageOnceOnly();
-    void growsWithItsHeader();
+    void keepsTheControlsOfItsHeaderInSight_data();
+    void keepsTheControlsOfItsHeaderInSight();
+    void fitsEachPageAtItsSmallestSize_data();
+    void fitsEachPageAtItsSmallestSize();
+    void stylesEveryScrollBar();
+    void bringsTheCurrentPageIntoSight();
     void ignoresAnUnknownPage();
 };
 
@@ -63,6 +87,7 @@ void tst_GalleryWindow::cleanup()
 {
     GalleryApplication::get()->themeSwitcher()->setThemeType(QStringLiteral("global"));
     GalleryApplication::get()->textSettings()->setFontScale(1.0F);
+    GalleryApplication::get()->textSettings()->setDirection(Qt::LeftToRight);
 }
 
 void tst_GalleryWindow::handsTheThemeTypeToEveryWidget()
@@ -107,13 +132,73 @@ void tst_GalleryWindow::makesAPageOnceOnly()
     QCOMPARE(stack->count(), 2);
 }
 
-void tst_GalleryWindow::growsWithItsHeader()
+void tst_GalleryWindow::keepsTheControlsOfItsHeaderInSight_data()
 {
-    const GalleryWindow window;
-    const int width = window.minimumWidth();
-    QVERIFY(width > 0);
+    QTest::addColumn<float>("scale");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("at the usual size") << 1.0F << Qt::LeftToRight;
+    QTest::newRow("with large text") << 1.5F << Qt::LeftToRight;
+    QTest::newRow("with large text, from right to left") << 1.5F << Qt::RightToLeft;
+}
+
+void tst_GalleryWindow::keepsTheControlsOfItsHeaderInSight()
+{
+    QFETCH(const float, scale);
+    QFETCH(const Qt::LayoutDirection, direction);
+    GalleryApplication::get()->textSettings()->setFontScale(scale);
+    GalleryApplication::get()->textSettings()->setDirection(direction);
+    ShownWindow window;
+    const auto *header = window.findChild<HeaderBar *>();
+    QCOMPARE(header->findChildren<SegmentedControl *>().size(), 4);
+    const auto buttons = header->findChildren<ToggleButton *>();
+    for (const ToggleButton *button : buttons) {
+        const QRect rect(button->mapTo(header, QPoint()), button->size());
+        QVERIFY2(header->rect().contains(rect), qPrintable(button->text()));
+        QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->text()));
+    }
+    QVERIFY(header->height() >= header->heightForWidth(header->width()));
+}
+
+void tst_GalleryWindow::fitsEachPageAtItsSmallestSize_data()
+{
+    QTest::addColumn<QString>("page");
+    for (const QString &name : pageNames())
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void tst_GalleryWindow::fitsEachPageAtItsSmallestSize()
+{
+    QFETCH(const QString, page);
+    ShownWindow window;
+    window.showPage(page);
+    QCoreApplication::processEvents();
+    const auto areas = window.findChild<PageStack *>()
+                               ->currentWidget()
+                               ->findChildren<ScrollArea *>(QString(), Qt::FindDirectChildrenOnly);
+    QCOMPARE(areas.size(), 1);
+    QCOMPARE(areas.front()->horizontalScrollBar()->maximum(), 0);
+}
+
+void tst_GalleryWindow::stylesEveryScrollBar()
+{
+    const auto window = makeWindow();
+    const auto scrollBars = window->findChildren<QScrollBar *>();
+    QVERIFY(scrollBars.size() > int(pageNames().size()));
+    for (const QScrollBar *bar : scrollBars) {
+        const QSize size = bar->sizeHint();
+        const int thickness = bar->orientation() == Qt::Vertical ? size.width() : size.height();
+        QVERIFY2(thickness == Metrics::scrollBar, bar->parentWidget()->metaObject()->className());
+    }
+}
+
+void tst_GalleryWindow::bringsTheCurrentPageIntoSight()
+{
     GalleryApplication::get()->textSettings()->setFontScale(1.5F);
-    QVERIFY(window.minimumWidth() > width);
+    ShownWindow window;
+    window.showPage(pageNames().last());
+    const auto *area = window.findChild<NavigationList *>()->findChild<ScrollArea *>();
+    QVERIFY(area->verticalScrollBar()->maximum() > 0);
+    QCOMPARE(area->verticalScrollBar()->value(), area->verticalScrollBar()->maximum());
 }
 
 void tst_GalleryWindow::ignoresAnUnknownPage()

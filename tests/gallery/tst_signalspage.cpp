@@ -11,12 +11,12 @@
 #include <pages/signals/SignalArguments.h>
 #include <pages/signals/SignalModel.h>
 #include <pages/signals/SignalReceiver.h>
-#include <pages/signals/SignalView.h>
 #include <pages/signals/SignalWatcher.h>
 #include <pages/signals/SignalsPage.h>
 #include <widgets/CodeEdit.h>
 #include <widgets/EmptyState.h>
 #include <widgets/LineEdit.h>
+#include <widgets/ListView.h>
 
 Q_DECLARE_METATYPE(QMetaMethod)
 
@@ -61,7 +61,7 @@ struct PageWith
 
     QWidget window; ///< Asks for no least size: the platform cannot keep one.
     SignalsPage &page = *new SignalsPage(&window);
-    SignalView &view = *page.findChild<SignalView *>();
+    ListView &view = *page.findChild<ListView *>();
     SignalModel &model = *page.findChild<SignalModel *>();
     CodeEdit &log = *page.findChild<CodeEdit *>();
 };

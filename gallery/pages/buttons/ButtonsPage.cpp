@@ -9,6 +9,7 @@
 #include "StatesCard.h"
 #include "ToggleCard.h"
 #include "UnderlineCard.h"
+#include "widgets/ColumnsLayout.h"
 #include "widgets/ControlRow.h"
 #include "widgets/Labels.h"
 #include "widgets/LineEdit.h"
@@ -18,7 +19,7 @@
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/OxaLabel.h>
 
-#include <QGridLayout>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -43,22 +44,18 @@ ButtonsPage::ButtonsPage(QWidget *parent)
            parent)
 {
     makeBodyScroll();
-    auto *grid = new QGridLayout;
-    grid->setSpacing(Metrics::spacing);
-    grid->addWidget(new StatesCard, 0, 0, 1, 2);
-    grid->addWidget(makeLooksCard(), 1, 0);
-    grid->addWidget(makeElisionCard(), 1, 1);
-    grid->addWidget(new PressesCard, 2, 0);
-    grid->addWidget(new IconsCard, 2, 1);
-    grid->addWidget(new UnderlineCard, 3, 0, 1, 2);
-    grid->addWidget(new FocusCard, 4, 0);
-    grid->addWidget(new ToggleCard, 4, 1);
-    grid->addWidget(makeDirectionCard(), 5, 0);
-    grid->addWidget(makeRichTextCard(), 5, 1);
-    grid->addWidget(makeIdentityCard(), 6, 0, 1, 2);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
-    body()->addLayout(grid);
+    ColumnsLayout *cards = makeColumns();
+    cards->addWideWidget(new StatesCard);
+    cards->addWidget(makeLooksCard());
+    cards->addWidget(makeElisionCard());
+    cards->addWidget(new PressesCard);
+    cards->addWidget(new IconsCard);
+    cards->addWideWidget(new UnderlineCard);
+    cards->addWidget(new FocusCard);
+    cards->addWidget(new ToggleCard);
+    cards->addWidget(makeDirectionCard());
+    cards->addWidget(makeRichTextCard());
+    cards->addWideWidget(makeIdentityCard());
     body()->addStretch(1);
 }
 

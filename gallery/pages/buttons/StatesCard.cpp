@@ -68,26 +68,27 @@ StatesCard::StatesCard(QWidget *parent)
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(Metrics::spacing);
     grid->setVerticalSpacing(Metrics::small);
-    int column = 1;
+    int row = 1;
     for (const State &state : states)
-        grid->addWidget(Labels::caption(tr(state.name)), 0, column++);
-    addRow(grid, "OxaPushButton", preparePush);
-    addRow(grid, "OxaPushButton", prepareAccent);
-    addRow(grid, "OxaUnderlineButton", prepareUnderline);
-    addRow(grid, "OxaToggleButton", prepareToggle);
-    grid->setColumnStretch(column, 1);
+        grid->addWidget(Labels::caption(tr(state.name)), row++, 0);
+    addColumn(grid, "OxaPushButton", preparePush);
+    addColumn(grid, "OxaPushButton", prepareAccent);
+    addColumn(grid, "OxaUnderlineButton", prepareUnderline);
+    addColumn(grid, "OxaToggleButton", prepareToggle);
+    grid->setColumnStretch(grid->columnCount(), 1);
     body()->addLayout(grid);
 }
 
 template <typename ButtonClass>
-void StatesCard::addRow(QGridLayout *grid, const char *name, void (*prepare)(ButtonClass &button))
+void StatesCard::addColumn(QGridLayout *grid, const char *name,
+                           void (*prepare)(ButtonClass &button))
 {
-    const int row = grid->rowCount();
-    grid->addWidget(Labels::line(QString::fromLatin1(name)), row, 0);
-    int column = 1;
+    const int column = grid->columnCount();
+    grid->addWidget(Labels::line(QString::fromLatin1(name)), 0, column, Qt::AlignHCenter);
+    int row = 1;
     for (const State &state : states) {
         auto *button = new FrozenButton<ButtonClass>(state.flags);
-        grid->addWidget(button, row, column++);
+        grid->addWidget(button, row++, column, Qt::AlignHCenter);
         prepare(*button);
         button->setCheckable(true);
         button->setChecked(state.isChecked);

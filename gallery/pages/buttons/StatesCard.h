@@ -17,5 +17,5 @@ public:
 private:
     /// Adds a row for the class called \a name, with what \a prepare makes of its buttons.
     template <typename ButtonClass>
-    void addRow(QGridLayout *grid, const char *name, void (*prepare)(ButtonClass &button));
+    void addColumn(QGridLayout *grid, const char *name, void (*prepare)(ButtonClass &button));
 };

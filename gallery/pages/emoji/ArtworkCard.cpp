@@ -21,7 +21,7 @@ QString nameOf(ArtworkKind kind)
     case ArtworkKind::Single:
         return ArtworkCard::tr("Single");
     case ArtworkKind::SkinTone:
-        return ArtworkCard::tr("Skin tone");
+        return ArtworkCard::tr("Skin");
     case ArtworkKind::Joined:
         return ArtworkCard::tr("Joined");
     case ArtworkKind::Keycap:

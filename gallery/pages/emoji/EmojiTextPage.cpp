@@ -3,10 +3,10 @@
 
 #include "ArtworkCard.h"
 #include "MessagesCard.h"
-#include "Metrics.h"
 #include "PlaygroundCard.h"
+#include "widgets/ColumnsLayout.h"
 
-#include <QGridLayout>
+#include <QVBoxLayout>
 
 EmojiTextPage::EmojiTextPage(QWidget *parent)
     : Page(tr("Emoji text"),
@@ -19,13 +19,9 @@ EmojiTextPage::EmojiTextPage(QWidget *parent)
     auto *artwork = new ArtworkCard;
     connect(artwork, &ArtworkCard::chosen, playground, &PlaygroundCard::insert);
 
-    auto *grid = new QGridLayout;
-    grid->setSpacing(Metrics::spacing);
-    grid->addWidget(new MessagesCard, 0, 0);
-    grid->addWidget(playground, 0, 1);
-    grid->addWidget(artwork, 1, 0, 1, 2);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
-    body()->addLayout(grid);
+    ColumnsLayout *cards = makeColumns();
+    cards->addWidget(new MessagesCard);
+    cards->addWidget(playground);
+    cards->addWideWidget(artwork);
     body()->addStretch(1);
 }

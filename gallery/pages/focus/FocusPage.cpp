@@ -9,6 +9,7 @@
 #include "widgets/Button.h"
 #include "widgets/Card.h"
 #include "widgets/CodeEdit.h"
+#include "widgets/ColumnsLayout.h"
 #include "widgets/ControlRow.h"
 #include "widgets/LineEdit.h"
 #include "widgets/SegmentedControl.h"
@@ -16,6 +17,8 @@
 #include <QHBoxLayout>
 
 namespace {
+
+constexpr int leastListLines = 8;
 
 /// What the third button of the sample does with the focus.
 enum class Sample { Takes, ClickOnly, Disabled, Hidden };
@@ -35,16 +38,18 @@ FocusPage::FocusPage(QWidget *parent)
               "Shift+Tab: the number that has the focus is marked."),
            parent)
 {
-    auto *samples = new QVBoxLayout;
-    samples->setSpacing(Metrics::spacing);
-    samples->addWidget(makeCompoundCard());
-    samples->addWidget(makeStatesCard());
-    samples->addStretch(1);
-    auto *row = new QHBoxLayout;
-    row->setSpacing(Metrics::spacing);
-    row->addLayout(samples, 1);
-    row->addWidget(makeListCard(), 1);
-    body()->addLayout(row, 1);
+    makeBodyScroll();
+    auto *samples = new OxaWidget(this);
+    auto *column = new QVBoxLayout(samples);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Metrics::spacing);
+    column->addWidget(makeCompoundCard());
+    column->addWidget(makeStatesCard());
+    column->addStretch(1);
+    ColumnsLayout *columns = makeColumns();
+    columns->addWidget(samples);
+    columns->addWidget(makeListCard());
+    body()->setStretchFactor(columns, 1);
 }
 
 FocusPage::~FocusPage()
@@ -104,6 +109,7 @@ Card *FocusPage::makeListCard()
     card->addToHeading(m_overlayControl);
     m_list = new CodeEdit(card);
     m_list->setReadOnly(true);
+    m_list->setMinimumLines(leastListLines);
     m_list->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_list->setAccessibleName(tr("Tab order as text"));
     card->body()->addWidget(m_list, 1);

@@ -7,11 +7,11 @@
 #include "IconRenderers.h"
 #include "IconTable.h"
 #include "Metrics.h"
-#include "TextSettings.h"
 #include "widgets/EmptyState.h"
 #include "widgets/Labels.h"
 #include "widgets/LineEdit.h"
 #include "widgets/SegmentedControl.h"
+#include "widgets/WrapLayout.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
@@ -20,7 +20,7 @@
 
 namespace {
 
-constexpr int searchWidth = 200;
+constexpr int searchWidth = 320;
 constexpr int iconSizes[] = { 12, 16, 24, 32, 48 };
 constexpr int firstIconSize = 2;
 
@@ -76,6 +76,8 @@ IconsPage::IconsPage(QWidget *parent)
       m_search(new LineEdit(this)),
       m_count(Labels::chip(QString(), this))
 {
+    makeBodyScroll();
+    m_sheet->setMinimumHeight(Metrics::leastListHeight);
     auto *sheet = new QHBoxLayout(m_sheet);
     sheet->setContentsMargins(0, 0, 0, 0);
     sheet->setSpacing(Metrics::spacing);
@@ -83,8 +85,7 @@ IconsPage::IconsPage(QWidget *parent)
     sheet->addWidget(m_details);
     m_noPackage->setSummary(tr("There is no icon pack here"));
     body()->setSpacing(Metrics::small);
-    body()->addLayout(makeFilters());
-    body()->addLayout(makeLooks());
+    body()->addLayout(makeControls());
     body()->addSpacing(Metrics::tight);
     body()->addWidget(m_sheet, 1);
     body()->addWidget(m_noMatch, 1);
@@ -97,17 +98,15 @@ IconsPage::IconsPage(QWidget *parent)
     connect(m_table, &IconTable::colorsChanged, this, &IconsPage::showColor);
     connect(m_model, &IconModel::surveyed, this, &IconsPage::showCounts);
     connect(m_model, &IconModel::rowsInserted, this, &IconsPage::chooseFirst);
-    connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, m_table,
-            &IconTable::refresh);
     showSource(Own);
 }
 
-QHBoxLayout *IconsPage::makeFilters()
+QLayout *IconsPage::makeControls()
 {
     m_search->setPlaceholderText(tr("Search names"));
     m_search->setAccessibleName(tr("Search"));
     m_search->setClearButtonEnabled(true);
-    m_search->setMinimumWidth(searchWidth);
+    m_search->setFixedWidth(searchWidth);
     // In the order of the enumerations.
     auto *source = new SegmentedControl({ tr("Gallery"), tr("Exceptions"), tr("Icon packs") },
                                         this);
@@ -120,26 +119,25 @@ QHBoxLayout *IconsPage::makeFilters()
         chooseFirst();
     });
 
-    auto *row = new QHBoxLayout;
-    row->setSpacing(Metrics::spacing);
+    auto *row = new WrapLayout(Metrics::small);
     row->addWidget(source);
-    row->addWidget(m_search, 1);
     row->addWidget(shown);
+    row->addWidget(m_search);
+    row->addWidget(captioned(tr("Colours"), makeColorSets()));
+    row->addWidget(captioned(tr("Size"), makeSizes()));
+    row->addWidget(m_count);
     return row;
 }
 
-QHBoxLayout *IconsPage::makeLooks()
+QWidget *IconsPage::captioned(const QString &caption, QWidget *control)
 {
-    auto *row = new QHBoxLayout;
+    auto *both = new OxaWidget(this);
+    auto *row = new QHBoxLayout(both);
+    row->setContentsMargins(0, 0, Metrics::small, 0);
     row->setSpacing(Metrics::small);
-    row->addWidget(Labels::caption(tr("Colours"), this));
-    row->addWidget(makeColorSets());
-    row->addSpacing(Metrics::small);
-    row->addWidget(Labels::caption(tr("Size"), this));
-    row->addWidget(makeSizes());
-    row->addStretch(1);
-    row->addWidget(m_count);
-    return row;
+    row->addWidget(Labels::caption(caption, this));
+    row->addWidget(control);
+    return both;
 }
 
 QWidget *IconsPage::makeColorSets()

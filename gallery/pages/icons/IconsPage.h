@@ -10,7 +10,7 @@ class IconRenderers;
 class IconTable;
 class LineEdit;
 class OxaLabel;
-class QHBoxLayout;
+class QLayout;
 
 /// Shows icons in the states of a colour set, and tells which of them take its colours and why the
 /// others do not.
@@ -22,8 +22,8 @@ public:
     explicit IconsPage(QWidget *parent = nullptr);
 
 private:
-    QHBoxLayout *makeFilters();
-    QHBoxLayout *makeLooks();
+    QLayout *makeControls();
+    QWidget *captioned(const QString &caption, QWidget *control);
     QWidget *makeColorSets();
     QWidget *makeSizes();
     void showSource(int source);

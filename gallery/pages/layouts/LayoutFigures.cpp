@@ -4,6 +4,7 @@
 #include "Metrics.h"
 #include "TileBoard.h"
 #include "widgets/Labels.h"
+#include "widgets/WrapLayout.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
@@ -14,6 +15,7 @@ namespace {
 using Ratio = FixedItemRatioLayoutNotSupportScroll;
 
 constexpr int figureCount = 5;
+constexpr int figureWidth = 80;
 
 /// How the tiles of a flow came out.
 struct Flow
@@ -44,16 +46,17 @@ struct Flow
 LayoutFigures::LayoutFigures(const TileBoard *board, QWidget *parent)
     : OxaWidget(parent), m_board(board)
 {
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Metrics::spacing);
+    auto *row = new WrapLayout(Metrics::spacing, this);
     for (int i = 0; i < figureCount; ++i) {
-        auto *column = new QVBoxLayout;
+        auto *figure = new OxaWidget(this);
+        figure->setMinimumWidth(figureWidth);
+        auto *column = new QVBoxLayout(figure);
+        column->setContentsMargins(0, 0, 0, 0);
         column->setSpacing(0);
         m_figures.push_back({ Labels::caption(QString(), this), Labels::line(QString(), this) });
         column->addWidget(m_figures.back().caption);
         column->addWidget(m_figures.back().value);
-        row->addLayout(column, 1);
+        row->addWidget(figure);
     }
     connect(board, &TileBoard::laidOut, this, &LayoutFigures::refresh);
     refresh();

@@ -28,6 +28,7 @@ LayoutsPage::LayoutsPage(QWidget *parent)
       m_controls(new LayoutControls(this)),
       m_area(new ScrollArea(this))
 {
+    makeBodyScroll();
     auto *row = new QHBoxLayout;
     row->setSpacing(Metrics::spacing);
     row->addWidget(makeStageCard(), 1);
@@ -40,18 +41,13 @@ LayoutsPage::LayoutsPage(QWidget *parent)
 Card *LayoutsPage::makeStageCard()
 {
     auto *card = new Card(tr("Tiles"), QString(), this);
-    auto *kind = new SegmentedControl({ tr("Auto grid"), tr("Smart"), tr("Fixed ratio") }, card);
-    kind->setAccessibleName(tr("Layout"));
-    connect(kind, &SegmentedControl::chosen, m_controls, [controls = m_controls](int i) {
-        controls->setKind(static_cast<LayoutSettings::Kind>(i));
-    });
-    card->addToHeading(kind);
-
     m_area->setCSS(QStringLiteral("ScrollArea { background-color: $(gallery-code-background);"
                                   " border: 1px solid $(gallery-card-border); }"));
     m_area->setContents(m_board);
     m_area->setFocusPolicy(Qt::NoFocus);
-    card->body()->addWidget(new ResizeFrame(m_area, card), 1);
+    auto *frame = new ResizeFrame(m_area, card);
+    frame->setMinimumHeight(Metrics::leastListHeight);
+    card->body()->addWidget(frame, 1);
     card->body()->addWidget(new LayoutFigures(m_board, card));
     return card;
 }
@@ -59,7 +55,13 @@ Card *LayoutsPage::makeStageCard()
 Card *LayoutsPage::makeControlsCard()
 {
     auto *card = new Card(tr("Settings"), QString(), this);
-    card->setFixedWidth(controlsWidth);
+    card->setMinimumWidth(controlsWidth);
+    card->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    auto *kind = new SegmentedControl({ tr("Auto grid"), tr("Smart"), tr("Fixed ratio") }, card);
+    kind->setAccessibleName(tr("Layout"));
+    connect(kind, &SegmentedControl::chosen, m_controls, [controls = m_controls](int i) {
+        controls->setKind(static_cast<LayoutSettings::Kind>(i));
+    });
     auto *order = new QHBoxLayout;
     order->setSpacing(Metrics::small);
     const std::pair<QString, void (TileBoard::*)()> actions[] = {
@@ -72,6 +74,7 @@ Card *LayoutsPage::makeControlsCard()
         connect(button, &Button::clicked, m_board, action);
         order->addWidget(button, 1);
     }
+    card->body()->addWidget(kind);
     card->body()->addWidget(m_controls);
     card->body()->addLayout(order);
     card->body()->addStretch(1);

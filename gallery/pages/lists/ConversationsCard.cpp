@@ -12,6 +12,7 @@
 #include "widgets/Labels.h"
 #include "widgets/ListView.h"
 #include "widgets/Slider.h"
+#include "widgets/WrapLayout.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
@@ -62,20 +63,18 @@ QHBoxLayout *ConversationsCard::makeLists()
     return row;
 }
 
-QHBoxLayout *ConversationsCard::makeButtons()
+QLayout *ConversationsCard::makeButtons()
 {
-    auto *row = new QHBoxLayout;
-    row->setSpacing(Metrics::small);
+    auto *row = new WrapLayout(Metrics::small);
     addButton(row, tr("Append"), "appendRows", &ConversationsCard::append);
     addButton(row, tr("Update"), "appendOrUpdate", &ConversationsCard::answer);
     addButton(row, tr("Mark read"), "setRoleValueForRow", &ConversationsCard::markRead);
     addButton(row, tr("Remove"), "removeRows", &ConversationsCard::remove);
     addButton(row, tr("Clear"), "clear", &ConversationsCard::clear);
-    row->addStretch(1);
     return row;
 }
 
-QHBoxLayout *ConversationsCard::makeReplaceRow()
+QLayout *ConversationsCard::makeReplaceRow()
 {
     const auto text = [](int percent) { return tr("%1 % of the rows changed").arg(percent); };
     OxaLabel *caption = Labels::caption(text(m_share->value()), this);
@@ -83,17 +82,14 @@ QHBoxLayout *ConversationsCard::makeReplaceRow()
     m_share->setFixedWidth(sliderWidth);
     connect(m_share, &Slider::valueChanged, caption,
             [caption, text](int percent) { caption->setText(text(percent)); });
-    auto *row = new QHBoxLayout;
-    row->setSpacing(Metrics::small);
+    auto *row = new WrapLayout(Metrics::small);
     addButton(row, tr("Replace"), "replace", &ConversationsCard::replace);
-    row->addSpacing(Metrics::small);
     row->addWidget(m_share);
     row->addWidget(caption);
-    row->addStretch(1);
     return row;
 }
 
-void ConversationsCard::addButton(QHBoxLayout *row, const QString &text, const char *operation,
+void ConversationsCard::addButton(QLayout *row, const QString &text, const char *operation,
                                   Action action)
 {
     auto *button = new Button(text, this);

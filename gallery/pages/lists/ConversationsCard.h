@@ -8,6 +8,7 @@ class ConversationList;
 class ConversationModel;
 class ModelRecorder;
 class QHBoxLayout;
+class QLayout;
 class Slider;
 
 /// A list of conversations, buttons that change it, and beside it what its model emits.
@@ -21,10 +22,10 @@ public:
 private:
     using Action = void (ConversationsCard::*)();
 
-    QHBoxLayout *makeButtons();
+    QLayout *makeButtons();
     QHBoxLayout *makeLists();
-    QHBoxLayout *makeReplaceRow();
-    void addButton(QHBoxLayout *row, const QString &text, const char *operation, Action action);
+    QLayout *makeReplaceRow();
+    void addButton(QLayout *row, const QString &text, const char *operation, Action action);
     void run(const char *operation, Action action);
     int currentRow() const;
 

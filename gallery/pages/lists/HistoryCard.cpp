@@ -11,6 +11,7 @@
 #include "widgets/ControlRow.h"
 #include "widgets/Labels.h"
 #include "widgets/SegmentedControl.h"
+#include "widgets/WrapLayout.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
@@ -111,14 +112,12 @@ QGridLayout *HistoryCard::makeFigures()
     return grid;
 }
 
-QHBoxLayout *HistoryCard::makeControls()
+QLayout *HistoryCard::makeControls()
 {
-    auto *row = new QHBoxLayout;
-    row->setSpacing(Metrics::small);
+    auto *row = new WrapLayout(Metrics::small);
     addJump(row, tr("First row"), 0);
     addJump(row, tr("Middle"), middleRow);
     addJump(row, tr("Last row"), HistoryModel::messageCount - 1);
-    row->addStretch(1);
     const int delays[] = { 150, 600, 2400 };
     auto *speed = new SegmentedControl({ tr("Quick"), tr("Slow"), tr("Very slow") }, this);
     speed->setCurrentIndex(1);
@@ -128,7 +127,7 @@ QHBoxLayout *HistoryCard::makeControls()
     return row;
 }
 
-void HistoryCard::addJump(QHBoxLayout *row, const QString &text, int listRow)
+void HistoryCard::addJump(QLayout *row, const QString &text, int listRow)
 {
     auto *button = new Button(text, this);
     connect(button, &Button::clicked, m_view,

@@ -9,7 +9,7 @@ class HistoryServer;
 class LongListView;
 class OxaLabel;
 class QGridLayout;
-class QHBoxLayout;
+class QLayout;
 
 /// A list of ten million rows, and beside it what its model holds and asks a slow server for.
 class HistoryCard : public Card
@@ -20,9 +20,9 @@ public:
     explicit HistoryCard(QWidget *parent = nullptr);
 
 private:
-    QHBoxLayout *makeControls();
+    QLayout *makeControls();
     QGridLayout *makeFigures();
-    void addJump(QHBoxLayout *row, const QString &text, int listRow);
+    void addJump(QLayout *row, const QString &text, int listRow);
     void addLine(const QString &line);
     void showFigures();
     QString memoryText() const;

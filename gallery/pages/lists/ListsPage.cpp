@@ -4,10 +4,10 @@
 #include "ConversationsCard.h"
 #include "EmptyStateCard.h"
 #include "HistoryCard.h"
-#include "Metrics.h"
 #include "OverflowCard.h"
+#include "widgets/ColumnsLayout.h"
 
-#include <QGridLayout>
+#include <QVBoxLayout>
 
 ListsPage::ListsPage(QWidget *parent)
     : Page(tr("Lists"),
@@ -16,14 +16,10 @@ ListsPage::ListsPage(QWidget *parent)
            parent)
 {
     makeBodyScroll();
-    auto *grid = new QGridLayout;
-    grid->setSpacing(Metrics::spacing);
-    grid->addWidget(new ConversationsCard, 0, 0, 1, 2);
-    grid->addWidget(new HistoryCard, 1, 0, 1, 2);
-    grid->addWidget(new OverflowCard, 2, 0);
-    grid->addWidget(new EmptyStateCard, 2, 1);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
-    body()->addLayout(grid);
+    ColumnsLayout *cards = makeColumns();
+    cards->addWideWidget(new ConversationsCard);
+    cards->addWideWidget(new HistoryCard);
+    cards->addWidget(new OverflowCard);
+    cards->addWidget(new EmptyStateCard);
     body()->addStretch(1);
 }

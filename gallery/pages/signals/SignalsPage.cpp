@@ -3,14 +3,16 @@
 
 #include "Metrics.h"
 #include "SignalArguments.h"
+#include "SignalDelegate.h"
 #include "SignalModel.h"
-#include "SignalView.h"
 #include "SignalWatcher.h"
 #include "widgets/Button.h"
 #include "widgets/CodeEdit.h"
 #include "widgets/EmptyState.h"
 #include "widgets/Labels.h"
 #include "widgets/LineEdit.h"
+#include "widgets/ListView.h"
+#include "widgets/WrapLayout.h"
 
 #include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/widgets/OxaLabel.h>
@@ -43,7 +45,7 @@ SignalsPage::SignalsPage(QWidget *parent)
               "Choose one and emit it, or let something else do that: the log hears them all."),
            parent),
       m_model(new SignalModel(OxaAppSignals::get(), this)),
-      m_view(new SignalView(m_model, this)),
+      m_view(new ListView(m_model, new SignalDelegate, this)),
       m_emptyState(new EmptyState(tr("Try a part of a name, such as “space”, or of a type."),
                                   tr("Clear the search"), this)),
       m_search(new LineEdit(this)),
@@ -60,6 +62,9 @@ SignalsPage::SignalsPage(QWidget *parent)
             },
             this);
 
+    makeBodyScroll();
+    m_view->setMinimumHeight(Metrics::leastListHeight);
+    m_view->setAccessibleName(tr("Signals"));
     auto *row = new QHBoxLayout;
     row->setSpacing(Metrics::spacing);
     row->addWidget(m_view, 1);
@@ -70,8 +75,9 @@ SignalsPage::SignalsPage(QWidget *parent)
 
     connect(m_search, &QLineEdit::textChanged, this, &SignalsPage::search);
     connect(m_emptyState, &EmptyState::actionTriggered, m_search, &QLineEdit::clear);
-    connect(m_view, &SignalView::chosen, this, &SignalsPage::choose);
-    connect(m_view, &SignalView::activated, this, &SignalsPage::emitChosen);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &SignalsPage::choose);
+    connect(m_view, &ListView::activated, this, &SignalsPage::emitChosen);
     // Qt tells a sender of its connections, and nobody else.
     connect(&m_recount, &QTimer::timeout, m_model, &SignalModel::refreshReceivers);
     search(QString());
@@ -93,20 +99,16 @@ void SignalsPage::hideEvent(QHideEvent *event)
     m_recount.stop();
 }
 
-QBoxLayout *SignalsPage::makeToolbar()
+QLayout *SignalsPage::makeToolbar()
 {
     m_search->setPlaceholderText(tr("Search names and types"));
     m_search->setAccessibleName(tr("Search"));
     m_search->setClearButtonEnabled(true);
     m_search->setFixedWidth(searchWidth);
-    auto *row = new QHBoxLayout;
-    row->setSpacing(Metrics::small);
-    row->addWidget(m_search);
-    row->addWidget(m_count);
-    row->addStretch(1);
-    row->addWidget(m_emit);
-    row->addWidget(m_addReceiver);
-    row->addWidget(m_removeReceivers);
+    auto *row = new WrapLayout(Metrics::small);
+    for (QWidget *widget : std::initializer_list<QWidget *> { m_search, m_emit, m_addReceiver,
+                                                              m_removeReceivers, m_count })
+        row->addWidget(widget);
     return row;
 }
 

@@ -10,10 +10,11 @@ class Button;
 class CodeEdit;
 class EmptyState;
 class LineEdit;
+class ListView;
 class OxaLabel;
 class QBoxLayout;
+class QLayout;
 class SignalModel;
-class SignalView;
 
 /// Shows the signals of the hub, how many receivers each has, and what is emitted.
 class SignalsPage : public Page
@@ -28,7 +29,7 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    QBoxLayout *makeToolbar();
+    QLayout *makeToolbar();
     QBoxLayout *makeLog();
     Button *makeButton(const QString &text, void (SignalsPage::*action)());
     void search(const QString &text);
@@ -39,7 +40,7 @@ private:
     void note(const QMetaMethod &signal, const QStringList &arguments);
 
     SignalModel *m_model;
-    SignalView *m_view;
+    ListView *m_view;
     EmptyState *m_emptyState;
     LineEdit *m_search;
     OxaLabel *m_count;

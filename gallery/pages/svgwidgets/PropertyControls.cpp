@@ -2,6 +2,7 @@
 #include "PropertyControls.h"
 
 #include "Metrics.h"
+#include "widgets/ColumnsLayout.h"
 #include "widgets/Labels.h"
 #include "widgets/LineEdit.h"
 #include "widgets/SegmentedControl.h"
@@ -9,14 +10,12 @@
 
 #include <UiElements/widgets/OxaLabel.h>
 
-#include <QGridLayout>
+#include <QHBoxLayout>
 
 namespace {
 
-constexpr int columns = 2;
-
-/// The cells of one column: the name, the control, and a gap.
-constexpr int cells = 3;
+constexpr int captionShare = 2;
+constexpr int controlShare = 3;
 
 PropertyControls::Apply setter(const char *property)
 {
@@ -52,14 +51,9 @@ void showValue(Slider *slider, int value)
 } // namespace
 
 PropertyControls::PropertyControls(const QVector<QWidget *> &widgets, QWidget *parent)
-    : OxaWidget(parent), m_widgets(widgets), m_grid(new QGridLayout(this))
+    : OxaWidget(parent), m_widgets(widgets)
 {
-    m_grid->setContentsMargins(0, 0, 0, 0);
-    m_grid->setHorizontalSpacing(Metrics::small);
-    m_grid->setVerticalSpacing(Metrics::small);
-    for (int column = 0; column < columns; ++column)
-        m_grid->setColumnStretch(cells * column + 1, 1);
-    m_grid->setColumnMinimumWidth(cells - 1, Metrics::small);
+    new ColumnsLayout(Metrics::spacing, Metrics::small, this);
 }
 
 void PropertyControls::addNumber(const char *property, int minimum, int maximum)
@@ -147,11 +141,14 @@ QVariant PropertyControls::value(const char *property) const
 void PropertyControls::add(const QString &name, QWidget *control)
 {
     control->setAccessibleName(name);
-    const int row = m_count / columns;
-    const int column = cells * (m_count % columns);
-    m_grid->addWidget(Labels::caption(name, this), row, column);
-    m_grid->addWidget(control, row, column + 1);
-    ++m_count;
+    auto *row = new OxaWidget(this);
+    auto *captioned = new QHBoxLayout(row);
+    captioned->setContentsMargins(0, 0, 0, 0);
+    captioned->setSpacing(Metrics::small);
+    // In shares, so that captions of different lengths leave the controls below each other.
+    captioned->addWidget(Labels::caption(name, this), captionShare);
+    captioned->addWidget(control, controlShare);
+    layout()->addWidget(row);
 }
 
 Slider *PropertyControls::addSlider(const QString &name, int minimum, int maximum,

@@ -8,11 +8,10 @@
 
 #include <functional>
 
-class QGridLayout;
 class SegmentedControl;
 class Slider;
 
-/// Controls in two columns, each of which sets one property of several widgets at once.
+/// Controls, each of which sets one property of several widgets at once.
 ///
 /// A control is called by its property and shows the value that the first of the widgets has, also
 /// when another control changed it.
@@ -70,7 +69,5 @@ private:
     void applyToAll(const Apply &apply, const QVariant &value) const;
 
     const QVector<QWidget *> m_widgets;
-    QGridLayout *m_grid;
     QVector<std::function<void()>> m_refreshers; ///< Each shows a property's value in its control.
-    int m_count = 0;
 };

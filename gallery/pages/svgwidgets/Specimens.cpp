@@ -3,12 +3,13 @@
 
 #include "Metrics.h"
 #include "widgets/Labels.h"
+#include "widgets/WrapLayout.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
 #include <QAbstractButton>
 #include <QCoreApplication>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QMouseEvent>
 
 namespace {
@@ -57,18 +58,10 @@ QVector<HeldState> heldStates()
 
 Specimens::Specimens(const std::function<QWidget *()> &make, QWidget *parent) : OxaWidget(parent)
 {
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(Metrics::spacing);
-    grid->setVerticalSpacing(Metrics::tight);
-    grid->setRowMinimumHeight(1, stageHeight);
-    const QVector<HeldState> states = heldStates();
-    for (int column = 0; column <= states.size(); ++column)
-        grid->setColumnStretch(column, 1);
-
+    new WrapLayout(Metrics::spacing, this);
     add(make(), tr("in use"));
     const bool isButton = qobject_cast<QAbstractButton *>(m_widgets.front()) != nullptr;
-    for (const HeldState &state : states) {
+    for (const HeldState &state : heldStates()) {
         if (state.isForButtons && !isButton)
             continue;
         QWidget *widget = make();
@@ -81,9 +74,17 @@ Specimens::Specimens(const std::function<QWidget *()> &make, QWidget *parent) : 
 
 void Specimens::add(QWidget *widget, const QString &caption)
 {
-    auto *grid = static_cast<QGridLayout *>(layout());
-    const int column = m_widgets.size();
-    grid->addWidget(Labels::caption(caption, this), 0, column);
-    grid->addWidget(widget, 1, column, Qt::AlignLeft | Qt::AlignVCenter);
+    auto *specimen = new OxaWidget(this);
+    // The widget may become narrower; the ones behind it stay where they are.
+    specimen->setMinimumWidth(widget->minimumSize().expandedTo(widget->sizeHint()).width());
+    auto *stage = new QHBoxLayout;
+    stage->addStrut(stageHeight);
+    stage->addWidget(widget, 0, Qt::AlignLeft | Qt::AlignVCenter);
+    auto *column = new QVBoxLayout(specimen);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Metrics::tight);
+    column->addWidget(Labels::caption(caption, this));
+    column->addLayout(stage);
+    layout()->addWidget(specimen);
     m_widgets += widget;
 }
