@@ -8,6 +8,7 @@
 
 #include <pages/emoji/ArtworkCard.h>
 #include <pages/emoji/ArtworkModel.h>
+#include <pages/emoji/EmojiEdit.h>
 #include <pages/emoji/EmojiTextPage.h>
 #include <pages/emoji/MessageRow.h>
 #include <pages/emoji/Messages.h>
@@ -15,7 +16,6 @@
 #include <pages/emoji/PlaygroundLabel.h>
 #include <pages/emoji/ReactionButton.h>
 #include <pages/emoji/TextAnalysis.h>
-#include <widgets/CodeEdit.h>
 #include <widgets/ListView.h>
 #include <widgets/ToggleButton.h>
 
@@ -148,14 +148,14 @@ void tst_EmojiTextPage::showsTheChosenKind()
 void tst_EmojiTextPage::putsChosenArtworkIntoThePlayground()
 {
     EmojiTextPage page;
-    auto *text = page.findChild<PlaygroundCard *>()->findChild<CodeEdit *>();
+    auto *text = page.findChild<PlaygroundCard *>()->findChild<EmojiEdit *>();
     text->clear();
     const auto *view = page.findChild<ListView *>();
     const QModelIndex first = view->model()->index(0, 0);
     QSignalSpy chosen(page.findChild<ArtworkCard *>(), &ArtworkCard::chosen);
     Q_EMIT page.findChild<ListView *>()->clicked(first);
     QCOMPARE(chosen.size(), 1);
-    QCOMPARE(text->toPlainText(), first.data(ArtworkModel::EmojiRole).toString());
+    QCOMPARE(text->text(), first.data(ArtworkModel::EmojiRole).toString());
 }
 
 void tst_EmojiTextPage::tellsHowEmojiAreShown()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PlaygroundCard.h"
 
+#include "EmojiEdit.h"
 #include "Metrics.h"
 #include "PlaygroundLabel.h"
 #include "TextAnalysis.h"
@@ -18,7 +19,7 @@ constexpr int leastWidth = 48;
 constexpr int greatestWidth = 392;
 constexpr int firstWidth = 360;
 constexpr int sampleHeight = 96;
-constexpr int textLines = 2;
+constexpr int textHeight = 64;
 constexpr int analysisLines = 5;
 
 constexpr Qt::TextElideMode elideModes[] = { Qt::ElideRight, Qt::ElideMiddle, Qt::ElideLeft,
@@ -35,15 +36,14 @@ QString firstText()
 
 PlaygroundCard::PlaygroundCard(QWidget *parent)
     : Card(tr("Playground"), tr("Type, paste, or choose from the artwork below."), parent),
-      m_text(new CodeEdit(this)),
+      m_text(new EmojiEdit(this)),
       m_label(new PlaygroundLabel(this)),
       m_state(Labels::caption(QString(), this)),
       m_codePoints(new CodeEdit(this)),
       m_stems(new CodeEdit(this))
 {
     m_text->setAccessibleName(tr("Text"));
-    m_text->setMinimumLines(textLines);
-    m_text->setMaximumHeight(m_text->minimumHeight());
+    m_text->setFixedHeight(textHeight);
     m_label->setFontToken(OxaFont::Token::SubheaderPrimary);
     m_label->setCSS(QStringLiteral("$backgroundColors: gallery-code-background;"
                                    "$borderColors: gallery-card-border;"
@@ -62,8 +62,8 @@ PlaygroundCard::PlaygroundCard(QWidget *parent)
     body()->addWidget(makeSwitches());
     body()->addLayout(makeAnalysis(), 1);
 
-    connect(m_text, &QPlainTextEdit::textChanged, this, &PlaygroundCard::showText);
-    m_text->setPlainText(firstText());
+    connect(m_text, &QTextEdit::textChanged, this, &PlaygroundCard::showText);
+    m_text->setText(firstText());
 }
 
 void PlaygroundCard::insert(const QString &text) { m_text->insertPlainText(text); }
@@ -151,7 +151,7 @@ QLayout *PlaygroundCard::makeAnalysis()
 
 void PlaygroundCard::showText()
 {
-    const QString text = m_text->toPlainText();
+    const QString text = m_text->text();
     m_label->setText(text);
     m_state->setText(m_label->shouldDrawSvgEmojis() ? tr("Emoji are drawn from artwork.")
                                                     : tr("Emoji go out in the font."));

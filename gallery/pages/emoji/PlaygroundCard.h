@@ -4,6 +4,7 @@
 #include "widgets/Card.h"
 
 class CodeEdit;
+class EmojiEdit;
 class ControlRow;
 class OxaLabel;
 class PlaygroundLabel;
@@ -27,7 +28,7 @@ private:
     QLayout *makeAnalysis();
     void showText();
 
-    CodeEdit *m_text;
+    EmojiEdit *m_text;
     PlaygroundLabel *m_label;
     OxaLabel *m_state;
     CodeEdit *m_codePoints;

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "EmojiEdit.h"
+
+#include <UiElements/emoji/EmojiTextConverter.h>
+
+#include <QMimeData>
+#include <QSignalBlocker>
+#include <QTextDocumentFragment>
+
+namespace {
+
+/// Returns the plain text of \a markup, whose pictures of emoji become the emoji again.
+QString plainText(const QString &markup)
+{
+    return QTextDocumentFragment::fromHtml(EmojiTextConverter::restore(markup)).toPlainText();
+}
+
+} // namespace
+
+EmojiEdit::EmojiEdit(QWidget *parent) : QTextEdit(parent)
+{
+    m_themeBlock.followTheme();
+    setFontToken(OxaFont::Token::BodyPrimary);
+    setAcceptRichText(false);
+    setTabChangesFocus(true);
+    // A step back would give the characters back, and they would become pictures again.
+    setUndoRedoEnabled(false);
+    setCSS(QStringLiteral("$backgroundColors: gallery-field-background;"
+                          "$borderColors: gallery-field-border;"
+                          "$borderRadius: 6;"
+                          "EmojiEdit { padding: 4px; }"
+                          // Under the pointer, too, one sees where the focus is.
+                          "EmojiEdit:focus { border-color: $(gallery-field-border.focused); }"));
+    connect(this, &QTextEdit::textChanged, this, &EmojiEdit::showArtwork);
+}
+
+QString EmojiEdit::text() const { return plainText(toHtml()); }
+
+void EmojiEdit::setText(const QString &text) { setPlainText(text); }
+
+QMimeData *EmojiEdit::createMimeDataFromSelection() const
+{
+    auto *mimeData = new QMimeData;
+    mimeData->setText(plainText(textCursor().selection().toHtml()));
+    return mimeData;
+}
+
+void EmojiEdit::onThemeChanged() { }
+
+/// Puts pictures in the place of emoji that are still characters.
+void EmojiEdit::showArtwork()
+{
+    const QString characters = toPlainText();
+    const QSignalBlocker blocker(this);
+    EmojiTextConverter converter(fontMetrics().height(), devicePixelRatioF());
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    int end = 0;
+    int replaced = 0;
+    const auto sequences = EmojiTextConverter::sequences(characters);
+    for (const EmojiSequence &sequence : sequences) {
+        const int start = characters.indexOf(sequence.text, end);
+        end = start + sequence.text.size();
+        const QString markup = converter.convert(sequence.text);
+        if (converter.svgFiles().isEmpty())
+            continue;
+        cursor.setPosition(start - replaced);
+        cursor.setPosition(end - replaced, QTextCursor::KeepAnchor);
+        cursor.insertHtml(markup);
+        // A picture is one character.
+        replaced += sequence.text.size() - 1;
+    }
+    converter.insertImages(document());
+    cursor.endEditBlock();
+}

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/fonts/FontBlock.h>
+#include <UiElements/theme/ThemeBlock.h>
+
+#include <QTextEdit>
+
+/// A field for text whose emoji show as artwork from the moment that they are typed, pasted or
+/// inserted, whether or not a font on the machine has them. Knows no undo.
+class EmojiEdit : public QTextEdit
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QTextEdit)
+    UIELEMENTS_FONT_BLOCK
+
+public:
+    explicit EmojiEdit(QWidget *parent = nullptr);
+
+    /// Returns the text as it was typed, with emoji as characters.
+    QString text() const;
+
+    /// Replaces the text. Signals textChanged().
+    void setText(const QString &text);
+
+protected:
+    QMimeData *createMimeDataFromSelection() const override;
+
+private:
+    void showArtwork();
+};
