@@ -10,6 +10,9 @@
 
 namespace {
 
+/// Around a value, which reads from left to right in any interface.
+constexpr QChar leftToRightMark(0x200E);
+
 QString yesOrNo(bool value) { return value ? QStringLiteral("true") : QStringLiteral("false"); }
 
 QString quoted(const QString &text)
@@ -65,7 +68,7 @@ void CssDataTable::showData(const OxaCSSData &cssData)
 {
     for (std::size_t i = 0; i < m_values.size(); ++i) {
         const QString text = fields[i].textOf(cssData);
-        m_values[i]->setText(text);
+        m_values[i]->setText(leftToRightMark + text + leftToRightMark);
         m_values[i]->setToolTip(text);
     }
 }

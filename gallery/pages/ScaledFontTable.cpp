@@ -68,7 +68,7 @@ void ScaledFontTable::addRow(QGridLayout *grid, int row, const QByteArray &font)
     int column = 0;
     grid->addWidget(Labels::caption(QString::fromLatin1(font), this), row, column++);
     for (const View view : views) {
-        OxaLabel *label = Labels::elidedLine(tr("Good morning"), this);
+        OxaLabel *label = Labels::elidedLine(tr("Good day"), this);
         grid->addWidget(label, row, column++);
         m_samples.push_back({ label, view, font });
     }

@@ -12,12 +12,12 @@
 #include "widgets/CodeEdit.h"
 #include "widgets/ColumnsLayout.h"
 #include "widgets/StatusBox.h"
+#include "widgets/WrapLayout.h"
 
-#include <QGridLayout>
+#include <QVBoxLayout>
 
 namespace {
 
-constexpr int examplesPerRow = 4;
 constexpr int editorLines = 6;
 constexpr int sheetLines = 10;
 
@@ -141,17 +141,13 @@ Card *StyleTextPage::makeDataCard()
 QWidget *StyleTextPage::makeExamples()
 {
     auto *examples = new OxaWidget;
-    auto *grid = new QGridLayout(examples);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(Metrics::small);
-    int count = 0;
+    auto *row = new WrapLayout(Metrics::small, examples);
     for (const StyleTextExample &example : styleTextExamples()) {
         auto *button = new Button(example.title, examples);
         button->setFontToken(OxaFont::Token::TagLabelSecondary);
         connect(button, &Button::clicked, m_editor,
                 [editor = m_editor, text = example.styleText] { editor->setPlainText(text); });
-        grid->addWidget(button, count / examplesPerRow, count % examplesPerRow);
-        ++count;
+        row->addWidget(button);
     }
     return examples;
 }

@@ -14,11 +14,12 @@ constexpr int captionWidth = 72;
 
 } // namespace
 
-ControlRow::ControlRow(const QString &caption, QWidget *control, QWidget *parent)
+ControlRow::ControlRow(const QString &caption, QWidget *control, QWidget *parent, Caption width)
     : OxaWidget(parent)
 {
     OxaLabel *label = Labels::caption(caption, this);
-    label->setMinimumWidth(captionWidth);
+    if (width == Caption::Aligned)
+        label->setMinimumWidth(captionWidth);
     control->setAccessibleName(caption);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

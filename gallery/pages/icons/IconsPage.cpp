@@ -7,6 +7,7 @@
 #include "IconRenderers.h"
 #include "IconTable.h"
 #include "Metrics.h"
+#include "widgets/ControlRow.h"
 #include "widgets/EmptyState.h"
 #include "widgets/Labels.h"
 #include "widgets/LineEdit.h"
@@ -123,21 +124,11 @@ QLayout *IconsPage::makeControls()
     row->addWidget(source);
     row->addWidget(shown);
     row->addWidget(m_search);
-    row->addWidget(captioned(tr("Colours"), makeColorSets()));
-    row->addWidget(captioned(tr("Size"), makeSizes()));
+    row->addWidget(
+            new ControlRow(tr("Colours"), makeColorSets(), this, ControlRow::Caption::Tight));
+    row->addWidget(new ControlRow(tr("Size"), makeSizes(), this, ControlRow::Caption::Tight));
     row->addWidget(m_count);
     return row;
-}
-
-QWidget *IconsPage::captioned(const QString &caption, QWidget *control)
-{
-    auto *both = new OxaWidget(this);
-    auto *row = new QHBoxLayout(both);
-    row->setContentsMargins(0, 0, Metrics::small, 0);
-    row->setSpacing(Metrics::small);
-    row->addWidget(Labels::caption(caption, this));
-    row->addWidget(control);
-    return both;
 }
 
 QWidget *IconsPage::makeColorSets()
@@ -150,7 +141,6 @@ QWidget *IconsPage::makeColorSets()
         names += set.name;
     }
     auto *control = new SegmentedControl(texts, this);
-    control->setAccessibleName(tr("Colours"));
     connect(control, &SegmentedControl::chosen, m_table,
             [table = m_table, names](int i) { table->setColorSetName(names[i]); });
     m_table->setColorSetName(names.front());
@@ -163,7 +153,6 @@ QWidget *IconsPage::makeSizes()
     for (const int size : iconSizes)
         texts += QString::number(size);
     auto *control = new SegmentedControl(texts, this);
-    control->setAccessibleName(tr("Size"));
     control->setCurrentIndex(firstIconSize);
     connect(control, &SegmentedControl::chosen, m_table,
             [table = m_table](int i) { table->setIconPixels(iconSizes[i]); });

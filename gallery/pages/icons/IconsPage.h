@@ -23,7 +23,6 @@ public:
 
 private:
     QLayout *makeControls();
-    QWidget *captioned(const QString &caption, QWidget *control);
     QWidget *makeColorSets();
     QWidget *makeSizes();
     void showSource(int source);

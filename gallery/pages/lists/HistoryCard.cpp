@@ -123,7 +123,7 @@ QLayout *HistoryCard::makeControls()
     speed->setCurrentIndex(1);
     connect(speed, &SegmentedControl::chosen, m_server,
             [server = m_server, delays](int i) { server->setMeanDelay(delays[i]); });
-    row->addWidget(new ControlRow(tr("Server"), speed, this));
+    row->addWidget(new ControlRow(tr("Server"), speed, this, ControlRow::Caption::Tight));
     return row;
 }
 

@@ -145,9 +145,13 @@ void PropertyControls::add(const QString &name, QWidget *control)
     auto *captioned = new QHBoxLayout(row);
     captioned->setContentsMargins(0, 0, 0, 0);
     captioned->setSpacing(Metrics::small);
+    auto *share = new QHBoxLayout;
+    share->addWidget(control);
+    if (control->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed)
+        share->addStretch(1);
     // In shares, so that captions of different lengths leave the controls below each other.
     captioned->addWidget(Labels::caption(name, this), captionShare);
-    captioned->addWidget(control, controlShare);
+    captioned->addLayout(share, controlShare);
     layout()->addWidget(row);
 }
 
