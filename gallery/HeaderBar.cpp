@@ -5,6 +5,7 @@
 #include "TextSettings.h"
 #include "ThemeSwitcher.h"
 #include "widgets/Labels.h"
+#include "widgets/ScalingControl.h"
 #include "widgets/SegmentedControl.h"
 #include "widgets/Slider.h"
 #include "widgets/WrapLayout.h"
@@ -47,7 +48,8 @@ HeaderBar::HeaderBar(ThemeSwitcher *themeSwitcher, TextSettings *textSettings, Q
     addControl(tr("Appearance"), makeAppearanceControl());
     addControl(tr("Theme type"), makeThemeTypeControl());
     addControl(tr("Direction"), makeDirectionControl());
-    addControl(tr("Messaging view"), makeScalingControl());
+    addControl(tr("Messaging view"),
+               new ScalingControl(m_textSettings, TextSettings::FontType::MessagingView, this));
     addControl(tr("Font scale"), makeFontScaleControl());
 }
 
@@ -106,20 +108,6 @@ QWidget *HeaderBar::makeDirectionControl()
     showCurrent();
     connect(control, &SegmentedControl::chosen, m_textSettings, [settings = m_textSettings](int i) {
         settings->setDirection(static_cast<Qt::LayoutDirection>(i));
-    });
-    return control;
-}
-
-QWidget *HeaderBar::makeScalingControl()
-{
-    auto *control = new SegmentedControl({ tr("S"), tr("R"), tr("M"), tr("L") }, this);
-    control->setToolTip(tr("Small, regular, medium, large"));
-    // The factors are numbered from -1.
-    control->setCurrentIndex(
-            1 + int(m_textSettings->scaling(FontManagerEnum::FontType::MessagingView)));
-    connect(control, &SegmentedControl::chosen, m_textSettings, [settings = m_textSettings](int i) {
-        settings->setScaling(FontManagerEnum::FontType::MessagingView,
-                             static_cast<FontManagerEnum::FontScalingFactor>(i - 1));
     });
     return control;
 }

@@ -22,7 +22,6 @@ private:
     QWidget *makeThemeTypeControl();
     QWidget *makeDirectionControl();
     QWidget *makeFontScaleControl();
-    QWidget *makeScalingControl();
 
     ThemeSwitcher *const m_themeSwitcher;
     TextSettings *const m_textSettings;

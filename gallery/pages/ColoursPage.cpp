@@ -6,18 +6,12 @@
 #include "Metrics.h"
 #include "widgets/EmptyState.h"
 #include "widgets/Labels.h"
-#include "widgets/LineEdit.h"
+#include "widgets/SearchField.h"
 #include "widgets/WrapLayout.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
 #include <QVBoxLayout>
-
-namespace {
-
-constexpr int searchWidth = 320;
-
-} // namespace
 
 ColoursPage::ColoursPage(QWidget *parent)
     : Page(tr("Colours"),
@@ -29,7 +23,7 @@ ColoursPage::ColoursPage(QWidget *parent)
       m_emptyState(
               new EmptyState(tr("Try a part of a name, such as “border”, or of a colour value."),
                              tr("Clear the search"), this)),
-      m_search(new LineEdit(this)),
+      m_search(new SearchField(tr("Search names and colour values"), this)),
       m_copied(Labels::caption(QString(), this)),
       m_count(Labels::chip(QString(), this)),
       m_store(Labels::chip(QString(), this))
@@ -51,10 +45,6 @@ void ColoursPage::onThemeChanged() { showStore(); }
 
 QLayout *ColoursPage::makeToolbar()
 {
-    m_search->setPlaceholderText(tr("Search names and colour values"));
-    m_search->setAccessibleName(tr("Search"));
-    m_search->setClearButtonEnabled(true);
-    m_search->setFixedWidth(searchWidth);
     auto *row = new WrapLayout(Metrics::small);
     row->addWidget(m_search);
     row->addWidget(m_count);

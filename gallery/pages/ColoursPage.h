@@ -6,9 +6,9 @@
 class ColorSetModel;
 class ColorSetTable;
 class EmptyState;
-class LineEdit;
 class OxaLabel;
 class QLayout;
+class SearchField;
 
 /// Shows the colour sets of the store that the window takes its colours from, and finds some of
 /// them.
@@ -31,7 +31,7 @@ private:
     ColorSetModel *m_model;
     ColorSetTable *m_table;
     EmptyState *m_emptyState;
-    LineEdit *m_search;
+    SearchField *m_search;
     OxaLabel *m_copied;
     OxaLabel *m_count;
     OxaLabel *m_store;

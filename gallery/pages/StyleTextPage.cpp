@@ -67,14 +67,6 @@ QWidget *stacked(Card *upper, Card *lower)
     return stack;
 }
 
-void clear(QLayout *layout)
-{
-    while (QLayoutItem *item = layout->takeAt(0)) {
-        delete item->widget();
-        delete item;
-    }
-}
-
 } // namespace
 
 StyleTextPage::StyleTextPage(QWidget *parent)
@@ -167,7 +159,7 @@ void StyleTextPage::expand()
 
 void StyleTextPage::showFindings(const QString &sheet, const QStringList &warnings)
 {
-    clear(m_findings);
+    StatusBox::clear(m_findings);
     for (const Leftover &leftover : findLeftovers(sheet))
         m_findings->addWidget(makeFinding(leftover, this));
     for (const QString &warning : warnings) {

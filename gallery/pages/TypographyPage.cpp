@@ -4,9 +4,8 @@
 #include "FontTokenTable.h"
 #include "GalleryApplication.h"
 #include "ScaledFontTable.h"
-#include "TextSettings.h"
 #include "widgets/Card.h"
-#include "widgets/SegmentedControl.h"
+#include "widgets/ScalingControl.h"
 
 #include <QVBoxLayout>
 
@@ -36,16 +35,9 @@ Card *TypographyPage::makeScaledFontsCard()
             tr("Scaled fonts"),
             tr("Two views have fonts that the user can enlarge. The samples follow the factor of "
                "their view; the figures are the sizes in pixels at each factor."));
-    auto *factor = new SegmentedControl({ tr("S"), tr("R"), tr("M"), tr("L") });
+    auto *factor = new ScalingControl(GalleryApplication::get()->textSettings(),
+                                      TextSettings::FontType::MeetingView, card);
     factor->setAccessibleName(tr("Meeting view"));
-    factor->setToolTip(tr("Scaling of the meeting view"));
-    TextSettings *settings = GalleryApplication::get()->textSettings();
-    // The factors are numbered from -1.
-    factor->setCurrentIndex(1 + int(settings->scaling(TextSettings::FontType::MeetingView)));
-    connect(factor, &SegmentedControl::chosen, settings, [settings](int i) {
-        settings->setScaling(TextSettings::FontType::MeetingView,
-                             static_cast<TextSettings::ScalingFactor>(i - 1));
-    });
     card->addToHeading(factor);
     card->body()->addWidget(new ScaledFontTable);
     return card;

@@ -51,3 +51,11 @@ StatusBox::StatusBox(Kind kind, const QString &summary, const QString &explanati
     column->addWidget(makeLine(explanation, OxaFont::Token::BodySecondary,
                                QStringLiteral("gallery-body-text"), this));
 }
+
+void StatusBox::clear(QLayout *layout)
+{
+    while (QLayoutItem *item = layout->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+}

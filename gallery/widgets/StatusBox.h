@@ -14,4 +14,7 @@ public:
 
     StatusBox(Kind kind, const QString &summary, const QString &explanation,
               QWidget *parent = nullptr);
+
+    /// Deletes all widgets of \a layout, where boxes that are no longer true stand.
+    static void clear(QLayout *layout);
 };

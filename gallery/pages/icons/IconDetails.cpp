@@ -34,14 +34,6 @@ StatusBox::Kind kindOf(Outcome outcome)
     }
 }
 
-void clear(QLayout *layout)
-{
-    while (QLayoutItem *item = layout->takeAt(0)) {
-        delete item->widget();
-        delete item;
-    }
-}
-
 } // namespace
 
 IconDetails::IconDetails(IconRenderers *renderers, QWidget *parent)
@@ -97,7 +89,7 @@ void IconDetails::showIcon(const IconFile &file, const IconDiagnosis &diagnosis)
     const bool isReadable = diagnosis.outcome != Outcome::Unreadable;
     m_state->setVisible(isReadable);
     m_matrix->setVisible(isReadable);
-    clear(m_findings);
+    StatusBox::clear(m_findings);
     m_findings->addWidget(
             new StatusBox(kindOf(diagnosis.outcome), diagnosis.title(), diagnosis.reason));
     if (!diagnosis.advice.isEmpty()) {

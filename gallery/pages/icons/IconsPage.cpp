@@ -10,7 +10,7 @@
 #include "widgets/ControlRow.h"
 #include "widgets/EmptyState.h"
 #include "widgets/Labels.h"
-#include "widgets/LineEdit.h"
+#include "widgets/SearchField.h"
 #include "widgets/SegmentedControl.h"
 #include "widgets/WrapLayout.h"
 
@@ -21,7 +21,6 @@
 
 namespace {
 
-constexpr int searchWidth = 320;
 constexpr int iconSizes[] = { 12, 16, 24, 32, 48 };
 constexpr int firstIconSize = 2;
 
@@ -74,7 +73,7 @@ IconsPage::IconsPage(QWidget *parent)
       m_noPackage(new EmptyState(tr("./dev artwork fetches one. It is looked for in %1")
                                          .arg(GalleryApplication::get()->artworkFolder()),
                                  tr("Look again"), this)),
-      m_search(new LineEdit(this)),
+      m_search(new SearchField(tr("Search names"), this)),
       m_count(Labels::chip(QString(), this))
 {
     makeBodyScroll();
@@ -104,10 +103,6 @@ IconsPage::IconsPage(QWidget *parent)
 
 QLayout *IconsPage::makeControls()
 {
-    m_search->setPlaceholderText(tr("Search names"));
-    m_search->setAccessibleName(tr("Search"));
-    m_search->setClearButtonEnabled(true);
-    m_search->setFixedWidth(searchWidth);
     // In the order of the enumerations.
     auto *source = new SegmentedControl({ tr("Gallery"), tr("Exceptions"), tr("Icon packs") },
                                         this);

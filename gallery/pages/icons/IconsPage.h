@@ -8,9 +8,9 @@ class IconDetails;
 class IconModel;
 class IconRenderers;
 class IconTable;
-class LineEdit;
 class OxaLabel;
 class QLayout;
+class SearchField;
 
 /// Shows icons in the states of a colour set, and tells which of them take its colours and why the
 /// others do not.
@@ -39,6 +39,6 @@ private:
     IconDetails *m_details;
     EmptyState *m_noMatch;
     EmptyState *m_noPackage;
-    LineEdit *m_search;
+    SearchField *m_search;
     OxaLabel *m_count;
 };

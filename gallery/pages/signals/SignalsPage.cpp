@@ -10,8 +10,8 @@
 #include "widgets/CodeEdit.h"
 #include "widgets/EmptyState.h"
 #include "widgets/Labels.h"
-#include "widgets/LineEdit.h"
 #include "widgets/ListView.h"
+#include "widgets/SearchField.h"
 #include "widgets/WrapLayout.h"
 
 #include <UiElements/app/OxaAppSignals.h>
@@ -22,7 +22,6 @@
 
 namespace {
 
-constexpr int searchWidth = 320;
 constexpr int linesToKeep = 1000;
 constexpr int recountMs = 500;
 
@@ -48,7 +47,7 @@ SignalsPage::SignalsPage(QWidget *parent)
       m_view(new ListView(m_model, new SignalDelegate, this)),
       m_emptyState(new EmptyState(tr("Try a part of a name, such as “space”, or of a type."),
                                   tr("Clear the search"), this)),
-      m_search(new LineEdit(this)),
+      m_search(new SearchField(tr("Search names and types"), this)),
       m_count(Labels::chip(QString(), this)),
       m_log(new CodeEdit(this)),
       m_emit(makeButton(tr("Emit"), &SignalsPage::emitChosen)),
@@ -101,10 +100,6 @@ void SignalsPage::hideEvent(QHideEvent *event)
 
 QLayout *SignalsPage::makeToolbar()
 {
-    m_search->setPlaceholderText(tr("Search names and types"));
-    m_search->setAccessibleName(tr("Search"));
-    m_search->setClearButtonEnabled(true);
-    m_search->setFixedWidth(searchWidth);
     auto *row = new WrapLayout(Metrics::small);
     for (QWidget *widget : std::initializer_list<QWidget *> { m_search, m_emit, m_addReceiver,
                                                               m_removeReceivers, m_count })

@@ -9,11 +9,11 @@
 class Button;
 class CodeEdit;
 class EmptyState;
-class LineEdit;
 class ListView;
 class OxaLabel;
 class QBoxLayout;
 class QLayout;
+class SearchField;
 class SignalModel;
 
 /// Shows the signals of the hub, how many receivers each has, and what is emitted.
@@ -42,7 +42,7 @@ private:
     SignalModel *m_model;
     ListView *m_view;
     EmptyState *m_emptyState;
-    LineEdit *m_search;
+    SearchField *m_search;
     OxaLabel *m_count;
     CodeEdit *m_log;
     Button *m_emit;

@@ -61,7 +61,8 @@ Specimens::Specimens(const std::function<QWidget *()> &make, QWidget *parent) : 
     new WrapLayout(Metrics::spacing, this);
     add(make(), tr("in use"));
     const bool isButton = qobject_cast<QAbstractButton *>(m_widgets.front()) != nullptr;
-    for (const HeldState &state : heldStates()) {
+    const QVector<HeldState> states = heldStates();
+    for (const HeldState &state : states) {
         if (state.isForButtons && !isButton)
             continue;
         QWidget *widget = make();

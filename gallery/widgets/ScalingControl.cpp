@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ScalingControl.h"
+
+ScalingControl::ScalingControl(TextSettings *settings, TextSettings::FontType view, QWidget *parent)
+    : SegmentedControl({ tr("S"), tr("R"), tr("M"), tr("L") }, parent)
+{
+    setToolTip(tr("Small, regular, medium, large"));
+    // The factors are numbered from -1.
+    setCurrentIndex(1 + int(settings->scaling(view)));
+    connect(this, &SegmentedControl::chosen, settings, [settings, view](int i) {
+        settings->setScaling(view, static_cast<TextSettings::ScalingFactor>(i - 1));
+    });
+}

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "TextSettings.h"
+#include "widgets/SegmentedControl.h"
+
+/// Scales the fonts of one of the views that the user can enlarge.
+class ScalingControl : public SegmentedControl
+{
+    Q_OBJECT
+
+public:
+    ScalingControl(TextSettings *settings, TextSettings::FontType view, QWidget *parent = nullptr);
+};
