@@ -3,6 +3,8 @@
 
 #include <QClipboard>
 #include <QSignalSpy>
+#include <QTextDocument>
+#include <QUrl>
 
 #include <pages/emoji/EmojiEdit.h>
 
@@ -16,6 +18,19 @@ const QString alien = QStringLiteral("\U0001F47D");
 int pictureCount(const EmojiEdit &edit)
 {
     return edit.toPlainText().count(QChar(QChar::ObjectReplacementCharacter));
+}
+
+/// Returns how many of the pictures in \a edit there is an image for.
+int loadedCount(const EmojiEdit &edit)
+{
+    int count = 0;
+    const QVector<QTextFormat> formats = edit.document()->allFormats();
+    for (const QTextFormat &format : formats) {
+        const QUrl name(format.toImageFormat().name());
+        if (!edit.document()->resource(QTextDocument::ImageResource, name).isNull())
+            ++count;
+    }
+    return count;
 }
 
 } // namespace
@@ -54,6 +69,7 @@ void tst_EmojiEdit::givesTextsBackAsTheyWere()
     edit.setText(text);
     QCOMPARE(edit.text(), text);
     QTEST(pictureCount(edit), "pictures");
+    QTEST(loadedCount(edit), "pictures");
 }
 
 void tst_EmojiEdit::showsArtworkForWhatIsInserted()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "GalleryTest.h"
 
+#include <QLayout>
 #include <QScrollBar>
 
 #include <GalleryWindow.h>
@@ -78,6 +79,8 @@ private Q_SLOTS:
     void keepsTheControlsOfItsHeaderInSight();
     void fitsEachPageAtItsSmallestSize_data();
     void fitsEachPageAtItsSmallestSize();
+    void stopsAtAPageOnlyWhereItScrolls();
+    void keepsCardsAsWideBesideAScrollBar();
     void stylesEveryScrollBar();
     void bringsTheCurrentPageIntoSight();
     void ignoresAnUnknownPage();
@@ -177,6 +180,37 @@ void tst_GalleryWindow::fitsEachPageAtItsSmallestSize()
                                ->findChildren<ScrollArea *>(QString(), Qt::FindDirectChildrenOnly);
     QCOMPARE(areas.size(), 1);
     QCOMPARE(areas.front()->horizontalScrollBar()->maximum(), 0);
+    const auto buttons = areas.front()->findChildren<ToggleButton *>();
+    for (const ToggleButton *button : buttons)
+        QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->text()));
+}
+
+void tst_GalleryWindow::stopsAtAPageOnlyWhereItScrolls()
+{
+    ShownWindow window;
+    window.resize(Metrics::windowWidth, Metrics::windowHeight);
+    const auto policyOf = [&window](const char *page) {
+        window.showPage(QString::fromLatin1(page));
+        QCoreApplication::processEvents();
+        const QWidget *shown = window.findChild<PageStack *>()->currentWidget();
+        return shown->findChild<ScrollArea *>(QString(), Qt::FindDirectChildrenOnly)->focusPolicy();
+    };
+    QCOMPARE(policyOf("buttons"), Qt::TabFocus);
+    QCOMPARE(policyOf("signals"), Qt::NoFocus);
+}
+
+void tst_GalleryWindow::keepsCardsAsWideBesideAScrollBar()
+{
+    ShownWindow window;
+    window.resize(Metrics::windowWidth, Metrics::windowHeight);
+    const auto widthOfBody = [&window](const char *page) {
+        window.showPage(QString::fromLatin1(page));
+        QCoreApplication::processEvents();
+        const QWidget *shown = window.findChild<PageStack *>()->currentWidget();
+        const auto *area = shown->findChild<ScrollArea *>(QString(), Qt::FindDirectChildrenOnly);
+        return area->widget()->layout()->itemAt(0)->geometry().width();
+    };
+    QCOMPARE(widthOfBody("buttons"), widthOfBody("signals"));
 }
 
 void tst_GalleryWindow::stylesEveryScrollBar()
