@@ -18,36 +18,34 @@ constexpr int focusFrame = 2;
 
 } // namespace
 
-Page::Page(const QString &title, const QString &summary, QWidget *parent) : OxaWidget(parent)
+Page::Page(const QString &title, const QString &summary, QWidget *parent)
+    : OxaWidget(parent), m_body(new QVBoxLayout)
 {
-    setAccessibleName(title);
+    m_body->setSpacing(Metrics::spacing);
     auto *head = new QVBoxLayout;
-    head->setContentsMargins(Metrics::margin, Metrics::gap, Metrics::margin, Metrics::spacing);
+    head->setContentsMargins(Metrics::margin, Metrics::gap, Metrics::margin,
+                             Metrics::spacing - focusFrame);
     head->setSpacing(Metrics::tight);
     head->addWidget(Labels::title(title, this));
     head->addWidget(Labels::paragraph(summary, this));
-
-    m_body = new QVBoxLayout;
-    m_body->setContentsMargins(Metrics::margin, 0, Metrics::margin, Metrics::margin);
-    m_body->setSpacing(Metrics::spacing);
+    ScrollArea *area = makeArea();
+    area->setAccessibleName(title);
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addLayout(head);
-    column->addLayout(m_body, 1);
+    column->addWidget(area, 1);
 }
 
-void Page::makeBodyScroll()
+ScrollArea *Page::makeArea()
 {
     auto *area = new ScrollArea(this);
-    area->setAccessibleName(accessibleName());
     area->setCSS(QStringLiteral("ScrollArea { border: %1px solid transparent; }"
                                 "ScrollArea:focus { border-color: $(gallery-focus-border); }")
                          .arg(focusFrame));
     auto *contents = new OxaWidget(area->viewport());
-    auto *scrolled = new QVBoxLayout(contents);
-    scrolled->setSpacing(m_body->spacing());
+    contents->setLayout(m_body);
     const QScrollBar *bar = area->verticalScrollBar();
     // Cards are as wide with a scroll bar beside them as without. Tab stops at what keys can
     // scroll.
@@ -61,10 +59,7 @@ void Page::makeBodyScroll()
     connect(bar, &QScrollBar::rangeChanged, contents, followBar);
     followBar();
     area->setContents(contents);
-
-    m_body->setContentsMargins(0, -focusFrame, 0, 0);
-    m_body->addWidget(area);
-    m_body = scrolled;
+    return area;
 }
 
 ColumnsLayout *Page::makeColumns()

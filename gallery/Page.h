@@ -5,8 +5,10 @@
 
 class ColumnsLayout;
 class QVBoxLayout;
+class ScrollArea;
 
-/// A page of the gallery: a title, a line that says what it shows, and a body that fills the rest.
+/// A page of the gallery: a title, a line that says what it shows, and a body that fills the rest,
+/// and scrolls where that is not enough.
 class Page : public OxaWidget
 {
     Q_OBJECT
@@ -18,12 +20,11 @@ protected:
     /// Returns the layout of the body, with the page's margins.
     QVBoxLayout *body() const { return m_body; }
 
-    /// Turns the body into one that scrolls as a whole. Comes before anything is put into it.
-    void makeBodyScroll();
-
     /// Appends columns for cards to the body and returns them.
     ColumnsLayout *makeColumns();
 
 private:
+    ScrollArea *makeArea();
+
     QVBoxLayout *m_body;
 };

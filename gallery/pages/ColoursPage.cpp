@@ -28,7 +28,6 @@ ColoursPage::ColoursPage(QWidget *parent)
       m_count(Labels::chip(QString(), this)),
       m_store(Labels::chip(QString(), this))
 {
-    makeBodyScroll();
     m_table->setMinimumHeight(Metrics::leastListHeight);
     body()->addLayout(makeToolbar());
     body()->addWidget(m_table, 1);

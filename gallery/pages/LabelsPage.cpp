@@ -49,7 +49,6 @@ LabelsPage::LabelsPage(QWidget *parent)
               "clicked."),
            parent)
 {
-    makeBodyScroll();
     ColumnsLayout *cards = makeColumns();
     cards->addWidget(makeElisionCard());
     cards->addWidget(makeWrappingCard());

@@ -81,7 +81,6 @@ StyleTextPage::StyleTextPage(QWidget *parent)
       m_data(new CssDataTable),
       m_findings(new QVBoxLayout)
 {
-    makeBodyScroll();
     ColumnsLayout *columns = makeColumns();
     columns->addWidget(stacked(makeEditorCard(), makeSheetCard()));
     columns->addWidget(stacked(makePreviewCard(), makeDataCard()));

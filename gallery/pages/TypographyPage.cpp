@@ -16,7 +16,6 @@ TypographyPage::TypographyPage(QWidget *parent)
               "header to see all of them follow."),
            parent)
 {
-    makeBodyScroll();
     body()->addWidget(makeTokensCard());
     body()->addWidget(makeScaledFontsCard());
     body()->addStretch(1);

@@ -12,6 +12,9 @@ namespace {
 
 constexpr int headingHeight = 32;
 
+/// Above the heading's line, in which the text has some room of its own.
+constexpr int topMargin = 11;
+
 } // namespace
 
 Card::Card(const QString &heading, const QString &explanation, QWidget *parent)
@@ -28,7 +31,7 @@ Card::Card(const QString &heading, const QString &explanation, QWidget *parent)
     m_body->setSpacing(Metrics::spacing);
 
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(Metrics::gap, Metrics::small + 3, Metrics::gap, Metrics::gap);
+    column->setContentsMargins(Metrics::gap, topMargin, Metrics::gap, Metrics::gap);
     column->setSpacing(0);
     column->addLayout(m_headingLine);
     if (!explanation.isEmpty())

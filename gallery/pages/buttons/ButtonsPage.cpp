@@ -43,7 +43,6 @@ ButtonsPage::ButtonsPage(QWidget *parent)
               "clicks; OxaUnderlineButton and OxaToggleButton are made from it."),
            parent)
 {
-    makeBodyScroll();
     ColumnsLayout *cards = makeColumns();
     cards->addWideWidget(new StatesCard);
     cards->addWidget(makeLooksCard());

@@ -14,7 +14,6 @@ EmojiTextPage::EmojiTextPage(QWidget *parent)
               "font."),
            parent)
 {
-    makeBodyScroll();
     auto *playground = new PlaygroundCard;
     auto *artwork = new ArtworkCard;
     connect(artwork, &ArtworkCard::chosen, playground, &PlaygroundCard::insert);

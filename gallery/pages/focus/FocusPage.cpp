@@ -38,7 +38,6 @@ FocusPage::FocusPage(QWidget *parent)
               "Shift+Tab: the number that has the focus is marked."),
            parent)
 {
-    makeBodyScroll();
     auto *samples = new OxaWidget(this);
     auto *column = new QVBoxLayout(samples);
     column->setContentsMargins(0, 0, 0, 0);

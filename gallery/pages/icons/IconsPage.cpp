@@ -76,7 +76,6 @@ IconsPage::IconsPage(QWidget *parent)
       m_search(new SearchField(tr("Search names"), this)),
       m_count(Labels::chip(QString(), this))
 {
-    makeBodyScroll();
     m_sheet->setMinimumHeight(Metrics::leastListHeight);
     auto *sheet = new QHBoxLayout(m_sheet);
     sheet->setContentsMargins(0, 0, 0, 0);

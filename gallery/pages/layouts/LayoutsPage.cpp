@@ -28,7 +28,6 @@ LayoutsPage::LayoutsPage(QWidget *parent)
       m_controls(new LayoutControls(this)),
       m_area(new ScrollArea(this))
 {
-    makeBodyScroll();
     auto *row = new QHBoxLayout;
     row->setSpacing(Metrics::spacing);
     row->addWidget(makeStageCard(), 1);

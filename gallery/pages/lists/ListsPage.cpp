@@ -15,7 +15,6 @@ ListsPage::ListsPage(QWidget *parent)
               "they have to."),
            parent)
 {
-    makeBodyScroll();
     ColumnsLayout *cards = makeColumns();
     cards->addWideWidget(new ConversationsCard);
     cards->addWideWidget(new HistoryCard);

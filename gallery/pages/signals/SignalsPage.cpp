@@ -61,7 +61,6 @@ SignalsPage::SignalsPage(QWidget *parent)
             },
             this);
 
-    makeBodyScroll();
     m_view->setMinimumHeight(Metrics::leastListHeight);
     m_view->setAccessibleName(tr("Signals"));
     auto *row = new QHBoxLayout;

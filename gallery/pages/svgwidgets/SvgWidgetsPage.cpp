@@ -220,7 +220,6 @@ SvgWidgetsPage::SvgWidgetsPage(QWidget *parent)
               "called by the property that it sets; Tab shows the focus."),
            parent)
 {
-    makeBodyScroll();
     body()->addWidget(makeLabelCard());
     body()->addWidget(makeButtonCard());
     body()->addWidget(makeAnchorCard());
