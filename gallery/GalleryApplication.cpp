@@ -84,8 +84,9 @@ int GalleryApplication::run(const GalleryOptions &options)
     if (!loadDocuments(options.documents, problem))
         return fail(problem);
     if (options.task == Task::ShowWindow)
-        return showWindow(options.page);
-    return Screenshots::takeAll(options.screenshotFolder, problem) ? EXIT_SUCCESS : fail(problem);
+        return showWindow(options.pages.first());
+    return Screenshots::take(options.pages, options.screenshotFolder, problem) ? EXIT_SUCCESS
+                                                                               : fail(problem);
 }
 
 int GalleryApplication::showWindow(const QString &page)

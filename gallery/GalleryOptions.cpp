@@ -32,9 +32,10 @@ void declareOptions(QCommandLineParser &parser)
             { colorsOption, tr("Take the palette from FILE."), file },
             { setsOption, tr("Take the colour sets of the light appearance from FILE."), file },
             { invertedSetsOption, tr("Take those of the dark appearance from FILE."), file },
-            { pageOption, tr("Open the page called NAME."), QStringLiteral("NAME") },
+            { pageOption, tr("Open the page called NAME, or write pictures of it alone."),
+              QStringLiteral("NAME") },
             { listPagesOption, tr("Print the names of the pages.") },
-            { screenshotsOption, tr("Write pictures of all pages to the folder DIR."),
+            { screenshotsOption, tr("Write pictures of the pages to the folder DIR."),
               QStringLiteral("DIR") },
             { artworkOption, tr("Take downloaded pictures from the folder DIR."),
               QStringLiteral("DIR") },
@@ -73,9 +74,10 @@ GalleryOptions optionsOf(const QCommandLineParser &parser)
     if (!readDocumentPaths(parser, options.documents))
         return failure(tr("--colors, --sets and --inverted-sets go together"));
 
-    options.page = parser.isSet(pageOption) ? parser.value(pageOption) : pageEntries().front().name;
-    if (!findPageEntry(options.page))
-        return failure(tr("there is no page called %1; see --list-pages").arg(options.page));
+    options.pages = parser.isSet(pageOption) ? QStringList(parser.value(pageOption)) : pageNames();
+    if (!findPageEntry(options.pages.first()))
+        return failure(
+                tr("there is no page called %1; see --list-pages").arg(options.pages.first()));
 
     if (parser.isSet(artworkOption))
         options.artworkFolder = parser.value(artworkOption);

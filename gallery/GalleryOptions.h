@@ -3,25 +3,23 @@
 
 #include "ColorDocuments.h"
 
-#include <QString>
-
-class QStringList;
+#include <QStringList>
 
 /// What the command line asks for.
 struct GalleryOptions
 {
     /// What the program does after reading its options.
     enum class Task {
-        ShowWindow,      ///< Open the window, on `page`.
-        TakeScreenshots, ///< Write pictures of all pages to `screenshotFolder`.
+        ShowWindow,      ///< Open the window, on the first of `pages`.
+        TakeScreenshots, ///< Write pictures of `pages` to `screenshotFolder`.
         ListPages,       ///< Print the names of the pages.
         PrintHelp,       ///< Print `message`, and succeed.
         Fail,            ///< Print `message` as an error, and fail.
     };
 
     Task task = Task::ShowWindow;
-    QString page;                                   ///< Name of the page to open; never empty.
-    QString screenshotFolder;                       ///< Where pictures go.
+    QStringList pages;        ///< Names of the pages asked for: one of them, or all.
+    QString screenshotFolder; ///< Where pictures go.
     QString artworkFolder = defaultArtworkFolder(); ///< Where downloaded pictures are.
     QString message;                                ///< What to print, for the tasks that print.
     DocumentPaths documents; ///< The colour documents; the gallery's own by default.

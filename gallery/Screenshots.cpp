@@ -3,7 +3,6 @@
 
 #include "GalleryApplication.h"
 #include "GalleryWindow.h"
-#include "PageRegistry.h"
 #include "TextSettings.h"
 #include "ThemeSwitcher.h"
 
@@ -53,7 +52,7 @@ QImage pictureOf(QWidget &window, int scale)
 }
 
 /// Writes the pictures of one page in one look, at all scales.
-bool take(QWidget &window, const QDir &folder, const QString &name, QString &problem)
+bool takeScales(QWidget &window, const QDir &folder, const QString &name, QString &problem)
 {
     for (const int scale : scales) {
         const QString path = folder.filePath(QStringLiteral("%1@%2x.png").arg(name).arg(scale));
@@ -66,21 +65,22 @@ bool take(QWidget &window, const QDir &folder, const QString &name, QString &pro
     return true;
 }
 
-/// Writes the pictures of all pages in one look, whose name is \a look.
-bool takePages(GalleryWindow &window, const QDir &folder, const QString &look, QString &problem)
+/// Writes the pictures of \a pages in one look, whose name is \a look.
+bool takePages(GalleryWindow &window, const QStringList &pages, const QDir &folder,
+               const QString &look, QString &problem)
 {
-    for (const PageEntry &page : pageEntries()) {
-        window.showPage(page.name);
+    for (const QString &page : pages) {
+        window.showPage(page);
         QCoreApplication::processEvents();
-        if (!take(window, folder, page.name + QLatin1Char('-') + look, problem))
+        if (!takeScales(window, folder, page + QLatin1Char('-') + look, problem))
             return false;
     }
     return true;
 }
 
-/// Writes the pictures of all pages in one direction, in all appearances.
-bool takeAppearances(GalleryWindow &window, const QDir &folder, const DirectionName &direction,
-                     QString &problem)
+/// Writes the pictures of \a pages in one direction, in all appearances.
+bool takeAppearances(GalleryWindow &window, const QStringList &pages, const QDir &folder,
+                     const DirectionName &direction, QString &problem)
 {
     const GalleryApplication *application = GalleryApplication::get();
     application->textSettings()->setDirection(direction.direction);
@@ -88,7 +88,7 @@ bool takeAppearances(GalleryWindow &window, const QDir &folder, const DirectionN
         application->themeSwitcher()->setAppearance(appearance);
         const QString look = QStringLiteral("%1-%2").arg(QLatin1String(name),
                                                          QLatin1String(direction.name));
-        if (!takePages(window, folder, look, problem))
+        if (!takePages(window, pages, folder, look, problem))
             return false;
     }
     return true;
@@ -96,7 +96,7 @@ bool takeAppearances(GalleryWindow &window, const QDir &folder, const DirectionN
 
 } // namespace
 
-bool Screenshots::takeAll(const QString &folder, QString &problem)
+bool Screenshots::take(const QStringList &pages, const QString &folder, QString &problem)
 {
     const QDir directory(folder);
     if (!directory.mkpath(QStringLiteral("."))) {
@@ -109,7 +109,7 @@ bool Screenshots::takeAll(const QString &folder, QString &problem)
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.show();
     return std::all_of(std::begin(directions), std::end(directions),
-                       [&window, &directory, &problem](const DirectionName &direction) {
-                           return takeAppearances(window, directory, direction, problem);
+                       [&window, &pages, &directory, &problem](const DirectionName &direction) {
+                           return takeAppearances(window, pages, directory, direction, problem);
                        });
 }

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void failsForAFileThatIsNotThere();
     void failsForAnUnknownPage();
     void takesPicturesOfEveryPageInEveryLook();
+    void takesPicturesOfOnePageAlone();
     void failsForAFolderThatCannotBe();
 };
 
@@ -121,6 +122,17 @@ void tst_CommandLine::takesPicturesOfEveryPageInEveryLook()
              QSize(2400, 1600));
     files.removeDuplicates();
     QCOMPARE(int(pictures.count()) - 2, files.size());
+}
+
+void tst_CommandLine::takesPicturesOfOnePageAlone()
+{
+    const QTemporaryDir folder;
+    const Run run = runGallery({ QStringLiteral("--page"), QStringLiteral("labels"),
+                                 QStringLiteral("--screenshots"), folder.path() });
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(linesOf(run.output).size(), 3 * 2 * 2);
+    const QStringList all = QDir(folder.path()).entryList(QDir::Files);
+    QCOMPARE(all.filter(QStringLiteral("labels-")), all);
 }
 
 void tst_CommandLine::failsForAFolderThatCannotBe()

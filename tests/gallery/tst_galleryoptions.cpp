@@ -4,6 +4,7 @@
 #include <QDir>
 
 #include <GalleryOptions.h>
+#include <PageRegistry.h>
 
 using Task = GalleryOptions::Task;
 
@@ -55,8 +56,8 @@ void tst_GalleryOptions::tellsTheTask()
 
 void tst_GalleryOptions::opensTheFirstPageUnlessToldOtherwise()
 {
-    QCOMPARE(parse(QString()).page, QStringLiteral("colours"));
-    QCOMPARE(parse(QStringLiteral("--page labels")).page, QStringLiteral("labels"));
+    QCOMPARE(parse(QString()).pages, pageNames());
+    QCOMPARE(parse(QStringLiteral("--page labels")).pages, QStringList(QStringLiteral("labels")));
 }
 
 void tst_GalleryOptions::takesAUsersDocuments()
