@@ -67,7 +67,8 @@ Card *FocusPage::makeCompoundCard()
         void (CompoundSample::*const orders[])() = { &CompoundSample::sortForwards,
                                                      &CompoundSample::sortBackwards,
                                                      &CompoundSample::shuffle };
-        (sample->*orders[i])();
+        const auto arrange = orders[i];
+        (sample->*arrange)();
         refresh();
     });
     card->body()->addWidget(sample);
