@@ -72,8 +72,7 @@ QWidget *stacked(Card *upper, Card *lower)
 StyleTextPage::StyleTextPage(QWidget *parent)
     : Page(tr("Style text"),
            tr("A style text names colour sets instead of colours. Expanded, it is a style sheet "
-              "with "
-              "a rule for each state."),
+              "with a rule for each state."),
            parent),
       m_editor(new CodeEdit),
       m_sheet(new CodeEdit),

@@ -12,8 +12,7 @@
 TypographyPage::TypographyPage(QWidget *parent)
     : Page(tr("Typography"),
            tr("Widgets ask for a step of the type scale, not for a size. Move the font scale in "
-              "the "
-              "header to see all of them follow."),
+              "the header to see all of them follow."),
            parent)
 {
     body()->addWidget(makeTokensCard());

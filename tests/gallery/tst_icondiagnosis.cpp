@@ -130,8 +130,7 @@ void tst_IconDiagnosis::tellsWhy_data()
     QTest::newRow("a style of the document")
             << exception("outline")
             << "Its one top-level node, <path>, is painted directly, with the state's colour as "
-               "the "
-               "brush. The fill and stroke of the <svg> element itself are left out then.";
+               "the brush. The fill and stroke of the <svg> element itself are left out then.";
     QTest::newRow("an animation of one node") << exception("standing-still")
                                               << "Its one top-level node, <path>, is painted "
                                                  "directly, with the state's colour as the "

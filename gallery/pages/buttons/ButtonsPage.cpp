@@ -39,8 +39,7 @@ OxaPushButton *makeSample(const QString &text)
 ButtonsPage::ButtonsPage(QWidget *parent)
     : Page(tr("Buttons"),
            tr("OxaPushButton takes its colours from the theme, elides its text, and tells more "
-              "than "
-              "clicks; OxaUnderlineButton and OxaToggleButton are made from it."),
+              "than clicks; OxaUnderlineButton and OxaToggleButton are made from it."),
            parent)
 {
     ColumnsLayout *cards = makeColumns();

@@ -15,8 +15,7 @@
 ToggleCard::ToggleCard(QWidget *parent)
     : Card(tr("Toggle button"),
            tr("A flat button with a tool tip for each state. A click toggles it and leaves the "
-              "tool "
-              "tip alone: the application sets what its new state is called."),
+              "tool tip alone: the application sets what its new state is called."),
            parent),
       m_button(new OxaToggleButton(this)),
       m_toolTip(Labels::line(QString(), this)),

@@ -32,8 +32,7 @@ QImage imageOf(const char *name, const QColor &color)
 UnderlineCard::UnderlineCard(QWidget *parent)
     : Card(tr("Underline button"),
            tr("A tab that is underlined while it is checked or held down, with room for a dot or "
-              "an "
-              "image before its text and a small icon after it."),
+              "an image before its text and a small icon after it."),
            parent)
 {
     for (const QString &text : { tr("All"), tr("Direct messages"), tr("Spaces") })
