@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <UiElements/svg/SvgIconBlock.h>
+#include <UiElements/svg/OxaSvgIconBlock.h>
 #include <UiElements/widgets/OxaLabel.h>
 
 /// A label with an icon beside its text, both in the theme's colours.

@@ -32,7 +32,7 @@ OxaLabel::OxaLabel(QWidget *parent, QAccessible::Role role, Qt::WindowFlags flag
 OxaLabel::OxaLabel(const QString &text, QWidget *parent, QAccessible::Role role,
                    Qt::WindowFlags flags)
     : QLabel(parent, flags),
-      m_themeBlock(this, ThemeBlock::Form::Full, &m_colorSets),
+      m_themeBlock(this, OxaThemeBlock::Form::Full, &m_colorSets),
       m_accessibleRole(role)
 {
     OxaLabel::setTextFormat(Qt::PlainText);

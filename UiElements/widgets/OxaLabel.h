@@ -2,8 +2,8 @@
 #pragma once
 
 #include <UiElements/UiElementsExport.h>
-#include <UiElements/fonts/FontBlock.h>
-#include <UiElements/theme/ThemeBlock.h>
+#include <UiElements/fonts/OxaFontBlock.h>
+#include <UiElements/theme/OxaThemeBlock.h>
 
 #include <QAccessible>
 #include <QLabel>
@@ -137,7 +137,7 @@ private:
     int paintParagraph(QPainter &painter, const QString &paragraph, int y) const;
     QColor frameGround() const;
 
-    StyleColorSets m_colorSets;
+    OxaStyleColorSets m_colorSets;
     OxaColorSet m_linkColors;
     QString m_rawText;
     QString m_shownText;

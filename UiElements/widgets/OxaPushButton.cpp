@@ -27,7 +27,7 @@ OxaPushButton::OxaPushButton(const QString &text, QWidget *parent, const QAccess
 OxaPushButton::OxaPushButton(const QIcon &icon, const QString &text, QWidget *parent,
                              const QAccessible::Role &role)
     : QPushButton(text, parent),
-      m_themeBlock(this, ThemeBlock::Form::Full, &m_colorSets),
+      m_themeBlock(this, OxaThemeBlock::Form::Full, &m_colorSets),
       m_accessibleRole(role),
       m_useGlobalFocusBorders(qApp->property("useGlobalFocusBorders").toBool())
 {

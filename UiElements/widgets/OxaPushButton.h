@@ -4,8 +4,8 @@
 // Longer than headers are here: beside its properties it opens what its subclasses paint with.
 
 #include <UiElements/UiElementsExport.h>
-#include <UiElements/fonts/FontBlock.h>
-#include <UiElements/theme/ThemeBlock.h>
+#include <UiElements/fonts/OxaFontBlock.h>
+#include <UiElements/theme/OxaThemeBlock.h>
 #include <UiElements/widgets/RillsAccessible.h>
 
 #include <QAccessible>
@@ -180,7 +180,7 @@ private:
     void paintFocusFrame(QPainter &painter, const QStyleOptionButton &option);
     void paintBadge(QPainter &painter) const;
 
-    StyleColorSets m_colorSets;
+    OxaStyleColorSets m_colorSets;
     OxaColorSet m_focusRectColorSet;
     Qt::TextElideMode m_elideMode = Qt::ElideNone;
     int m_elidePadding = 0;

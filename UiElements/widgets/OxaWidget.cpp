@@ -23,7 +23,7 @@ QMargins onScreen(const QMargins &margins)
 } // namespace
 
 OxaWidget::OxaWidget(QWidget *parent, Qt::WindowFlags flags)
-    : QWidget(parent, flags), m_themeBlock(this, ThemeBlock::Form::StyledBackground)
+    : QWidget(parent, flags), m_themeBlock(this, OxaThemeBlock::Form::StyledBackground)
 {
     m_themeBlock.followTheme();
     m_themeBlock.followObjectName();

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <UiElements/UiElementsExport.h>
-#include <UiElements/fonts/FontBlock.h>
-#include <UiElements/theme/ThemeBlock.h>
+#include <UiElements/fonts/OxaFontBlock.h>
+#include <UiElements/theme/OxaThemeBlock.h>
 
 #include <QPixmap>
 #include <QWidget>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <UiElements/fonts/FontBlock.h>
-#include <UiElements/theme/ThemeBlock.h>
+#include <UiElements/fonts/OxaFontBlock.h>
+#include <UiElements/theme/OxaThemeBlock.h>
 
 #include <QPlainTextEdit>
 

@@ -24,7 +24,7 @@ struct ThemedClass
     enum class Font { Yes, No };
 
     /// What happens to the expanded sheet and the object name in setCSS().
-    using Form = ThemeBlock::Form;
+    using Form = OxaThemeBlock::Form;
 
     /// Whether the class starts without a style text and in the default font.
     enum class Start { Plain, Own };

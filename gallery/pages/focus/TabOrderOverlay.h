@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <UiElements/theme/ThemeBlock.h>
+#include <UiElements/theme/OxaThemeBlock.h>
 
 #include <QWidget>
 

@@ -4,7 +4,7 @@
 #include "LayoutSettings.h"
 #include "Tile.h"
 
-#include <UiElements/theme/ThemeBlock.h>
+#include <UiElements/theme/OxaThemeBlock.h>
 
 #include <random>
 

@@ -21,14 +21,14 @@ class QWidget;
 ///
 /// A member of the widget that it serves. The icon is made when it is first needed. Where it has no
 /// colour set of its own, or one that the theme lacks, it takes the widget's text colours.
-class UIELEMENTS_EXPORT SvgIconBlock
+class UIELEMENTS_EXPORT OxaSvgIconBlock
 {
-    Q_DISABLE_COPY_MOVE(SvgIconBlock)
+    Q_DISABLE_COPY_MOVE(OxaSvgIconBlock)
 
 public:
     /// Serves \a widget, whose text colours are \a textColorSet; both must outlive the block.
-    SvgIconBlock(QWidget *widget, const OxaColorSet &textColorSet);
-    ~SvgIconBlock();
+    OxaSvgIconBlock(QWidget *widget, const OxaColorSet &textColorSet);
+    ~OxaSvgIconBlock();
 
     /// \name The icon, and the properties of its outer picture
     /// \{
@@ -203,4 +203,4 @@ Q_SIGNALS:                                                                      
     void svgIconSizeChanged(const QSize &size);                                                    \
                                                                                                    \
 private:                                                                                           \
-    SvgIconBlock m_iconBlock;
+    OxaSvgIconBlock m_iconBlock;

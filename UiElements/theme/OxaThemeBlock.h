@@ -13,7 +13,7 @@
 
 /// The colour sets that a widget's style text names, for widgets that paint with them by
 /// themselves.
-struct StyleColorSets
+struct OxaStyleColorSets
 {
     OxaColorSet background;
     OxaColorSet border;
@@ -25,9 +25,9 @@ struct StyleColorSets
 /// A member of the widget that it serves. It holds the style text, expands it for the widget, and
 /// hands theme types down the parent chain. What differs from class to class, the signals and slots
 /// that it reaches, stands in one constant for each class.
-class UIELEMENTS_EXPORT ThemeBlock
+class UIELEMENTS_EXPORT OxaThemeBlock
 {
-    Q_DISABLE_COPY_MOVE(ThemeBlock)
+    Q_DISABLE_COPY_MOVE(OxaThemeBlock)
 
 public:
     /// How a style text takes hold of the widget.
@@ -39,11 +39,12 @@ public:
     /// Serves \a widget, which must outlive the block. With \a keptSets each setCSS() leaves the
     /// sets of the style text there.
     template <typename Widget>
-    explicit ThemeBlock(Widget *widget, Form form = Form::Full, StyleColorSets *keptSets = nullptr)
+    explicit OxaThemeBlock(Widget *widget, Form form = Form::Full,
+                           OxaStyleColorSets *keptSets = nullptr)
         : m_widget(widget), m_class(classOf<Widget>), m_form(form), m_keptSets(keptSets)
     {
     }
-    ~ThemeBlock() = default;
+    ~OxaThemeBlock() = default;
 
     /// The part of construction that all classes share, to be called from the constructor's body:
     /// runs the widget's onThemeChanged(), connects it to the widget's theme type, and connects the
@@ -103,14 +104,14 @@ private:
     QWidget *const m_widget;
     const WidgetClass &m_class;
     const Form m_form;
-    StyleColorSets *const m_keptSets;
+    OxaStyleColorSets *const m_keptSets;
     QString m_styleText;
     OxaCSSData m_cssData;
     QString m_themeType = QStringLiteral("global");
 };
 
 template <typename Widget>
-const ThemeBlock::WidgetClass ThemeBlock::classOf = {
+const OxaThemeBlock::WidgetClass OxaThemeBlock::classOf = {
     [](QWidget *widget) { Q_EMIT static_cast<Widget *>(widget)->cssChanged(); },
     [](QWidget *widget) { Q_EMIT static_cast<Widget *>(widget)->themeTypeChanged(); },
     [](QWidget *widget) {
@@ -176,8 +177,8 @@ private Q_SLOTS:                                                                
     void onParentThemeTypeChanged() { m_themeBlock.onParentThemeTypeChanged(); }                   \
                                                                                                    \
 private:                                                                                           \
-    friend class ThemeBlock;                                                                       \
+    friend class OxaThemeBlock;                                                                    \
     QByteArray _getCSS() const { return m_themeBlock.styleText().toUtf8(); }                       \
     void _setCSS(const QByteArray &utf8) { m_themeBlock.setCSS(QString::fromUtf8(utf8)); }         \
     QString _getThemeType() const { return m_themeBlock.themeType(); }                             \
-    ThemeBlock m_themeBlock { this };
+    OxaThemeBlock m_themeBlock { this };

@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "FontBlock.h"
+#include "OxaFontBlock.h"
 
 #include <UiElements/fonts/OxaFontManager.h>
 #include <UiElements/fonts/OxaScaledFonts.h>
 
 #include <QWidget>
 
-FontBlock::FontBlock(QWidget *widget) : m_widget(widget) { setToken(m_token, false); }
+OxaFontBlock::OxaFontBlock(QWidget *widget) : m_widget(widget) { setToken(m_token, false); }
 
-void FontBlock::setToken(OxaFont::Token token, bool useFallbackFamilies)
+void OxaFontBlock::setToken(OxaFont::Token token, bool useFallbackFamilies)
 {
     m_token = token;
     m_widget->setFont(OxaFont(token, useFallbackFamilies));
     update();
 }
 
-void FontBlock::setType(FontManagerEnum::FontType type)
+void OxaFontBlock::setType(FontManagerEnum::FontType type)
 {
     if (type == m_type)
         return;
@@ -23,7 +23,7 @@ void FontBlock::setType(FontManagerEnum::FontType type)
     update();
 }
 
-void FontBlock::update()
+void OxaFontBlock::update()
 {
     QObject::disconnect(m_connection);
     if (m_type == FontManagerEnum::FontType::Default)

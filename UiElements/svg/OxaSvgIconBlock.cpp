@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "SvgIconBlock.h"
+#include "OxaSvgIconBlock.h"
 
 #include <UiElements/theme/OxaThemeUtils.h>
 
 #include <QWidget>
 
-SvgIconBlock::SvgIconBlock(QWidget *widget, const OxaColorSet &textColorSet)
+OxaSvgIconBlock::OxaSvgIconBlock(QWidget *widget, const OxaColorSet &textColorSet)
     : m_widget(widget), m_textColorSet(textColorSet)
 {
 }
 
-SvgIconBlock::~SvgIconBlock() = default;
+OxaSvgIconBlock::~OxaSvgIconBlock() = default;
 
-QString SvgIconBlock::path() const { return m_icon ? m_icon->getFilePath() : QString(); }
+QString OxaSvgIconBlock::path() const { return m_icon ? m_icon->getFilePath() : QString(); }
 
-void SvgIconBlock::setPath(const QString &path)
+void OxaSvgIconBlock::setPath(const QString &path)
 {
     OxaSvgIcon &icon = ensureSvgIconExists();
     icon.setFilePath(path);
@@ -22,24 +22,27 @@ void SvgIconBlock::setPath(const QString &path)
         icon.setColorSet(m_textColorSet);
 }
 
-QSize SvgIconBlock::size() const { return m_icon ? m_icon->getIconSize() : QSize(); }
+QSize OxaSvgIconBlock::size() const { return m_icon ? m_icon->getIconSize() : QSize(); }
 
-void SvgIconBlock::setSize(const QSize &size) { ensureSvgIconExists().setIconSize(size); }
+void OxaSvgIconBlock::setSize(const QSize &size) { ensureSvgIconExists().setIconSize(size); }
 
-void SvgIconBlock::setColorSetName(const QString &name)
+void OxaSvgIconBlock::setColorSetName(const QString &name)
 {
     m_colorSetName = name;
     ensureSvgIconExists().setColorSet(colorSetOrText(name));
 }
 
-OxaColorSet SvgIconBlock::colorSet() const
+OxaColorSet OxaSvgIconBlock::colorSet() const
 {
     return m_icon ? m_icon->getColorSet() : OxaColorSet();
 }
 
-QString SvgIconBlock::innerPath() const { return m_icon ? m_icon->getInnerFilePath() : QString(); }
+QString OxaSvgIconBlock::innerPath() const
+{
+    return m_icon ? m_icon->getInnerFilePath() : QString();
+}
 
-void SvgIconBlock::setInnerPath(const QString &path)
+void OxaSvgIconBlock::setInnerPath(const QString &path)
 {
     OxaSvgIcon &icon = ensureSvgIconExists();
     icon.setInnerFilePath(path);
@@ -47,60 +50,60 @@ void SvgIconBlock::setInnerPath(const QString &path)
         icon.setInnerColorSet(m_textColorSet);
 }
 
-QSize SvgIconBlock::innerSize() const { return m_icon ? m_icon->getInnerIconSize() : QSize(); }
+QSize OxaSvgIconBlock::innerSize() const { return m_icon ? m_icon->getInnerIconSize() : QSize(); }
 
-void SvgIconBlock::setInnerSize(const QSize &size)
+void OxaSvgIconBlock::setInnerSize(const QSize &size)
 {
     ensureSvgIconExists().setInnerIconSize(size);
     m_widget->update();
 }
 
-void SvgIconBlock::setInnerColorSetName(const QString &name)
+void OxaSvgIconBlock::setInnerColorSetName(const QString &name)
 {
     m_innerColorSetName = name;
     ensureSvgIconExists().setInnerColorSet(colorSetOrText(name));
     m_widget->update();
 }
 
-void SvgIconBlock::setAlignment(OxaEnum::Alignment alignment)
+void OxaSvgIconBlock::setAlignment(OxaEnum::Alignment alignment)
 {
     m_alignment = alignment;
     m_widget->update();
 }
 
-void SvgIconBlock::setTextHorAlign(OxaEnum::HorAlign align)
+void OxaSvgIconBlock::setTextHorAlign(OxaEnum::HorAlign align)
 {
     m_textHorAlign = align;
     m_widget->update();
 }
 
-void SvgIconBlock::setTextLeftPadding(int padding)
+void OxaSvgIconBlock::setTextLeftPadding(int padding)
 {
     m_textLeftPadding = padding;
     m_widget->update();
 }
 
-void SvgIconBlock::setTextRightPadding(int padding)
+void OxaSvgIconBlock::setTextRightPadding(int padding)
 {
     m_textRightPadding = padding;
     m_widget->update();
 }
 
-void SvgIconBlock::setTopLeftPadding(const QPoint &padding)
+void OxaSvgIconBlock::setTopLeftPadding(const QPoint &padding)
 {
     m_padding.setLeft(padding.x());
     m_padding.setTop(padding.y());
     m_widget->update();
 }
 
-void SvgIconBlock::setBottomRightPadding(const QPoint &padding)
+void OxaSvgIconBlock::setBottomRightPadding(const QPoint &padding)
 {
     m_padding.setRight(padding.x());
     m_padding.setBottom(padding.y());
     m_widget->update();
 }
 
-OxaColorSet SvgIconBlock::colorSetOrText(const QString &name) const
+OxaColorSet OxaSvgIconBlock::colorSetOrText(const QString &name) const
 {
     const OxaColorSet set = OxaThemeUtils::getColorSet(name.toStdString(),
                                                        OxaThemeUtils::getThemeTypeOfWidget(
@@ -108,14 +111,14 @@ OxaColorSet SvgIconBlock::colorSetOrText(const QString &name) const
     return set.isValid() ? set : m_textColorSet;
 }
 
-void SvgIconBlock::updateIconPath(OxaSvgIcon *icon, const QString &path) const
+void OxaSvgIconBlock::updateIconPath(OxaSvgIcon *icon, const QString &path) const
 {
     if (icon && (!icon->isValid() || icon->getFilePath() != path))
         icon->setFilePath(path);
     m_widget->update();
 }
 
-OxaSvgIcon &SvgIconBlock::ensureSvgIconExists()
+OxaSvgIcon &OxaSvgIconBlock::ensureSvgIconExists()
 {
     if (!m_icon) {
         m_icon = std::make_unique<OxaSvgIcon>();

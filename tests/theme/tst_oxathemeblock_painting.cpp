@@ -26,7 +26,7 @@ QColor middleOf(QWidget &widget)
 } // namespace
 
 /// What themed widgets look like once they show.
-class tst_ThemeBlockPainting : public QObject
+class tst_OxaThemeBlockPainting : public QObject
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ private:
     std::unique_ptr<StoreGuard> m_stores;
 };
 
-void tst_ThemeBlockPainting::showsANewStyleTextOfAWindowThatWasNeverShown()
+void tst_OxaThemeBlockPainting::showsANewStyleTextOfAWindowThatWasNeverShown()
 {
     OxaWidget window;
     window.setCSS(QStringLiteral("$backgroundColors: old;"));
@@ -52,7 +52,7 @@ void tst_ThemeBlockPainting::showsANewStyleTextOfAWindowThatWasNeverShown()
     QCOMPARE(middleOf(window), newColor);
 }
 
-void tst_ThemeBlockPainting::showsANewStyleTextOfAChildThatWasNeverShown()
+void tst_OxaThemeBlockPainting::showsANewStyleTextOfAChildThatWasNeverShown()
 {
     OxaWidget window;
     OxaWidget child(&window);
@@ -64,5 +64,5 @@ void tst_ThemeBlockPainting::showsANewStyleTextOfAChildThatWasNeverShown()
     QCOMPARE(middleOf(child), newColor);
 }
 
-UIELEMENTS_TEST_MAIN(tst_ThemeBlockPainting)
-#include "tst_themeblock_painting.moc"
+UIELEMENTS_TEST_MAIN(tst_OxaThemeBlockPainting)
+#include "tst_oxathemeblock_painting.moc"

@@ -35,7 +35,7 @@ void scale(FontType type, Factor factor) { OxaFontManager::get()->setScalingFact
 } // namespace
 
 /// How a widget's font follows a token and the scaled fonts of a view: a row for each class.
-class tst_FontBlock : public QObject
+class tst_OxaFontBlock : public QObject
 {
     Q_OBJECT
 
@@ -66,16 +66,16 @@ private:
     std::unique_ptr<StoreGuard> m_stores;
 };
 
-void tst_FontBlock::init() { m_stores = std::make_unique<StoreGuard>(storeWith("#112233")); }
+void tst_OxaFontBlock::init() { m_stores = std::make_unique<StoreGuard>(storeWith("#112233")); }
 
-void tst_FontBlock::cleanup()
+void tst_OxaFontBlock::cleanup()
 {
     scale(FontType::MessagingView, Factor::Regular);
     scale(FontType::MeetingView, Factor::Regular);
     m_stores.reset();
 }
 
-void tst_FontBlock::takesTheTokensFontAtOnce()
+void tst_OxaFontBlock::takesTheTokensFontAtOnce()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -84,7 +84,7 @@ void tst_FontBlock::takesTheTokensFontAtOnce()
     QCOMPARE(widget->font(), OxaFont(Token::HyperlinkSecondary, false));
 }
 
-void tst_FontBlock::followsTheFontsOfItsView()
+void tst_OxaFontBlock::followsTheFontsOfItsView()
 {
     FETCH_THEMED_CLASS;
     scale(FontType::MessagingView, Factor::Large);
@@ -99,7 +99,7 @@ void tst_FontBlock::followsTheFontsOfItsView()
     QCOMPARE(widget->font().pixelSize(), 16);
 }
 
-void tst_FontBlock::followsOnlyTheViewThatWasSetLast()
+void tst_OxaFontBlock::followsOnlyTheViewThatWasSetLast()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -112,7 +112,7 @@ void tst_FontBlock::followsOnlyTheViewThatWasSetLast()
     QCOMPARE(widget->font().pixelSize(), 14);
 }
 
-void tst_FontBlock::followsWithTheTokenOfThatTime()
+void tst_OxaFontBlock::followsWithTheTokenOfThatTime()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -128,7 +128,7 @@ void tst_FontBlock::followsWithTheTokenOfThatTime()
     QCOMPARE(widget->font().weight(), 75);
 }
 
-void tst_FontBlock::followsAFontThatIsWrittenIntoTheTable()
+void tst_OxaFontBlock::followsAFontThatIsWrittenIntoTheTable()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -141,7 +141,7 @@ void tst_FontBlock::followsAFontThatIsWrittenIntoTheTable()
     QCOMPARE(widget->font(), font);
 }
 
-void tst_FontBlock::stopsFollowingBackAtTheDefaultType()
+void tst_OxaFontBlock::stopsFollowingBackAtTheDefaultType()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -156,7 +156,7 @@ void tst_FontBlock::stopsFollowingBackAtTheDefaultType()
     QCOMPARE(widget->font().pixelSize(), 16);
 }
 
-void tst_FontBlock::doesNothingForTheSameType()
+void tst_OxaFontBlock::doesNothingForTheSameType()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -170,7 +170,7 @@ void tst_FontBlock::doesNothingForTheSameType()
     }
 }
 
-void tst_FontBlock::takesTheFallbackFamiliesWhenAsked()
+void tst_OxaFontBlock::takesTheFallbackFamiliesWhenAsked()
 {
     OxaWidget widget;
     widget.setFontToken(Token::Title, true);
@@ -179,7 +179,7 @@ void tst_FontBlock::takesTheFallbackFamiliesWhenAsked()
     QCOMPARE(widget.font(), OxaFont(Token::Title, false));
 }
 
-void tst_FontBlock::fetchesTheFontAnewWhenUpdated()
+void tst_OxaFontBlock::fetchesTheFontAnewWhenUpdated()
 {
     OxaWidget widget;
     QFont font = widget.font();
@@ -194,7 +194,7 @@ void tst_FontBlock::fetchesTheFontAnewWhenUpdated()
     QCOMPARE(widget.font().pixelSize(), 16);
 }
 
-void tst_FontBlock::asksForNoTableOfTheDefaultType()
+void tst_OxaFontBlock::asksForNoTableOfTheDefaultType()
 {
     OxaFontManager::get()->getFont(FontType::MeetingView);
     const QList<QObject *> before = OxaFontManager::get()->children();
@@ -206,5 +206,5 @@ void tst_FontBlock::asksForNoTableOfTheDefaultType()
     QCOMPARE(OxaFontManager::get()->children(), before);
 }
 
-UIELEMENTS_TEST_MAIN(tst_FontBlock)
-#include "tst_fontblock.moc"
+UIELEMENTS_TEST_MAIN(tst_OxaFontBlock)
+#include "tst_oxafontblock.moc"

@@ -12,14 +12,14 @@ class QWidget;
 /// Keeps a widget's font on a font token: the behaviour behind UIELEMENTS_FONT_BLOCK.
 ///
 /// A member of the widget that it serves; making it sets the widget's font to the default token.
-class UIELEMENTS_EXPORT FontBlock
+class UIELEMENTS_EXPORT OxaFontBlock
 {
-    Q_DISABLE_COPY_MOVE(FontBlock)
+    Q_DISABLE_COPY_MOVE(OxaFontBlock)
 
 public:
     /// Serves \a widget, which must outlive the block.
-    explicit FontBlock(QWidget *widget);
-    ~FontBlock() = default;
+    explicit OxaFontBlock(QWidget *widget);
+    ~OxaFontBlock() = default;
 
     /// Returns the token; the default one at first.
     OxaFont::Token token() const { return m_token; }
@@ -69,4 +69,4 @@ public:                                                                         
     void updateFont() { m_fontBlock.update(); }                                                    \
                                                                                                    \
 private:                                                                                           \
-    FontBlock m_fontBlock { this };
+    OxaFontBlock m_fontBlock { this };

@@ -56,7 +56,7 @@ std::unique_ptr<QWidget> makeNamed(const ThemedClass &themed, QWidget *parent = 
 
 /// What a widget's listeners find when they are told, and what they may do with it: a row for each
 /// themed class.
-class tst_ThemeBlockListeners : public QObject
+class tst_OxaThemeBlockListeners : public QObject
 {
     Q_OBJECT
 
@@ -96,7 +96,7 @@ private:
 };
 
 /// Adds a row for each themed class and each of its two signals.
-void tst_ThemeBlockListeners::addWaysToHear()
+void tst_OxaThemeBlockListeners::addWaysToHear()
 {
     QTest::addColumn<int>("row");
     QTest::addColumn<QByteArray>("signal");
@@ -110,7 +110,7 @@ void tst_ThemeBlockListeners::addWaysToHear()
     }
 }
 
-void tst_ThemeBlockListeners::hearOfAStyleTextThatIsInForce()
+void tst_OxaThemeBlockListeners::hearOfAStyleTextThatIsInForce()
 {
     FETCH_THEMED_CLASS;
     const auto widget = makeNamed(themed);
@@ -123,7 +123,7 @@ void tst_ThemeBlockListeners::hearOfAStyleTextThatIsInForce()
     QCOMPARE(heard, stateWith("global", "#ff112233") + QLatin1String(" | panel"));
 }
 
-void tst_ThemeBlockListeners::hearOfATypeThatIsInForce()
+void tst_OxaThemeBlockListeners::hearOfATypeThatIsInForce()
 {
     FETCH_THEMED_CLASS;
     const auto widget = makeNamed(themed);
@@ -138,7 +138,7 @@ void tst_ThemeBlockListeners::hearOfATypeThatIsInForce()
     QCOMPARE(heard.take(), QLatin1String("css: ") + dark + QLatin1String(" | type: ") + dark);
 }
 
-void tst_ThemeBlockListeners::maySetAnotherStyleTextWhenTheTypeChanges()
+void tst_OxaThemeBlockListeners::maySetAnotherStyleTextWhenTheTypeChanges()
 {
     FETCH_THEMED_CLASS;
     const auto widget = makeNamed(themed);
@@ -149,7 +149,7 @@ void tst_ThemeBlockListeners::maySetAnotherStyleTextWhenTheTypeChanges()
     QCOMPARE(stateOf(*widget), stateWith("dark", "#ff445566"));
 }
 
-void tst_ThemeBlockListeners::maySetAnotherTypeWhenTheStyleTextChanges()
+void tst_OxaThemeBlockListeners::maySetAnotherTypeWhenTheStyleTextChanges()
 {
     FETCH_THEMED_CLASS;
     const auto widget = makeNamed(themed);
@@ -166,7 +166,7 @@ void tst_ThemeBlockListeners::maySetAnotherTypeWhenTheStyleTextChanges()
     QCOMPARE(stateOf(*widget), stateWith("light", "#ff112233"));
 }
 
-void tst_ThemeBlockListeners::mayReplaceTheStoresWhenTheTypeChanges()
+void tst_OxaThemeBlockListeners::mayReplaceTheStoresWhenTheTypeChanges()
 {
     FETCH_THEMED_CLASS;
     const auto widget = makeNamed(themed);
@@ -181,7 +181,7 @@ void tst_ThemeBlockListeners::mayReplaceTheStoresWhenTheTypeChanges()
     QCOMPARE(stateOf(*widget), stateWith("dark", "#ffaabbcc"));
 }
 
-void tst_ThemeBlockListeners::mayDeleteTheWidgetWhenItsStyleTextIsSet()
+void tst_OxaThemeBlockListeners::mayDeleteTheWidgetWhenItsStyleTextIsSet()
 {
     FETCH_THEMED_CLASS;
     const QPointer<QWidget> widget = themed.make(nullptr).release();
@@ -190,7 +190,7 @@ void tst_ThemeBlockListeners::mayDeleteTheWidgetWhenItsStyleTextIsSet()
     QVERIFY(!widget);
 }
 
-void tst_ThemeBlockListeners::mayDeleteTheWidgetWhenItsNameIsSet()
+void tst_OxaThemeBlockListeners::mayDeleteTheWidgetWhenItsNameIsSet()
 {
     FETCH_THEMED_CLASS;
     const QPointer<QWidget> widget = themed.make(nullptr).release();
@@ -200,7 +200,7 @@ void tst_ThemeBlockListeners::mayDeleteTheWidgetWhenItsNameIsSet()
     QVERIFY(!widget);
 }
 
-void tst_ThemeBlockListeners::mayDeleteTheWidgetWhenItsTypeIsSet()
+void tst_OxaThemeBlockListeners::mayDeleteTheWidgetWhenItsTypeIsSet()
 {
     FETCH_THEMED_CLASS;
     QFETCH(const QByteArray, signal);
@@ -210,7 +210,7 @@ void tst_ThemeBlockListeners::mayDeleteTheWidgetWhenItsTypeIsSet()
     QVERIFY(!widget);
 }
 
-void tst_ThemeBlockListeners::mayDeleteTheWidgetWhenItsParentsTypeIsSet()
+void tst_OxaThemeBlockListeners::mayDeleteTheWidgetWhenItsParentsTypeIsSet()
 {
     FETCH_THEMED_CLASS;
     QFETCH(const QByteArray, signal);
@@ -223,7 +223,7 @@ void tst_ThemeBlockListeners::mayDeleteTheWidgetWhenItsParentsTypeIsSet()
     QCOMPARE(sibling.property("themeType").toString(), QStringLiteral("dark"));
 }
 
-void tst_ThemeBlockListeners::mayDeleteTheParentWhenItsTypeIsSet()
+void tst_OxaThemeBlockListeners::mayDeleteTheParentWhenItsTypeIsSet()
 {
     FETCH_THEMED_CLASS;
     QFETCH(const QByteArray, signal);
@@ -235,5 +235,5 @@ void tst_ThemeBlockListeners::mayDeleteTheParentWhenItsTypeIsSet()
     QVERIFY(!widget);
 }
 
-UIELEMENTS_TEST_MAIN(tst_ThemeBlockListeners)
-#include "tst_themeblock_listeners.moc"
+UIELEMENTS_TEST_MAIN(tst_OxaThemeBlockListeners)
+#include "tst_oxathemeblock_listeners.moc"

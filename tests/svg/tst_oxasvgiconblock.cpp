@@ -43,7 +43,7 @@ QString paintedSet(QWidget &widget)
 } // namespace
 
 /// What every widget with an icon shows and does alike: a row for each class.
-class tst_SvgIconBlock : public QObject
+class tst_OxaSvgIconBlock : public QObject
 {
     Q_OBJECT
 
@@ -91,7 +91,7 @@ private:
     std::unique_ptr<StoreGuard> m_stores;
 };
 
-void tst_SvgIconBlock::init()
+void tst_OxaSvgIconBlock::init()
 {
     m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf(
                                                     { textColors, iconColors, linkColors }),
@@ -99,7 +99,7 @@ void tst_SvgIconBlock::init()
                                                                  linkColors }));
 }
 
-void tst_SvgIconBlock::showsTheSameProperties()
+void tst_OxaSvgIconBlock::showsTheSameProperties()
 {
     FETCH_ICON_WIDGET;
     const char *const properties[] = {
@@ -130,7 +130,7 @@ void tst_SvgIconBlock::showsTheSameProperties()
         QVERIFY2(tested.metaObject->indexOfSignal(signature) >= 0, signature);
 }
 
-void tst_SvgIconBlock::startsWithoutAnIcon()
+void tst_OxaSvgIconBlock::startsWithoutAnIcon()
 {
     FETCH_ICON_WIDGET;
     QCOMPARE(widget->property("svgIcon"), QVariant(QString()));
@@ -148,7 +148,7 @@ void tst_SvgIconBlock::startsWithoutAnIcon()
     QCOMPARE(widget->property("innerSvgIconSize"), QVariant(QSize(-1, -1)));
 }
 
-void tst_SvgIconBlock::makesAnIconWhenASizeOrSetIsFirst()
+void tst_OxaSvgIconBlock::makesAnIconWhenASizeOrSetIsFirst()
 {
     FETCH_ICON_WIDGET;
     widget->setProperty("svgIconSize", QSize(3, 4));
@@ -163,7 +163,7 @@ void tst_SvgIconBlock::makesAnIconWhenASizeOrSetIsFirst()
     QCOMPARE(other->property("innerSvgIconSize"), QVariant(QSize(16, 16)));
 }
 
-void tst_SvgIconBlock::takesTheTextsColorsUntilItHasItsOwn()
+void tst_OxaSvgIconBlock::takesTheTextsColorsUntilItHasItsOwn()
 {
     FETCH_ICON_WIDGET;
     widget->setProperty("css", QByteArrayLiteral("$textColors: text;"));
@@ -183,7 +183,7 @@ void tst_SvgIconBlock::takesTheTextsColorsUntilItHasItsOwn()
     QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
 }
 
-void tst_SvgIconBlock::tellsOfItsColors()
+void tst_OxaSvgIconBlock::tellsOfItsColors()
 {
     FETCH_ICON_WIDGET;
     widget->setProperty("css", QByteArrayLiteral("$textColors: text;"));
@@ -196,7 +196,7 @@ void tst_SvgIconBlock::tellsOfItsColors()
     QCOMPARE(changed.at(1).at(0).value<OxaColorSet>(), textColors);
 }
 
-void tst_SvgIconBlock::triesAnUnknownColorSetAgainAtTheNextThemeChange()
+void tst_OxaSvgIconBlock::triesAnUnknownColorSetAgainAtTheNextThemeChange()
 {
     FETCH_ICON_WIDGET;
     widget->setProperty("css", QByteArrayLiteral("$textColors: text;"));
@@ -209,7 +209,7 @@ void tst_SvgIconBlock::triesAnUnknownColorSetAgainAtTheNextThemeChange()
     QCOMPARE(paintedSet(*widget), QStringLiteral("late"));
 }
 
-void tst_SvgIconBlock::followsTheTheme()
+void tst_OxaSvgIconBlock::followsTheTheme()
 {
     FETCH_ICON_WIDGET;
     widget->setProperty("svgIcon", m_files.square());
@@ -223,7 +223,7 @@ void tst_SvgIconBlock::followsTheTheme()
     QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
 }
 
-void tst_SvgIconBlock::refreshesItsSetsOnCall()
+void tst_OxaSvgIconBlock::refreshesItsSetsOnCall()
 {
     FETCH_ICON_WIDGET;
     widget->setProperty("svgIcon", m_files.square());
@@ -238,7 +238,7 @@ void tst_SvgIconBlock::refreshesItsSetsOnCall()
     QCOMPARE(changed.size(), 2);
 }
 
-void tst_SvgIconBlock::colorsTheInnerPictureLikeTheOuterOne()
+void tst_OxaSvgIconBlock::colorsTheInnerPictureLikeTheOuterOne()
 {
     FETCH_ICON_WIDGET;
     widget->setProperty("css", QByteArrayLiteral("$textColors: text;"));
@@ -256,7 +256,7 @@ void tst_SvgIconBlock::colorsTheInnerPictureLikeTheOuterOne()
     QCOMPARE(paintedSet(*widget), QStringLiteral("late"));
 }
 
-void tst_SvgIconBlock::emitsNothingForTheInnerPicture()
+void tst_OxaSvgIconBlock::emitsNothingForTheInnerPicture()
 {
     FETCH_ICON_WIDGET;
     const QSignalSpy icon(widget.get(), SIGNAL(svgIconChanged(QString)));
@@ -278,7 +278,7 @@ void tst_SvgIconBlock::emitsNothingForTheInnerPicture()
     QCOMPARE(size.at(0).at(0), QVariant(QSize(5, 6)));
 }
 
-void tst_SvgIconBlock::triesAPathThatFailsTwice()
+void tst_OxaSvgIconBlock::triesAPathThatFailsTwice()
 {
     FETCH_ICON_WIDGET;
     const QString missing = m_files.path(QStringLiteral("missing.svg"));
@@ -299,7 +299,7 @@ void tst_SvgIconBlock::triesAPathThatFailsTwice()
     QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
 }
 
-void tst_SvgIconBlock::showsTheLastOfSeveralPaths()
+void tst_OxaSvgIconBlock::showsTheLastOfSeveralPaths()
 {
     FETCH_ICON_WIDGET;
     const QString square = m_files.square();
@@ -315,7 +315,7 @@ void tst_SvgIconBlock::showsTheLastOfSeveralPaths()
     QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
 }
 
-void tst_SvgIconBlock::repaintsForAPathOnlyWhenTheEventLoopTurns()
+void tst_OxaSvgIconBlock::repaintsForAPathOnlyWhenTheEventLoopTurns()
 {
     FETCH_ICON_WIDGET;
     PaintCounter paints(*widget);
@@ -327,7 +327,7 @@ void tst_SvgIconBlock::repaintsForAPathOnlyWhenTheEventLoopTurns()
     QCOMPARE(paints.take(), 0);
 }
 
-void tst_SvgIconBlock::repaintsForEveryOtherProperty()
+void tst_OxaSvgIconBlock::repaintsForEveryOtherProperty()
 {
     FETCH_ICON_WIDGET;
     widget->setProperty("svgIcon", m_files.square());
@@ -354,7 +354,7 @@ void tst_SvgIconBlock::repaintsForEveryOtherProperty()
     QCOMPARE(paints.take(), 0);
 }
 
-void tst_SvgIconBlock::storesAWholePaddingWithoutRepainting()
+void tst_OxaSvgIconBlock::storesAWholePaddingWithoutRepainting()
 {
     FETCH_ICON_WIDGET;
     PaintCounter paints(*widget);
@@ -364,7 +364,7 @@ void tst_SvgIconBlock::storesAWholePaddingWithoutRepainting()
     QCOMPARE(widget->property("svgIconBottomRightPadding"), QVariant(QPoint(3, 4)));
 }
 
-void tst_SvgIconBlock::repaintsForTheFramesOfItsIcon()
+void tst_OxaSvgIconBlock::repaintsForTheFramesOfItsIcon()
 {
     FETCH_ICON_WIDGET;
     const QString animated = m_files.animated();
@@ -377,5 +377,5 @@ void tst_SvgIconBlock::repaintsForTheFramesOfItsIcon()
     QCOMPARE(paints.take(), 0);
 }
 
-UIELEMENTS_TEST_MAIN(tst_SvgIconBlock)
-#include "tst_svgiconblock.moc"
+UIELEMENTS_TEST_MAIN(tst_OxaSvgIconBlock)
+#include "tst_oxasvgiconblock.moc"

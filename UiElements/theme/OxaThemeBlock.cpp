@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "ThemeBlock.h"
+#include "OxaThemeBlock.h"
 
 #include "WidgetStyleText_p.h"
 
@@ -9,13 +9,13 @@
 
 using OxaThemeUtils::AppThemeType;
 
-void ThemeBlock::followTheme()
+void OxaThemeBlock::followTheme()
 {
     m_class.followTheme(m_widget);
     followParent();
 }
 
-void ThemeBlock::setCSS(const QString &styleText)
+void OxaThemeBlock::setCSS(const QString &styleText)
 {
     m_styleText = styleText;
     const OxaThemeUtils::CSSParserResult result =
@@ -44,21 +44,21 @@ void ThemeBlock::setCSS(const QString &styleText)
         followObjectName();
 }
 
-void ThemeBlock::setStyleSheet(const QString &styleSheet)
+void OxaThemeBlock::setStyleSheet(const QString &styleSheet)
 {
     if (m_styleText.isEmpty())
         m_styleText = styleSheet;
     m_widget->QWidget::setStyleSheet(styleSheet);
 }
 
-AppThemeType ThemeBlock::effectiveThemeType() const
+AppThemeType OxaThemeBlock::effectiveThemeType() const
 {
     const AppThemeType own = OxaThemeUtils::stringToThemeType(m_themeType);
     return own != AppThemeType::Global ? own
                                        : OxaThemeUtils::getThemeTypeOfWidget(m_widget->window());
 }
 
-void ThemeBlock::setThemeType(const QString &themeType)
+void OxaThemeBlock::setThemeType(const QString &themeType)
 {
     m_themeType = themeType;
     const QPointer<QWidget> widget(m_widget);
@@ -67,7 +67,7 @@ void ThemeBlock::setThemeType(const QString &themeType)
         m_class.emitThemeTypeChanged(m_widget);
 }
 
-void ThemeBlock::changeEvent(const QEvent *event)
+void OxaThemeBlock::changeEvent(const QEvent *event)
 {
     if (event->type() != QEvent::ParentChange)
         return;
@@ -75,7 +75,7 @@ void ThemeBlock::changeEvent(const QEvent *event)
     onParentThemeTypeChanged();
 }
 
-void ThemeBlock::onParentThemeTypeChanged()
+void OxaThemeBlock::onParentThemeTypeChanged()
 {
     const QWidget *parent = m_widget->parentWidget();
     if (!parent || !takeThemeTypeOf(parent))
@@ -83,7 +83,7 @@ void ThemeBlock::onParentThemeTypeChanged()
 }
 
 /// Connects the widget to its parent's theme type, in addition to those of earlier parents.
-void ThemeBlock::followParent()
+void OxaThemeBlock::followParent()
 {
     const QObject *parent = m_widget->parent();
     if (!parent)
@@ -99,7 +99,7 @@ void ThemeBlock::followParent()
 
 /// Takes over the theme type of \a other where it differs from the widget's. Words are compared by
 /// what they mean: an unknown word is as good as "global".
-bool ThemeBlock::takeThemeTypeOf(const QWidget *other)
+bool OxaThemeBlock::takeThemeTypeOf(const QWidget *other)
 {
     const QVariant otherType = other->property("themeType");
     if (!otherType.isValid()

@@ -34,7 +34,7 @@ bool hasMethod(const QMetaObject *type, const char *signature, QMetaMethod::Meth
 } // namespace
 
 /// What every themed widget class shows and does alike: a row for each class.
-class tst_ThemeBlock : public QObject
+class tst_OxaThemeBlock : public QObject
 {
     Q_OBJECT
 
@@ -97,13 +97,13 @@ private:
     std::unique_ptr<StoreGuard> m_stores;
 };
 
-void tst_ThemeBlock::cleanup()
+void tst_OxaThemeBlock::cleanup()
 {
     m_stores.reset();
     QVERIFY2(QApplication::topLevelWidgets().isEmpty(), "A test left a window behind.");
 }
 
-void tst_ThemeBlock::showsTheSameSignalsAndSlots()
+void tst_OxaThemeBlock::showsTheSameSignalsAndSlots()
 {
     FETCH_THEMED_CLASS;
     const QMetaObject *type = themed.metaObject;
@@ -115,7 +115,7 @@ void tst_ThemeBlock::showsTheSameSignalsAndSlots()
     QVERIFY(hasMethod(type, "onParentThemeTypeChanged()", QMetaMethod::Slot, QMetaMethod::Private));
 }
 
-void tst_ThemeBlock::showsTheSameProperties()
+void tst_OxaThemeBlock::showsTheSameProperties()
 {
     FETCH_THEMED_CLASS;
     const QMetaObject *type = themed.metaObject;
@@ -142,7 +142,7 @@ void tst_ThemeBlock::showsTheSameProperties()
     }
 }
 
-void tst_ThemeBlock::startsGlobalWithoutStyleTextInTheDefaultFont()
+void tst_OxaThemeBlock::startsGlobalWithoutStyleTextInTheDefaultFont()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -155,7 +155,7 @@ void tst_ThemeBlock::startsGlobalWithoutStyleTextInTheDefaultFont()
         QCOMPARE(widget->font().pixelSize(), 16);
 }
 
-void tst_ThemeBlock::expandsTheStyleTextAndTellsOfIt()
+void tst_OxaThemeBlock::expandsTheStyleTextAndTellsOfIt()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -172,7 +172,7 @@ void tst_ThemeBlock::expandsTheStyleTextAndTellsOfIt()
     QCOMPARE(cssChanged.size(), 2);
 }
 
-void tst_ThemeBlock::takesTheStructuredFormAsStyleText()
+void tst_OxaThemeBlock::takesTheStructuredFormAsStyleText()
 {
     FETCH_THEMED_CLASS;
     OxaCSSData data;
@@ -186,7 +186,7 @@ void tst_ThemeBlock::takesTheStructuredFormAsStyleText()
     QCOMPARE(widget->property("focusBorderRadius").toInt(), 4);
 }
 
-void tst_ThemeBlock::takesStyleTextsAsUtf8ThroughTheProperty()
+void tst_OxaThemeBlock::takesStyleTextsAsUtf8ThroughTheProperty()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -196,7 +196,7 @@ void tst_ThemeBlock::takesStyleTextsAsUtf8ThroughTheProperty()
     QCOMPARE(widget->styleSheet(), QString::fromUtf8(utf8));
 }
 
-void tst_ThemeBlock::givesAnEmptyStyleTextNoSheet()
+void tst_OxaThemeBlock::givesAnEmptyStyleTextNoSheet()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -206,7 +206,7 @@ void tst_ThemeBlock::givesAnEmptyStyleTextNoSheet()
     QVERIFY(themed.cssData(*widget) == OxaCSSData());
 }
 
-void tst_ThemeBlock::costsQtNothingWithoutAStyleText()
+void tst_OxaThemeBlock::costsQtNothingWithoutAStyleText()
 {
     FETCH_THEMED_CLASS;
     // Under a parent with a sheet, to take an empty one away is as much work as to set one.
@@ -227,7 +227,7 @@ void tst_ThemeBlock::costsQtNothingWithoutAStyleText()
     QVERIFY(styleChanges > 0);
 }
 
-void tst_ThemeBlock::paintsAStyledBackgroundFromItsFirstSheetOn()
+void tst_OxaThemeBlock::paintsAStyledBackgroundFromItsFirstSheetOn()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -240,7 +240,7 @@ void tst_ThemeBlock::paintsAStyledBackgroundFromItsFirstSheetOn()
     QVERIFY(widget->testAttribute(Qt::WA_StyledBackground));
 }
 
-void tst_ThemeBlock::followsItsObjectNameFromTheFirstStyleTextOn()
+void tst_OxaThemeBlock::followsItsObjectNameFromTheFirstStyleTextOn()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -254,7 +254,7 @@ void tst_ThemeBlock::followsItsObjectNameFromTheFirstStyleTextOn()
     QCOMPARE(cssChanged.size(), expansions + 2);
 }
 
-void tst_ThemeBlock::expandsAgainUnderANewObjectName()
+void tst_OxaThemeBlock::expandsAgainUnderANewObjectName()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -263,7 +263,7 @@ void tst_ThemeBlock::expandsAgainUnderANewObjectName()
     QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff112233"));
 }
 
-void tst_ThemeBlock::expandsOnceForOneNewNameAfterManyStyleTexts()
+void tst_OxaThemeBlock::expandsOnceForOneNewNameAfterManyStyleTexts()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -274,7 +274,7 @@ void tst_ThemeBlock::expandsOnceForOneNewNameAfterManyStyleTexts()
     QCOMPARE(cssChanged.size(), 1);
 }
 
-void tst_ThemeBlock::followsItsNameAgainFromAStyleTextAfterADisconnect()
+void tst_OxaThemeBlock::followsItsNameAgainFromAStyleTextAfterADisconnect()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -286,7 +286,7 @@ void tst_ThemeBlock::followsItsNameAgainFromAStyleTextAfterADisconnect()
     QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff112233"));
 }
 
-void tst_ThemeBlock::makesTheFirstStyleSheetTheStyleText()
+void tst_OxaThemeBlock::makesTheFirstStyleSheetTheStyleText()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -302,7 +302,7 @@ void tst_ThemeBlock::makesTheFirstStyleSheetTheStyleText()
     QVERIFY(!widget->styleSheet().contains(QLatin1Char('$')));
 }
 
-void tst_ThemeBlock::keepsTheStyleTextWhenAStyleSheetIsSet()
+void tst_OxaThemeBlock::keepsTheStyleTextWhenAStyleSheetIsSet()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -315,7 +315,7 @@ void tst_ThemeBlock::keepsTheStyleTextWhenAStyleSheetIsSet()
     QCOMPARE(widget->styleSheet(), expanded);
 }
 
-void tst_ThemeBlock::tellsOfATypeThatIsSetTwiceTwice()
+void tst_OxaThemeBlock::tellsOfATypeThatIsSetTwiceTwice()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -327,7 +327,7 @@ void tst_ThemeBlock::tellsOfATypeThatIsSetTwiceTwice()
     QCOMPARE(cssChanged.size(), 2);
 }
 
-void tst_ThemeBlock::takesItsStoreByItsThemeType()
+void tst_OxaThemeBlock::takesItsStoreByItsThemeType()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -343,7 +343,7 @@ void tst_ThemeBlock::takesItsStoreByItsThemeType()
     QCOMPARE(themed.themeType(*widget), AppThemeType::Global);
 }
 
-void tst_ThemeBlock::ignoresAReplacedStoreUntilItIsRefreshed()
+void tst_OxaThemeBlock::ignoresAReplacedStoreUntilItIsRefreshed()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -355,7 +355,7 @@ void tst_ThemeBlock::ignoresAReplacedStoreUntilItIsRefreshed()
     QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff778899"));
 }
 
-void tst_ThemeBlock::ignoresAnotherThemeUntilItIsRefreshed()
+void tst_OxaThemeBlock::ignoresAnotherThemeUntilItIsRefreshed()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -369,14 +369,14 @@ void tst_ThemeBlock::ignoresAnotherThemeUntilItIsRefreshed()
     QCOMPARE(widget->styleSheet(), sheetOf(QStringLiteral("#w"), "#ff112233"));
 }
 
-void tst_ThemeBlock::keepsItsFontOnTheToken_data()
+void tst_OxaThemeBlock::keepsItsFontOnTheToken_data()
 {
     addThemedClasses([](const ThemedClass &themed) {
         return themed.font == ThemedClass::Font::Yes && themed.start == ThemedClass::Start::Plain;
     });
 }
 
-void tst_ThemeBlock::keepsItsFontOnTheToken()
+void tst_OxaThemeBlock::keepsItsFontOnTheToken()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -391,5 +391,5 @@ void tst_ThemeBlock::keepsItsFontOnTheToken()
     QCOMPARE(widget->font().pixelSize(), 20);
 }
 
-UIELEMENTS_TEST_MAIN(tst_ThemeBlock)
-#include "tst_themeblock.moc"
+UIELEMENTS_TEST_MAIN(tst_OxaThemeBlock)
+#include "tst_oxathemeblock.moc"
