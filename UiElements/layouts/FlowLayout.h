@@ -82,18 +82,12 @@ public:
     /// Hidden and disabled widgets count as well.
     QWidget *nextWidget(QWidget *current, Qt::Key key) const;
 
-    /// Returns none: the layout never asks for more room than its items do.
-    Qt::Orientations expandingDirections() const override;
+protected:
+    /// Computes where the items stand in \a rect and returns the height that they need, margins
+    /// included. Items move only with \a apply.
+    virtual int doLayout(const QRect &rect, bool apply) const = 0;
 
-    /// Returns true.
-    bool hasHeightForWidth() const override;
-
-    /// Returns the height that the items need in \a width, margins included. Moves nothing.
-    int heightForWidth(int width) const override;
-
-    /// Lays the items out in \a rect.
-    void setGeometry(const QRect &rect) override;
-
+public:
     /// Returns minimumSize().
     QSize sizeHint() const override;
 
@@ -101,11 +95,19 @@ public:
     /// Without items it is one pixel less than the margins in both directions.
     QSize minimumSize() const override;
 
-protected:
-    /// Computes where the items stand in \a rect and returns the height that they need, margins
-    /// included. Items move only with \a apply.
-    virtual int doLayout(const QRect &rect, bool apply) const = 0;
+    /// Returns none: the layout never asks for more room than its items do.
+    Qt::Orientations expandingDirections() const override;
 
+    /// Lays the items out in \a rect.
+    void setGeometry(const QRect &rect) override;
+
+    /// Returns true.
+    bool hasHeightForWidth() const override;
+
+    /// Returns the height that the items need in \a width, margins included. Moves nothing.
+    int heightForWidth(int width) const override;
+
+protected:
     /// Returns the items in order, for a pass over all of them.
     const std::vector<QLayoutItem *> &items() const { return m_items; }
 

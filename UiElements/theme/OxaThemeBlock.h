@@ -130,8 +130,14 @@ const OxaThemeBlock::WidgetClass OxaThemeBlock::classOf = {
 /// semicolon, with the Qt class that the widget derives from as its argument, and leaves the access
 /// at private. Derived widgets inherit it all and override onThemeChanged().
 ///
-/// The class defines onThemeChanged() and calls m_themeBlock.followTheme() in its constructor,
-/// where it may also initialise m_themeBlock with a form of its own or a place for its colour sets.
+/// The class declares and defines what the macro leaves to it, because its place among the virtual
+/// functions of a class is part of the binary interface:
+///
+///     protected Q_SLOTS:
+///         virtual void onThemeChanged();
+///
+/// and calls m_themeBlock.followTheme() in its constructor, where it may also initialise
+/// m_themeBlock with a form of its own or a place for its colour sets.
 ///
 /// Properties: `css`, the style text as UTF-8; `themeType`, the stored word of the theme type;
 /// `styleSheet`, Qt's, where a sheet given to a widget without a style text becomes that text.
@@ -168,9 +174,6 @@ protected:                                                                      
         QtClass::changeEvent(event);                                                               \
         m_themeBlock.changeEvent(event);                                                           \
     }                                                                                              \
-                                                                                                   \
-protected Q_SLOTS:                                                                                 \
-    virtual void onThemeChanged();                                                                 \
                                                                                                    \
 private Q_SLOTS:                                                                                   \
     void refreshCSS() { m_themeBlock.refreshCSS(); }                                               \

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+// Longer than headers are here: its virtual functions keep the places of their slots.
+
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/fonts/OxaFontBlock.h>
 #include <UiElements/theme/OxaThemeBlock.h>
@@ -20,7 +22,7 @@
 ///
 /// The horizontal alignment follows the layout direction of the application, and is set anew at
 /// each change of it: one that was set before, centring included, is lost then. Set it after
-/// construction.
+/// construction. The order of the virtual functions is part of the binary interface.
 class UIELEMENTS_EXPORT OxaLabel : public QLabel
 {
     Q_OBJECT
@@ -94,15 +96,19 @@ public:
     /// padding; with Qt::ElideNone, \a text itself.
     QString getElidedText(const QString &text, int indent, int margin) const;
 
-    /// Returns where the text begins inside the label, by its vertical alignment. Subclasses use it
-    /// to place text.
-    virtual QPointF getTextOffset() const;
-
 public Q_SLOTS:
     /// Sets the text. Rich text with links gets a style element in the colours of the set
     /// "button-hyperlink-text", so that text() returns more than was set. Rich text is set again at
     /// each change of the theme type, and loses its selection then.
     virtual void setText(const QString &text);
+
+protected Q_SLOTS:
+    /// Colours the links of a rich text anew. Runs at each change of the theme type.
+    virtual void onThemeChanged();
+
+public:
+    /// Returns where subclasses begin the text inside the label, by its vertical alignment.
+    virtual QPointF getTextOffset() const;
 
 Q_SIGNALS:
     /// The label was clicked with the left button, or Space, Return or Enter was pressed on it.

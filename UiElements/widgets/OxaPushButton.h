@@ -20,7 +20,8 @@ class QTimer;
 /// long presses, right clicks, hover and focus. It can carry a badge and a pixmap under its frame.
 /// Its size hint is that of the whole text: a layout elides it only where it has a minimum width.
 ///
-/// Every button starts as an auto-default one.
+/// Every button starts as an auto-default one. The order of the virtual functions is part of the
+/// binary interface.
 class UIELEMENTS_EXPORT OxaPushButton : public QPushButton
 {
     Q_OBJECT
@@ -161,6 +162,11 @@ protected:
     /// Fills \a option with what the style draws of the button.
     virtual void initButtonStyleOption(QStyleOptionButton *option) const;
 
+protected Q_SLOTS:
+    /// Runs at each change of the theme type, for subclasses to fetch what they paint with.
+    virtual void onThemeChanged();
+
+protected:
     /// Paints what a plain button shows: the pixmap, the style's button, the focus frame, the
     /// badge.
     void paintButton();

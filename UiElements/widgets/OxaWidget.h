@@ -59,6 +59,10 @@ public Q_SLOTS:
 protected:
     void paintEvent(QPaintEvent *event) override;
 
+protected Q_SLOTS:
+    /// Runs at each change of the theme type, for subclasses to fetch what they paint with.
+    virtual void onThemeChanged();
+
 private:
     QString m_uniqueElementId;
     QString m_pixmapPath;

@@ -15,4 +15,7 @@ class Button : public QPushButton
 
 public:
     explicit Button(const QString &text, QWidget *parent = nullptr);
+
+protected Q_SLOTS:
+    virtual void onThemeChanged();
 };

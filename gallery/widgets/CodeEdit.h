@@ -18,4 +18,7 @@ public:
 
     /// Makes the field at least \a lines lines high, at its font of this moment.
     void setMinimumLines(int lines);
+
+protected Q_SLOTS:
+    virtual void onThemeChanged();
 };

@@ -15,4 +15,7 @@ class LineEdit : public QLineEdit
 
 public:
     explicit LineEdit(QWidget *parent = nullptr);
+
+protected Q_SLOTS:
+    virtual void onThemeChanged();
 };

@@ -20,6 +20,9 @@ public:
     /// Returns the style text of the frame, for whatever else scrolls items.
     static QString frameStyleText();
 
+protected Q_SLOTS:
+    virtual void onThemeChanged();
+
 private:
     void refresh();
 

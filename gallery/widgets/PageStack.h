@@ -21,6 +21,9 @@ public:
     /// Shows the page called \a name. An unknown name shows nothing new.
     void showPage(const QString &name);
 
+protected Q_SLOTS:
+    virtual void onThemeChanged();
+
 private:
     std::map<QString, Page *> m_pages;
 };

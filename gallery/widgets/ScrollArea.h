@@ -16,4 +16,7 @@ public:
 
     /// Shows \a contents, over the ground that the area lies on.
     void setContents(QWidget *contents);
+
+protected Q_SLOTS:
+    virtual void onThemeChanged();
 };

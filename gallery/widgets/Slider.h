@@ -14,6 +14,9 @@ class Slider : public QSlider
 public:
     Slider(int minimum, int maximum, int value, QWidget *parent = nullptr);
 
+protected Q_SLOTS:
+    virtual void onThemeChanged();
+
 private:
     void applyLook();
 };

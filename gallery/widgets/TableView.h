@@ -28,6 +28,9 @@ protected:
     /// Gives the first column the room that the others leave.
     void fitFirstColumn();
 
+protected Q_SLOTS:
+    virtual void onThemeChanged();
+
 private:
     void applyLook();
     void setUpHeaders();

@@ -26,6 +26,9 @@ public:
 
     ToggleButton(const QString &text, const Look &look, QWidget *parent = nullptr);
 
+protected Q_SLOTS:
+    virtual void onThemeChanged();
+
 private:
     void applyLook();
 

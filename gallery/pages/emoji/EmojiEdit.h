@@ -26,6 +26,9 @@ public:
 protected:
     QMimeData *createMimeDataFromSelection() const override;
 
+protected Q_SLOTS:
+    virtual void onThemeChanged();
+
 private:
     void showArtwork();
 };

@@ -23,6 +23,9 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
 
+protected Q_SLOTS:
+    virtual void onThemeChanged();
+
 private:
     /// Something that Tab stops at and that is in sight.
     struct Stop

@@ -27,6 +27,9 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 
+protected Q_SLOTS:
+    virtual void onThemeChanged();
+
 private:
     void fitCursor();
 

@@ -46,6 +46,9 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
     bool focusNextPrevChild(bool next) override;
 
+protected Q_SLOTS:
+    virtual void onThemeChanged();
+
 private:
     Tile *makeTile(int number);
     void makeLayout();

@@ -39,6 +39,9 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
 
+protected Q_SLOTS:
+    virtual void onThemeChanged();
+
 private:
     QRect rectOf(int row) const;
     void fitScrollBar();

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <UiElements/app/OxaApplication.h>
+#include <UiElements/emoji/OxaEmojiLabel.h>
+#include <UiElements/layouts/FlowLayout.h>
+#include <UiElements/models/BaseListModel.h>
+#include <UiElements/models/LazyLoadedListModel.h>
+#include <UiElements/models/OverflowListProxyModel.h>
+#include <UiElements/svg/OxaSvgPushButton.h>
+
+#include <QTest>
+
+#include <cstring>
+#include <numeric>
+#include <vector>
+
+namespace {
+
+/// Opens the protected functions of the table.
+struct Open : OxaSvgPushButton
+{
+    using OxaPushButton::initButtonStyleOption;
+    using OxaSvgPushButton::onCSSChanged;
+};
+struct OpenButton : OxaPushButton
+{
+    using OxaPushButton::onThemeChanged;
+};
+struct OpenLabel : OxaLabel
+{
+    using OxaLabel::onThemeChanged;
+};
+struct OpenLayout : FlowLayout
+{
+    using FlowLayout::doLayout;
+};
+
+/// Adds a virtual function to \a Base: its slot is the number of slots that Base has.
+template <typename Base>
+struct Next : Base
+{
+    virtual void next() = 0;
+};
+
+/// Returns the slot of the virtual function \a function. A pointer to a virtual function begins
+/// with the slot's offset, in which x86 sets the lowest bit.
+template <typename Function>
+std::ptrdiff_t slotOf(Function function)
+{
+    std::ptrdiff_t offset = 0;
+    static_assert(sizeof function == 2 * sizeof offset);
+    std::memcpy(&offset, &function, sizeof offset);
+    return offset / std::ptrdiff_t(sizeof(void *));
+}
+
+template <typename Class>
+std::ptrdiff_t slotCount()
+{
+    return slotOf(&Next<Class>::next);
+}
+
+using Slots = std::vector<std::ptrdiff_t>;
+
+/// Adds a row for \a Class, which adds the virtual functions in \a slots to those of \a Base.
+template <typename Class, typename Base>
+void addRow(const Slots &slots)
+{
+    QTest::newRow(Class::staticMetaObject.className())
+            << slotCount<Base>() << slotCount<Class>() << slots;
+}
+
+} // namespace
+
+/// The virtual functions that a class adds to its base class, in the order of their slots. Programs
+/// are compiled against these numbers: a row changes with the library's binary version only.
+class tst_VirtualSlots : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void followThoseOfTheBaseClassInOrder_data();
+    void followThoseOfTheBaseClassInOrder();
+};
+
+void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
+{
+    QTest::addColumn<std::ptrdiff_t>("first");
+    QTest::addColumn<std::ptrdiff_t>("end");
+    QTest::addColumn<Slots>("slots");
+
+    addRow<IOxaApplication, QApplication>({
+            slotOf(&IOxaApplication::getMovieProviderSource),
+            slotOf(&IOxaApplication::onQmlEngineCreated),
+    });
+    addRow<OxaApplication, IOxaApplication>({
+            slotOf(&OxaApplication::animationsDisabled),
+            slotOf(&OxaApplication::restart),
+            slotOf(&OxaApplication::registerMainWindowShortcuts),
+    });
+    addRow<OxaLabel, QLabel>({
+            slotOf(&OxaLabel::setTextFormat),
+            slotOf(&OxaLabel::setTextInteractionFlags),
+            slotOf(&OxaLabel::setText),
+            slotOf(&OpenLabel::onThemeChanged),
+            slotOf(&OxaLabel::getTextOffset),
+    });
+    addRow<OxaPushButton, QPushButton>({
+            slotOf(&Open::initButtonStyleOption),
+            slotOf(&OpenButton::onThemeChanged),
+    });
+    addRow<OxaSvgPushButton, OxaPushButton>({ slotOf(&Open::onCSSChanged) });
+    // QLayout leaves three functions of its second base class to it: they are new beside its first.
+    addRow<FlowLayout, QLayout>({
+            slotOf(&OpenLayout::doLayout),
+            slotOf(&FlowLayout::sizeHint),
+            slotOf(&FlowLayout::hasHeightForWidth),
+            slotOf(&FlowLayout::heightForWidth),
+    });
+    addRow<OxaEmojiLabel, OxaLabel>({});
+    addRow<BaseListModel, QAbstractListModel>({});
+    addRow<LazyLoadedListModel, QAbstractListModel>({});
+    addRow<OverflowListProxyModel, QSortFilterProxyModel>({});
+}
+
+void tst_VirtualSlots::followThoseOfTheBaseClassInOrder()
+{
+    QFETCH(const std::ptrdiff_t, first);
+    QFETCH(const std::ptrdiff_t, end);
+    QFETCH(const Slots, slots);
+    Slots expected(slots.size());
+    std::iota(expected.begin(), expected.end(), first);
+    QCOMPARE(slots, expected);
+    QCOMPARE(end, first + std::ptrdiff_t(slots.size()));
+}
+
+QTEST_APPLESS_MAIN(tst_VirtualSlots)
+#include "tst_virtualslots.moc"
