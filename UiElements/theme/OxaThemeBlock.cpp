@@ -1,18 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaThemeBlock.h"
 
+#include "ThemeChange_p.h"
 #include "WidgetStyleText_p.h"
 
 #include <QMetaMethod>
 #include <QPointer>
 #include <QVariant>
 
+#include <utility>
+
 using OxaThemeUtils::AppThemeType;
 
 void OxaThemeBlock::followTheme()
 {
     m_class.followTheme(m_widget);
-    followParent();
+    followParent(Qt::AutoConnection);
 }
 
 void OxaThemeBlock::setCSS(const QString &styleText)
@@ -60,30 +63,53 @@ AppThemeType OxaThemeBlock::effectiveThemeType() const
 
 void OxaThemeBlock::setThemeType(const QString &themeType)
 {
-    m_themeType = themeType;
-    const QPointer<QWidget> widget(m_widget);
-    refreshCSS();
-    if (widget)
-        m_class.emitThemeTypeChanged(m_widget);
+    const ThemeChange change;
+    applyThemeType(themeType);
 }
 
 void OxaThemeBlock::changeEvent(const QEvent *event)
 {
     if (event->type() != QEvent::ParentChange)
         return;
-    followParent();
-    onParentThemeTypeChanged();
+    followParent(Qt::UniqueConnection);
+    const ThemeChange change;
+    takeThemeTypeFromAbove();
 }
 
 void OxaThemeBlock::onParentThemeTypeChanged()
+{
+    if (ThemeChange::depth() == 0) {
+        // The parent is not one of the library's, which would have begun the change.
+        const ThemeChange change;
+        takeThemeTypeFromAbove();
+    } else if (ThemeChange::reachesChildren() && m_change != ThemeChange::depth()) {
+        takeThemeTypeFromAbove();
+    }
+}
+
+void OxaThemeBlock::takeThemeTypeFromAbove()
 {
     const QWidget *parent = m_widget->parentWidget();
     if (!parent || !takeThemeTypeOf(parent))
         takeThemeTypeOf(m_widget->window());
 }
 
+/// Puts \a themeType in force. Widgets that stay connected to earlier parents may make a circle: a
+/// change that comes back to a widget ends there.
+void OxaThemeBlock::applyThemeType(const QString &themeType)
+{
+    const int outerChange = std::exchange(m_change, ThemeChange::depth());
+    m_themeType = themeType;
+    const QPointer<QWidget> widget(m_widget);
+    refreshCSS();
+    if (widget)
+        m_class.emitThemeTypeChanged(m_widget);
+    if (widget)
+        m_change = outerChange;
+}
+
 /// Connects the widget to its parent's theme type, in addition to those of earlier parents.
-void OxaThemeBlock::followParent()
+void OxaThemeBlock::followParent(Qt::ConnectionType connectionType)
 {
     const QObject *parent = m_widget->parent();
     if (!parent)
@@ -94,7 +120,8 @@ void OxaThemeBlock::followParent()
         return;
     const QMetaObject *ownClass = m_widget->metaObject();
     QObject::connect(parent, parentClass->method(signal), m_widget,
-                     ownClass->method(ownClass->indexOfSlot("onParentThemeTypeChanged()")));
+                     ownClass->method(ownClass->indexOfSlot("onParentThemeTypeChanged()")),
+                     connectionType);
 }
 
 /// Takes over the theme type of \a other where it differs from the widget's. Words are compared by
@@ -106,6 +133,6 @@ bool OxaThemeBlock::takeThemeTypeOf(const QWidget *other)
         || OxaThemeUtils::stringToThemeType(otherType.toString())
                 == OxaThemeUtils::stringToThemeType(m_themeType))
         return false;
-    setThemeType(otherType.toString());
+    applyThemeType(otherType.toString());
     return true;
 }

@@ -83,7 +83,8 @@ public:
     /// Follows a new parent, and takes over its theme type. For the widget's changeEvent().
     void changeEvent(const QEvent *event);
 
-    /// Takes over the theme type of the widget's parent, or else of its window, where that differs.
+    /// Takes over the theme type of the widget's parent, or else of its window, where that differs;
+    /// once in each change, however often it is called.
     void onParentThemeTypeChanged();
 
 private:
@@ -98,12 +99,15 @@ private:
     template <typename Widget>
     static const WidgetClass classOf;
 
-    void followParent();
+    void followParent(Qt::ConnectionType connectionType);
+    void applyThemeType(const QString &themeType);
+    void takeThemeTypeFromAbove();
     bool takeThemeTypeOf(const QWidget *other);
 
     QWidget *const m_widget;
     const WidgetClass &m_class;
     const Form m_form;
+    int m_change = 0; ///< The change that the widget is handing down.
     OxaStyleColorSets *const m_keptSets;
     QString m_styleText;
     OxaCSSData m_cssData;

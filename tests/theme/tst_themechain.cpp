@@ -5,6 +5,7 @@
 #include "support/SignalLog.h"
 #include "support/TestApplication.h"
 
+#include <QSignalMapper>
 #include <QSignalSpy>
 
 using OxaThemeUtils::AppThemeType;
@@ -20,6 +21,7 @@ class FetchingWidget : public OxaWidget
 
 public:
     using OxaWidget::OxaWidget;
+    using OxaWidget::receivers;
     int fetches = 0;
 
 protected Q_SLOTS:
@@ -67,6 +69,11 @@ private Q_SLOTS:
     void countsNoWidgetAsGlobal();
     void fetchesColorsAtEachChangeOfTheType();
     void leavesAParentWithoutTheSignalAlone();
+    void connectsToEachOfItsParentsOnce();
+    void endsAChangeThatGoesRoundInACircle();
+    void followsAParentThatASlotChangesMeanwhile_data();
+    void followsAParentThatASlotChangesMeanwhile();
+    void takesTheWindowsTypeWhenAnEarlierParentChangesLast();
 
 private:
     std::unique_ptr<StoreGuard> m_stores;
@@ -282,6 +289,85 @@ void tst_ThemeChain::leavesAParentWithoutTheSignalAlone()
     added.setParent(&parent);
     QCOMPARE(storedType(madeUnderIt), QStringLiteral("global"));
     QCOMPARE(storedType(added), QStringLiteral("global"));
+}
+
+void tst_ThemeChain::connectsToEachOfItsParentsOnce()
+{
+    FetchingWidget first;
+    FetchingWidget second;
+    OxaWidget widget(&first);
+    const auto receivers = [](const FetchingWidget &parent) {
+        return parent.receivers(SIGNAL(themeTypeChanged()));
+    };
+    const int before = receivers(first);
+    QCOMPARE(receivers(second), before - 1);
+    for (int i = 0; i < 100; ++i) {
+        widget.setParent(&second);
+        widget.setParent(&first);
+    }
+    QCOMPARE(receivers(first), before);
+    QCOMPARE(receivers(second), before);
+}
+
+void tst_ThemeChain::endsAChangeThatGoesRoundInACircle()
+{
+    // Each of the two follows the other, and their parent and window disagree for ever.
+    QWidget window;
+    OxaWidget parent(&window);
+    OxaWidget a;
+    OxaWidget b(&parent);
+    a.setParent(&b);
+    a.setParent(&parent);
+    b.setParent(&a);
+    parent.setThemeType(QStringLiteral("dark"));
+    window.setProperty("themeType", QStringLiteral("inverted"));
+    SignalLog log;
+    log.record(&a, &OxaWidget::themeTypeChanged, QStringLiteral("a"));
+    log.record(&b, &OxaWidget::themeTypeChanged, QStringLiteral("b"));
+
+    a.setThemeType(QStringLiteral("light"));
+    QCOMPARE(log.take(), QStringLiteral("b | a"));
+    QCOMPARE(storedType(a), QStringLiteral("light"));
+    QCOMPARE(storedType(b), QStringLiteral("light"));
+}
+
+void tst_ThemeChain::followsAParentThatASlotChangesMeanwhile_data()
+{
+    QTest::addColumn<QByteArray>("signal");
+    QTest::newRow("at the style text") << QByteArray(SIGNAL(cssChanged()));
+    QTest::newRow("at the type") << QByteArray(SIGNAL(themeTypeChanged()));
+}
+
+void tst_ThemeChain::followsAParentThatASlotChangesMeanwhile()
+{
+    QFETCH(const QByteArray, signal);
+    OxaWidget parent;
+    OxaWidget child(&parent);
+    QSignalMapper slot;
+    slot.setMapping(&child, 0);
+    connect(&child, signal.constData(), &slot, SLOT(map()));
+    connect(&slot, &QSignalMapper::mappedInt, this, [&] {
+        if (storedType(parent) == QStringLiteral("dark"))
+            parent.setThemeType(QStringLiteral("light"));
+    });
+    parent.setThemeType(QStringLiteral("dark"));
+    QCOMPARE(storedType(parent), QStringLiteral("light"));
+    QCOMPARE(storedType(child), QStringLiteral("light"));
+}
+
+void tst_ThemeChain::takesTheWindowsTypeWhenAnEarlierParentChangesLast()
+{
+    OxaWidget window;
+    window.setThemeType(QStringLiteral("light"));
+    OxaWidget above(&window);
+    OxaWidget parent(&above);
+    OxaWidget earlierParent(&above);
+    OxaWidget widget(&earlierParent);
+    widget.setParent(&parent);
+    above.setThemeType(QStringLiteral("dark"));
+    // It took "dark" from its parent first; then the earlier one called, and its parent agreed.
+    QCOMPARE(storedType(parent), QStringLiteral("dark"));
+    QCOMPARE(storedType(widget), QStringLiteral("light"));
 }
 
 UIELEMENTS_TEST_MAIN(tst_ThemeChain)
