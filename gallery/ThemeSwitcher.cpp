@@ -7,29 +7,7 @@
 
 #include <QApplication>
 #include <QMetaEnum>
-#include <QPointer>
-#include <QVector>
 #include <QWidget>
-
-namespace {
-
-constexpr char themeTypeProperty[] = "themeType";
-
-bool isThemed(const QWidget *widget) { return widget->property(themeTypeProperty).isValid(); }
-
-/// Writing a theme type applies it also when it is the same, and so a widget takes new colours.
-/// Some make others anew then.
-void reapplyThemeTypes()
-{
-    const QWidgetList allWidgets = QApplication::allWidgets();
-    const QVector<QPointer<QWidget>> widgets(allWidgets.begin(), allWidgets.end());
-    for (const QPointer<QWidget> &widget : widgets) {
-        if (widget && isThemed(widget))
-            widget->setProperty(themeTypeProperty, widget->property(themeTypeProperty));
-    }
-}
-
-} // namespace
 
 ThemeSwitcher::ThemeSwitcher(const ColorDocuments &documents, QObject *parent)
     : QObject(parent), m_documents(documents)
@@ -46,7 +24,7 @@ void ThemeSwitcher::setAppearance(Appearance appearance)
     qApp->setProperty("theme", QVariant::fromValue(appearance).toString());
     fillStores();
     QApplication::setPalette(themePalette(OxaThemeUtils::stringToThemeType(m_themeType)));
-    reapplyThemeTypes();
+    OxaThemeUtils::refreshThemedWidgets();
     Q_EMIT switched();
 }
 
@@ -56,8 +34,8 @@ void ThemeSwitcher::setThemeType(const QString &themeType)
     QApplication::setPalette(themePalette(OxaThemeUtils::stringToThemeType(m_themeType)));
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
-        if (isThemed(window))
-            window->setProperty(themeTypeProperty, themeType);
+        if (window->property("themeType").isValid())
+            window->setProperty("themeType", themeType);
     }
     Q_EMIT switched();
 }

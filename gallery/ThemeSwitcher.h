@@ -8,8 +8,8 @@
 /// Switches the colours of the whole application: its appearance, and the theme type of its
 /// windows.
 ///
-/// Themed widgets don't notice a new store by themselves. They expand their style texts when their
-/// theme type is written, and this class is the one place that writes it.
+/// Themed widgets don't notice a new store by themselves. This class is the one place that has them
+/// take new colours.
 class ThemeSwitcher : public QObject
 {
     Q_OBJECT

@@ -21,9 +21,9 @@ class OxaMainWindow;
 /// the font manager. The theme's flags and name have no public setter: the outer application sets
 /// them as Qt properties.
 ///
-/// Widgets do not follow these signals. After a change of theme or stores, write the "themeType" of
-/// all themed widgets, the same word again: what children take from their parents by themselves is
-/// another type than theirs, and never the same one in new colours.
+/// Widgets do not follow these signals. After a change of theme or stores, call
+/// OxaThemeUtils::refreshThemedWidgets(). Don't write the widgets' theme types anew instead: those
+/// whose parent has a type of its own would take their window's.
 class UIELEMENTS_EXPORT OxaApplication : public IOxaApplication
 {
     Q_OBJECT

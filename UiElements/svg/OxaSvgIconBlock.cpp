@@ -105,9 +105,7 @@ void OxaSvgIconBlock::setBottomRightPadding(const QPoint &padding)
 
 OxaColorSet OxaSvgIconBlock::colorSetOrText(const QString &name) const
 {
-    const OxaColorSet set = OxaThemeUtils::getColorSet(name.toStdString(),
-                                                       OxaThemeUtils::getThemeTypeOfWidget(
-                                                               m_widget));
+    const OxaColorSet set = OxaThemeUtils::getColorSet(name.toStdString(), m_widget);
     return set.isValid() ? set : m_textColorSet;
 }
 

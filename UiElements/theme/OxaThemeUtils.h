@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+// Longer than headers are here: one namespace for all that is asked about colours.
+
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/theme/OxaCSSData.h>
 #include <UiElements/theme/OxaColorSet.h>
@@ -54,6 +56,14 @@ UIELEMENTS_EXPORT AppThemeType stringToThemeType(const QString &text);
 /// Returns the effective theme type of \a widget: its own "themeType" property where that names a
 /// type other than global, else the one of its window. Null gives AppThemeType::Global.
 UIELEMENTS_EXPORT AppThemeType getThemeTypeOfWidget(const QWidget *widget);
+
+/// Has all themed widgets below \a root and \a root itself, or those of the whole process, take the
+/// colours of this moment. To be called once the stores or the application's flags changed.
+///
+/// Parents come before their children. Each widget expands its style text and emits cssChanged()
+/// and themeTypeChanged(), but its type stays, and no child takes another one. A widget of another
+/// kind that has a "themeType" is written that property anew. Slots may delete and make widgets.
+UIELEMENTS_EXPORT void refreshThemedWidgets(QWidget *root = nullptr);
 
 // Documents
 
@@ -109,6 +119,10 @@ UIELEMENTS_EXPORT const OxaColorSetMap &getOxaColorSetsByThemeType(AppThemeType 
 /// Returns the set called \a name (UTF-8) in the store for \a themeType. A name that the store
 /// lacks logs a warning and gives a default set; so does an empty name, without the warning.
 UIELEMENTS_EXPORT OxaColorSet getColorSet(const std::string &name, AppThemeType themeType);
+
+/// Returns the set called \a name in the theme of \a widget. Where the store lacks it, a message of
+/// the logging category "uielements.theme", which is off by default, names the widget besides.
+UIELEMENTS_EXPORT OxaColorSet getColorSet(const std::string &name, const QWidget *widget);
 
 /// Returns the set "transparent", with Qt::transparent in all six states. It is valid.
 UIELEMENTS_EXPORT OxaColorSet transparentColourSet();

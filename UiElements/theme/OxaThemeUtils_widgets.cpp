@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaThemeUtils.h"
 
+#include "ThemeChange_p.h"
 #include "WidgetStyleText_p.h"
 
+#include <QApplication>
+#include <QLoggingCategory>
+#include <QMetaMethod>
+#include <QPointer>
+#include <QRegularExpression>
 #include <QVariant>
-#include <QWidget>
+#include <QVector>
 
 using OxaThemeUtils::AppThemeType;
 
@@ -17,9 +23,70 @@ QString selectorOf(const QWidget *widget)
                           : QLatin1Char('#') + name;
 }
 
+constexpr char themeTypeProperty[] = "themeType";
+
 AppThemeType ownThemeType(const QWidget *widget)
 {
-    return OxaThemeUtils::stringToThemeType(widget->property("themeType").toString());
+    return OxaThemeUtils::stringToThemeType(widget->property(themeTypeProperty).toString());
+}
+
+/// Tells which widget lacks colours. The warnings of the same matter don't say: they come from
+/// functions that know no widgets. Off unless somebody asks for it.
+Q_LOGGING_CATEGORY(themeLog, "uielements.theme", QtWarningMsg)
+
+void tellOfMissingColors(const QString &name, const QWidget *widget)
+{
+    qCInfo(themeLog) << "No colours called" << name << "for" << widget->metaObject()->className()
+                     << widget->objectName();
+}
+
+/// Tells of what is left of \a widget's style text in its \a sheet because it can't be expanded.
+void tellOfLeftovers(const QString &sheet, const QWidget *widget)
+{
+    using OxaThemeUtils::ColorSetType;
+    for (const auto type : { ColorSetType::Background, ColorSetType::Border, ColorSetType::Text }) {
+        const QString name = OxaThemeUtils::getColorSetNameFromString(type, sheet);
+        if (!name.isEmpty())
+            tellOfMissingColors(name, widget);
+    }
+    static const QRegularExpression reference(QStringLiteral(R"(\$\(([^)]*)\))"));
+    for (auto found = reference.globalMatch(sheet); found.hasNext();)
+        tellOfMissingColors(found.next().captured(1), widget);
+}
+
+/// Returns \a root and the widgets below it, parents before their children.
+QWidgetList withDescendants(QWidget *root)
+{
+    return QWidgetList { root } + root->findChildren<QWidget *>();
+}
+
+/// Returns all widgets, parents before their children.
+QWidgetList allWidgets()
+{
+    QWidgetList all;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (!window->parentWidget())
+            all += withDescendants(window);
+    }
+    return all;
+}
+
+/// Has \a widget take the colours of this moment, and no other with it.
+void refresh(QWidget *widget)
+{
+    const ThemeChange change(ThemeChange::Reach::OneWidget);
+    const QMetaObject *type = widget->metaObject();
+    const QMetaMethod refreshCSS = type->method(type->indexOfSlot("refreshCSS()"));
+    const QMetaMethod themeTypeChanged = type->method(type->indexOfSignal("themeTypeChanged()"));
+    if (!refreshCSS.isValid() || !themeTypeChanged.isValid()) {
+        widget->setProperty(themeTypeProperty, widget->property(themeTypeProperty));
+        return;
+    }
+    const QPointer<QWidget> alive(widget);
+    refreshCSS.invoke(widget, Qt::DirectConnection);
+    if (alive)
+        themeTypeChanged.invoke(widget, Qt::DirectConnection);
 }
 
 } // namespace
@@ -59,6 +126,31 @@ AppThemeType OxaThemeUtils::getThemeTypeOfWidget(const QWidget *widget)
     return own != AppThemeType::Global || window == widget ? own : ownThemeType(window);
 }
 
+OxaColorSet OxaThemeUtils::getColorSet(const std::string &name, const QWidget *widget)
+{
+    const AppThemeType themeType = getThemeTypeOfWidget(widget);
+    const OxaColorSetMap &store = getOxaColorSetsByThemeType(themeType);
+    const bool isMissing = !name.empty() && store.find(name) == store.cend();
+    const OxaColorSet set = getColorSet(name, themeType);
+    if (isMissing && widget)
+        tellOfMissingColors(QString::fromStdString(name), widget);
+    return set;
+}
+
+void OxaThemeUtils::refreshThemedWidgets(QWidget *root)
+{
+    QVector<QPointer<QWidget>> themed;
+    const QWidgetList widgets = root ? withDescendants(root) : allWidgets();
+    for (QWidget *widget : widgets) {
+        if (widget->property(themeTypeProperty).isValid())
+            themed.append(widget);
+    }
+    for (const QPointer<QWidget> &widget : qAsConst(themed)) {
+        if (widget)
+            refresh(widget);
+    }
+}
+
 OxaThemeUtils::CSSParserResult OxaThemeUtils::parseCSS(QWidget *widget, const QString &styleText,
                                                        const OxaColorSetMap &colorSets)
 {
@@ -77,5 +169,7 @@ OxaThemeUtils::CSSParserResult WidgetStyleText::parse(QWidget *widget, AppThemeT
     if (result.oxaCSS.borderRadius != 0)
         widget->setProperty("focusBorderRadius", int(result.oxaCSS.borderRadius));
     widget->setProperty("rectangularCornerMask", int(result.oxaCSS.rectangularCornerMask));
+    if (themeLog().isInfoEnabled())
+        tellOfLeftovers(result.expandedStyleSheet, widget);
     return result;
 }

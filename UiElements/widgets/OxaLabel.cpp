@@ -134,7 +134,7 @@ void OxaLabel::setText(const QString &text)
 
 void OxaLabel::onThemeChanged()
 {
-    m_linkColors = OxaThemeUtils::getColorSet("button-hyperlink-text", getThemeType());
+    m_linkColors = OxaThemeUtils::getColorSet("button-hyperlink-text", this);
     if (textFormat() != Qt::RichText || !showsItsText())
         return;
     // QLabel keeps the selection of a text that is the same, and of others until it lays them out.

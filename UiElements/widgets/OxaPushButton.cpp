@@ -64,7 +64,7 @@ QString OxaPushButton::getFocusRectColorSet() const { return m_focusRectColorSet
 
 void OxaPushButton::setFocusRectColorSet(const QString &name)
 {
-    m_focusRectColorSet = OxaThemeUtils::getColorSet(name.toStdString(), getThemeType());
+    m_focusRectColorSet = OxaThemeUtils::getColorSet(name.toStdString(), this);
 }
 
 bool OxaPushButton::isLongPressEnabled() const { return m_isLongPressEnabled; }

@@ -130,7 +130,7 @@ void OxaUnderlineButton::paintEvent(QPaintEvent *)
 
 OxaColorSet OxaUnderlineButton::colorSet(const QString &name) const
 {
-    return OxaThemeUtils::getColorSet(name.toStdString(), getThemeType());
+    return OxaThemeUtils::getColorSet(name.toStdString(), this);
 }
 
 QPen OxaUnderlineButton::penOf(const QColor &color) const

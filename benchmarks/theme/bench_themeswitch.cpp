@@ -5,7 +5,7 @@
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaWidget.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -31,8 +31,7 @@ public:
     explicit Window(StyledWidgets styled)
         : m_groundText(styled == StyledWidgets::All ? groundText : QString())
     {
-        OxaThemeUtils::setAppOxaColorSets(Stores::make(600));
-        OxaThemeUtils::setAppInvertedOxaColorSets(Stores::make(600, 100));
+        fillStores(false);
         m_window.setCSS(m_groundText);
         m_widgets.push_back(&m_window);
         auto *layout = new QVBoxLayout(&m_window);
@@ -59,6 +58,25 @@ public:
         }
     }
 
+    /// Fills the stores anew and has all widgets take the colours, by the library's function.
+    void refresh(bool isDark)
+    {
+        fillStores(isDark);
+        OxaThemeUtils::refreshThemedWidgets();
+    }
+
+    /// The same by writing each widget's theme type anew.
+    void rewriteThemeTypes(bool isDark)
+    {
+        fillStores(isDark);
+        const QWidgetList widgets = QApplication::allWidgets();
+        for (QWidget *widget : widgets) {
+            const QVariant themeType = widget->property("themeType");
+            if (themeType.isValid())
+                widget->setProperty("themeType", themeType);
+        }
+    }
+
     /// True when switching has brought about the sheets that the peer sets.
     bool agrees()
     {
@@ -71,6 +89,12 @@ public:
     }
 
 private:
+    static void fillStores(bool isDark)
+    {
+        OxaThemeUtils::setAppOxaColorSets(Stores::make(600, isDark ? 100 : 0));
+        OxaThemeUtils::setAppInvertedOxaColorSets(Stores::make(600, isDark ? 0 : 100));
+    }
+
     OxaWidget *makeGround(QWidget *parent)
     {
         auto *ground = new OxaWidget(parent);
@@ -135,6 +159,21 @@ BENCHMARK(switchAll)
 void switchLeaves(benchmark::State &state) { switchTheme(state, StyledWidgets::Leaves, 1.05); }
 BENCHMARK(switchLeaves)
         ->Name("theme switch of 900 leaves/QWidget::setStyleSheet")
+        ->Iterations(15)
+        ->UseManualTime();
+
+void refresh(benchmark::State &state)
+{
+    Window window(StyledWidgets::All);
+    bool isDark = true;
+    Comparison comparison(state);
+    for (auto _ : state)
+        comparison.round([&] { window.refresh(isDark = !isDark); },
+                         [&] { window.rewriteThemeTypes(isDark = !isDark); });
+    comparison.ratioAtMost(1.02);
+}
+BENCHMARK(refresh)
+        ->Name("new colours in 1,001 widgets/writing each theme type anew")
         ->Iterations(15)
         ->UseManualTime();
 

@@ -3,9 +3,6 @@
 
 #include <UiElements/theme/OxaThemeUtils.h>
 
-#include <QVariant>
-#include <QWidget>
-
 ClientApplication::ClientApplication(int &argc, char **argv) : OxaApplication(argc, argv)
 {
     const OxaColorPalette palette = OxaThemeUtils::parseOxaColorsFromJson(
@@ -23,12 +20,6 @@ void ClientApplication::setDark(bool dark)
     OxaThemeUtils::setAppOxaColorSets(dark ? m_dark : m_light);
     OxaThemeUtils::setAppInvertedOxaColorSets(dark ? m_light : m_dark);
 
-    // No widget follows the stores. Writing its theme type, even the same one, has a widget take
-    // its colours anew.
-    const QWidgetList widgets = allWidgets();
-    for (QWidget *widget : widgets) {
-        const QVariant themeType = widget->property("themeType");
-        if (themeType.isValid())
-            widget->setProperty("themeType", themeType);
-    }
+    // No widget follows the stores by itself.
+    OxaThemeUtils::refreshThemedWidgets();
 }

@@ -4,6 +4,7 @@
 #include "support/TestApplication.h"
 
 #include <QLabel>
+#include <QLoggingCategory>
 
 namespace {
 
@@ -23,6 +24,28 @@ QString sheetWith(const char *selector, const char *color)
 {
     return QStringLiteral("%1{border:none;}%1{color:%2;}")
             .arg(QLatin1String(selector), QLatin1String(color));
+}
+
+/// Counts messages that name the widget "bar".
+int namingMessages = 0;
+
+void countNamingMessages(QtMsgType, const QMessageLogContext &context, const QString &text)
+{
+    if (qstrcmp(context.category, "uielements.theme") == 0 && text.contains(QLatin1String("bar")))
+        ++namingMessages;
+}
+
+/// Returns how many messages of the theme's category name "bar" while \a call runs.
+template <typename Call>
+int countMessages(const char *rules, Call call)
+{
+    QLoggingCategory::setFilterRules(QString::fromLatin1(rules));
+    namingMessages = 0;
+    const QtMessageHandler before = qInstallMessageHandler(countNamingMessages);
+    call();
+    qInstallMessageHandler(before);
+    QLoggingCategory::setFilterRules(QString());
+    return namingMessages;
 }
 
 } // namespace
@@ -53,6 +76,10 @@ private Q_SLOTS:
 
     void leavesTheOutlineToGlobalFocusBorders_data();
     void leavesTheOutlineToGlobalFocusBorders();
+
+    void namesTheWidgetThatLacksColorsWhereAsked_data();
+    void namesTheWidgetThatLacksColorsWhereAsked();
+    void namesTheWidgetThatAsksForAnUnknownSetWhereAsked();
 };
 
 void tst_OxaThemeUtilsWidgets::selectsByTheClassName()
@@ -202,6 +229,43 @@ void tst_OxaThemeUtilsWidgets::leavesTheOutlineToGlobalFocusBorders()
                                           "#bar{outline:none;}")),
              hasOutlineRule);
     QCOMPARE(sheet.contains(QLatin1String("outline")), hasOutlineRule);
+}
+
+void tst_OxaThemeUtilsWidgets::namesTheWidgetThatLacksColorsWhereAsked_data()
+{
+    QTest::addColumn<QString>("styleText");
+    QTest::addColumn<int>("messages");
+    QTest::newRow("known") << textOfX << 0;
+    QTest::newRow("a directive") << QStringLiteral("$backgroundColors: nope; $textColors: x;") << 1;
+    QTest::newRow("each directive") << QStringLiteral("$textColors: no; $borderColors: nope;") << 2;
+    QTest::newRow("a reference") << QStringLiteral("#bar { color: $(nope.hovered); }") << 1;
+}
+
+void tst_OxaThemeUtilsWidgets::namesTheWidgetThatLacksColorsWhereAsked()
+{
+    QFETCH(const QString, styleText);
+    QFETCH(const int, messages);
+    QLabel label;
+    label.setObjectName(QStringLiteral("bar"));
+    const auto parse = [&] { OxaThemeUtils::parseCSS(&label, styleText, storeWith("#112233")); };
+    QCOMPARE(countMessages("", parse), 0);
+    QCOMPARE(countMessages("uielements.theme=true", parse), messages);
+}
+
+void tst_OxaThemeUtilsWidgets::namesTheWidgetThatAsksForAnUnknownSetWhereAsked()
+{
+    const StoreGuard stores(storeWith("#112233"));
+    QWidget widget;
+    widget.setObjectName(QStringLiteral("bar"));
+    const auto ask = [&] { OxaThemeUtils::getColorSet("nope", &widget); };
+    QCOMPARE(countMessages("", ask), 0);
+    QLoggingCategory::setFilterRules(QStringLiteral("uielements.theme=true"));
+    QTest::ignoreMessage(QtWarningMsg, "ColorSet name does not exist!  \"nope\"");
+    QTest::ignoreMessage(QtInfoMsg, "No colours called \"nope\" for QWidget \"bar\"");
+    ask();
+    QLoggingCategory::setFilterRules(QString());
+    QVERIFY(OxaThemeUtils::getColorSet("x", &widget).isValid());
+    QVERIFY(!OxaThemeUtils::getColorSet({}, &widget).isValid());
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaThemeUtilsWidgets)
