@@ -32,10 +32,22 @@ bool isGlobal(Shortcut shortcutType)
             != globalShortcuts.end();
 }
 
+/// Keeps QML's garbage collector from deleting \a info, which it does to an object that a method
+/// returned to it and that has no parent. This parent lives as long as the process: the object
+/// stays its maker's to delete.
+void keepFromCollector(OxaKeySequenceInfo *info)
+{
+    static auto *const keeper = new QObject;
+    if (info && !info->parent())
+        info->setParent(keeper);
+}
+
 } // namespace
 
 OxaKeySequenceLookup::OxaKeySequenceLookup(QObject *parent) : OxaObject(parent)
 {
+    // Moc registers the types of parameters, but not what a method returns.
+    qRegisterMetaType<OxaKeySequenceInfo *>();
     qRegisterMetaType<OxaKeySequenceLookup::Shortcut>("OxaKeySequenceLookup::Shortcut");
 }
 
@@ -46,7 +58,10 @@ OxaKeySequenceInfo *OxaKeySequenceLookup::getKeySequence(
     auto *info = new OxaKeySequenceInfo(this);
     if (m_managerEnabled) {
         const auto entry = m_keySequenceMap.constFind(shortcutType);
-        return entry == m_keySequenceMap.constEnd() ? info : entry->data();
+        if (entry == m_keySequenceMap.constEnd())
+            return info;
+        keepFromCollector(*entry);
+        return *entry;
     }
     info->setKeySequence(fallbackKeySequence);
     info->setEnabled(true);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// Longer than headers are here: 186 names are a table, and moc wants it inside the class.
+// Longer than headers are here: the names are a table, and moc wants it inside the class.
 
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/app/OxaObject.h>
@@ -218,7 +218,7 @@ public:
     Q_ENUM(Shortcut)
 
     /// Makes a lookup that knows no shortcut, with the service off, and registers the meta-type
-    /// "OxaKeySequenceLookup::Shortcut".
+    /// "OxaKeySequenceLookup::Shortcut" and the pointer type that QML gets from getKeySequence().
     explicit OxaKeySequenceLookup(QObject *parent = nullptr);
 
     /// Returns what is known of \a shortcutType.
@@ -228,7 +228,9 @@ public:
     /// on it is the service's object, which is null once the service has deleted it, or a new
     /// object without text where the service named none; the fallback is not used then.
     ///
-    /// Each call makes one object, used or not, and the lookup owns it: ask once and keep it.
+    /// Each call makes one object, used or not, and the lookup owns it: ask once and keep it. The
+    /// service's objects stay the service's to delete. QML owns none of them: where one that is
+    /// handed out has no parent, it gets an internal one, so that the garbage collector leaves it.
     Q_INVOKABLE OxaKeySequenceInfo *getKeySequence(OxaKeySequenceLookup::Shortcut shortcutType,
                                                    const QString &fallbackKeySequence = QString());
 
