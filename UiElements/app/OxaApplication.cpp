@@ -79,7 +79,8 @@ float OxaApplication::getFontScaleFactor() const { return m_fontScaleFactor; }
 
 void OxaApplication::setFontScaleFactor(float factor)
 {
-    // Two comparisons for "out of range", and none for "in range": a NaN passes on purpose.
+    // Two comparisons for "out of range", and none for "in range": a NaN passes and is stored.
+    // OxaFont takes it for no scaling.
     if (factor < minimumFontScaleFactor || factor > maximumFontScaleFactor) {
         QMessageLogger().warning() << invalidScaleWarning << factor;
         return;

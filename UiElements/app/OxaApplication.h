@@ -95,7 +95,8 @@ public:
     float getFontScaleFactor() const;
 
     /// Stores \a factor, 0.5 to 1.5, and emits fontScaleFactorChanged(), also when it is the same.
-    /// A factor out of range logs a warning and changes nothing. Fonts made before keep their size.
+    /// A factor out of range logs a warning and changes nothing; a NaN is not out of range: it is
+    /// stored, and fonts have their unscaled size then. Fonts made before keep their size.
     void setFontScaleFactor(float factor);
 
     /// Returns what the outer application says of itself, where it has said anything.
@@ -124,10 +125,6 @@ Q_SIGNALS:
     /// The PNG logo's path was set; otherwise as logoSvgPathChanged().
     void logoPngPathChanged(const QString &isDarkTheme);
 
-protected:
-    /// Filled by the outer application; nothing in the library sets or reads it.
-    std::optional<AppPublishing::OxaPublishingInfo> m_publishingInfo;
-
 private:
     void setIsDarkTheme(bool isDarkTheme);
     void setIsHighContrastTheme(bool isHighContrastTheme);
@@ -138,6 +135,13 @@ private:
     float m_fontScaleFactor = 1.0F;
     QString m_logoSvgPath;
     QString m_logoPngPath;
+
+protected:
+    // Among the private members, and not before them: the order of all is binary interface.
+    /// Filled by the outer application; nothing in the library sets or reads it.
+    std::optional<AppPublishing::OxaPublishingInfo> m_publishingInfo;
+
+private:
     QPointer<OxaFontManager> m_fontManager;
     QPointer<OxaGlobalSignalListener> m_globalSignalListener;
 };

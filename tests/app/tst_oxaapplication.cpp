@@ -34,6 +34,36 @@ public:
     }
 };
 
+/// The members of an OxaApplication, in the order in which they must stand.
+struct Members
+{
+    QPointer<QObject> appSignals;
+    QString themeName;
+    float fontScaleFactor;
+    QString logoSvgPath;
+    QString logoPngPath;
+    std::optional<AppPublishing::OxaPublishingInfo> publishingInfo;
+    QPointer<QObject> fontManager;
+    QPointer<QObject> globalSignalListener;
+};
+static_assert(sizeof(OxaApplication) == sizeof(IOxaApplication) + sizeof(Members));
+
+/// Shows where the record is, which is protected.
+class PublishingOutline : public OxaApplication
+{
+public:
+    static std::ptrdiff_t offset(OxaApplication &application)
+    {
+        auto OxaApplication::*const member = &PublishingOutline::m_publishingInfo;
+        return distance(&application, &(application.*member));
+    }
+
+    static std::ptrdiff_t distance(const void *from, const void *to)
+    {
+        return static_cast<const char *>(to) - static_cast<const char *>(from);
+    }
+};
+
 } // namespace
 
 class tst_OxaApplication : public QObject
@@ -47,6 +77,7 @@ public Q_SLOTS:
 private Q_SLOTS:
     void startsWithoutThemeLogoAndColors();
     void startsWithoutPublishingInformation();
+    void keepsThePublishingInformationBetweenTheLogosAndTheFontManager();
     void startsWithoutQmlEngineAndMovies();
     void makesTheFontManagerAsItsChild();
     void installsTheApplicationFont();
@@ -97,6 +128,14 @@ void tst_OxaApplication::startsWithoutThemeLogoAndColors()
 void tst_OxaApplication::startsWithoutPublishingInformation()
 {
     QVERIFY(!application()->getPublishingInfo());
+}
+
+void tst_OxaApplication::keepsThePublishingInformationBetweenTheLogosAndTheFontManager()
+{
+    const Members members {};
+    QCOMPARE(PublishingOutline::offset(*application()),
+             std::ptrdiff_t(sizeof(IOxaApplication))
+                     + PublishingOutline::distance(&members, &members.publishingInfo));
 }
 
 void tst_OxaApplication::startsWithoutQmlEngineAndMovies()
