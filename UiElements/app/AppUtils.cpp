@@ -1,28 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "AppUtils.h"
 
+#include <UiElements/app/ApplicationObject_p.h>
 #include <UiElements/app/OxaApplication.h>
 
 #include <QPixmap>
 
-namespace {
-
-const OxaApplication *application()
-{
-    return qobject_cast<OxaApplication *>(QCoreApplication::instance());
-}
-
-} // namespace
-
 QString AppUtils::getAppSvgIconPath()
 {
-    const OxaApplication *app = application();
+    const auto *app = ApplicationObject::find<OxaApplication>();
     return app ? app->getLogoSvgPath() : QString();
 }
 
 QString AppUtils::getAppPngIconPath()
 {
-    const OxaApplication *app = application();
+    const auto *app = ApplicationObject::find<OxaApplication>();
     return app ? app->getLogoPngPath() : QString();
 }
 
@@ -38,5 +30,6 @@ QIcon AppUtils::getDialogIcon(bool transparent)
 
 bool AppUtils::isRTLLayoutDirection()
 {
-    return application() && QGuiApplication::layoutDirection() == Qt::RightToLeft;
+    return ApplicationObject::find<OxaApplication>()
+            && QGuiApplication::layoutDirection() == Qt::RightToLeft;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaAppSignals.h"
 
+#include <UiElements/app/ApplicationObject_p.h>
 #include <UiElements/app/OxaApplication.h>
 #include <UiElements/app/ShortcutTable_p.h>
 
@@ -17,7 +18,6 @@ struct IdWarning
     const char *after;
 };
 
-constexpr char noApplicationWarning[] = "Unable to find OxaApplication";
 constexpr char noWindowWarning[] = "Unable to register shortcuts, MainWindow must not be null!";
 constexpr char registeredWarning[] =
         "Shortcuts are already registred on another MainWindow! This should never happen.";
@@ -40,12 +40,8 @@ OxaAppSignals::OxaAppSignals(QObject *parent) : OxaObject(parent) { }
 
 OxaAppSignals *OxaAppSignals::get()
 {
-    const auto *app = qobject_cast<OxaApplication *>(QCoreApplication::instance());
-    if (!app) {
-        QMessageLogger().warning() << noApplicationWarning;
-        return nullptr;
-    }
-    return app->getAppSignals();
+    const OxaApplication *app = ApplicationObject::findOrWarn();
+    return app ? app->getAppSignals() : nullptr;
 }
 
 void OxaAppSignals::registerShortcuts(QWidget *mainWindow, OxaShortcut::ShortcutGroup groups)

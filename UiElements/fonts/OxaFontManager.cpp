@@ -1,27 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaFontManager.h"
 
+#include <UiElements/app/ApplicationObject_p.h>
 #include <UiElements/app/OxaApplication.h>
 #include <UiElements/fonts/OxaScaledFonts.h>
-
-#include <QDebug>
-
-namespace {
-
-constexpr char noApplicationWarning[] = "Unable to find OxaApplication";
-
-} // namespace
 
 OxaFontManager::OxaFontManager(QObject *parent) : QObject(parent) { }
 
 OxaFontManager *OxaFontManager::get()
 {
-    const auto *app = qobject_cast<OxaApplication *>(QCoreApplication::instance());
-    if (!app) {
-        QMessageLogger().warning() << noApplicationWarning;
-        return nullptr;
-    }
-    return app->getOxaFontManager();
+    const OxaApplication *app = ApplicationObject::findOrWarn();
+    return app ? app->getOxaFontManager() : nullptr;
 }
 
 OxaScaledFonts *OxaFontManager::getFont(FontManagerEnum::FontType type)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaThemeUtils.h"
 
+#include <UiElements/app/ApplicationObject_p.h>
 #include <UiElements/app/IOxaApplication.h>
 
 #include <QDebug>
@@ -9,10 +10,7 @@ namespace {
 
 constexpr char unknownColorSetWarning[] = "ColorSet name does not exist! ";
 
-IOxaApplication *application()
-{
-    return qobject_cast<IOxaApplication *>(QCoreApplication::instance());
-}
+IOxaApplication *application() { return ApplicationObject::find<IOxaApplication>(); }
 
 bool isDarkTheme()
 {
