@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaFont.h"
 
+#include <UiElements/app/ApplicationObject_p.h>
 #include <UiElements/app/OxaApplication.h>
 
 #include <QDebug>
 
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -54,6 +56,12 @@ TokenStyle styleOf(OxaFont::Token token)
     return unknownTokenStyle;
 }
 
+/// Returns \a pixelSize times \a factor. The application stores a NaN as well: it scales nothing.
+int scaled(int pixelSize, float factor)
+{
+    return std::isnan(factor) ? pixelSize : qRound(float(pixelSize) * factor);
+}
+
 QStringList scriptFamilies()
 {
     return { QStringLiteral("Ebrima"), QStringLiteral("Myanmar Text"),
@@ -87,8 +95,8 @@ OxaFont::OxaFont(Token token, bool useFallbackFamilies)
     if (token == Token::CodeBlocks)
         setFamily(QStringLiteral("Consolas"));
 
-    if (const auto *app = qobject_cast<OxaApplication *>(QCoreApplication::instance())) {
-        setPixelSize(qRound(float(style.pixelSize) * app->getFontScaleFactor()));
+    if (const auto *app = ApplicationObject::find<OxaApplication>()) {
+        setPixelSize(scaled(style.pixelSize, app->getFontScaleFactor()));
         // The list comes last and wins over the monospace family: meant so.
         if (useFallbackFamilies)
             setFamilies(QStringList(QStringLiteral("Segoe UI")) + scriptFamilies());

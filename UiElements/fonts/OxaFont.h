@@ -9,7 +9,8 @@
 /// A QFont that can be made from a token: type sizes are named, not numbered, in widget code.
 ///
 /// The token fixes weight, pixel size and underline. In a process with an OxaApplication the size
-/// is multiplied by the application's font scale factor, once, when the font is made.
+/// is multiplied by the application's font scale factor, once, when the font is made; a factor that
+/// is not a number leaves it as it is.
 class UIELEMENTS_EXPORT OxaFont : public QFont
 {
     Q_GADGET

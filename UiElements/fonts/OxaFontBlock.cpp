@@ -4,15 +4,22 @@
 #include <UiElements/fonts/OxaFontManager.h>
 #include <UiElements/fonts/OxaScaledFonts.h>
 
+#include <QPointer>
 #include <QWidget>
 
-OxaFontBlock::OxaFontBlock(QWidget *widget) : m_widget(widget) { setToken(m_token, false); }
+OxaFontBlock::OxaFontBlock(QWidget *widget) : m_widget(widget)
+{
+    m_widget->setFont(OxaFont(m_token, false));
+}
 
 void OxaFontBlock::setToken(OxaFont::Token token, bool useFallbackFamilies)
 {
     m_token = token;
+    const QPointer<QWidget> widget = m_widget;
     m_widget->setFont(OxaFont(token, useFallbackFamilies));
-    update();
+    // Who hears of the new font may delete the widget, and this block with it.
+    if (widget)
+        update();
 }
 
 void OxaFontBlock::setType(FontManagerEnum::FontType type)
@@ -34,6 +41,6 @@ void OxaFontBlock::update()
 
     const OxaScaledFonts *scaled = manager->getFont(m_type);
     const auto takeFont = [this, scaled] { m_widget->setFont(scaled->getFont(m_token)); };
-    takeFont();
     m_connection = QObject::connect(scaled, &OxaScaledFonts::fontTokenChanged, m_widget, takeFont);
+    takeFont();
 }

@@ -36,7 +36,8 @@ public:
 
     /// Sets the widget's font to the token's font of its view, and keeps it there whenever that
     /// view's fonts change. Without a view or a font manager the widget keeps the font that it has,
-    /// and follows no longer; without an OxaApplication a warning is logged besides.
+    /// and follows no longer; without an OxaApplication a warning is logged besides. When somebody
+    /// deletes the view's fonts, the widget keeps the font too, until the next update.
     void update();
 
 private:

@@ -15,7 +15,7 @@ OxaFontManager *OxaFontManager::get()
 
 OxaScaledFonts *OxaFontManager::getFont(FontManagerEnum::FontType type)
 {
-    OxaScaledFonts *&fonts = m_fonts[static_cast<int>(type)];
+    QPointer<OxaScaledFonts> &fonts = m_fonts[static_cast<int>(type)];
     if (!fonts)
         fonts = new OxaScaledFonts(this);
     return fonts;

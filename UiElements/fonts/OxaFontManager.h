@@ -5,6 +5,7 @@
 #include <UiElements/fonts/FontManagerEnum.h>
 
 #include <QObject>
+#include <QPointer>
 
 #include <map>
 
@@ -24,7 +25,8 @@ public:
     /// null.
     static OxaFontManager *get();
 
-    /// Returns the fonts of \a type, made at the first request. The manager owns them.
+    /// Returns the fonts of \a type, made at the first request, and anew where somebody deleted
+    /// them. The manager owns them.
     OxaScaledFonts *getFont(FontManagerEnum::FontType type);
 
     /// Scales the fonts of \a type; OxaScaledFonts::fontTokenChanged() follows.
@@ -32,5 +34,5 @@ public:
                           FontManagerEnum::FontScalingFactor factor);
 
 private:
-    std::map<int, OxaScaledFonts *> m_fonts;
+    std::map<int, QPointer<OxaScaledFonts>> m_fonts;
 };

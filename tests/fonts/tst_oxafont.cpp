@@ -3,8 +3,12 @@
 #include "support/Guards.h"
 #include "support/TestApplication.h"
 
+#include <UiElements/fonts/OxaScaledFonts.h>
+
 #include <QFontInfo>
 #include <QMetaEnum>
+
+#include <limits>
 
 using Token = OxaFont::Token;
 
@@ -35,6 +39,7 @@ private Q_SLOTS:
 
     void multipliesTheSizeByTheApplicationsFactor_data();
     void multipliesTheSizeByTheApplicationsFactor();
+    void hasItsOwnSizeWhenTheFactorIsNoNumber();
     void keepsItsSizeWhenTheFactorChangesLater();
 
     void keepsTheApplicationFontsFamily();
@@ -108,6 +113,14 @@ void tst_OxaFont::multipliesTheSizeByTheApplicationsFactor()
     const ApplicationPropertyGuard scaled("fontScaleFactor", factor);
     for (const bool useFallbackFamilies : { false, true })
         QTEST(OxaFont(token, useFallbackFamilies).pixelSize(), "pixelSize");
+}
+
+void tst_OxaFont::hasItsOwnSizeWhenTheFactorIsNoNumber()
+{
+    const ApplicationPropertyGuard guard("fontScaleFactor",
+                                         std::numeric_limits<float>::quiet_NaN());
+    QCOMPARE(OxaFont(Token::Title, false).pixelSize(), 20);
+    QCOMPARE(OxaScaledFonts().getFont(Token::Title).pixelSize(), 20);
 }
 
 void tst_OxaFont::keepsItsSizeWhenTheFactorChangesLater()

@@ -32,6 +32,19 @@ void setType(QWidget &widget, FontType type)
 
 void scale(FontType type, Factor factor) { OxaFontManager::get()->setScalingFactor(type, factor); }
 
+/// Deletes a widget when its font changes, instead of telling it.
+class FontChangeDeleter : public QObject
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::FontChange)
+            return false;
+        delete watched;
+        return true;
+    }
+};
+
 } // namespace
 
 /// How a widget's font follows a token and the scaled fonts of a view: a row for each class.
@@ -58,6 +71,9 @@ private Q_SLOTS:
     void doesNothingForTheSameType_data() { addClassesWithFont(); }
     void doesNothingForTheSameType();
 
+    void survivesAFontThatDeletesTheWidget_data();
+    void survivesAFontThatDeletesTheWidget();
+    void keepsItsFontWhenTheTableIsDeleted();
     void takesTheFallbackFamiliesWhenAsked();
     void fetchesTheFontAnewWhenUpdated();
     void asksForNoTableOfTheDefaultType();
@@ -168,6 +184,43 @@ void tst_OxaFontBlock::doesNothingForTheSameType()
         setType(*widget, type);
         QCOMPARE(widget->font().pixelSize(), 33);
     }
+}
+
+void tst_OxaFontBlock::survivesAFontThatDeletesTheWidget_data()
+{
+    QTest::addColumn<bool>("byToken");
+    QTest::newRow("of its token") << true;
+    QTest::newRow("of its view") << false;
+}
+
+void tst_OxaFontBlock::survivesAFontThatDeletesTheWidget()
+{
+    QFETCH(const bool, byToken);
+    scale(FontType::MessagingView, Factor::Large);
+    FontChangeDeleter deleter;
+    const QPointer<OxaWidget> widget = new OxaWidget;
+    widget->setFontToken(Token::BodyPrimary);
+    widget->installEventFilter(&deleter);
+    if (byToken)
+        widget->setFontToken(Token::Display);
+    else
+        widget->setFontType(FontType::MessagingView);
+    QVERIFY(!widget);
+    scale(FontType::MessagingView, Factor::Small);
+}
+
+void tst_OxaFontBlock::keepsItsFontWhenTheTableIsDeleted()
+{
+    OxaWidget widget;
+    widget.setFontToken(Token::BodyPrimary);
+    widget.setFontType(FontType::MessagingView);
+    scale(FontType::MessagingView, Factor::Large);
+    delete OxaFontManager::get()->getFont(FontType::MessagingView);
+    QCOMPARE(widget.font().pixelSize(), 26);
+    widget.updateFont();
+    QCOMPARE(widget.font().pixelSize(), 16);
+    scale(FontType::MessagingView, Factor::Small);
+    QCOMPARE(widget.font().pixelSize(), 14);
 }
 
 void tst_OxaFontBlock::takesTheFallbackFamiliesWhenAsked()

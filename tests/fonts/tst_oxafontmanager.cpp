@@ -21,6 +21,8 @@ private Q_SLOTS:
     void startsWithoutTables();
     void makesEachTableAtItsFirstRequest();
     void ownsItsTables();
+    void makesATableAnewThatSomebodyDeleted();
+    void survivesASlotThatDeletesATable();
     void scalesOnlyTheTableOfTheType();
     void scalesATableThatNobodyHasAskedForYet();
     void namesItsTypesAndFactorsInTheMetaObject_data();
@@ -61,6 +63,25 @@ void tst_OxaFontManager::ownsItsTables()
     QCOMPARE(table->parent(), manager.get());
     manager.reset();
     QVERIFY(!table);
+}
+
+void tst_OxaFontManager::makesATableAnewThatSomebodyDeleted()
+{
+    OxaFontManager manager;
+    delete manager.getFont(FontType::MeetingView);
+    manager.setScalingFactor(FontType::MeetingView, Factor::Large);
+    QCOMPARE(manager.children().size(), 1);
+    QCOMPARE(manager.getFont(FontType::MeetingView), manager.children().constFirst());
+}
+
+void tst_OxaFontManager::survivesASlotThatDeletesATable()
+{
+    OxaFontManager manager;
+    const QPointer<OxaScaledFonts> table = manager.getFont(FontType::MeetingView);
+    connect(table, &OxaScaledFonts::fontTokenChanged, this, [table] { delete table; });
+    manager.setScalingFactor(FontType::MeetingView, Factor::Large);
+    QVERIFY(!table);
+    QVERIFY(manager.getFont(FontType::MeetingView));
 }
 
 void tst_OxaFontManager::scalesOnlyTheTableOfTheType()
