@@ -28,11 +28,13 @@ struct QSvgExtraStates;
 namespace DrawUtils {
 
 /// Shrinks \a rect in place to \a aspectRatio, its width divided by its height, around the same
-/// centre.
+/// centre. Leaves it as it is where the result would not be finite: for an empty rectangle, and for
+/// infinity and NaN in either.
 UIELEMENTS_EXPORT void fitRectangle(QRectF &rect, double aspectRatio);
 
 /// Returns \a pixmap scaled, in its proportions, to fill \a rect at \a devicePixelRatio. Shrinks
-/// \a rect to those proportions.
+/// \a rect to those proportions. A null pixmap leaves \a rect as it is and gives a null one, as
+/// does a size in device pixels that is empty, is not finite, or exceeds an int.
 UIELEMENTS_EXPORT QPixmap adjustPixmapToRect(const QPixmap &pixmap, QRectF &rect,
                                              double devicePixelRatio);
 

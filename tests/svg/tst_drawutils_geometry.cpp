@@ -5,6 +5,24 @@
 
 #include <QTest>
 
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+/// True when both have the same numbers, a NaN included.
+bool isSame(const QRectF &left, const QRectF &right)
+{
+    const auto same = [](double a, double b) { return (std::isnan(a) && std::isnan(b)) || a == b; };
+    return same(left.x(), right.x()) && same(left.y(), right.y())
+            && same(left.width(), right.width()) && same(left.height(), right.height());
+}
+
+} // namespace
+
 class tst_DrawUtilsGeometry : public QObject
 {
     Q_OBJECT
@@ -12,8 +30,12 @@ class tst_DrawUtilsGeometry : public QObject
 private Q_SLOTS:
     void fitsARectangleToARatioAroundItsCentre_data();
     void fitsARectangleToARatioAroundItsCentre();
+    void leavesARectangleThatCannotBeFitted_data();
+    void leavesARectangleThatCannotBeFitted();
     void scalesAPixmapToARectangle_data();
     void scalesAPixmapToARectangle();
+    void givesANullPixmapWhereThereIsNoSize_data();
+    void givesANullPixmapWhereThereIsNoSize();
     void smoothsAPixmapThatItScales();
 };
 
@@ -52,6 +74,29 @@ void tst_DrawUtilsGeometry::fitsARectangleToARatioAroundItsCentre()
     QCOMPARE(rect.center(), centre);
 }
 
+void tst_DrawUtilsGeometry::leavesARectangleThatCannotBeFitted_data()
+{
+    QTest::addColumn<QRectF>("rect");
+    QTest::addColumn<double>("aspectRatio");
+    const QRectF rect(1, 2, 30, 40);
+    QTest::newRow("empty") << QRectF(1, 2, 0, 0) << 2.0;
+    QTest::newRow("infinitely wide") << QRectF(1, 2, infinity, 40) << 2.0;
+    QTest::newRow("infinitely high") << QRectF(1, 2, 30, infinity) << 2.0;
+    QTest::newRow("infinite both ways") << QRectF(1, 2, infinity, infinity) << 2.0;
+    QTest::newRow("of no width") << QRectF(1, 2, notANumber, 40) << 2.0;
+    QTest::newRow("a ratio that is not a number") << rect << notANumber;
+    QTest::newRow("an infinite ratio without a height") << QRectF(1, 2, 30, 0) << infinity;
+}
+
+void tst_DrawUtilsGeometry::leavesARectangleThatCannotBeFitted()
+{
+    QFETCH(QRectF, rect);
+    QFETCH(const double, aspectRatio);
+    const QRectF before = rect;
+    DrawUtils::fitRectangle(rect, aspectRatio);
+    QVERIFY(isSame(rect, before));
+}
+
 void tst_DrawUtilsGeometry::scalesAPixmapToARectangle_data()
 {
     QTest::addColumn<QSize>("pixmapSize");
@@ -87,6 +132,35 @@ void tst_DrawUtilsGeometry::scalesAPixmapToARectangle()
     QCOMPARE(scaled.devicePixelRatio(), devicePixelRatio);
     QCOMPARE(Pixels::countNear(scaled.toImage(), Qt::red), scaled.width() * scaled.height());
     QCOMPARE(pixmap.size(), pixmapSize);
+}
+
+void tst_DrawUtilsGeometry::givesANullPixmapWhereThereIsNoSize_data()
+{
+    QTest::addColumn<QSize>("pixmapSize");
+    QTest::addColumn<QRectF>("rect");
+    QTest::addColumn<double>("devicePixelRatio");
+    const QSize size(8, 8);
+    const QRectF square(10, 20, 100, 100);
+    QTest::newRow("a null pixmap") << QSize() << QRectF(10, 20, 100, 50) << 1.0;
+    QTest::newRow("an empty rectangle") << size << QRectF(10, 20, 0, 0) << 1.0;
+    QTest::newRow("an infinite rectangle") << size << QRectF(0, 0, infinity, infinity) << 1.0;
+    QTest::newRow("a rectangle beyond int") << size << QRectF(0, 0, 1e12, 1e12) << 1.0;
+    QTest::newRow("a rectangle of no width") << size << QRectF(0, 0, notANumber, 10) << 1.0;
+    QTest::newRow("a negative rectangle") << size << QRectF(0, 0, -1e12, -1e12) << 1.0;
+    QTest::newRow("a ratio that is not a number") << size << square << notANumber;
+    QTest::newRow("an infinite ratio") << size << square << infinity;
+    QTest::newRow("a ratio of zero") << size << square << 0.0;
+}
+
+void tst_DrawUtilsGeometry::givesANullPixmapWhereThereIsNoSize()
+{
+    QFETCH(const QSize, pixmapSize);
+    QFETCH(QRectF, rect);
+    QFETCH(const double, devicePixelRatio);
+    const QRectF before = rect;
+    const QPixmap pixmap(pixmapSize);
+    QVERIFY(DrawUtils::adjustPixmapToRect(pixmap, rect, devicePixelRatio).isNull());
+    QVERIFY(isSame(rect, before));
 }
 
 void tst_DrawUtilsGeometry::smoothsAPixmapThatItScales()
