@@ -75,10 +75,11 @@ public:
     /// Stores \a id.
     void setUniqueElementId(const QString &id);
 
-    /// Returns the role told to assistive technology.
+    /// Returns the accessible role that was given. It is stored, and not told to assistive
+    /// technology, which hears Qt's own role for the widget. QAccessible::NoRole by default.
     QAccessible::Role getAccessibleRole() const;
 
-    /// Stores \a role.
+    /// Stores \a role. Tells nobody.
     void setAccessibleRole(QAccessible::Role role);
 
     /// Sets where the lines of an eliding label with word wrap may break, QTextOption::WordWrap at

@@ -68,10 +68,11 @@ public:
     /// Stores \a id.
     void setUniqueElementId(const QString &id);
 
-    /// Returns the role told to assistive technology.
+    /// Returns the accessible role that was given. It is stored, and not told to assistive
+    /// technology, which hears Qt's own role for the widget. QAccessible::PushButton by default.
     QAccessible::Role getAccessibleRole() const;
 
-    /// Stores \a role.
+    /// Stores \a role. Tells nobody.
     void setAccessibleRole(QAccessible::Role role);
 
     /// Returns the name of the set whose normal colour lies under the focus frame. Empty by
