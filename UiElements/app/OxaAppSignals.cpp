@@ -54,8 +54,10 @@ void OxaAppSignals::registerShortcuts(QWidget *mainWindow, OxaShortcut::Shortcut
         QMessageLogger().warning() << registeredWarning;
         return;
     }
-    // Whichever window is registered by then: the entries go with any that was.
-    connect(mainWindow, &QObject::destroyed, this, [this] { m_shortcuts.clear(); });
+    // The window of an earlier registration may still live: the entries are not its own any more.
+    disconnect(m_windowConnection);
+    m_windowConnection = connect(mainWindow, &QObject::destroyed, this,
+                                 [this] { m_shortcuts.clear(); });
     _registerShortcuts(mainWindow, groups);
 }
 
@@ -96,14 +98,17 @@ void OxaAppSignals::disableShortcut(OxaAppSignals::Shortcut id)
         warn(notFoundWarning, id);
         return;
     }
+    const QPointer<OxaAppSignals> self = this;
     delete entry->second.data();
-    // By its id: what listens to the deletion may have changed the map.
-    m_shortcuts.erase(id);
+    // By its id: a slot may have changed the map.
+    if (self)
+        m_shortcuts.erase(id);
 }
 
 void OxaAppSignals::disableAll()
 {
-    // Taken out first: what listens to the deletions may change the map.
+    disconnect(m_windowConnection);
+    // Taken out first: a slot may change the map.
     for (const auto &entry : std::exchange(m_shortcuts, {}))
         delete entry.second.data();
 }

@@ -397,4 +397,5 @@ private:
     void registerShortcut(QWidget *mainWindow, const ShortcutRow &row);
 
     std::unordered_map<OxaAppSignals::Shortcut, QPointer<OxaShortcut>> m_shortcuts;
+    QMetaObject::Connection m_windowConnection;
 };
