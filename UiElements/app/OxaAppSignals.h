@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// Longer than headers are here: 59 shortcuts and 159 signals are two tables, and moc wants both
+// Longer than headers are here: the shortcuts and the signals are two tables, and moc wants both
 // inside the class.
 
 #include <UiElements/UiElementsExport.h>

@@ -3,7 +3,7 @@
 
 #include <UiElements/app/OxaAppSignals.h>
 
-#include <array>
+#include <initializer_list>
 
 /// A key with its modifiers, or a standard key, which the platform chooses.
 class ShortcutKey
@@ -35,7 +35,7 @@ struct ShortcutRow
 };
 
 /// The shortcuts of registerShortcuts(), in the order in which they are made.
-extern const std::array<ShortcutRow, 58> shortcutRows;
+extern const std::initializer_list<ShortcutRow> shortcutRows;
 
 /// The shortcut for developers, which no group contains.
 extern const ShortcutRow debugShortcutRow;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// Longer than headers are here: the 159 signals are a table.
+// Longer than headers are here: the signals are a table.
 
 /// The signals of OxaAppSignals in the order of its meta-object: each one's name with its
 /// parameters' types, as Qt normalises them, and names. Where a name stands again with fewer

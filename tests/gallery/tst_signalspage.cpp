@@ -44,6 +44,15 @@ int receiversOf(const SignalModel &model, const char *signature)
     return model.indexOf(signature).data(SignalModel::ReceiversRole).toInt();
 }
 
+int signalCountOfTheHub()
+{
+    const QMetaObject &type = OxaAppSignals::staticMetaObject;
+    int count = 0;
+    for (int index = type.methodOffset(); index < type.methodCount(); ++index)
+        count += type.method(index).methodType() == QMetaMethod::Signal;
+    return count;
+}
+
 template <typename Value>
 QString textOf(const char *type, const Value &value)
 {
@@ -188,7 +197,7 @@ void tst_SignalsPage::emitsNothingWithTypesThatItDoesNotKnow()
 void tst_SignalsPage::listsAllSignalsInTheirGroups()
 {
     const SignalModel model(OxaAppSignals::get());
-    QCOMPARE(model.signalCount(), 159);
+    QCOMPARE(model.signalCount(), signalCountOfTheHub());
     QStringList headings;
     for (int row = 0; row < model.rowCount(); ++row) {
         const QModelIndex index = model.index(row);
@@ -208,7 +217,7 @@ void tst_SignalsPage::findsSignals_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("count");
-    QTest::newRow("all") << QString() << 159;
+    QTest::newRow("all") << QString() << signalCountOfTheHub();
     QTest::newRow("by a name") << QStringLiteral("contactPerson") << 1;
     QTest::newRow("by a name in any case, with space around it")
             << QStringLiteral(" CONTACTPERSON ") << 1;
@@ -333,7 +342,7 @@ void tst_SignalsPage::offersToClearASearchThatFindsNothing()
     QVERIFY(!emitButton->isEnabled());
     Controls::withText(*emptyState, "Clear the search")->click();
     QVERIFY(emptyState->isHidden());
-    QCOMPARE(page.model.signalCount(), 159);
+    QCOMPARE(page.model.signalCount(), signalCountOfTheHub());
 }
 
 void tst_SignalsPage::recountsWhileItIsShown()
