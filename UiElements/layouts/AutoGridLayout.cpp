@@ -2,8 +2,11 @@
 #include "AutoGridLayout.h"
 
 #include "ItemSpacing_p.h"
+#include "LayoutPass_p.h"
 
 #include <algorithm>
+
+using LayoutPass::held;
 
 namespace {
 
@@ -48,10 +51,12 @@ public:
         return lowest == m_cells.end() ? 0 : lowest->rect.bottom() + 1;
     }
 
-    void apply() const
+    void apply(LayoutPass::LiveItems live) const
     {
-        for (const Cell &cell : m_cells)
-            cell.item->setGeometry(cell.rect);
+        for (const Cell &cell : m_cells) {
+            if (live.contain(cell.item))
+                cell.item->setGeometry(cell.rect);
+        }
     }
 
 private:
@@ -73,18 +78,18 @@ int AutoGridLayout::doLayout(const QRect &rect, bool apply) const
     QPoint position = effective.topLeft();
     for (QLayoutItem *item : items()) {
         spacing.take(*item);
-        const QSize size = item->sizeHint();
+        const QSize size = held(item->sizeHint());
         if (position.x() + size.width() > effective.right() && !table.isAtStartOfRow()) {
             table.startRow();
             position.setX(effective.left());
         }
         // Without a cell above, an item stays as high up as the one before it.
         if (const Cell *above = table.above())
-            position.setY(above->rect.bottom() + 1 + spacing.y());
+            position.setY(held(above->rect.bottom() + 1 + spacing.y()));
         table.add(QRect(position, size), item);
-        position.rx() += size.width() + spacing.x();
+        position.setX(held(position.x() + size.width() + spacing.x()));
     }
     if (apply)
-        table.apply();
+        table.apply(LayoutPass::LiveItems(*this));
     return table.bottom() - rect.y() + margins.bottom();
 }

@@ -1,18 +1,22 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "FixedItemRatioLayoutNotSupportScroll.h"
 
+#include "LayoutPass_p.h"
+
 #include <algorithm>
 #include <iterator>
 #include <limits>
 
+using LayoutPass::held;
+
 namespace {
 
-/// Cuts the fraction off. What no int can hold, as with a ratio of zero, comes to the nearest.
+/// Cuts the fraction off. What is too large, as with a ratio of zero, comes to the largest length;
+/// what is no number comes to 0.
 int truncated(double value)
 {
-    constexpr double lowest = std::numeric_limits<int>::min();
     constexpr double highest = std::numeric_limits<int>::max();
-    return static_cast<int>(qBound(lowest, value, highest));
+    return qIsNaN(value) ? 0 : held(static_cast<qint64>(qBound(-highest, value, highest)));
 }
 
 } // namespace
@@ -34,7 +38,11 @@ FixedItemRatioLayoutNotSupportScroll::FixedItemRatioLayoutNotSupportScroll(QMarg
 
 FixedItemRatioLayoutNotSupportScroll::~FixedItemRatioLayoutNotSupportScroll() = default;
 
-void FixedItemRatioLayoutNotSupportScroll::setItemData(const ItemData &data) { m_itemData = data; }
+void FixedItemRatioLayoutNotSupportScroll::setItemData(const ItemData &data)
+{
+    m_itemData = { data.heightToWidthRatio, held(data.borderWidth), held(data.minimumWidth),
+                   held(data.spacing) };
+}
 
 FixedItemRatioLayoutNotSupportScroll::CalculatedItemData
 FixedItemRatioLayoutNotSupportScroll::getCalculatedItemData() const
@@ -45,7 +53,8 @@ FixedItemRatioLayoutNotSupportScroll::getCalculatedItemData() const
 FixedItemRatioLayoutNotSupportScroll::CalculatedItemData
 FixedItemRatioLayoutNotSupportScroll::getCalculatedItemData(const QSize &size) const
 {
-    return getMaxLayout(size.width(), size.height(), m_itemData, int(getVisibleItems().size()));
+    return getMaxLayout(held(size.width()), held(size.height()), m_itemData,
+                        int(getVisibleItems().size()));
 }
 
 QSize FixedItemRatioLayoutNotSupportScroll::minimumSize() const
@@ -85,14 +94,15 @@ int FixedItemRatioLayoutNotSupportScroll::heightFor(int width, int count) const
         return 0;
     const int rows = getRowsOrColumns(count, columns);
     const QMargins margins = contentsMargins();
-    return getItemHeightFromWidth(itemWidth, m_itemData) * rows + (rows - 1) * spacing
-            + margins.top() + margins.bottom();
+    return held(qint64(getItemHeightFromWidth(itemWidth, m_itemData)) * rows
+                + qint64(rows - 1) * spacing + margins.top() + margins.bottom());
 }
 
 void FixedItemRatioLayoutNotSupportScroll::place(const std::vector<QLayoutItem *> &visible,
                                                  const QRect &effective) const
 {
-    const auto &[itemWidth, itemHeight, rows, columns] = m_calculatedItemData;
+    // Copies: the layout may go with an item that moves.
+    const auto [itemWidth, itemHeight, rows, columns] = m_calculatedItemData;
     const int spacing = m_itemData.spacing;
     const auto startOfRow = [&, itemWidth = itemWidth](int items) {
         return effective.left()
@@ -109,14 +119,17 @@ void FixedItemRatioLayoutNotSupportScroll::place(const std::vector<QLayoutItem *
                                                           spacing));
     int row = 1;
     int column = 1;
+    LayoutPass::LiveItems live(*this);
     for (QLayoutItem *item : visible) {
-        item->setGeometry(QRect(position, size));
-        position.rx() += itemWidth + spacing;
+        if (live.contain(item))
+            item->setGeometry(QRect(position, size));
+        position.setX(held(position.x() + itemWidth + spacing));
         if (++column <= columns)
             continue;
         column = 1;
         // Where rows stay empty, this never is the last one: a partial row is not centred then.
-        position = { ++row == rows ? lastRowStart : rowStart, position.y() + itemHeight + spacing };
+        position = { ++row == rows ? lastRowStart : rowStart,
+                     held(position.y() + itemHeight + spacing) };
     }
 }
 
@@ -190,5 +203,6 @@ int FixedItemRatioLayoutNotSupportScroll::getItemHeightFromWidth(int width, Item
 int FixedItemRatioLayoutNotSupportScroll::getBeginSpacing_CenterItems(int total, int itemSize,
                                                                       int count, int spacing) const
 {
-    return qMax((total - (count - 1) * spacing - itemSize * count) / 2, 0);
+    const qint64 rest = total - qint64(count - 1) * spacing - qint64(itemSize) * count;
+    return held(qMax(rest / 2, qint64(0)));
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "FlowLayout.h"
 
+#include "LayoutPass_p.h"
+
 #include <QGuiApplication>
 #include <QStyle>
 #include <QWidget>
@@ -32,8 +34,8 @@ int verticalSteps(Qt::Key key)
 /// Wider than a coordinate, so that widgets far away from each other do not seem near.
 qint64 squaredDistance(const QPoint &a, const QPoint &b)
 {
-    const qint64 dx = a.x() - b.x();
-    const qint64 dy = a.y() - b.y();
+    const qint64 dx = qint64(a.x()) - b.x();
+    const qint64 dy = qint64(a.y()) - b.y();
     return dx * dx + dy * dy;
 }
 
@@ -155,7 +157,10 @@ Qt::Orientations FlowLayout::expandingDirections() const { return {}; }
 
 bool FlowLayout::hasHeightForWidth() const { return true; }
 
-int FlowLayout::heightForWidth(int width) const { return doLayout(QRect(0, 0, width, 0), false); }
+int FlowLayout::heightForWidth(int width) const
+{
+    return doLayout(QRect(0, 0, LayoutPass::held(width), 0), false);
+}
 
 void FlowLayout::setGeometry(const QRect &rect)
 {
@@ -170,7 +175,7 @@ QSize FlowLayout::minimumSize() const
     // Not a size of zero: what an empty layout answers is part of the contract.
     QSize size;
     for (const QLayoutItem *item : m_items)
-        size = size.expandedTo(item->minimumSize());
+        size = size.expandedTo(LayoutPass::held(item->minimumSize()));
     const QMargins margins = contentsMargins();
     return { size.width() + margins.left() + margins.right(),
              size.height() + margins.top() + margins.bottom() };

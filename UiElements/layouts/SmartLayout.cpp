@@ -2,8 +2,11 @@
 #include "SmartLayout.h"
 
 #include "ItemSpacing_p.h"
+#include "LayoutPass_p.h"
 
 #include <QWidget>
+
+using LayoutPass::held;
 
 namespace {
 
@@ -88,20 +91,24 @@ int SmartLayout::doLayout(const QRect &rect, bool apply) const
             placements.startRow();
             lastRowCount = index - rowStart;
             rowStart = index;
-            position = { effective.left(), position.y() + spacing.y() + lineHeight };
+            position = { effective.left(), held(position.y() + spacing.y() + lineHeight) };
             lineHeight = 0;
         }
         if (apply) {
             const QRect placed(position, placedSizeOf(*item, size));
             placements.add(placed, item, effective.right() - placed.right());
         }
-        position.rx() += step;
+        position.setX(held(position.x() + step));
         lineHeight = qMax(lineHeight, size.height());
         ++index;
     }
-    for (const Placement &each : placements.all())
-        place(*each.item, each.rect.translated(shiftFor(placements.spareWidth(each.row)), 0));
-    return position.y() + lineHeight - rect.y() + margins.bottom();
+    const int height = position.y() + lineHeight - rect.y() + margins.bottom();
+    LayoutPass::LiveItems live(*this);
+    for (const Placement &each : placements.all()) {
+        if (live.contain(each.item))
+            place(*each.item, each.rect.translated(shiftFor(placements.spareWidth(each.row)), 0));
+    }
+    return height;
 }
 
 bool SmartLayout::shouldBreakLine(int nextX, int spaceX, int lineHeight, int itemLimit,
@@ -120,14 +127,14 @@ bool SmartLayout::shouldBreakLine(int nextX, int spaceX, int lineHeight, int ite
 QSize SmartLayout::sizeOf(QLayoutItem &item) const
 {
     const QWidget *widget = m_useWidgetSizing ? item.widget() : nullptr;
-    return widget ? widget->sizeHint() : item.sizeHint();
+    return held(widget ? widget->sizeHint() : item.sizeHint());
 }
 
 /// Returns the size that \a item gets where it was measured as \a size.
 QSize SmartLayout::placedSizeOf(QLayoutItem &item, const QSize &size) const
 {
     const QWidget *widget = m_maximumItemsPerRow == 1 ? item.widget() : nullptr;
-    return widget ? widget->sizeHint() : size;
+    return widget ? held(widget->sizeHint()) : size;
 }
 
 /// Returns how far to the right a row goes that spares \a spareWidth.

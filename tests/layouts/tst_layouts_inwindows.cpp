@@ -10,6 +10,10 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <functional>
+#include <limits>
+#include <utility>
+
 using Blocks::Block;
 
 namespace {
@@ -30,11 +34,50 @@ struct Window : QWidget
 };
 
 using GridWindow = Window<AutoGridLayout>;
+using MakeLayout = std::function<FlowLayout *()>;
+
+/// A block that does something when it is moved.
+class BusyBlock : public Block
+{
+public:
+    explicit BusyBlock(std::function<void()> onMove)
+        : Block(QSize(40, 10)), m_onMove(std::move(onMove))
+    {
+    }
+
+protected:
+    void moveEvent(QMoveEvent *) override { m_onMove(); }
+
+private:
+    const std::function<void()> m_onMove;
+};
+
+/// An item that does something when it is placed.
+class BusyItem : public Blocks::Item
+{
+public:
+    explicit BusyItem(std::function<void()> onMove)
+        : Item(QSize(40, 10)), m_onMove(std::move(onMove))
+    {
+    }
+
+    void setGeometry(const QRect &) override
+    {
+        // The item goes with the layout, and this with it.
+        const auto onMove = m_onMove;
+        onMove();
+    }
+
+private:
+    const std::function<void()> m_onMove;
+};
 
 const QString inTwoRows = QStringLiteral("0,0 40x10 | 45,0 40x10 | 0,13 40x10");
 const QString inOneRow = QStringLiteral("0,0 40x10 | 45,0 40x10 | 90,0 40x10");
 
 } // namespace
+
+Q_DECLARE_METATYPE(MakeLayout)
 
 /// The layouts on windows, as Qt drives them.
 class tst_LayoutsInWindows : public QObject
@@ -52,7 +95,33 @@ private Q_SLOTS:
     void exchangesMarginsOnTheScreen();
     void fillsTheWindowWithTiles();
     void tellsItemsTheirPlaceEvenWhereItIsTheSame();
+    void survivesAWidgetThatDeletesOthersWhenItMoves_data() { addLayouts(); }
+    void survivesAWidgetThatDeletesOthersWhenItMoves();
+    void survivesAnItemThatDeletesTheLayout_data() { addLayouts(); }
+    void survivesAnItemThatDeletesTheLayout();
+    void holdsLengthsThatNoIntCanAddUp_data() { addLayouts(); }
+    void holdsLengthsThatNoIntCanAddUp();
+
+private:
+    static void addLayouts();
 };
+
+void tst_LayoutsInWindows::addLayouts()
+{
+    QTest::addColumn<MakeLayout>("makeLayout");
+    const QMargins none;
+    QTest::newRow("grid") << MakeLayout(
+            [none]() -> FlowLayout * { return new AutoGridLayout(none, 5, 3); });
+    QTest::newRow("smart") << MakeLayout([none]() -> FlowLayout * {
+        return new SmartLayout(nullptr, none, 5, 3, Qt::AlignCenter, -1, false);
+    });
+    QTest::newRow("smart, by widgets' sizes") << MakeLayout([none]() -> FlowLayout * {
+        return new SmartLayout(nullptr, none, 5, 3, Qt::AlignCenter, -1, true);
+    });
+    QTest::newRow("tiles") << MakeLayout([none]() -> FlowLayout * {
+        return new FixedItemRatioLayoutNotSupportScroll(none, 5, 3);
+    });
+}
 
 void tst_LayoutsInWindows::laysOutWhatIsShown()
 {
@@ -168,6 +237,58 @@ void tst_LayoutsInWindows::tellsItemsTheirPlaceEvenWhereItIsTheSame()
     // The item stays where it was, but its widget wants less of it now.
     window.layout.setAlignment(window.layout.widgetAt(1), Qt::AlignCenter);
     QTRY_COMPARE(window.layout.widgetAt(1)->geometry(), QRect(130, 45, 40, 10));
+}
+
+void tst_LayoutsInWindows::survivesAWidgetThatDeletesOthersWhenItMoves()
+{
+    QFETCH(const MakeLayout, makeLayout);
+    QWidget window;
+    FlowLayout *layout = makeLayout();
+    window.setLayout(layout);
+    std::vector<QPointer<QWidget>> doomed;
+    layout->addWidget(new Block(QSize(40, 10)));
+    layout->addWidget(new BusyBlock([&doomed] { qDeleteAll(std::exchange(doomed, {})); }));
+    for (int i = 0; i < 3; ++i)
+        layout->addWidget(new Block(QSize(40, 10)));
+    window.resize(200, 100);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    doomed = { layout->widgetAt(0), layout->widgetAt(2), layout->widgetAt(3) };
+    const QPointer<QWidget> last = layout->widgetAt(4);
+    last->move(500, 500);
+    layout->setGeometry(QRect(0, 0, 50, 100));
+    QCOMPARE(layout->count(), 2);
+    QCOMPARE(layout->widgetAt(1), last.data());
+    QVERIFY(last->x() < 100);
+}
+
+void tst_LayoutsInWindows::survivesAnItemThatDeletesTheLayout()
+{
+    QFETCH(const MakeLayout, makeLayout);
+    const QPointer<FlowLayout> layout = makeLayout();
+    layout->addItem(new BusyItem([layout] { delete layout; }));
+    layout->addItem(new Blocks::Item(QSize(40, 10)));
+    layout->setGeometry(QRect(0, 0, 100, 100));
+    QVERIFY(!layout);
+}
+
+void tst_LayoutsInWindows::holdsLengthsThatNoIntCanAddUp()
+{
+    QFETCH(const MakeLayout, makeLayout);
+    constexpr int highest = std::numeric_limits<int>::max();
+    for (const int length : { highest, -highest, QWIDGETSIZE_MAX }) {
+        const std::unique_ptr<FlowLayout> layout(makeLayout());
+        Blocks::fill(*layout, std::vector<QSize>(300, QSize(length, length)));
+        if (auto *tiles = qobject_cast<FixedItemRatioLayoutNotSupportScroll *>(layout.get()))
+            tiles->setItemData({ std::numeric_limits<float>::max(), -length, length, length });
+        // Negative lengths say nothing of the result, but must not overflow either.
+        for (const int width : { 100, highest, -highest })
+            QVERIFY(layout->heightForWidth(width) >= 0 || length < 0);
+        QVERIFY(layout->minimumSize().isValid() || length < 0);
+        layout->setGeometry(QRect(0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+        QCOMPARE(static_cast<Blocks::Item *>(layout->itemAt(299))->moves, 1);
+    }
 }
 
 QTEST_MAIN(tst_LayoutsInWindows)
