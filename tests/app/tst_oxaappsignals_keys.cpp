@@ -74,6 +74,8 @@ private Q_SLOTS:
     void ignoresTheKeysOfATemporarilyDisabledShortcut();
     void ignoresAllKeysAfterTheMainWindow();
     void mayBeDisabledByItsOwnSignal();
+    void survivesASlotThatDeletes_data();
+    void survivesASlotThatDeletes();
     void showsTheDebugWindowForTheDevelopersKeys();
     void leavesKeysThatTwoShortcutsShareWithoutEffect();
 
@@ -179,6 +181,37 @@ void tst_OxaAppSignalsKeys::mayBeDisabledByItsOwnSignal()
     QCOMPARE(hub.emittedFor(window, searchKeys), QStringLiteral("openGlobalSearch"));
     QVERIFY(!hub.shortcutExists(Shortcut::OpenGlobalSearch));
     QCOMPARE(hub.emittedFor(window, searchKeys), QString());
+}
+
+void tst_OxaAppSignalsKeys::survivesASlotThatDeletes_data()
+{
+    QTest::addColumn<QByteArray>("type");
+    QTest::newRow("the shortcut") << QByteArray("OxaShortcut");
+    QTest::newRow("the window") << QByteArray("QWidget");
+    QTest::newRow("the hub") << QByteArray("OxaAppSignals");
+}
+
+void tst_OxaAppSignalsKeys::survivesASlotThatDeletes()
+{
+    QFETCH(const QByteArray, type);
+    QObject owner;
+    const QPointer<OxaAppSignals> hub = new OxaAppSignals(&owner);
+    const QPointer<QWidget> window = new QWidget;
+    hub->registerShortcuts(window, OxaShortcut::General);
+    const QPointer<OxaShortcut> shortcut = hub->getGroupShortcuts(OxaShortcut::General)
+                                                   .at(Shortcut::OpenGlobalSearch);
+    QVERIFY(activate(*window));
+    connect(hub, &OxaAppSignals::openGlobalSearch, this, [&] {
+        for (QObject *object : std::initializer_list<QObject *> { shortcut, window, hub }) {
+            if (object->metaObject()->className() == type)
+                delete object;
+        }
+    });
+    QTest::keySequence(window, searchKeys);
+    QCOMPARE(!window, type == "QWidget");
+    QCOMPARE(!hub, type == "OxaAppSignals");
+    QCOMPARE(!shortcut, type == "OxaShortcut" || type == "QWidget");
+    delete window;
 }
 
 void tst_OxaAppSignalsKeys::showsTheDebugWindowForTheDevelopersKeys()
