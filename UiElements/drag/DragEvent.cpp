@@ -1,8 +1,35 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DragEvent.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QMimeData>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+int truncated(double value)
+{
+    using Limits = std::numeric_limits<int>;
+    return std::isnan(value) ? 0 : int(qBound(double(Limits::min()), value, double(Limits::max())));
+}
+
+/// Returns the picture in the file \a path. The path comes from a stranger, and opening a pipe or a
+/// device may wait for ever: only a regular file is opened.
+QImage pictureIn(const QString &path)
+{
+    QImage picture;
+    QFile file(path);
+    // By the file: by its name, QImage would try other names when it cannot be opened.
+    if (QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly))
+        picture.load(&file, nullptr);
+    return picture;
+}
+
+} // namespace
 
 DragEvent::DragEvent(const QMap<QString, QVariant> &values)
     : m_x(values.value(QStringLiteral("x")).toReal()),
@@ -30,7 +57,7 @@ DragEvent &DragEvent::operator=(const DragEvent &other)
 
 DragEvent::~DragEvent() { delete m_mimeData; }
 
-QPoint DragEvent::position() const { return QPoint(int(m_x), int(m_y)); }
+QPoint DragEvent::position() const { return QPoint(truncated(m_x), truncated(m_y)); }
 
 QMimeData *DragEvent::toMimeData()
 {
@@ -43,7 +70,7 @@ QMimeData *DragEvent::toMimeData()
 
     const QUrl url(QString::fromUtf8(m_data));
     if (url.isValid() && url.isLocalFile() && m_mimeData->hasHtml()) {
-        const QImage image(url.toLocalFile().trimmed());
+        const QImage image = pictureIn(url.toLocalFile().trimmed());
         if (!image.isNull())
             m_mimeData->setImageData(image);
     }

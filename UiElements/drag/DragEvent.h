@@ -37,12 +37,12 @@ public:
     /// Deletes the mime data.
     ~DragEvent();
 
-    /// Returns the position, truncated to whole numbers.
+    /// Returns the position, truncated to whole numbers and to the range of int. NaN is 0.
     QPoint position() const;
 
     /// Returns the drag as mime data, made on the first call and filled again on each: the HTML and
     /// the URLs where there are any. With HTML, "data" that is the URL of a local picture adds the
-    /// picture.
+    /// picture. Only regular files are opened.
     QMimeData *toMimeData();
 
 private:

@@ -6,6 +6,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
+#include <limits>
+
 namespace {
 
 using Values = QMap<QString, QVariant>;
@@ -47,6 +51,7 @@ private Q_SLOTS:
     void addsThePictureOfALocalUrl();
 
     void addsThePictureOnceTheMimeDataHasHtml();
+    void opensNoPipe();
 
     void fillsTheSameMimeDataAgain();
     void deletesItsMimeData();
@@ -59,6 +64,7 @@ private Q_SLOTS:
 
 private:
     QString picture() const { return m_folder.filePath(QStringLiteral("a picture.png")); }
+    QString link() const { return m_folder.filePath(QStringLiteral("a link.png")); }
     QString note() const { return m_folder.filePath(QStringLiteral("note.txt")); }
 
     QTemporaryDir m_folder;
@@ -70,6 +76,7 @@ void tst_DragEvent::initTestCase()
     QImage image(3, 2, QImage::Format_RGB32);
     image.fill(Qt::red);
     QVERIFY(image.save(picture()));
+    QVERIFY(QFile::link(picture(), link()));
     QFile file(note());
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no picture") > 0);
 }
@@ -92,6 +99,18 @@ void tst_DragEvent::truncatesThePosition_data()
     QTest::newRow("whole numbers") << QVariant(3) << QVariant(4) << QPoint(3, 4);
     QTest::newRow("texts") << QVariant(QStringLiteral("7.5")) << QVariant(QStringLiteral("no"))
                            << QPoint(7, 0);
+
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    constexpr int lowest = std::numeric_limits<int>::min();
+    constexpr int highest = std::numeric_limits<int>::max();
+    QTest::newRow("not a number") << QVariant(qQNaN()) << QVariant(QStringLiteral("nan"))
+                                  << QPoint(0, 0);
+    QTest::newRow("infinite") << QVariant(infinity) << QVariant(-infinity)
+                              << QPoint(highest, lowest);
+    QTest::newRow("beyond int") << QVariant(2147483648.0) << QVariant(-1e300)
+                                << QPoint(highest, lowest);
+    QTest::newRow("the ends of int")
+            << QVariant(2147483647.9) << QVariant(-2147483648.9) << QPoint(highest, lowest);
 }
 
 void tst_DragEvent::truncatesThePosition()
@@ -146,6 +165,8 @@ void tst_DragEvent::addsThePictureOfALocalUrl_data()
     QTest::newRow("not without HTML") << QString() << picture << urls;
     QTest::newRow("with blanks around its path")
             << html << picture + QStringLiteral(" \n") << rest + QStringLiteral("image;");
+    QTest::newRow("by a link") << html << QUrl::fromLocalFile(link()).toString()
+                               << rest + QStringLiteral("image;");
     QTest::newRow("not of a path that is no URL") << html << this->picture() << rest;
     QTest::newRow("not of a file that is no picture")
             << html << QUrl::fromLocalFile(note()).toString() << rest;
@@ -177,6 +198,22 @@ void tst_DragEvent::addsThePictureOnceTheMimeDataHasHtml()
     mimeData->setHtml(QStringLiteral("<i>"));
     event.toMimeData();
     QCOMPARE(textOf(mimeData), QStringLiteral("html=<i>;image;"));
+}
+
+// Opening a pipe that nobody writes to would wait for ever.
+void tst_DragEvent::opensNoPipe()
+{
+    const QString pipe = m_folder.filePath(QStringLiteral("pipe.png"));
+    const QString link = m_folder.filePath(QStringLiteral("link.png"));
+    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QVERIFY(QFile::link(pipe, link));
+    // Qt adds extensions to names that it does not find.
+    const QString bare = m_folder.filePath(QStringLiteral("pipe"));
+    for (const QString &path : { pipe, link, bare, QStringLiteral("/dev/tty") }) {
+        DragEvent event({ { QStringLiteral("html"), QStringLiteral("<b>") },
+                          { QStringLiteral("data"), QUrl::fromLocalFile(path).toEncoded() } });
+        QCOMPARE(textOf(event.toMimeData()), QStringLiteral("html=<b>;"));
+    }
 }
 
 void tst_DragEvent::fillsTheSameMimeDataAgain()
