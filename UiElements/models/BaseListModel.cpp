@@ -2,9 +2,9 @@
 #include "BaseListModel.h"
 
 #include <QDebug>
+#include <QPointer>
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
@@ -23,70 +23,6 @@ constexpr std::size_t firstReservedRows = 100;
 
 /// Qt::UserRole itself is refused on purpose.
 bool isUsableRole(int role) { return role > Qt::UserRole; }
-
-/// Returns what \a variant holds, which must be of a type that it holds in itself. QVariant's own
-/// functions do the same by calls into Qt, and those take longer than the comparing.
-template <typename Value>
-const Value &valueIn(const QVariant &variant)
-{
-    return *static_cast<const Value *>(static_cast<const void *>(&variant.data_ptr().data));
-}
-
-template <typename Value>
-bool areSame(const QVariant &a, const QVariant &b)
-{
-    return valueIn<Value>(a) == valueIn<Value>(b);
-}
-
-/// Of rows that the client has from getRows(), most texts are the model's own.
-template <>
-bool areSame<QString>(const QVariant &a, const QVariant &b)
-{
-    const auto &text = valueIn<QString>(a);
-    const auto &other = valueIn<QString>(b);
-    if (text.isSharedWith(other))
-        return true;
-    const int size = text.size();
-    return size == other.size()
-            && std::memcmp(text.constData(), other.constData(), size * sizeof(QChar)) == 0;
-}
-
-/// As operator== does, but straight for the types that most values are of.
-bool areSameValues(const QVariant &a, const QVariant &b)
-{
-    const auto type = a.data_ptr().type;
-    if (type != b.data_ptr().type)
-        return a == b;
-    switch (type) {
-    case QMetaType::QString:
-        return areSame<QString>(a, b);
-    case QMetaType::Int:
-        return areSame<int>(a, b);
-    case QMetaType::Bool:
-        return areSame<bool>(a, b);
-    case QMetaType::Double:
-        // Qt takes numbers for equal that are nearly so.
-        return areSame<double>(a, b) || a == b;
-    default:
-        return a == b;
-    }
-}
-
-/// As operator== does, but faster for rows that were filled alike: their roles come in the same
-/// order, and need no look-up.
-bool haveSameRoles(const ModelRow &a, const ModelRow &b)
-{
-    if (a.second.size() != b.second.size())
-        return false;
-    auto next = b.second.begin();
-    for (const auto &[role, value] : a.second) {
-        const auto other = next->first == role ? next : b.second.find(role);
-        if (other == b.second.end() || !areSameValues(other->second, value))
-            return false;
-        ++next;
-    }
-    return true;
-}
 
 } // namespace
 
@@ -177,12 +113,12 @@ void BaseListModel::appendRows(const std::vector<ModelRow> &rows)
             QMessageLogger().warning() << QString::fromLatin1(repeatedIdWarning)
                                                   .arg(QString::fromStdString(row.first));
     }
-    endInsertRows();
-    Q_EMIT countChanged(getCount());
+    finishInsertion();
 }
 
 void BaseListModel::appendOrUpdate(const std::vector<ModelRow> &rows)
 {
+    const QPointer<BaseListModel> self = this;
     std::vector<ModelRow> newRows;
     newRows.reserve(rows.size());
     // A run is always open, at first at row 0: listeners rely on the reports of row 0.
@@ -201,15 +137,20 @@ void BaseListModel::appendOrUpdate(const std::vector<ModelRow> &rows)
             QMessageLogger().warning() << outOfRangeWarning;
             return;
         }
-        m_rows[position] = row;
         if (position != last + 1) {
+            // Before the row changes: a sorting proxy finds its place by the rows as they were
+            // told.
             reportRun();
+            if (!self)
+                return;
             first = position;
         }
         last = position;
+        m_rows[position] = row;
     }
     reportRun();
-    appendRows(newRows);
+    if (self)
+        appendRows(newRows);
 }
 
 void BaseListModel::insertRows(int row, const std::vector<ModelRow> &rows)
@@ -226,10 +167,13 @@ void BaseListModel::insertRows(int row, const std::vector<ModelRow> &rows)
     }
     beginInsertRows(QModelIndex(), row, row + int(rows.size()) - 1);
     m_rows.insert(m_rows.begin() + row, rows.begin(), rows.end());
-    // Positions before the new rows are as they were, and of a repeated id the last one counts.
-    indexRows(m_rows, row);
-    endInsertRows();
-    Q_EMIT countChanged(getCount());
+    shiftIndex(row, int(rows.size()));
+    for (std::size_t i = row; i < row + rows.size(); ++i) {
+        // Of a repeated id the last position counts.
+        std::size_t &position = m_idIndex[m_rows[i].first];
+        position = std::max(position, i);
+    }
+    finishInsertion();
 }
 
 void BaseListModel::replace(const std::vector<ModelRow> &rows)
@@ -242,11 +186,16 @@ void BaseListModel::replace(const std::vector<ModelRow> &rows)
         appendRows(rows);
         return;
     }
+    const QPointer<BaseListModel> self = this;
     if (rows.size() < m_rows.size())
         removeRows(int(rows.size()), int(m_rows.size() - rows.size()), QModelIndex());
+    if (!self)
+        return;
     const std::size_t indexedRows = std::min(rows.size(), m_rows.size());
     if (rows.size() > m_rows.size())
         appendRest(rows);
+    if (!self)
+        return;
     indexRows(rows, indexedRows);
     assignChangedRows(rows);
 }
@@ -259,12 +208,12 @@ bool BaseListModel::removeRows(int row, int count, const QModelIndex &parent)
                                    << count << invalidRangeWarning[2] << size;
         return false;
     }
+    const QPointer<BaseListModel> self = this;
     beginRemoveRows(parent, row, row + count - 1);
-    m_rows.erase(m_rows.begin() + row, m_rows.begin() + row + count);
-    m_idIndex.clear();
-    indexRows(m_rows, 0);
+    eraseRows(row, count);
     endRemoveRows();
-    Q_EMIT countChanged(getCount());
+    if (self)
+        Q_EMIT countChanged(getCount());
     return true;
 }
 
@@ -272,11 +221,15 @@ void BaseListModel::clear()
 {
     if (m_rows.empty())
         return;
+    const QPointer<BaseListModel> self = this;
     beginResetModel();
+    if (!self)
+        return;
     m_rows.clear();
     m_idIndex.clear();
     endResetModel();
-    Q_EMIT countChanged(getCount());
+    if (self)
+        Q_EMIT countChanged(getCount());
 }
 
 void BaseListModel::setRoleValueForRow(const std::string &id, const QMap<int, QVariant> &values)
@@ -319,6 +272,44 @@ void BaseListModel::reserveFor(std::size_t moreRows)
     m_idIndex.reserve(capacity);
 }
 
+/// Moves the ids at \a first and behind it by \a distance rows. The entries are gone through as
+/// they lie in memory: looking up each id takes ten times as long.
+void BaseListModel::shiftIndex(std::size_t first, int distance)
+{
+    for (auto &entry : m_idIndex) {
+        if (entry.second >= first)
+            entry.second += distance;
+    }
+}
+
+/// Removes \a count rows from \a row on, and their ids.
+void BaseListModel::eraseRows(std::size_t row, std::size_t count)
+{
+    const auto first = m_rows.begin() + std::ptrdiff_t(row);
+    const auto end = first + std::ptrdiff_t(count);
+    // Without repeated ids, each row has an entry of its own.
+    if (m_idIndex.size() == m_rows.size()) {
+        for (auto removed = first; removed != end; ++removed)
+            m_idIndex.erase(removed->first);
+        m_rows.erase(first, end);
+        if (row < m_rows.size())
+            shiftIndex(row, -int(count));
+    } else {
+        m_rows.erase(first, end);
+        m_idIndex.clear();
+        indexRows(m_rows, 0);
+    }
+}
+
+/// Emits what follows the insertion of rows.
+void BaseListModel::finishInsertion()
+{
+    const QPointer<BaseListModel> self = this;
+    endInsertRows();
+    if (self)
+        Q_EMIT countChanged(getCount());
+}
+
 /// Enters the ids of \a rows from the position \a first on.
 void BaseListModel::indexRows(const std::vector<ModelRow> &rows, std::size_t first)
 {
@@ -333,36 +324,37 @@ void BaseListModel::appendRest(const std::vector<ModelRow> &rows)
     beginInsertRows(QModelIndex(), int(size), int(rows.size()) - 1);
     reserveFor(rows.size() - size);
     m_rows.insert(m_rows.end(), rows.begin() + std::ptrdiff_t(size), rows.end());
-    endInsertRows();
-    Q_EMIT countChanged(getCount());
+    finishInsertion();
 }
 
 /// Assigns the rows that differ from \a rows and reports each maximal run of them. The index is
 /// made anew only where an id changes its place: filling it costs as much as all the comparing.
 void BaseListModel::assignChangedRows(const std::vector<ModelRow> &rows)
 {
+    const QPointer<BaseListModel> self = this;
     bool isReindexed = false;
     QModelIndex first;
     QModelIndex last;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const bool hasSameId = m_rows[i].first == rows[i].first;
-        if (hasSameId && haveSameRoles(m_rows[i], rows[i]))
+        if (m_rows[i] == rows[i])
             continue;
-        if (!hasSameId && !isReindexed) {
+        if (!isReindexed && m_rows[i].first != rows[i].first) {
             m_idIndex.clear();
             indexRows(rows, 0);
             isReindexed = true;
         }
-        m_rows[i] = rows[i];
         const QModelIndex changed = index(int(i), 0, QModelIndex());
-        if (first.isValid() && int(i) == last.row() + 1) {
-            last = changed;
-            continue;
-        }
-        if (first.isValid())
+        const bool continuesRun = first.isValid() && int(i) == last.row() + 1;
+        if (first.isValid() && !continuesRun) {
+            // Before the row changes, as in appendOrUpdate().
             Q_EMIT dataChanged(first, last);
-        first = changed;
+            if (!self)
+                return;
+        }
+        if (!continuesRun)
+            first = changed;
         last = changed;
+        m_rows[i] = rows[i];
     }
     if (!first.isValid())
         return;

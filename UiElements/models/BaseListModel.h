@@ -23,9 +23,10 @@ using ModelRow = std::pair<std::string, std::unordered_map<int, QVariant>>;
 /// for lists that fit in memory, 10,000 rows at most; LazyLoadedListModel serves longer ones.
 ///
 /// Each operation copies what it is given. The signals of each, their order and their arguments are
-/// part of the contract, also where they are more or other than Qt expects of a model: see
-/// docs/list-models.md for what to avoid under a proxy. Don't change the model from a slot that one
-/// of its signals runs.
+/// part of the contract; docs/list-models.md says which to avoid under a proxy and in QML. A slot
+/// may delete the model, but not in rowsAboutToBeInserted() and rowsAboutToBeRemoved(), after which
+/// Qt goes on with it. Don't change the model from a slot of its own signals.
+/// Insert and remove in ranges: each call costs time for all rows of the model, however few move.
 ///
 /// Not supported: moved rows, editing in views (flags() stays Qt's), trees.
 class UIELEMENTS_EXPORT BaseListModel : public QAbstractListModel
@@ -57,9 +58,8 @@ public:
     /// Returns the names that QML and views know the roles by.
     QHash<int, QByteArray> roleNames() const override = 0;
 
-    /// Returns the value of \a role in the row at \a index. Without a message, the value is invalid
-    /// when there is no such row or \a role is not above Qt::UserRole; with a warning, when the row
-    /// lacks the role.
+    /// Returns the value of \a role in the row at \a index. It is invalid when there is no such row
+    /// or \a role is not above Qt::UserRole, and, with a warning, when the row lacks the role.
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
 
     /// True when a row has the id \a id.
@@ -73,8 +73,8 @@ public:
         return found == m_idIndex.end() ? -1 : int(found->second);
     }
 
-    /// Returns a copy of the first row with the id \a id; a row with an empty id and no roles
-    /// without one. Goes through the rows: for the position alone, take getRowIndex().
+    /// Returns a copy of the first row with the id \a id, or one with an empty id and no roles.
+    /// Goes through the rows: for the position alone, take getRowIndex().
     ModelRow getRowById(const std::string &id) const;
 
     /// Returns a copy of all rows.
@@ -88,25 +88,23 @@ public:
     /// Overwrites rows whose ids are known, and hands the others to appendRows().
     ///
     /// Emits dataChanged() without roles for each run of consecutive positions, in the order of
-    /// \a rows. Row 0 counts as the start of the first run, whether or not it is among them, so a
-    /// list that overwrites nothing, the empty one included, reports row 0.
+    /// \a rows, before the row after it is overwritten. The first run starts at row 0, whether or
+    /// not that is among them, so a list that overwrites nothing or is empty reports row 0.
     void appendOrUpdate(const std::vector<ModelRow> &rows);
 
     /// Qt's function of the same name, which inserts nothing here.
     using QAbstractListModel::insertRows;
 
     /// Inserts \a rows before the position \a row and emits countChanged(). Ids are not compared: a
-    /// repeated one is stored. Any \a row that is not a position in the model, in an empty one as
-    /// well, means appendRows(). More rows than the model may hold change nothing and log a
-    /// warning.
+    /// repeated one is stored. Any \a row that is not a position in the model means appendRows().
+    /// More rows than the model may hold change nothing and log a warning.
     void insertRows(int row, const std::vector<ModelRow> &rows);
 
     /// Makes the model equal to \a rows, position by position: removes or appends at the end, with
     /// countChanged(), and then emits dataChanged() without roles for each maximal run of changed
-    /// rows, in ascending order. The present contents emit nothing.
-    ///
-    /// An empty list is clear(), and an empty model takes appendRows(); otherwise there is no limit
-    /// to the rows, and repeated ids are kept.
+    /// rows, in ascending order and before the next one is assigned. The present contents emit
+    /// nothing. An empty list is clear(), and an empty model takes appendRows(); otherwise there is
+    /// no limit to the rows, and repeated ids are kept.
     void replace(const std::vector<ModelRow> &rows);
 
     /// Removes \a count rows from \a row on and emits countChanged(). A range that is not wholly in
@@ -140,6 +138,9 @@ private:
     void warnOfUndefinedRole(int row, int role) const;
     void reserveFor(std::size_t moreRows);
     void indexRows(const std::vector<ModelRow> &rows, std::size_t first);
+    void shiftIndex(std::size_t first, int distance);
+    void eraseRows(std::size_t row, std::size_t count);
+    void finishInsertion();
     void appendRest(const std::vector<ModelRow> &rows);
     void assignChangedRows(const std::vector<ModelRow> &rows);
 

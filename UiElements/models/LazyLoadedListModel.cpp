@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LazyLoadedListModel.h"
 
+#include <QPointer>
 #include <QStandardItem>
 
 #include <numeric>
@@ -17,8 +18,10 @@ void LazyLoadedListModel::setPagingConfig(unsigned int pageSize, unsigned int st
     m_pageSize = int(pageSize);
     m_storagePages = int(storagePages);
     m_storageSize = m_pageSize * m_storagePages;
+    const QPointer<LazyLoadedListModel> self = this;
     reset();
-    m_configured = true;
+    if (self)
+        m_configured = true;
 }
 
 // Here and below the count changes after the signals: listeners rely on that order.
@@ -26,8 +29,11 @@ void LazyLoadedListModel::reset()
 {
     eraseStorage();
     if (m_lastIndex >= 0) {
+        const QPointer<LazyLoadedListModel> self = this;
         beginRemoveRows(QModelIndex(), 0, m_lastIndex);
         endRemoveRows();
+        if (!self)
+            return;
     }
     m_lastIndex = -1;
     m_startIndex = 0;
@@ -41,12 +47,14 @@ void LazyLoadedListModel::setSize(int size)
         return;
     if (size > this->size()) {
         beginInsertRows(QModelIndex(), m_lastIndex + 1, size - 1);
-        endInsertRows();
-        m_lastIndex = size - 1;
+        finishGrowth(size);
         return;
     }
+    const QPointer<LazyLoadedListModel> self = this;
     beginRemoveRows(QModelIndex(), size, m_lastIndex);
     endRemoveRows();
+    if (!self)
+        return;
     m_lastIndex = size - 1;
     if (size < m_startIndex) {
         m_startIndex = 0;
@@ -55,6 +63,14 @@ void LazyLoadedListModel::setSize(int size)
     }
     for (int i = size - m_startIndex; i < m_storageSize; ++i)
         delete std::exchange(m_storage[i], nullptr);
+}
+
+void LazyLoadedListModel::finishGrowth(int size)
+{
+    const QPointer<LazyLoadedListModel> self = this;
+    endInsertRows();
+    if (self)
+        m_lastIndex = size - 1;
 }
 
 int LazyLoadedListModel::rowCount(const QModelIndex &) const { return size(); }
@@ -97,8 +113,7 @@ bool LazyLoadedListModel::setItemAtIndex(int index, QStandardItem *item)
     deleteItemAtIndex(index);
     beginInsertRows(QModelIndex(), m_lastIndex + 1, index);
     m_storage[index - m_startIndex] = item;
-    endInsertRows();
-    m_lastIndex = index;
+    finishGrowth(index + 1);
     return true;
 }
 
@@ -109,8 +124,16 @@ void LazyLoadedListModel::setItemsAtPage(int page, const QVector<QStandardItem *
         return;
     const int first = pageToIndex(page);
     const int count = items.size();
-    for (int i = 0; i < count; ++i)
-        setItemAtIndex(first + i, items.at(i));
+    const QPointer<LazyLoadedListModel> self = this;
+    // A slot that deletes the model may take the caller's list with it.
+    const QVector<QStandardItem *> taken = items;
+    for (int i = 0; i < count; ++i) {
+        setItemAtIndex(first + i, taken.at(i));
+        if (!self) {
+            qDeleteAll(taken.begin() + i + 1, taken.end());
+            return;
+        }
+    }
     if (count >= m_pageSize)
         return;
     for (int i = count; i < m_pageSize; ++i)
@@ -131,7 +154,8 @@ int LazyLoadedListModel::getStorageSize() const { return m_storageSize; }
 
 bool LazyLoadedListModel::isInWindow(int index) const
 {
-    return index >= m_startIndex && index - m_startIndex < m_storageSize;
+    // The storage is shorter than the window while its items are deleted.
+    return index >= m_startIndex && index - m_startIndex < m_storage.size();
 }
 
 void LazyLoadedListModel::scrollUp(int page)
@@ -142,9 +166,8 @@ void LazyLoadedListModel::scrollUp(int page)
         return;
     }
     const int newRows = pageToIndex(newPages);
-    const auto firstLeaving = m_storage.end() - newRows;
-    qDeleteAll(firstLeaving, m_storage.end());
-    m_storage.erase(firstLeaving, m_storage.end());
+    for (int i = 0; i < newRows; ++i)
+        delete m_storage.takeLast();
     m_storage.insert(0, newRows, nullptr);
     m_startIndex = pageToIndex(page);
     requestPages(page, newPages);
@@ -158,9 +181,9 @@ void LazyLoadedListModel::scrollDown(int page)
         return;
     }
     const int newRows = pageToIndex(newPages);
-    const auto firstStaying = m_storage.begin() + newRows;
-    qDeleteAll(m_storage.begin(), firstStaying);
-    m_storage.erase(m_storage.begin(), firstStaying);
+    for (int i = 0; i < newRows; ++i)
+        delete std::exchange(m_storage[i], nullptr);
+    m_storage.remove(0, newRows);
     m_storage.insert(m_storage.size(), newRows, nullptr);
     m_startIndex = pageToIndex(page);
     requestPages(page + m_storagePages - newPages, newPages);
@@ -189,8 +212,8 @@ void LazyLoadedListModel::deleteItemAtIndex(int index)
 
 void LazyLoadedListModel::clearList()
 {
-    qDeleteAll(m_storage);
-    m_storage.clear();
+    while (!m_storage.isEmpty())
+        delete m_storage.takeLast();
 }
 
 void LazyLoadedListModel::eraseStorage()

@@ -17,7 +17,10 @@ class QStandardItem;
 ///
 /// A window move emits no model signal: the rows are the same, and dataChanged() follows as their
 /// items arrive. Row counts change only after Qt's signals of the change, which Qt expects the
-/// other way round: see docs/list-models.md for what to avoid under a proxy.
+/// other way round: see docs/list-models.md for what to avoid under a proxy and in QML.
+///
+/// A slot may delete the model in each of its signals but rowsAboutToBeInserted() and
+/// rowsAboutToBeRemoved(), after which Qt goes on with it.
 class UIELEMENTS_EXPORT LazyLoadedListModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -72,7 +75,8 @@ public:
     /// than a page has rows mark the end of the list.
     ///
     /// A page that the window has left is dropped without a sign, and so are items past the window:
-    /// they stay the caller's to delete. getStartIndex() tells beforehand.
+    /// they stay the caller's to delete. getStartIndex() tells beforehand. When a slot deletes the
+    /// model meanwhile, all of \a items are deleted.
     void setItemsAtPage(int page, const QVector<QStandardItem *> &items);
 
     /// Returns the row that the window starts at, a multiple of the page size.
@@ -97,6 +101,7 @@ protected:
 
 private:
     bool isInWindow(int index) const;
+    void finishGrowth(int size);
     void scrollUp(int page);
     void scrollDown(int page);
     void jumpTo(int page);

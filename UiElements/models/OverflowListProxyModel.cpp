@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OverflowListProxyModel.h"
 
+#include <QPointer>
+
 OverflowListProxyModel::OverflowListProxyModel(QObject *parent) : QSortFilterProxyModel(parent) { }
 
 OverflowListProxyModel::OverflowListProxyModel(QObject *parent, int firstVisibleIndex)
@@ -17,8 +19,10 @@ void OverflowListProxyModel::setFirstVisibleIndex(int index)
     if (index == m_firstVisibleIndex)
         return;
     m_firstVisibleIndex = index;
+    const QPointer<OverflowListProxyModel> self = this;
     Q_EMIT firstVisibleIndexChanged();
-    invalidateFilter();
+    if (self)
+        invalidateFilter();
 }
 
 QString OverflowListProxyModel::header() const { return m_header; }

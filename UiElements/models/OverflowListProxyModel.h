@@ -11,6 +11,9 @@
 /// The filter looks at a row when it comes, when it changes, and when firstVisibleIndex is set. A
 /// row that stays while others come or go before it keeps its state, as in any
 /// QSortFilterProxyModel.
+///
+/// A slot may delete the proxy in firstVisibleIndexChanged() and headerChanged(), but not in the
+/// signals of Qt's classes, which go on with the proxy afterwards.
 class UIELEMENTS_EXPORT OverflowListProxyModel : public QSortFilterProxyModel
 {
     Q_OBJECT

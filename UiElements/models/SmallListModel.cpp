@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SmallListModel.h"
 
+#include <QPointer>
+
 #include <algorithm>
 #include <utility>
 
@@ -46,6 +48,7 @@ void SmallListModel::add(const std::vector<Row> &rows)
 
 void SmallListModel::remove(const std::vector<Row> &rows)
 {
+    const QPointer<SmallListModel> self = this;
     for (const Row &row : rows) {
         const auto found = std::find(m_rows.begin(), m_rows.end(), row);
         if (found == m_rows.end())
@@ -54,19 +57,27 @@ void SmallListModel::remove(const std::vector<Row> &rows)
         beginRemoveRows(QModelIndex(), position, position);
         m_rows.erase(found);
         endRemoveRows();
+        if (!self)
+            return;
     }
 }
 
 void SmallListModel::replace(const std::vector<Row> &rows)
 {
+    const QPointer<SmallListModel> self = this;
     beginResetModel();
+    if (!self)
+        return;
     m_rows = rows;
     endResetModel();
 }
 
 void SmallListModel::clear()
 {
+    const QPointer<SmallListModel> self = this;
     beginResetModel();
+    if (!self)
+        return;
     m_rows.clear();
     endResetModel();
 }

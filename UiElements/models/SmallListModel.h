@@ -11,6 +11,9 @@
 
 /// A table of role values for short lists whose rows are built by hand, without ids and without a
 /// limit. Where rows are found by id or replaced often, take BaseListModel.
+///
+/// A slot may delete the model, but not in rowsAboutToBeInserted() and rowsAboutToBeRemoved(),
+/// after which Qt goes on with it.
 class UIELEMENTS_EXPORT SmallListModel : public QAbstractListModel
 {
     Q_OBJECT

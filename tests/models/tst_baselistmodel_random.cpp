@@ -2,7 +2,12 @@
 #include "ReferenceList.h"
 #include "support/RandomSeed.h"
 
+#include <QRegularExpression>
+#include <QSortFilterProxyModel>
 #include <QTest>
+
+#include <algorithm>
+#include <set>
 
 namespace {
 
@@ -124,6 +129,59 @@ ModelRow firstRow(const ReferenceList &reference, const std::string &id)
     return position < 0 ? ModelRow() : reference.rows[position];
 }
 
+std::vector<ModelRow> withoutRepeats(const std::vector<ModelRow> &rows)
+{
+    std::vector<ModelRow> result;
+    std::set<std::string> ids;
+    for (const ModelRow &row : rows) {
+        if (ids.insert(row.first).second)
+            result.push_back(row);
+    }
+    return result;
+}
+
+/// Does one operation that announces as many rows as come, and returns its name.
+QString doOneWithoutRepeats(Dice &dice, LetterListModel &model)
+{
+    const std::vector<ModelRow> given = withoutRepeats(dice.rows(2 * letters));
+    const int size = model.getCount();
+    if (size == 0) {
+        model.appendRows(given);
+        return QStringLiteral("appendRows");
+    }
+    const int row = dice.from(0, size - 1);
+    switch (dice.from(0, 9)) {
+    case 0:
+        model.removeRows(row, dice.from(1, size - row));
+        return QStringLiteral("removeRows");
+    case 1:
+        model.insertRows(row, dice.rows(3));
+        return QStringLiteral("insertRows");
+    case 2:
+        model.setRoleValueForRow(dice.row().first,
+                                 { { LetterListModel::Letter, QStringLiteral("E") } });
+        return QStringLiteral("setRoleValueForRow");
+    case 3:
+    case 4:
+    case 5:
+        model.appendOrUpdate(given);
+        return QStringLiteral("appendOrUpdate");
+    default:
+        model.replace(dice.changed(model.getRows()));
+        return QStringLiteral("replace");
+    }
+}
+
+/// Passes other letters in upper than in lower case, so that a change may hide a row.
+constexpr char shownLetters[] = "[a-fC-H]";
+
+QString sortedAndFiltered(QString shown)
+{
+    shown.remove(QRegularExpression(QStringLiteral("[ABgh]")));
+    std::sort(shown.begin(), shown.end());
+    return shown;
+}
+
 } // namespace
 
 /// A BaseListModel against a plain list, through many random operations.
@@ -133,6 +191,7 @@ class tst_BaseListModelRandom : public QObject
 
 private Q_SLOTS:
     void doesWhatAPlainListDoes();
+    void keepsAProxySortedAndFiltered();
 };
 
 void tst_BaseListModelRandom::doesWhatAPlainListDoes()
@@ -152,6 +211,26 @@ void tst_BaseListModelRandom::doesWhatAPlainListDoes()
         QCOMPARE(what + misfound(model, reference), what);
         const std::string id = dice.row().first;
         QVERIFY2(model.getRowById(id) == firstRow(reference, id), qPrintable(what));
+    }
+}
+
+void tst_BaseListModelRandom::keepsAProxySortedAndFiltered()
+{
+    Dice dice;
+    LetterListModel model;
+    QSortFilterProxyModel proxy;
+    proxy.setSourceModel(&model);
+    proxy.setSortRole(LetterListModel::Letter);
+    proxy.setFilterRole(LetterListModel::Letter);
+    proxy.setFilterRegularExpression(QString::fromLatin1(shownLetters));
+    proxy.sort(0);
+    for (int i = 0; i < 10000; ++i) {
+        const QString before = model.text();
+        const QString what = QStringLiteral("%1: %2 of %3: ")
+                                     .arg(i)
+                                     .arg(doOneWithoutRepeats(dice, model), before);
+        QCOMPARE(what + ModelLog::rows(proxy, LetterListModel::Letter),
+                 what + sortedAndFiltered(model.text()));
     }
 }
 

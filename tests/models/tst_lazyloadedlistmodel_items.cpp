@@ -22,6 +22,23 @@ public:
     static void operator delete(void *, void *) { }
 };
 
+/// An item that notes at its end what the model still holds.
+class LastWords : public QStandardItem
+{
+    Q_DISABLE_COPY_MOVE(LastWords)
+
+public:
+    LastWords(QChar letter, const LazyLetterModel &model, SignalLog &log)
+        : QStandardItem(letter), m_model(model), m_log(log)
+    {
+    }
+    ~LastWords() override { m_log.note(text() + QLatin1Char(':') + m_model.window()); }
+
+private:
+    const LazyLetterModel &m_model;
+    SignalLog &m_log;
+};
+
 } // namespace
 
 /// Who owns the items of a LazyLoadedListModel: each is alive as long as somebody holds it. The
@@ -52,6 +69,7 @@ private Q_SLOTS:
 
     void deletesItsItemsAtTheEnd();
     void deletesItsItemsOnReset();
+    void deletesItemsThatItNoLongerHolds();
 };
 
 void tst_LazyLoadedListModelItems::takesAnItem()
@@ -283,6 +301,27 @@ void tst_LazyLoadedListModelItems::deletesItsItemsOnReset()
     QCOMPARE(model.size(), 0);
     // The paging stays.
     QCOMPARE(model.window(), QStringLiteral("...."));
+}
+
+void tst_LazyLoadedListModelItems::deletesItemsThatItNoLongerHolds()
+{
+    LazyLetterModel model(2, 3, 100);
+    SignalLog log;
+    const auto fill = [&](int page, const char *letters) {
+        QVector<QStandardItem *> items;
+        for (const char letter : QByteArray(letters))
+            items += new LastWords(QLatin1Char(letter), model, log);
+        model.setItemsAtPage(page, items);
+    };
+    model.setScrolledIndex(10);
+    fill(4, "abcdef");
+    model.setScrolledIndex(8);
+    QCOMPARE(log.take(), QStringLiteral("f:abcde. | e:abcd.."));
+    QCOMPARE(model.window(), QStringLiteral("..abcd"));
+    model.setScrolledIndex(12);
+    QCOMPARE(log.take(), QStringLiteral("a:...bcd | b:....cd"));
+    model.reset();
+    QCOMPARE(log.take(), QStringLiteral("d:c..... | c:......"));
 }
 
 QTEST_MAIN(tst_LazyLoadedListModelItems)

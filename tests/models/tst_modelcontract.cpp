@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "LazyLetterModel.h"
-#include "LetterListModel.h"
+#include "tst_modelcontract.h"
 
-#include <UiElements/models/EmptyStateBaseListModel.h>
-#include <UiElements/models/OverflowListProxyModel.h>
-#include <UiElements/models/SmallListModel.h>
+#include "ModelScenario.h"
 
 #include <QAbstractItemModelTester>
 #include <QListView>
@@ -14,12 +11,9 @@
 #include <QTest>
 #include <QTreeView>
 
-#include <functional>
-#include <memory>
+using namespace ModelScenarios;
 
 namespace {
-
-constexpr int letterRole = Qt::UserRole + 1;
 
 /// Collects all messages, those of QAbstractItemModelTester under the category "qt.modeltest".
 class Complaints
@@ -75,98 +69,7 @@ protected:
     }
 };
 
-using Rows = std::vector<std::unordered_map<int, QVariant>>;
-using ModelPointer = std::shared_ptr<QAbstractItemModel>;
-
-/// A model in some state, and what is done to it.
-struct Scenario
-{
-    std::function<ModelPointer()> make;
-    std::function<void(QAbstractItemModel &)> run;
-};
-
-/// \a run on a list of letters.
-Scenario letters(const char *before, std::function<void(LetterListModel &)> run)
-{
-    return { [before] { return std::make_shared<LetterListModel>(QString::fromLatin1(before)); },
-             [run](QAbstractItemModel &model) { run(static_cast<LetterListModel &>(model)); } };
-}
-
-/// \a run on a paged list: pages of two rows, three of them in the window.
-Scenario pages(int size, std::function<void(LazyLetterModel &)> run)
-{
-    return { [size] { return std::make_shared<FlatLazyLetterModel>(2, 3, size); },
-             [run](QAbstractItemModel &model) { run(static_cast<LazyLetterModel &>(model)); } };
-}
-
-/// \a run on a small list of two equal rows.
-Scenario small(std::function<void(SmallListModel &)> run)
-{
-    const auto make = [] {
-        const QHash<int, QByteArray> names { { letterRole, "letter" } };
-        const auto model = std::make_shared<SmallListModel>(names, nullptr, QVariant());
-        model->replace(Rows(2, { { letterRole, QStringLiteral("a") } }));
-        return model;
-    };
-    return { make,
-             [run](QAbstractItemModel &model) { run(static_cast<SmallListModel &>(model)); } };
-}
-
-/// \a run on the tail of a list of letters, from row 2 on, and on the list.
-Scenario tail(std::function<void(OverflowListProxyModel &, LetterListModel &)> run)
-{
-    const auto make = [] {
-        const auto proxy = std::make_shared<OverflowListProxyModel>(nullptr, 1);
-        auto *source = new LetterListModel(QStringLiteral("abcdef"));
-        source->setParent(proxy.get());
-        proxy->setSourceModel(source);
-        return proxy;
-    };
-    return { make, [run](QAbstractItemModel &model) {
-                auto &proxy = static_cast<OverflowListProxyModel &>(model);
-                run(proxy, static_cast<LetterListModel &>(*proxy.sourceModel()));
-            } };
-}
-
-class EmptyStateLetters : public EmptyStateBaseListModel
-{
-public:
-    QHash<int, QByteArray> roleNames() const override { return { { letterRole, "letter" } }; }
-};
-
-/// \a run on a list that has an empty state, and is empty.
-Scenario emptyState(std::function<void(EmptyStateLetters &)> run)
-{
-    return { [] { return std::make_shared<EmptyStateLetters>(); },
-             [run](QAbstractItemModel &model) { run(static_cast<EmptyStateLetters &>(model)); } };
-}
-
-std::vector<ModelRow> rows(const char *letters)
-{
-    return LetterListModel::rowsOf(QString::fromLatin1(letters));
-}
-
-QStandardItem *item(const char *letter) { return new CountedItem(QString::fromLatin1(letter)); }
-
 } // namespace
-
-Q_DECLARE_METATYPE(Scenario)
-
-/// Which scenarios keep Qt's contract of models, by QAbstractItemModelTester, and which don't. The
-/// signals are the same in both; docs/list-models.md says what to avoid where they part.
-class tst_ModelContract : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void keepsQtsContract_data();
-    void keepsQtsContract();
-    void partsFromQtsContract_data();
-    void partsFromQtsContract();
-    void partsFromQtsContractWithRowsBelowItsRows();
-    void letsRowsThatGrowTheListPassAFilterUnseen();
-    void paintsNothingWhenNothingIsReplaced();
-};
 
 void tst_ModelContract::keepsQtsContract_data()
 {
@@ -374,4 +277,4 @@ void tst_ModelContract::paintsNothingWhenNothingIsReplaced()
 }
 
 QTEST_MAIN(tst_ModelContract)
-#include "tst_modelcontract.moc"
+#include "moc_tst_modelcontract.cpp"
