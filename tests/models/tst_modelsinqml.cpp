@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "LazyLetterModel.h"
-#include "LetterListModel.h"
-
-#include <UiElements/models/EmptyStateBaseListModel.h>
-#include <UiElements/models/OverflowListProxyModel.h>
-#include <UiElements/models/SmallListModel.h>
+#include "ModelChanges.h"
+#include "ModelScenario.h"
 
 #include <QQmlComponent>
 #include <QQmlContext>
@@ -14,18 +10,9 @@
 
 #include <memory>
 
+using namespace ModelScenarios;
+
 namespace {
-
-class EmptyStateLetters : public EmptyStateBaseListModel
-{
-    Q_OBJECT
-
-public:
-    QHash<int, QByteArray> roleNames() const override
-    {
-        return { { LetterListModel::Letter, "letter" } };
-    }
-};
 
 /// A list view that shows the role "letter" of whatever model it is given.
 constexpr char listView[] = R"(
@@ -44,15 +31,32 @@ constexpr char listView[] = R"(
         %1
     })";
 
-/// A scene with that view, of which texts and properties can be asked.
+/// The same with a repeater. A row that it makes no item for is a question mark.
+constexpr char repeater[] = R"(
+    import QtQuick 2.15
+    Column {
+        Repeater {
+            id: repeater
+            model: given
+            delegate: Text { text: letter === undefined ? "." : letter; height: 10 }
+        }
+        function text() {
+            var texts = "";
+            for (var i = 0; i < repeater.count; ++i)
+                texts += repeater.itemAt(i) ? repeater.itemAt(i).text : "?";
+            return texts;
+        }
+    })";
+
+/// A scene with such a view, of which texts and properties can be asked.
 class Scene
 {
 public:
-    explicit Scene(QObject *model, const char *more = "")
+    explicit Scene(QObject *model, const char *more = "", const char *view = listView)
     {
         m_engine.rootContext()->setContextProperty(QStringLiteral("given"), model);
         QQmlComponent component(&m_engine);
-        component.setData(QByteArray(listView).replace("%1", more), QUrl());
+        component.setData(QByteArray(view).replace("%1", more), QUrl());
         m_item.reset(qobject_cast<QQuickItem *>(component.create()));
         if (!m_item)
             qWarning().noquote() << component.errorString();
@@ -90,6 +94,11 @@ private Q_SLOTS:
     void showsTheTailThroughAProxy();
     void makesAProxyItself();
     void showsTheEmptyState();
+
+    void showsChangesThatPartFromQtsContract_data();
+    void showsChangesThatPartFromQtsContract();
+    void showsTheTrueRowsAfterAReset();
+    void leavesRowsEmptyThatComeWhileARepeaterIsAttached();
 };
 
 void tst_ModelsInQml::showsABaseListModel()
@@ -234,6 +243,100 @@ void tst_ModelsInQml::showsTheEmptyState()
     model.appendRows(LetterListModel::rowsOf(QStringLiteral("a")));
     QCOMPARE(scene.property("summary").toString(), QString());
     QCOMPARE(scene.text(), QStringLiteral("a"));
+}
+
+void tst_ModelsInQml::showsChangesThatPartFromQtsContract_data()
+{
+    QTest::addColumn<Scenario>("scenario");
+    QTest::addColumn<QString>("rows");
+    QTest::addColumn<QString>("inListView");
+    QTest::addColumn<QString>("inRepeater");
+    QTest::addColumn<QString>("skipped");
+    const auto row = [](const char *name, const char *rows, const char *inListView,
+                        const char *inRepeater, const Scenario &scenario,
+                        const char *skipped = "") {
+        QTest::newRow(name) << scenario << QString::fromLatin1(rows)
+                            << QString::fromLatin1(inListView) << QString::fromLatin1(inRepeater)
+                            << QString::fromLatin1(skipped);
+    };
+    row("more rows announced than arrive", "abcde", "abcde.", "abcde.",
+        letters("abc", [](auto &model) { model.appendRows(rows("dbe")); }), "b");
+    row("a known id inserted at the end", "abcd", "abcd.", "abcd.",
+        letters("abc", [](auto &model) { model.insertRows(3, rows("dA")); }), "a");
+    row("an id twice in the rows that replace nothing", "ab", "ab.", "ab.",
+        letters("", [](auto &model) { model.replace(rows("abA")); }), "a");
+    row("new rows with an id twice", "abcd", "abcd.", "abcd.",
+        letters("abc", [](auto &model) { model.appendOrUpdate(rows("dd")); }), "d");
+    row("row 0 reported, which isn't there", "", "", "",
+        letters("", [](auto &model) { model.appendOrUpdate({}); }));
+    row("row 0 reported before the first rows come", "ab", "ab", "ab",
+        letters("", [](auto &model) { model.appendOrUpdate(rows("ab")); }));
+    row("rows removed below a row", "bc", "abc", "abc",
+        letters("abc", [](auto &model) { model.removeRows(0, 1, model.index(0)); }));
+    row("pages: a size set", "....", "....", "....",
+        pages(0, [](auto &model) { model.setSize(4); }));
+    row("pages: a larger size set", "......", "......", "......",
+        pages(4, [](auto &model) { model.setSize(6); }));
+    row("pages: a smaller size set", "..", "..", "..",
+        pages(4, [](auto &model) { model.setSize(2); }));
+    row("pages: reset", "", "", "", pages(4, [](auto &model) { model.reset(); }));
+    row("pages: paging set anew", "", "", "",
+        pages(4, [](auto &model) { model.setPagingConfig(2, 2); }));
+    row("pages: an item past the end", ".....f", ".....f", "......",
+        pages(4, [](auto &model) { model.setItemAtIndex(5, item("f")); }));
+    row("pages: a page past the end", "..cd", "..cd", "....", pages(2, [](auto &model) {
+            model.setItemsAtPage(1, { item("c"), item("d") });
+        }));
+    row("pages: a short page before the end", "..c", "..c", "..c",
+        pages(9, [](auto &model) { model.setItemsAtPage(1, { item("c") }); }));
+}
+
+void tst_ModelsInQml::showsChangesThatPartFromQtsContract()
+{
+    QFETCH(const Scenario, scenario);
+    const auto model = scenario.make();
+    const Scene list(model.get());
+    const Scene repeated(model.get(), "", repeater);
+    QCOMPARE(list.text(), repeated.text());
+    QFETCH(const QString, skipped);
+    expectSkipped(skipped);
+    scenario.run(*model);
+    QTEST(ModelLog::rows(*model, letterRole), "rows");
+    QTEST(list.text(), "inListView");
+    QTEST(repeated.text(), "inRepeater");
+}
+
+void tst_ModelsInQml::showsTheTrueRowsAfterAReset()
+{
+    LetterListModel model(QStringLiteral("abc"));
+    const Scene list(&model);
+    const Scene repeated(&model, "", repeater);
+    expectSkipped(QStringLiteral("a"));
+    model.appendRows(rows("ad"));
+    model.appendRows(rows("e"));
+    QCOMPARE(list.text(), QStringLiteral("abcde."));
+    QCOMPARE(repeated.text(), QStringLiteral("abcde."));
+    model.clear();
+    model.appendRows(rows("xy"));
+    QCOMPARE(list.text(), QStringLiteral("xy"));
+    QCOMPARE(repeated.text(), QStringLiteral("xy"));
+}
+
+// The repeater works out where its items are while the model still has the old number of rows.
+void tst_ModelsInQml::leavesRowsEmptyThatComeWhileARepeaterIsAttached()
+{
+    FlatLazyLetterModel model(2, 3, 2);
+    const Scene list(&model);
+    const Scene attached(&model, "", repeater);
+    model.setSize(4);
+    model.setItemsAtPage(0, LazyLetterModel::itemsOf(QStringLiteral("ab")));
+    model.setItemsAtPage(1, LazyLetterModel::itemsOf(QStringLiteral("cd")));
+    QCOMPARE(list.text(), QStringLiteral("abcd"));
+    QCOMPARE(attached.text(), QStringLiteral("ab.."));
+    const Scene attachedLater(&model, "", repeater);
+    QCOMPARE(attachedLater.text(), QStringLiteral("abcd"));
+    model.setItemAtIndex(3, item("D"));
+    QCOMPARE(attachedLater.text(), QStringLiteral("abcD"));
 }
 
 QTEST_MAIN(tst_ModelsInQml)
