@@ -24,6 +24,25 @@ struct PlainList
         }
     }
 
+    void removeFirst()
+    {
+        rows.erase(rows.begin());
+        fillIndex();
+    }
+
+    void insertFirst(const ModelRow &row)
+    {
+        rows.insert(rows.begin(), row);
+        fillIndex();
+    }
+
+    void fillIndex()
+    {
+        idIndex.clear();
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            idIndex[rows[i].first] = i;
+    }
+
     void replace(const std::vector<ModelRow> &given)
     {
         idIndex.clear();
@@ -198,6 +217,107 @@ void lookUp(benchmark::State &state)
 }
 BENCHMARK(lookUp)->Name("getRowIndex/bare hash map")->Iterations(400)->UseManualTime();
 
+/// Returns the first \a count of all rows.
+std::vector<ModelRow> firstRows(int count)
+{
+    const std::vector<ModelRow> rows = makeAll();
+    return { rows.begin(), rows.begin() + count };
+}
+
+/// Removes \a count rows at the front of a model and of a plain list of \a size, one by one, and
+/// inserts them there again.
+void oneByOne(benchmark::State &state, int size, double gain)
+{
+    constexpr int count = 20;
+    const std::vector<ModelRow> rows = firstRows(size);
+    Model model;
+    model.appendRows(rows);
+    PlainList plain;
+    plain.append(rows);
+    Comparison comparison(state);
+    for (auto _ : state) {
+        comparison.round(
+                [&] {
+                    for (int i = 0; i < count; ++i)
+                        model.removeRows(0, 1);
+                    for (int i = count - 1; i >= 0; --i)
+                        model.insertRows(0, { rows[std::size_t(i)] });
+                },
+                [&] {
+                    for (int i = 0; i < count; ++i)
+                        plain.removeFirst();
+                    for (int i = count - 1; i >= 0; --i)
+                        plain.insertFirst(rows[std::size_t(i)]);
+                });
+    }
+    if (model.getRows() != rows || plain.rows != rows || model.getRowIndex(rows[7].first) != 7)
+        state.SkipWithError("the rows are others");
+    comparison.gainAtLeast(gain);
+}
+BENCHMARK_CAPTURE(oneByOne, small, 2500, 2.0)
+        ->Name("2,500 rows: remove and insert one by one/filling the index anew")
+        ->Iterations(20)
+        ->UseManualTime();
+BENCHMARK_CAPTURE(oneByOne, large, rowCount, 2.0)
+        ->Name("10,000 rows: remove and insert one by one/filling the index anew")
+        ->Iterations(20)
+        ->UseManualTime();
+
+/// What is done to a model of so many rows.
+using Work = void (*)(Model &, const std::vector<ModelRow> &);
+
+/// Holds \a work on four times the rows against the same on the fewer.
+void growth(benchmark::State &state, Work work)
+{
+    const std::vector<ModelRow> many = firstRows(rowCount);
+    const std::vector<ModelRow> few = firstRows(rowCount / 4);
+    Comparison comparison(state);
+    for (auto _ : state) {
+        Model large;
+        Model small;
+        comparison.round([&] { work(large, many); }, [&] { work(small, few); });
+    }
+    // Four times the rows, and caches that hold fewer of them.
+    comparison.ratioAtMost(8);
+}
+
+void appendSingly(Model &model, const std::vector<ModelRow> &rows)
+{
+    for (const ModelRow &row : rows)
+        model.appendRows({ row });
+}
+
+void removeTheLastSingly(Model &model, const std::vector<ModelRow> &rows)
+{
+    model.appendRows(rows);
+    while (model.getCount() > 0)
+        model.removeRows(model.getCount() - 1, 1);
+}
+
+void writeByIds(Model &model, const std::vector<ModelRow> &rows)
+{
+    model.appendRows(rows);
+    for (const ModelRow &row : rows)
+        model.setRoleValueForRow(row.first, { { firstRole, 1 } });
+}
+
+void updateBackwards(Model &model, const std::vector<ModelRow> &given)
+{
+    std::vector<ModelRow> rows = given;
+    model.appendRows(rows);
+    std::reverse(rows.begin(), rows.end());
+    model.appendOrUpdate(rows);
+}
+
+/// Each row takes another's place, so that all ids move.
+void replaceByRotated(Model &model, const std::vector<ModelRow> &given)
+{
+    std::vector<ModelRow> rows = given;
+    model.appendRows(rows);
+    std::rotate(rows.begin(), rows.begin() + 1, rows.end());
+    model.replace(rows);
+}
+
 /// Registers \a function for each share of changed rows, as "every nth".
 void registerShares(const std::string &peer, void (*function)(benchmark::State &, int))
 {
@@ -210,7 +330,24 @@ void registerShares(const std::string &peer, void (*function)(benchmark::State &
     }
 }
 
-const bool areSharesRegistered = [] {
+/// Registers the operations that go through all that they are given.
+void registerGrowths()
+{
+    const std::pair<const char *, Work> works[] = {
+        { "append one by one", appendSingly },
+        { "remove the last one by one", removeTheLastSingly },
+        { "write values by id", writeByIds },
+        { "update backwards", updateBackwards },
+        { "replace by rotated", replaceByRotated },
+    };
+    for (const auto &[what, work] : works) {
+        const std::string name = std::string("10,000 rows: ") + what + "/2,500 rows";
+        benchmark::RegisterBenchmark(name.c_str(), growth, work)->Iterations(20)->UseManualTime();
+    }
+}
+
+const bool areRegistered = [] {
+    registerGrowths();
     registerShares("compare and assign", againstCompareAndAssign);
     registerShares("setData of a standard model", againstStandardModel);
     return true;
