@@ -2,6 +2,7 @@
 #include "EmojiMarkup_p.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -11,6 +12,17 @@ const QLatin1String altStart("alt=\"");
 const QLatin1String placeholderStart("svgFile=");
 const QLatin1String placeholderEnd("unicode");
 const QLatin1String suffix(".svg");
+
+// A mark's number is two digits of this base, which are characters of the private use area.
+constexpr std::size_t markBase = 0x1000;
+constexpr ushort firstDigit = 0xE000;
+
+void appendMark(QString &markup, std::size_t number)
+{
+    markup += QChar::ObjectReplacementCharacter;
+    markup += QChar(ushort(firstDigit + number / markBase));
+    markup += QChar(ushort(firstDigit + number % markBase));
+}
 
 void appendAlt(QString &markup, const QString &emoji)
 {
@@ -46,6 +58,14 @@ int endOfTag(const QString &markup, int start)
     };
     const auto end = std::find_if(markup.cbegin() + start + tagStart.size(), markup.cend(), isEnd);
     return int(end - markup.cbegin());
+}
+
+/// Returns the placeholder that begins at \a start and ends at \a end, if there is one.
+std::optional<EmojiMarkup::Source> placeholderIn(const QString &markup, int start, int end)
+{
+    if (end == markup.size() || !markup.midRef(start, end - start).startsWith(tagStart))
+        return {};
+    return EmojiMarkup::parseName(markup.mid(start, end - start));
 }
 
 } // namespace
@@ -87,6 +107,40 @@ std::optional<EmojiMarkup::Source> EmojiMarkup::parseName(const QString &name)
 QString EmojiMarkup::pictureName(const QString &emoji, int number)
 {
     return emoji + QLatin1Char('|') + QString::number(number);
+}
+
+QString EmojiMarkup::marked(const QString &markup, std::vector<Source> &sources)
+{
+    QString result;
+    result.reserve(markup.size());
+    int tagEnd = 0; // Characters before it belong to a tag.
+    for (int i = 0; i < markup.size(); ++i) {
+        const QChar character = markup.at(i);
+        std::optional<Source> source;
+        if (i >= tagEnd && character == QLatin1Char('<')) {
+            tagEnd = int(std::find(markup.cbegin() + i, markup.cend(), QLatin1Char('>'))
+                         - markup.cbegin());
+            source = placeholderIn(markup, i, tagEnd);
+        } else if (i >= tagEnd && character == QChar::ObjectReplacementCharacter) {
+            source = Source { {}, character };
+        }
+        if (!source) {
+            result += character;
+            continue;
+        }
+        appendMark(result, sources.size());
+        sources.push_back(*source);
+        i = qMax(i, tagEnd);
+    }
+    return result;
+}
+
+std::size_t EmojiMarkup::markNumber(const QString &text, int position)
+{
+    if (position + markLength > text.size())
+        return std::numeric_limits<std::size_t>::max();
+    return std::size_t(text.at(position + 1).unicode() - firstDigit) * markBase
+            + std::size_t(text.at(position + 2).unicode() - firstDigit);
 }
 
 QString EmojiMarkup::restored(const QString &markup)

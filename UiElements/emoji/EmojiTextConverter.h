@@ -42,7 +42,8 @@ struct EmojiSequence
 /// The artwork is the application's: a file ":/emojis/STEM.svg" for each sequence, where the stem
 /// is the code points in lower-case hexadecimal, at least four digits each, with "-" between them.
 /// A sequence without a file, or whose file is not a valid SVG, stays text, and nothing is logged.
-/// Files that were found are remembered for the process; files that are missing may come later.
+/// Artwork may be added, replaced and removed at any time, which shows from the next text on. Of a
+/// text with more than 64 different emoji only the first 64 are looked at again.
 ///
 /// Texts come back from restore() as they were. Some malformed sequences don't: a single regional
 /// indicator disappears with the character behind it, and so do tags behind a black flag that
@@ -78,6 +79,12 @@ public:
     /// Each picture becomes a resource of its own, named by the emoji, "|" and a number that no
     /// other picture of the process has. Images of other kinds stay as they are.
     void insertImages(QTextDocument *document) const;
+
+    /// Sets \a markup, which came from convert(), as the content of \a document, with pictures.
+    ///
+    /// The document comes out as from QTextDocument::setHtml() and insertImages(), but in time that
+    /// grows with the length of the markup: Qt needs the square of it to read image tags.
+    void setHtml(QTextDocument *document, const QString &markup) const;
 
     /// Returns \a markup with its image tags turned back into the emoji that they stand for. Both
     /// what convert() writes and what insertImages() names is understood; other images become

@@ -7,7 +7,6 @@
 
 #include <QGuiApplication>
 #include <QRegularExpression>
-#include <QTextCursor>
 #include <QTextDocument>
 
 namespace {
@@ -56,16 +55,12 @@ void OxaEmojiLabel::fillDocument(qreal textWidth)
     if (m_document->defaultStyleSheet() != styleSheet())
         m_document->setDefaultStyleSheet(styleSheet());
 
-    // Laid out once, with the pictures in it: a placeholder makes Qt look for a file.
-    QTextCursor cursor(m_document);
-    cursor.beginEditBlock();
-    m_document->setHtml(QLatin1String("<div ") + createStyle() + QLatin1Char('>') + m_elidedHtml
-                        + QLatin1String("</div>"));
-    if (shouldDrawSvgEmojis()) {
-        const EmojiTextConverter converter(fontMetrics().height(), devicePixelRatioF());
-        converter.insertImages(m_document);
-    }
-    cursor.endEditBlock();
+    const QString html = QLatin1String("<div ") + createStyle() + QLatin1Char('>') + m_elidedHtml
+            + QLatin1String("</div>");
+    if (shouldDrawSvgEmojis())
+        EmojiTextConverter(fontMetrics().height(), devicePixelRatioF()).setHtml(m_document, html);
+    else
+        m_document->setHtml(html);
 }
 
 QString OxaEmojiLabel::createElidedLine(const QString &text, bool elide, const QString &separator)

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "EmojiNotation.h"
 #include "support/EmojiArtwork.h"
+#include "support/RandomSeed.h"
 
 #include <UiElements/emoji/EmojiTextConverter.h>
 
 #include <QImage>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
@@ -52,6 +54,22 @@ int numberOf(const QTextImageFormat &image)
     return image.name().section(QLatin1Char('|'), 1).toInt();
 }
 
+/// Returns the content of \a document as markup, without the numbers of its pictures.
+QString describe(const QTextDocument &document)
+{
+    static const QRegularExpression numbers(QStringLiteral("\\|[0-9]+"));
+    return document.toHtml().remove(numbers);
+}
+
+/// Describes a document that \a text is set to at once.
+QString describeSet(const QString &text)
+{
+    QTextDocument document;
+    EmojiTextConverter converter(20, 1.0);
+    converter.setHtml(&document, converter.convert(text));
+    return describe(document);
+}
+
 } // namespace
 
 /// The pictures that EmojiTextConverter puts into a document.
@@ -75,6 +93,9 @@ private Q_SLOTS:
     void leavesOtherImagesAlone();
     void tellsOfAllPicturesAtOnce();
     void restoresTheTextFromItsMarkup();
+    void setsMarkupAsADocumentThatIsGivenPicturesLaterHasIt_data();
+    void setsMarkupAsADocumentThatIsGivenPicturesLaterHasIt();
+    void setsRandomMarkupAsADocumentThatIsGivenPicturesLaterHasIt();
 
 private:
     std::unique_ptr<EmojiArtwork> m_artwork;
@@ -209,6 +230,66 @@ void tst_EmojiTextConverterImages::restoresTheTextFromItsMarkup()
     const auto document = documentOf(QStringLiteral("text") + face + heart + key);
     const QString restored = EmojiTextConverter::restore(document->toHtml());
     QVERIFY2(restored.contains(QStringLiteral("text") + face + heart + key), qPrintable(restored));
+}
+
+void tst_EmojiTextConverterImages::setsMarkupAsADocumentThatIsGivenPicturesLaterHasIt_data()
+{
+    QTest::addColumn<QString>("text");
+    const auto add = [](const char *name, const char *text) {
+        QTest::newRow(name) << QString::fromUtf8(text);
+    };
+    add("nothing", "");
+    add("emoji and words", "a \U0001F600 b\U0001F600\U0001F600 c");
+    add("spaces", "  \U0001F600  \U0001F600 <b> \U0001F600 </b>  a");
+    add("characters like those that stand for images", "\uFFFC\U0001F600\uFFFC\uE000\uE000");
+    add("an image before private characters", "\U0001F600<img src=\"a.png\">\uE000\uE000");
+    add("the entities of a mark", "\U0001F600&#xFFFC;&#xE000;");
+    add("an emoji in an attribute", "<a title=\"\U0001F600\">a</a>\U0001F600");
+    add("a lone less-than sign", "a < b \U0001F600 c \U0001F600");
+    add("anchors", "<a name=\"x\">\U0001F600</a><a href=\"y\">\U0001F600</a>");
+    add("hidden emoji", "<style>\U0001F600</style><!-- \U0001F600 -->\U0001F600");
+    add("a tag that was cut", "\U0001F600<img src=\"svgFile=:/emojis/1f600.svgxuni\u2026");
+}
+
+void tst_EmojiTextConverterImages::setsMarkupAsADocumentThatIsGivenPicturesLaterHasIt()
+{
+    QFETCH(const QString, text);
+    QCOMPARE(describeSet(text), describe(*documentOf(text)));
+}
+
+void tst_EmojiTextConverterImages::setsRandomMarkupAsADocumentThatIsGivenPicturesLaterHasIt()
+{
+    const QStringList pieces = { face,
+                                 face,
+                                 heart,
+                                 key,
+                                 QStringLiteral("a"),
+                                 QStringLiteral(" "),
+                                 QStringLiteral("\n"),
+                                 QStringLiteral("\uFFFC"),
+                                 QStringLiteral("\uE000"),
+                                 QStringLiteral("&amp;"),
+                                 QStringLiteral("<br>"),
+                                 QStringLiteral("<b>"),
+                                 QStringLiteral("</b>"),
+                                 QStringLiteral("<p>"),
+                                 QStringLiteral("<pre>"),
+                                 QStringLiteral("</pre>"),
+                                 QStringLiteral("<ul><li>"),
+                                 QStringLiteral("</li></ul>"),
+                                 QStringLiteral("<table><tr><td>"),
+                                 QStringLiteral("</td></tr></table>"),
+                                 QStringLiteral("<a href=\"x\">"),
+                                 QStringLiteral("</a>"),
+                                 QStringLiteral("<img src=\"a.png\">") };
+    auto generator = seededGenerator();
+    for (int i = 0; i < 1000; ++i) {
+        QString text;
+        for (int length = randomFrom(generator, 1, 20); length > 0; --length)
+            text += pieces[randomFrom(generator, 0, pieces.size() - 1)];
+        const QString expected = describe(*documentOf(text));
+        QVERIFY2(describeSet(text) == expected, qPrintable(text));
+    }
 }
 
 QTEST_MAIN(tst_EmojiTextConverterImages)
