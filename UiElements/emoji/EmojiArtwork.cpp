@@ -2,9 +2,9 @@
 #include "EmojiArtwork_p.h"
 
 #include <QCache>
-#include <QFile>
 #include <QHash>
 #include <QPainter>
+#include <QResource>
 #include <QSvgRenderer>
 
 namespace {
@@ -12,18 +12,77 @@ namespace {
 /// Room for all emoji that a screen of text shows, at twice the usual size.
 constexpr int pictureCacheBytes = 8 * 1024 * 1024;
 
-/// Reads the file at \a path by itself: given a path, the renderer would warn about a broken file.
-QByteArray contentOf(const QString &path)
+/// How many files are looked at again for a text. A look takes a microsecond.
+constexpr int checksPerText = 64;
+
+/// Tells whether a resource is still the one that it was. The place by itself doesn't: a file that
+/// is registered where another one was unregistered is likely to get the same.
+struct Fingerprint
 {
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    explicit Fingerprint(const QResource &resource)
+        : data(resource.data()),
+          size(resource.size()),
+          hash(data ? qHashBits(data, std::size_t(size)) : 0)
+    {
+    }
+
+    bool operator==(const Fingerprint &other) const
+    {
+        return data == other.data && size == other.size && hash == other.hash;
+    }
+
+    const uchar *data;
+    qint64 size;
+    uint hash;
+};
+
+/// A valid file, and the number of the text for which it was last looked at.
+struct KnownFile
+{
+    QString path;
+    Fingerprint fingerprint;
+    quint64 text;
+};
+
+/// What is remembered of the files.
+struct Memory
+{
+    QHash<QString, KnownFile> files;
+    quint64 text = 0;
+    int checksLeft = 0;
+};
+
+Memory &memory()
+{
+    static Memory memory;
+    return memory;
 }
 
-QImage render(const QString &path, int edge)
+/// Returns whether \a file has to be looked at before it is used for the current text.
+bool needsCheck(const KnownFile &file)
+{
+    return file.text != memory().text && memory().checksLeft > 0;
+}
+
+/// Returns whether \a file is still what it was.
+bool isUnchanged(KnownFile &file)
+{
+    --memory().checksLeft;
+    file.text = memory().text;
+    return Fingerprint(QResource(file.path)) == file.fingerprint;
+}
+
+/// A picture of a file at an edge length in pixels.
+using PictureKey = QPair<Fingerprint, int>;
+
+uint qHash(const Fingerprint &fingerprint, uint seed) { return fingerprint.hash ^ seed; }
+
+QImage render(const QResource &resource, int edge)
 {
     QImage image(edge, edge, QImage::Format_ARGB32);
     image.fill(Qt::transparent);
-    QSvgRenderer renderer(contentOf(path));
+    // Read by itself: given a path, the renderer would warn about a broken file.
+    QSvgRenderer renderer(resource.uncompressedData());
     QPainter painter(&image);
     renderer.render(&painter);
     return image;
@@ -31,18 +90,27 @@ QImage render(const QString &path, int edge)
 
 } // namespace
 
+void EmojiArtwork::beginText()
+{
+    ++memory().text;
+    memory().checksLeft = checksPerText;
+}
+
 QString EmojiArtwork::pathOf(const QString &stem)
 {
-    static QHash<QString, QString> foundPaths;
-    const auto found = foundPaths.constFind(stem);
-    if (found != foundPaths.constEnd())
-        return *found;
-
-    QString path = QLatin1String(":/emojis/") + stem + QLatin1String(".svg");
-    if (!QFile::exists(path) || !QSvgRenderer(contentOf(path)).isValid())
+    const auto known = memory().files.find(stem);
+    if (known != memory().files.end()) {
+        if (!needsCheck(*known) || isUnchanged(*known))
+            return known->path;
+        memory().files.clear(); // The others are likely to have changed as well.
+    }
+    const QString path = QLatin1String(":/emojis/") + stem + QLatin1String(".svg");
+    const QResource resource(path);
+    if (!resource.data() || !QSvgRenderer(resource.uncompressedData()).isValid())
         return {};
     // The stem's characters are copied: the caller's text may hold more memory than it needs.
-    foundPaths.insert(QString(stem.constData(), stem.size()), path);
+    memory().files.insert(QString(stem.constData(), stem.size()),
+                          { path, Fingerprint(resource), memory().text });
     return path;
 }
 
@@ -50,12 +118,13 @@ QImage EmojiArtwork::picture(const QString &path, int edge)
 {
     if (edge < 1)
         return {};
-    static QCache<QPair<QString, int>, QImage> pictures(pictureCacheBytes);
-    const QPair<QString, int> key(path, edge);
+    const QResource resource(path);
+    static QCache<PictureKey, QImage> pictures(pictureCacheBytes);
+    const PictureKey key(Fingerprint(resource), edge);
     if (const QImage *known = pictures.object(key))
         return *known;
 
-    QImage image = render(path, edge);
+    QImage image = render(resource, edge);
     pictures.insert(key, new QImage(image), int(image.sizeInBytes()));
     return image;
 }

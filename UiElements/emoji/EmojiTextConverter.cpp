@@ -22,6 +22,7 @@ EmojiTextConverter::EmojiTextConverter(int emojiSize, double pixelRatio)
 QString EmojiTextConverter::convert(const QString &text)
 {
     m_svgFiles.clear();
+    EmojiArtwork::beginText();
     const EmojiConversion::SequenceWriter writer = [this](const EmojiSequence &sequence,
                                                           QString &markup) {
         writeSequence(sequence, markup);

@@ -4,7 +4,12 @@
 
 #include <UiElements/emoji/EmojiTextConverter.h>
 
+#include <QColor>
+#include <QImage>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QUrl>
 
 namespace {
 
@@ -38,7 +43,10 @@ private Q_SLOTS:
     void leavesASequenceTextWhenItsFileIsInvalid_data();
     void leavesASequenceTextWhenItsFileIsInvalid();
     void findsAFileThatComesLater();
-    void remembersAFileThatItFound();
+    void missesAFileThatIsUnregistered();
+    void drawsAFileThatIsReplaced();
+    void missesAllFilesOfACollectionThatIsUnregistered();
+    void looksAtNoMoreThan64FilesAgain();
 
 private:
     std::unique_ptr<EmojiArtwork> m_artwork;
@@ -106,17 +114,69 @@ void tst_EmojiTextConverterFiles::findsAFileThatComesLater()
     QCOMPARE(converted(laterFace), EmojiNotation::tag("1f602", laterFace));
 }
 
-void tst_EmojiTextConverterFiles::remembersAFileThatItFound()
+void tst_EmojiTextConverterFiles::missesAFileThatIsUnregistered()
 {
     const QString emoji = EmojiNotation::text({ 0x1F605 });
-    const QString tag = EmojiNotation::tag("1f605", emoji);
     {
         const EmojiArtwork artwork({ QStringLiteral("1f605") });
-        QCOMPARE(converted(emoji), tag);
+        QCOMPARE(converted(emoji), EmojiNotation::tag("1f605", emoji));
     }
-    QVERIFY(!QFile::exists(QStringLiteral(":/emojis/1f605.svg")));
-    QCOMPARE(converted(emoji), tag);
+    QCOMPARE(converted(emoji), emoji);
+    const EmojiArtwork broken({ QStringLiteral("1f605") }, "<svg");
+    QCOMPARE(converted(emoji), emoji);
 }
 
-QTEST_GUILESS_MAIN(tst_EmojiTextConverterFiles)
+void tst_EmojiTextConverterFiles::drawsAFileThatIsReplaced()
+{
+    // Of the same size, so that it is likely to lie in the same place of the memory.
+    const QVector<QColor> colors = { Qt::red, Qt::blue, Qt::yellow };
+    for (const QColor &color : colors) {
+        const EmojiArtwork artwork({ QStringLiteral("1f606") },
+                                   EmojiArtwork::square(color.name().toLatin1()));
+        QTextDocument document;
+        EmojiTextConverter converter(4, 1.0);
+        converter.setHtml(&document, converter.convert(EmojiNotation::text({ 0x1F606 })));
+        const QTextFormat format = document.begin().begin().fragment().charFormat();
+        const QUrl name(format.toImageFormat().name());
+        const auto picture = document.resource(QTextDocument::ImageResource, name).value<QImage>();
+        QCOMPARE(picture.pixelColor(2, 2), color);
+    }
+}
+
+void tst_EmojiTextConverterFiles::missesAllFilesOfACollectionThatIsUnregistered()
+{
+    QStringList stems;
+    QString text;
+    for (uint codePoint = 0x1F400; codePoint < 0x1F400 + 100; ++codePoint) {
+        stems += QString::number(codePoint, 16);
+        text += EmojiNotation::text({ codePoint });
+    }
+    {
+        const EmojiArtwork artwork(stems);
+        QCOMPARE(converted(text).count(QLatin1String("<img")), 100);
+    }
+    QCOMPARE(converted(text), text);
+}
+
+void tst_EmojiTextConverterFiles::looksAtNoMoreThan64FilesAgain()
+{
+    QStringList stems;
+    QString text;
+    for (uint codePoint = 0x1F500; codePoint < 0x1F500 + 64; ++codePoint) {
+        stems += QString::number(codePoint, 16);
+        text += EmojiNotation::text({ codePoint });
+    }
+    const EmojiArtwork artwork(stems);
+    const QString emoji = EmojiNotation::text({ 0x1F607 });
+    const QString tag = EmojiNotation::tag("1f607", emoji);
+    {
+        const EmojiArtwork last({ QStringLiteral("1f607") });
+        QVERIFY(converted(text + emoji).endsWith(tag));
+    }
+    QVERIFY(converted(text + text + emoji).endsWith(tag));
+    QCOMPARE(converted(emoji), emoji);
+    QVERIFY(converted(text + emoji).endsWith(emoji));
+}
+
+QTEST_MAIN(tst_EmojiTextConverterFiles)
 #include "tst_emojitextconverter_files.moc"

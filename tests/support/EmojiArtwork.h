@@ -5,9 +5,6 @@
 #include <QTemporaryDir>
 
 /// Emoji files under ":/emojis/", as long as the object lives.
-///
-/// The library remembers for the process which files it found: a test that wants one to be missing
-/// uses a name that it never had.
 class EmojiArtwork
 {
     Q_DISABLE_COPY_MOVE(EmojiArtwork)
