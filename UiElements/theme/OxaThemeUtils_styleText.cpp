@@ -2,9 +2,10 @@
 #include "OxaThemeUtils.h"
 
 #include "StyleBorder_p.h"
-#include "StyleDraft_p.h"
-#include "StyleTag_p.h"
-#include "StyleText_p.h"
+#include "StyleColors_p.h"
+#include "StyleDirective_p.h"
+
+#include <QStringBuilder>
 
 namespace {
 
@@ -17,17 +18,7 @@ void appendNameDirective(QString &text, OxaThemeUtils::ColorSetType type, const 
         return;
     if (!text.isEmpty())
         text += QLatin1Char(' ');
-    text += textOf(tagOf(type)).toString() + QLatin1Char(' ') + trimmed + QLatin1Char(';');
-}
-
-/// Returns \a draft's text without the first directive of each kind, trimmed.
-QString withoutDirectives(StyleDraft draft)
-{
-    for (const StyleTag tag : styleTags) {
-        if (const auto directive = draft.findDirective(tag))
-            draft.remove(*directive);
-    }
-    return draft.text().trimmed();
+    text += StyleTag::of(type) % u' ' % trimmed % u';';
 }
 
 } // namespace
@@ -41,14 +32,10 @@ OxaThemeUtils::CSSParserResult OxaThemeUtils::parseCSS(const QString &selector,
     if (styleText.isEmpty() || selector.isEmpty() || colorSets.empty())
         return result;
 
-    StyleDraft draft(styleText);
-    result.oxaCSS.plainStyleSheet = withoutDirectives(draft);
-    draft.reserve(StyleText::roomFor(draft, selector) + StyleBorder::roomFor(selector));
-
+    QString sheet = StyleColors::substituteReferences(styleText, colorSets);
     const auto expand = [&](ColorSetType type) {
-        return StyleText::expandColorDirective(draft, type, selector, colorSets);
+        return StyleColors::expandDirective(sheet, type, selector, colorSets);
     };
-    StyleText::substituteColorReferences(draft, colorSets);
     result.backgroundColorSet = expand(ColorSetType::Background);
     result.borderColorSet = expand(ColorSetType::Border);
     result.textColorSet = expand(ColorSetType::Text);
@@ -57,9 +44,11 @@ OxaThemeUtils::CSSParserResult OxaThemeUtils::parseCSS(const QString &selector,
     data.backgroundColorSetName = nameIfValid(result.backgroundColorSet);
     data.borderColorSetName = nameIfValid(result.borderColorSet);
     data.textColorSetName = nameIfValid(result.textColorSet);
+    StyleBorder::expandDirectives(sheet, selector, data);
+    data.plainStyleSheet = styleText;
+    removeOxaCSSFromStyleSheet(data.plainStyleSheet);
 
-    StyleBorder::expandDirectives(draft, selector, data);
-    result.expandedStyleSheet = draft.text();
+    result.expandedStyleSheet = sheet;
     return result;
 }
 
@@ -77,13 +66,15 @@ QString OxaThemeUtils::convertToOxaCSS(OxaCSSData data)
 
 void OxaThemeUtils::removeOxaCSSFromStyleSheet(QString &styleText)
 {
-    styleText = withoutDirectives(StyleDraft(styleText));
+    for (const QStringView tag : StyleTag::all)
+        StyleDirective::take(styleText, tag);
+    styleText = styleText.trimmed();
 }
 
 QString OxaThemeUtils::getColorSetNameFromString(ColorSetType type, const QString &styleText)
 {
-    const auto directive = StyleDraft(styleText).findDirective(tagOf(type));
-    return directive ? directive->value.toString() : QString();
+    const auto directive = StyleDirective::find(styleText, StyleTag::of(type));
+    return directive ? directive->value : QString();
 }
 
 QString OxaThemeUtils::getHyperlinkCSS(AppThemeType themeType)

@@ -3,18 +3,15 @@
 
 #include <UiElements/theme/OxaCSSData.h>
 
-class StyleDraft;
-
-/// The border half of the style language, as functions on values.
+/// The border of a style text: its sides, their width and the radius of its corners.
 namespace StyleBorder {
 
-/// Returns at most how much the function below writes.
-int roomFor(const QString &selector);
-
-/// Puts the rule of the border, "selector{border-style:solid; …}", in the place of the border
-/// directives of \a draft, and fills the border fields of \a data, whose set names are known
-/// already. Without directives the rule comes first, or not at all where there is no set either.
-void expandDirectives(StyleDraft &draft, const QString &selector, OxaCSSData &data);
+/// Takes the border directives out of \a sheet, fills the border fields of \a data, whose set names
+/// are known already, and inserts the border's rule for \a selector.
+///
+/// The rule stands where the last of the directives stood, a width apart; without one of them it
+/// comes first, or not at all where \a data names no set.
+void expandDirectives(QString &sheet, const QString &selector, OxaCSSData &data);
 
 /// Returns the directives that say what \a data says of the border: "$borders: all; …".
 QString toDirectives(const OxaCSSData &data);

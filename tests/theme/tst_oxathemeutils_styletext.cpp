@@ -178,6 +178,12 @@ void tst_OxaThemeUtilsStyleText::findsTheNameInADirective_data()
                                       << "t";
     QTest::newRow("a name with blanks inside") << ColorSetType::Text << "$textColors: a  b ;"
                                                << "a  b";
+    QTest::newRow("a name with a dollar inside") << ColorSetType::Text << "$textColors: a $ b;"
+                                                 << "a $ b";
+    QTest::newRow("a name with a reference and a tag inside")
+            << ColorSetType::Text
+            << "$textColors: first-part-$(x.hovered)-second-part-$borders: third-part; d;"
+            << "first-part-$(x.hovered)-second-part-$borders: third-part";
     QTest::newRow("another type only") << ColorSetType::Text << "$backgroundColors: g;"
                                        << "";
     QTest::newRow("an empty value") << ColorSetType::Text << "$textColors: ;"
