@@ -1,7 +1,25 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ClientApplication.h"
 
+#include <UiElements/theme/OxaPaletteUtils.h>
 #include <UiElements/theme/OxaThemeUtils.h>
+
+#include <QVariant>
+
+namespace {
+
+/// What Qt's own widgets are painted in: the list's selection, say.
+const std::vector<OxaPaletteUtils::RoleSource> paletteSources = {
+    { QPalette::Window, "window-background" },
+    { QPalette::WindowText, "text-primary" },
+    { QPalette::Base, "panel" },
+    { QPalette::Text, "text-primary" },
+    { QPalette::Highlight, "selection" },
+    { QPalette::HighlightedText, "selection-text" },
+    { QPalette::Link, "button-hyperlink-text" },
+};
+
+} // namespace
 
 ClientApplication::ClientApplication(int &argc, char **argv) : OxaApplication(argc, argv)
 {
@@ -11,15 +29,36 @@ ClientApplication::ClientApplication(int &argc, char **argv) : OxaApplication(ar
                                                        palette);
     m_dark = OxaThemeUtils::parseOxaColorSetsFromJson(QStringLiteral(":/documents/dark.json"),
                                                       palette);
-    setDark(false);
+    m_highContrast =
+            OxaThemeUtils::parseOxaColorSetsFromJson(QStringLiteral(
+                                                             ":/documents/high-contrast.json"),
+                                                     palette);
+    showColors();
 }
 
 void ClientApplication::setDark(bool dark)
 {
-    setProperty("isDarkTheme", dark);
-    OxaThemeUtils::setAppOxaColorSets(dark ? m_dark : m_light);
-    OxaThemeUtils::setAppInvertedOxaColorSets(dark ? m_light : m_dark);
+    m_isDark = dark;
+    showColors();
+}
 
-    // No widget follows the stores by itself.
+void ClientApplication::setHighContrast(bool highContrast)
+{
+    m_isHighContrast = highContrast;
+    showColors();
+}
+
+void ClientApplication::showColors()
+{
+    // The high contrast document is light on black.
+    const bool isDark = m_isDark || m_isHighContrast;
+    setProperty("isDarkTheme", isDark);
+    setProperty("isHighContrastTheme", m_isHighContrast);
+    const OxaColorSetMap &shown = m_isDark ? m_dark : m_light;
+    OxaThemeUtils::setAppOxaColorSets(m_isHighContrast ? m_highContrast : shown);
+    OxaThemeUtils::setAppInvertedOxaColorSets(isDark ? m_light : m_dark);
+
+    // Nothing listens to the stores: Qt's widgets take the palette, ours are told to look again.
+    setPalette(OxaPaletteUtils::makePalette(paletteSources));
     OxaThemeUtils::refreshThemedWidgets();
 }

@@ -14,12 +14,20 @@ public:
     /// Shows all windows in the dark colours, or in the light ones.
     void setDark(bool dark);
 
+    /// Shows all windows in high contrast, or in the colours that setDark() chose.
+    void setHighContrast(bool highContrast);
+
     // What the library may ask of its client. This one has no QML, and nothing to start anew.
     void onQmlEngineCreated(OxaQmlEngine *) override { }
     void restart() override { }
     void registerMainWindowShortcuts(OxaMainWindow *) override { }
 
 private:
+    void showColors();
+
     OxaColorSetMap m_light;
     OxaColorSetMap m_dark;
+    OxaColorSetMap m_highContrast;
+    bool m_isDark = false;
+    bool m_isHighContrast = false;
 };

@@ -13,12 +13,25 @@
 #include <QListView>
 #include <QVBoxLayout>
 
+namespace {
+
+/// A checked button has sets of its own: under the pointer it would look as if it were unchecked,
+/// since the hovered colour wins over the checked one.
+QString buttonStyle(bool checked)
+{
+    return QStringLiteral("$backgroundColors: %1-button; $borderColors: %1-button-border; "
+                          "$textColors: %1-text; $borders: all; $borderWidth: 2; $borderRadius: 6;")
+            .arg(checked ? QStringLiteral("chosen") : QStringLiteral("action"));
+}
+
+} // namespace
+
 FirstWindow::FirstWindow(QWidget *parent) : OxaWidget(parent)
 {
     setObjectName(QStringLiteral("firstWindow"));
     setCSS(QStringLiteral("$backgroundColors: window-background;"
-                          "QListView { background: $(panel); color: $(text-primary); border: none; "
-                          "padding: 4px; }"));
+                          "QListView { padding: 4px; border: 2px solid $(panel-border); }"
+                          "QListView:focus { border-color: $(panel-border.focused); }"));
 
     auto *list = makeList();
     auto *column = new QVBoxLayout(this);
@@ -59,20 +72,26 @@ QListView *FirstWindow::makeList()
     return list;
 }
 
+OxaSvgPushButton *FirstWindow::makeButton(const QString &text)
+{
+    auto *button = new OxaSvgPushButton(text, this);
+    button->setSvgIcon(OxaSvgRenderer::resourcePath(QStringLiteral("bell")));
+    button->setSvgIconPadding(QMargins(12, 0, 8, 0));
+    button->setTextRightPadding(12);
+    button->setMinimumHeight(36);
+    button->setCSS(buttonStyle(false));
+    button->setCheckable(true);
+    connect(button, &OxaSvgPushButton::toggled, button,
+            [button](bool checked) { button->setCSS(buttonStyle(checked)); });
+    return button;
+}
+
 QLayout *FirstWindow::makeButtons()
 {
-    const auto makeButton = [this](const QString &text) {
-        auto *button = new OxaSvgPushButton(text, this);
-        button->setSvgIcon(OxaSvgRenderer::resourcePath(QStringLiteral("bell")));
-        button->setSvgIconPadding(QMargins(12, 0, 8, 0));
-        button->setTextRightPadding(12);
-        button->setCSS(QStringLiteral("$backgroundColors: action-button; $textColors: action-text; "
-                                      "$borderRadius: 4;"));
-        button->setCheckable(true);
-        return button;
-    };
     auto *dark = makeButton(tr("Dark"));
     connect(dark, &OxaSvgPushButton::toggled, this, &FirstWindow::darkChosen);
+    auto *highContrast = makeButton(tr("High contrast"));
+    connect(highContrast, &OxaSvgPushButton::toggled, this, &FirstWindow::highContrastChosen);
     auto *rightToLeft = makeButton(tr("Right to left"));
     connect(rightToLeft, &OxaSvgPushButton::toggled, this, [](bool on) {
         QGuiApplication::setLayoutDirection(on ? Qt::RightToLeft : Qt::LeftToRight);
@@ -80,6 +99,7 @@ QLayout *FirstWindow::makeButtons()
 
     auto *buttons = new SmartLayout(nullptr, QMargins(), 8, 8, Qt::AlignCenter, -1, false);
     buttons->addWidget(dark);
+    buttons->addWidget(highContrast);
     buttons->addWidget(rightToLeft);
     return buttons;
 }

@@ -3,6 +3,7 @@
 
 #include <UiElements/widgets/OxaWidget.h>
 
+class OxaSvgPushButton;
 class QLayout;
 class QListView;
 
@@ -18,10 +19,14 @@ Q_SIGNALS:
     /// The user wants dark colours, or light ones.
     void darkChosen(bool dark);
 
+    /// The user wants high contrast, or not.
+    void highContrastChosen(bool highContrast);
+
 private:
     QWidget *makeHeading();
     QWidget *makeGreeting();
     QListView *makeList();
+    OxaSvgPushButton *makeButton(const QString &text);
     QLayout *makeButtons();
     void connectShortcuts(QListView *list);
 };

@@ -4,10 +4,18 @@
 
 int main(int argc, char **argv)
 {
+    // These come too late once there is an application object.
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(
+            Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+
     ClientApplication application(argc, argv);
     FirstWindow window;
     QObject::connect(&window, &FirstWindow::darkChosen, &application, &ClientApplication::setDark);
-    window.resize(360, 320);
+    QObject::connect(&window, &FirstWindow::highContrastChosen, &application,
+                     &ClientApplication::setHighContrast);
+    window.resize(400, 360);
     window.show();
     return QApplication::exec();
 }
