@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "tst_baselistmodel.h"
+
 #include "LetterListModel.h"
 
 #include <QMetaProperty>
@@ -21,41 +23,6 @@ struct HasPublicSetData<
 };
 
 } // namespace
-
-/// The rows of a BaseListModel: what they are, how they are found, and their values.
-class tst_BaseListModel : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void leavesRoleNamesToSubclasses();
-    void startsEmpty();
-    void takesAParent();
-    void showsCountAndHeaderAsProperties();
-    void tellsOfANewHeaderOnly();
-    void hasNoRowsBelowARow();
-    void countsByTheVirtualRowCount();
-    void letsNoViewEditItsRows();
-
-    void givesTheValueOfARole();
-    void givesNothingSilently_data();
-    void givesNothingSilently();
-    void warnsOfARoleThatTheRowLacks();
-    void namesTheDynamicClassInTheWarning();
-
-    void keepsSetDataFromTheOutside();
-    void changesARoleThatTheRowHas();
-    void changesAnyRoleThatTheRowHas();
-    void reportsAnEqualValueToo();
-    void refusesToSetData_data();
-    void refusesToSetData();
-    void refusesToSetARoleThatTheRowLacks();
-
-    void findsRowsByTheirIds();
-    void comparesIdsByteByByte();
-    void findsTheLastOfARepeatedIdButReturnsTheFirst();
-    void handsOutCopies();
-};
 
 void tst_BaseListModel::leavesRoleNamesToSubclasses()
 {
@@ -304,4 +271,4 @@ void tst_BaseListModel::handsOutCopies()
 }
 
 QTEST_MAIN(tst_BaseListModel)
-#include "tst_baselistmodel.moc"
+#include "moc_tst_baselistmodel.cpp"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "tst_baselistmodel.h"
+
 #include "LetterListModel.h"
 #include "ModelChanges.h"
 
@@ -10,31 +12,7 @@ constexpr char tooManyRows[] = "Too many rows!";
 
 } // namespace
 
-/// How rows come into a BaseListModel, and what it emits meanwhile.
-class tst_BaseListModelAdditions : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void appends_data();
-    void appends();
-    void announcesTheWholeListAlsoWhenRowsAreSkipped();
-    void appendsUpToTheLimit();
-    void countsSkippedRowsForTheLimit();
-
-    void appendsOrUpdates_data();
-    void appendsOrUpdates();
-    void updatesAlsoWhenTheNewRowsAreTooMany();
-
-    void inserts_data();
-    void inserts();
-    void insertsAtNoPositionByAppending_data();
-    void insertsAtNoPositionByAppending();
-    void insertsUpToTheLimit();
-    void insertsNothingAnywhere();
-};
-
-void tst_BaseListModelAdditions::appends_data()
+void tst_BaseListModel::appends_data()
 {
     addChangeColumns();
     QTest::addColumn<QString>("skipped");
@@ -47,7 +25,7 @@ void tst_BaseListModelAdditions::appends_data()
     addChange("known ids only", "ab", "BA", "ab", "ins 2,3 | count 2") << "ba";
 }
 
-void tst_BaseListModelAdditions::appends()
+void tst_BaseListModel::appends()
 {
     QFETCH(const QString, before);
     QFETCH(const QString, given);
@@ -62,7 +40,7 @@ void tst_BaseListModelAdditions::appends()
         QCOMPARE(model.getRowIndex(model.getRows()[i].first), i);
 }
 
-void tst_BaseListModelAdditions::announcesTheWholeListAlsoWhenRowsAreSkipped()
+void tst_BaseListModel::announcesTheWholeListAlsoWhenRowsAreSkipped()
 {
     LetterListModel model(QStringLiteral("abc"));
     SignalLog log;
@@ -79,7 +57,7 @@ void tst_BaseListModelAdditions::announcesTheWholeListAlsoWhenRowsAreSkipped()
     QCOMPARE(log.take(), QStringLiteral("abc: 3,5 | abcde | count 5"));
 }
 
-void tst_BaseListModelAdditions::appendsUpToTheLimit()
+void tst_BaseListModel::appendsUpToTheLimit()
 {
     LetterListModel model;
     std::vector<ModelRow> rows = LetterListModel::numberedRows(10001);
@@ -100,7 +78,7 @@ void tst_BaseListModelAdditions::appendsUpToTheLimit()
     QVERIFY(!model.hasRow("10000"));
 }
 
-void tst_BaseListModelAdditions::countsSkippedRowsForTheLimit()
+void tst_BaseListModel::countsSkippedRowsForTheLimit()
 {
     LetterListModel model;
     model.appendRows(LetterListModel::numberedRows(9999));
@@ -111,7 +89,7 @@ void tst_BaseListModelAdditions::countsSkippedRowsForTheLimit()
     QCOMPARE(model.rowCount(), 9999);
 }
 
-void tst_BaseListModelAdditions::appendsOrUpdates_data()
+void tst_BaseListModel::appendsOrUpdates_data()
 {
     addChangeColumns();
     QTest::addColumn<QString>("skipped");
@@ -138,7 +116,7 @@ void tst_BaseListModelAdditions::appendsOrUpdates_data()
     addChange("a new id twice", "abc", "Bxx", "aBcx", "chg 0,1 | ins 3,4 | count 4") << "x";
 }
 
-void tst_BaseListModelAdditions::appendsOrUpdates()
+void tst_BaseListModel::appendsOrUpdates()
 {
     QFETCH(const QString, before);
     QFETCH(const QString, given);
@@ -153,7 +131,7 @@ void tst_BaseListModelAdditions::appendsOrUpdates()
         QCOMPARE(model.getRowIndex(model.getRows()[i].first), i);
 }
 
-void tst_BaseListModelAdditions::updatesAlsoWhenTheNewRowsAreTooMany()
+void tst_BaseListModel::updatesAlsoWhenTheNewRowsAreTooMany()
 {
     LetterListModel model;
     model.appendRows(LetterListModel::numberedRows(9999));
@@ -166,7 +144,7 @@ void tst_BaseListModelAdditions::updatesAlsoWhenTheNewRowsAreTooMany()
     QVERIFY(!model.hasRow("a"));
 }
 
-void tst_BaseListModelAdditions::inserts_data()
+void tst_BaseListModel::inserts_data()
 {
     addChangeColumns();
     QTest::addColumn<int>("row");
@@ -180,7 +158,7 @@ void tst_BaseListModelAdditions::inserts_data()
     addChange("an id twice in the list", "ab", "xX", "axXb", "ins 1,2 | count 4") << 1 << "0 2 2 3";
 }
 
-void tst_BaseListModelAdditions::inserts()
+void tst_BaseListModel::inserts()
 {
     QFETCH(const QString, before);
     QFETCH(const QString, given);
@@ -193,7 +171,7 @@ void tst_BaseListModelAdditions::inserts()
     QTEST(log.take(), "emitted");
 }
 
-void tst_BaseListModelAdditions::insertsAtNoPositionByAppending_data()
+void tst_BaseListModel::insertsAtNoPositionByAppending_data()
 {
     addChangeColumns();
     QTest::addColumn<int>("row");
@@ -205,7 +183,7 @@ void tst_BaseListModelAdditions::insertsAtNoPositionByAppending_data()
     addChange("past the size of an empty model", "", "aA", "a", "ins 0,1 | count 1") << 3;
 }
 
-void tst_BaseListModelAdditions::insertsAtNoPositionByAppending()
+void tst_BaseListModel::insertsAtNoPositionByAppending()
 {
     QFETCH(const QString, before);
     QFETCH(const QString, given);
@@ -218,7 +196,7 @@ void tst_BaseListModelAdditions::insertsAtNoPositionByAppending()
     QTEST(log.take(), "emitted");
 }
 
-void tst_BaseListModelAdditions::insertsUpToTheLimit()
+void tst_BaseListModel::insertsUpToTheLimit()
 {
     LetterListModel model;
     model.appendRows(LetterListModel::numberedRows(9998));
@@ -236,7 +214,7 @@ void tst_BaseListModelAdditions::insertsUpToTheLimit()
     QCOMPARE(model.getRowIndex("9997"), 9999);
 }
 
-void tst_BaseListModelAdditions::insertsNothingAnywhere()
+void tst_BaseListModel::insertsNothingAnywhere()
 {
     LetterListModel model;
     ModelLog log(model);
@@ -250,6 +228,3 @@ void tst_BaseListModelAdditions::insertsNothingAnywhere()
     QCOMPARE(model.text(), QStringLiteral("ab"));
     QCOMPARE(log.take(), QString());
 }
-
-QTEST_MAIN(tst_BaseListModelAdditions)
-#include "tst_baselistmodel_additions.moc"

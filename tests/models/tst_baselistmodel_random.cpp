@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "tst_baselistmodel.h"
+
 #include "ReferenceList.h"
 #include "support/RandomSeed.h"
 
@@ -184,17 +186,7 @@ QString sortedAndFiltered(QString shown)
 
 } // namespace
 
-/// A BaseListModel against a plain list, through many random operations.
-class tst_BaseListModelRandom : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void doesWhatAPlainListDoes();
-    void keepsAProxySortedAndFiltered();
-};
-
-void tst_BaseListModelRandom::doesWhatAPlainListDoes()
+void tst_BaseListModel::doesWhatAPlainListDoes()
 {
     Dice dice;
     LetterListModel model;
@@ -214,7 +206,7 @@ void tst_BaseListModelRandom::doesWhatAPlainListDoes()
     }
 }
 
-void tst_BaseListModelRandom::keepsAProxySortedAndFiltered()
+void tst_BaseListModel::keepsAProxySortedAndFiltered()
 {
     Dice dice;
     LetterListModel model;
@@ -233,6 +225,3 @@ void tst_BaseListModelRandom::keepsAProxySortedAndFiltered()
                  what + sortedAndFiltered(model.text()));
     }
 }
-
-QTEST_MAIN(tst_BaseListModelRandom)
-#include "tst_baselistmodel_random.moc"

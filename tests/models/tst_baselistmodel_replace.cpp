@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "tst_baselistmodel.h"
+
 #include "LetterListModel.h"
 #include "ModelChanges.h"
 
@@ -43,34 +45,7 @@ public:
 
 } // namespace
 
-/// How rows are replaced and leave a BaseListModel, and what it emits meanwhile.
-class tst_BaseListModelReplace : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void replaces_data();
-    void replaces();
-    void skipsARepeatedIdInAnEmptyModelOnly();
-    void replacesAlsoWhereOnlyTheIdDiffers();
-    void replacesAlsoWhereOnlyTheRolesDiffer();
-    void comparesRolesInWhateverOrder();
-    void comparesValuesAsQVariantDoes_data();
-    void comparesValuesAsQVariantDoes();
-    void replacesPastTheLimit();
-    void removesTheTailThroughTheVirtualFunction();
-    void warnsWhenTheIndexEndsBeforeTheRows();
-
-    void removes_data();
-    void removes();
-    void removesBelowTheParentThatItIsGiven();
-    void refusesToRemove_data();
-    void refusesToRemove();
-
-    void clearsWithAReset();
-};
-
-void tst_BaseListModelReplace::replaces_data()
+void tst_BaseListModel::replaces_data()
 {
     addChangeColumns();
     QTest::addColumn<QString>("positions");
@@ -100,7 +75,7 @@ void tst_BaseListModelReplace::replaces_data()
             << "2 1 2";
 }
 
-void tst_BaseListModelReplace::replaces()
+void tst_BaseListModel::replaces()
 {
     QFETCH(const QString, before);
     QFETCH(const QString, given);
@@ -116,7 +91,7 @@ void tst_BaseListModelReplace::replaces()
     }
 }
 
-void tst_BaseListModelReplace::skipsARepeatedIdInAnEmptyModelOnly()
+void tst_BaseListModel::skipsARepeatedIdInAnEmptyModelOnly()
 {
     LetterListModel model;
     ModelLog log(model);
@@ -129,7 +104,7 @@ void tst_BaseListModelReplace::skipsARepeatedIdInAnEmptyModelOnly()
     QCOMPARE(log.take(), QStringLiteral("ins 2,2 | count 3"));
 }
 
-void tst_BaseListModelReplace::replacesAlsoWhereOnlyTheIdDiffers()
+void tst_BaseListModel::replacesAlsoWhereOnlyTheIdDiffers()
 {
     LetterListModel model;
     model.replace({ { "a", { { 257, 1 } } }, { "b", { { 257, 1 } } } });
@@ -140,7 +115,7 @@ void tst_BaseListModelReplace::replacesAlsoWhereOnlyTheIdDiffers()
     QVERIFY(!model.hasRow("b"));
 }
 
-void tst_BaseListModelReplace::replacesAlsoWhereOnlyTheRolesDiffer()
+void tst_BaseListModel::replacesAlsoWhereOnlyTheRolesDiffer()
 {
     LetterListModel model;
     model.replace({ { "a", { { 257, 1 } } }, { "b", { { 257, 1 } } }, { "c", { { 257, 1 } } } });
@@ -152,7 +127,7 @@ void tst_BaseListModelReplace::replacesAlsoWhereOnlyTheRolesDiffer()
     QVERIFY(model.getRowById("a") == ModelRow("a", { { 258, 1 } }));
 }
 
-void tst_BaseListModelReplace::comparesRolesInWhateverOrder()
+void tst_BaseListModel::comparesRolesInWhateverOrder()
 {
     ModelRow before("a", { { 257, 1 }, { 258, 2 }, { 259, 3 } });
     ModelRow given("a", {});
@@ -171,7 +146,7 @@ void tst_BaseListModelReplace::comparesRolesInWhateverOrder()
     QCOMPARE(log.take(), QStringLiteral("chg 0,0"));
 }
 
-void tst_BaseListModelReplace::comparesValuesAsQVariantDoes_data()
+void tst_BaseListModel::comparesValuesAsQVariantDoes_data()
 {
     QTest::addColumn<QVariant>("before");
     QTest::addColumn<QVariant>("given");
@@ -213,7 +188,7 @@ void tst_BaseListModelReplace::comparesValuesAsQVariantDoes_data()
     QTest::newRow("nothing and something") << QVariant() << QVariant(0);
 }
 
-void tst_BaseListModelReplace::comparesValuesAsQVariantDoes()
+void tst_BaseListModel::comparesValuesAsQVariantDoes()
 {
     QFETCH(const QVariant, before);
     QFETCH(const QVariant, given);
@@ -224,7 +199,7 @@ void tst_BaseListModelReplace::comparesValuesAsQVariantDoes()
     QCOMPARE(log.take(), before == given ? QString() : QStringLiteral("chg 0,0"));
 }
 
-void tst_BaseListModelReplace::replacesPastTheLimit()
+void tst_BaseListModel::replacesPastTheLimit()
 {
     LetterListModel model(QStringLiteral("a"));
     std::vector<ModelRow> rows = LetterListModel::numberedRows(10001);
@@ -246,7 +221,7 @@ void tst_BaseListModelReplace::replacesPastTheLimit()
     QCOMPARE(log.take(), QStringLiteral("reset | count 0"));
 }
 
-void tst_BaseListModelReplace::removesTheTailThroughTheVirtualFunction()
+void tst_BaseListModel::removesTheTailThroughTheVirtualFunction()
 {
     RemovalNotingModel model(QStringLiteral("abcd"));
     model.replace(LetterListModel::rowsOf(QStringLiteral("a")));
@@ -254,7 +229,7 @@ void tst_BaseListModelReplace::removesTheTailThroughTheVirtualFunction()
     QCOMPARE(model.text(), QStringLiteral("a"));
 }
 
-void tst_BaseListModelReplace::warnsWhenTheIndexEndsBeforeTheRows()
+void tst_BaseListModel::warnsWhenTheIndexEndsBeforeTheRows()
 {
     ShortIndexModel model(QStringLiteral("abc"));
     ModelLog log(model);
@@ -264,7 +239,7 @@ void tst_BaseListModelReplace::warnsWhenTheIndexEndsBeforeTheRows()
     QCOMPARE(log.take(), QStringLiteral("chg 1,1"));
 }
 
-void tst_BaseListModelReplace::removes_data()
+void tst_BaseListModel::removes_data()
 {
     addChangeColumns();
     QTest::addColumn<int>("row");
@@ -276,7 +251,7 @@ void tst_BaseListModelReplace::removes_data()
     addChange("all rows, without a reset", "abcd", "", "", "rem 0,3 | count 0") << 0 << 4;
 }
 
-void tst_BaseListModelReplace::removes()
+void tst_BaseListModel::removes()
 {
     QFETCH(const QString, before);
     QFETCH(const int, row);
@@ -291,7 +266,7 @@ void tst_BaseListModelReplace::removes()
                  model.text().indexOf(letter));
 }
 
-void tst_BaseListModelReplace::removesBelowTheParentThatItIsGiven()
+void tst_BaseListModel::removesBelowTheParentThatItIsGiven()
 {
     LetterListModel model(QStringLiteral("abc"));
     ModelLog log(model);
@@ -300,7 +275,7 @@ void tst_BaseListModelReplace::removesBelowTheParentThatItIsGiven()
     QCOMPARE(log.take(), QStringLiteral("rem 1,1 below 2 | count 2"));
 }
 
-void tst_BaseListModelReplace::refusesToRemove_data()
+void tst_BaseListModel::refusesToRemove_data()
 {
     QTest::addColumn<int>("row");
     QTest::addColumn<int>("count");
@@ -313,7 +288,7 @@ void tst_BaseListModelReplace::refusesToRemove_data()
     QTest::newRow("so many that the sum runs over") << 1 << std::numeric_limits<int>::max();
 }
 
-void tst_BaseListModelReplace::refusesToRemove()
+void tst_BaseListModel::refusesToRemove()
 {
     QFETCH(const int, row);
     QFETCH(const int, count);
@@ -327,7 +302,7 @@ void tst_BaseListModelReplace::refusesToRemove()
     QCOMPARE(log.take(), QString());
 }
 
-void tst_BaseListModelReplace::clearsWithAReset()
+void tst_BaseListModel::clearsWithAReset()
 {
     LetterListModel model(QStringLiteral("abc"));
     model.setHeader(QStringLiteral("Letters"));
@@ -340,5 +315,4 @@ void tst_BaseListModelReplace::clearsWithAReset()
     QCOMPARE(model.header(), QStringLiteral("Letters"));
 }
 
-QTEST_MAIN(tst_BaseListModelReplace)
 #include "tst_baselistmodel_replace.moc"

@@ -1,24 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "tst_baselistmodel.h"
+
 #include "LetterListModel.h"
 
 #include <QTest>
 
-/// How roles of a row of a BaseListModel are written.
-class tst_BaseListModelRoles : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void writesRolesAndAddsThoseThatTheRowLacks();
-    void writesRolesByIdAndByIndexAlike();
-    void reportsEqualRoleValuesToo();
-    void leavesOutUnusableRoles();
-    void reportsNothingWhenNoRoleIsUsable();
-    void ignoresRowsThatAreNotThere();
-    void ignoresARowPastTheVirtualRowCount();
-};
-
-void tst_BaseListModelRoles::writesRolesAndAddsThoseThatTheRowLacks()
+void tst_BaseListModel::writesRolesAndAddsThoseThatTheRowLacks()
 {
     LetterListModel model(QStringLiteral("ab"));
     ModelLog log(model);
@@ -28,7 +15,7 @@ void tst_BaseListModelRoles::writesRolesAndAddsThoseThatTheRowLacks()
     QCOMPARE(log.take(), QStringLiteral("chg 1,1 [257,300]"));
 }
 
-void tst_BaseListModelRoles::writesRolesByIdAndByIndexAlike()
+void tst_BaseListModel::writesRolesByIdAndByIndexAlike()
 {
     LetterListModel model(QStringLiteral("ab"));
     ModelLog log(model);
@@ -39,7 +26,7 @@ void tst_BaseListModelRoles::writesRolesByIdAndByIndexAlike()
     QCOMPARE(model.text(), QStringLiteral("AB"));
 }
 
-void tst_BaseListModelRoles::reportsEqualRoleValuesToo()
+void tst_BaseListModel::reportsEqualRoleValuesToo()
 {
     LetterListModel model(QStringLiteral("a"));
     ModelLog log(model);
@@ -47,7 +34,7 @@ void tst_BaseListModelRoles::reportsEqualRoleValuesToo()
     QCOMPARE(log.take(), QStringLiteral("chg 0,0 [257]"));
 }
 
-void tst_BaseListModelRoles::leavesOutUnusableRoles()
+void tst_BaseListModel::leavesOutUnusableRoles()
 {
     LetterListModel model(QStringLiteral("ab"));
     ModelLog log(model);
@@ -61,7 +48,7 @@ void tst_BaseListModelRoles::leavesOutUnusableRoles()
     QCOMPARE(log.take(), QStringLiteral("chg 1,1 [258]"));
 }
 
-void tst_BaseListModelRoles::reportsNothingWhenNoRoleIsUsable()
+void tst_BaseListModel::reportsNothingWhenNoRoleIsUsable()
 {
     LetterListModel model(QStringLiteral("a"));
     ModelLog log(model);
@@ -71,7 +58,7 @@ void tst_BaseListModelRoles::reportsNothingWhenNoRoleIsUsable()
     QCOMPARE(log.take(), QString());
 }
 
-void tst_BaseListModelRoles::ignoresRowsThatAreNotThere()
+void tst_BaseListModel::ignoresRowsThatAreNotThere()
 {
     const LetterListModel longer(QStringLiteral("abc"));
     const QMap<int, QVariant> values { { 256, 1 }, { 257, 1 } };
@@ -87,7 +74,7 @@ void tst_BaseListModelRoles::ignoresRowsThatAreNotThere()
     QCOMPARE(log.take(), QString());
 }
 
-void tst_BaseListModelRoles::ignoresARowPastTheVirtualRowCount()
+void tst_BaseListModel::ignoresARowPastTheVirtualRowCount()
 {
     CappedListModel model(QStringLiteral("abc"));
     const LetterListModel longer(QStringLiteral("abc"));
@@ -96,6 +83,3 @@ void tst_BaseListModelRoles::ignoresARowPastTheVirtualRowCount()
     QCOMPARE(log.take(), QString());
     QVERIFY(model.getRows() == LetterListModel::rowsOf(QStringLiteral("abc")));
 }
-
-QTEST_MAIN(tst_BaseListModelRoles)
-#include "tst_baselistmodel_roles.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "tst_baselistmodel.h"
+
 #include "LetterListModel.h"
 
 #include <QTest>
@@ -39,18 +41,7 @@ void recordPositions(SignalLog &log, const LetterListModel &model, const QString
 
 } // namespace
 
-/// What a slot finds in a BaseListModel whose signal runs it.
-class tst_BaseListModelSignals : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void changesItsRowsBetweenItsSignals();
-    void findsTheNewPositionsInItsSignals();
-    void updatesNoFurtherThanToAnIdWhoseRowASlotHasTaken();
-};
-
-void tst_BaseListModelSignals::changesItsRowsBetweenItsSignals()
+void tst_BaseListModel::changesItsRowsBetweenItsSignals()
 {
     LetterListModel model;
     SignalLog log;
@@ -72,7 +63,7 @@ void tst_BaseListModelSignals::changesItsRowsBetweenItsSignals()
     QCOMPARE(log.take(), QStringLiteral("Bcd |  | "));
 }
 
-void tst_BaseListModelSignals::findsTheNewPositionsInItsSignals()
+void tst_BaseListModel::findsTheNewPositionsInItsSignals()
 {
     LetterListModel model;
     SignalLog log;
@@ -92,7 +83,7 @@ void tst_BaseListModelSignals::findsTheNewPositionsInItsSignals()
 }
 
 // What no client should do: the rows are taken away while others come, so that the index is ahead.
-void tst_BaseListModelSignals::updatesNoFurtherThanToAnIdWhoseRowASlotHasTaken()
+void tst_BaseListModel::updatesNoFurtherThanToAnIdWhoseRowASlotHasTaken()
 {
     LetterListModel model(QStringLiteral("pq"));
     ModelLog log(model);
@@ -117,6 +108,3 @@ void tst_BaseListModelSignals::updatesNoFurtherThanToAnIdWhoseRowASlotHasTaken()
                             "chg 0,0 | Xbcd | ins 4,5 | count 6 | chg 2,5"));
     QCOMPARE(model.text(), QStringLiteral("Xbabcd"));
 }
-
-QTEST_MAIN(tst_BaseListModelSignals)
-#include "tst_baselistmodel_signals.moc"

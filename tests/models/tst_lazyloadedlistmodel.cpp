@@ -1,31 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "tst_lazyloadedlistmodel.h"
+
 #include "LazyLetterModel.h"
 
 #include <QTest>
 
 #include <limits>
-
-/// The rows and the window of a LazyLoadedListModel, and the pages that it asks for.
-class tst_LazyLoadedListModel : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void startsWithoutPagingAndRows();
-    void takesAParent();
-    void hasNoValuesOfItsOwn();
-    void hasItsRowsBelowARowToo();
-    void convertsBetweenRowsAndPages();
-
-    void staysWhereItIsWithoutPaging();
-    void movesTheWindow_data();
-    void movesTheWindow();
-    void keepsWhatIsStillInReach_data();
-    void keepsWhatIsStillInReach();
-    void hasMovedWhenItAsks();
-    void survivesAnyScrolledIndex();
-    void holdsOneWindowOfItemsWhateverTheSize();
-};
 
 void tst_LazyLoadedListModel::startsWithoutPagingAndRows()
 {
@@ -211,4 +191,4 @@ void tst_LazyLoadedListModel::holdsOneWindowOfItemsWhateverTheSize()
 }
 
 QTEST_MAIN(tst_LazyLoadedListModel)
-#include "tst_lazyloadedlistmodel.moc"
+#include "moc_tst_lazyloadedlistmodel.cpp"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "tst_lazyloadedlistmodel.h"
+
 #include "LazyLetterModel.h"
 
 #include <QTest>
@@ -41,38 +43,9 @@ private:
 
 } // namespace
 
-/// Who owns the items of a LazyLoadedListModel: each is alive as long as somebody holds it. The
-/// address sanitizer adds that none is lost or deleted twice.
-class tst_LazyLoadedListModelItems : public QObject
-{
-    Q_OBJECT
+void tst_LazyLoadedListModel::cleanup() { QCOMPARE(CountedItem::alive, 0); }
 
-private Q_SLOTS:
-    void cleanup() { QCOMPARE(CountedItem::alive, 0); }
-
-    void takesAnItem();
-    void givesItemsByIndexAndByModelIndex();
-    void unloadsARowThatIsGivenNull();
-    void leavesARefusedItemToTheCaller_data();
-    void leavesARefusedItemToTheCaller();
-    void deletesAReplacedItem();
-    void deletesTheOldItemAlsoWhenItIsTheNewOne();
-    void growsUpToAnItemPastTheEnd();
-    void growsFromAnEmptyList();
-
-    void takesThePage_data();
-    void takesThePage();
-    void leavesALatePageToTheCaller_data();
-    void leavesALatePageToTheCaller();
-    void deletesTheRestOfAShortPage();
-    void leavesItemsPastTheWindowToTheCaller();
-
-    void deletesItsItemsAtTheEnd();
-    void deletesItsItemsOnReset();
-    void deletesItemsThatItNoLongerHolds();
-};
-
-void tst_LazyLoadedListModelItems::takesAnItem()
+void tst_LazyLoadedListModel::takesAnItem()
 {
     LazyLetterModel model(2, 2, 4);
     ModelLog log(model);
@@ -81,7 +54,7 @@ void tst_LazyLoadedListModelItems::takesAnItem()
     QCOMPARE(log.take(), QStringLiteral("chg 3,3 | ...d"));
 }
 
-void tst_LazyLoadedListModelItems::givesItemsByIndexAndByModelIndex()
+void tst_LazyLoadedListModel::givesItemsByIndexAndByModelIndex()
 {
     LazyLetterModel model(2, 2, 100);
     model.setScrolledIndex(22);
@@ -96,7 +69,7 @@ void tst_LazyLoadedListModelItems::givesItemsByIndexAndByModelIndex()
     QVERIFY(!model.getItemAt(-1));
 }
 
-void tst_LazyLoadedListModelItems::unloadsARowThatIsGivenNull()
+void tst_LazyLoadedListModel::unloadsARowThatIsGivenNull()
 {
     LazyLetterModel model(2, 2, 4);
     model.setItemsAtPage(0, itemsOf("ab"));
@@ -107,7 +80,7 @@ void tst_LazyLoadedListModelItems::unloadsARowThatIsGivenNull()
     QCOMPARE(log.take(), QStringLiteral("chg 1,1"));
 }
 
-void tst_LazyLoadedListModelItems::leavesARefusedItemToTheCaller_data()
+void tst_LazyLoadedListModel::leavesARefusedItemToTheCaller_data()
 {
     QTest::addColumn<unsigned>("pageSize");
     QTest::addColumn<int>("index");
@@ -118,7 +91,7 @@ void tst_LazyLoadedListModelItems::leavesARefusedItemToTheCaller_data()
     QTest::newRow("before row 0") << 2U << -1;
 }
 
-void tst_LazyLoadedListModelItems::leavesARefusedItemToTheCaller()
+void tst_LazyLoadedListModel::leavesARefusedItemToTheCaller()
 {
     QFETCH(const unsigned, pageSize);
     QFETCH(const int, index);
@@ -133,7 +106,7 @@ void tst_LazyLoadedListModelItems::leavesARefusedItemToTheCaller()
     QCOMPARE(item->text(), QStringLiteral("x"));
 }
 
-void tst_LazyLoadedListModelItems::deletesAReplacedItem()
+void tst_LazyLoadedListModel::deletesAReplacedItem()
 {
     LazyLetterModel model(2, 2, 4);
     model.setItemsAtPage(0, itemsOf("ab"));
@@ -142,7 +115,7 @@ void tst_LazyLoadedListModelItems::deletesAReplacedItem()
     QCOMPARE(CountedItem::alive, 2);
 }
 
-void tst_LazyLoadedListModelItems::deletesTheOldItemAlsoWhenItIsTheNewOne()
+void tst_LazyLoadedListModel::deletesTheOldItemAlsoWhenItIsTheNewOne()
 {
     alignas(PlacedItem) unsigned char memory[sizeof(PlacedItem)];
     LazyLetterModel model(2, 2, 4);
@@ -157,7 +130,7 @@ void tst_LazyLoadedListModelItems::deletesTheOldItemAlsoWhenItIsTheNewOne()
     QCOMPARE(CountedItem::alive, 0);
 }
 
-void tst_LazyLoadedListModelItems::growsUpToAnItemPastTheEnd()
+void tst_LazyLoadedListModel::growsUpToAnItemPastTheEnd()
 {
     LazyLetterModel model(2, 3, 2);
     model.setItemsAtPage(0, itemsOf("ab"));
@@ -172,7 +145,7 @@ void tst_LazyLoadedListModelItems::growsUpToAnItemPastTheEnd()
     QCOMPARE(windowWhenInserted, QStringLiteral("ab..e."));
 }
 
-void tst_LazyLoadedListModelItems::growsFromAnEmptyList()
+void tst_LazyLoadedListModel::growsFromAnEmptyList()
 {
     LazyLetterModel model(2, 2);
     ModelLog log(model);
@@ -181,7 +154,7 @@ void tst_LazyLoadedListModelItems::growsFromAnEmptyList()
     QCOMPARE(model.size(), 1);
 }
 
-void tst_LazyLoadedListModelItems::takesThePage_data()
+void tst_LazyLoadedListModel::takesThePage_data()
 {
     QTest::addColumn<int>("page");
     QTest::addColumn<QString>("letters");
@@ -204,7 +177,7 @@ void tst_LazyLoadedListModelItems::takesThePage_data()
     row("empty, which says nothing", 1, "", "......", 100, "");
 }
 
-void tst_LazyLoadedListModelItems::takesThePage()
+void tst_LazyLoadedListModel::takesThePage()
 {
     QFETCH(const int, page);
     QFETCH(const QString, letters);
@@ -224,7 +197,7 @@ void tst_LazyLoadedListModelItems::takesThePage()
     QCOMPARE(empty.size(), 23);
 }
 
-void tst_LazyLoadedListModelItems::leavesALatePageToTheCaller_data()
+void tst_LazyLoadedListModel::leavesALatePageToTheCaller_data()
 {
     QTest::addColumn<unsigned>("pageSize");
     QTest::addColumn<int>("page");
@@ -235,7 +208,7 @@ void tst_LazyLoadedListModelItems::leavesALatePageToTheCaller_data()
     QTest::newRow("before page 0") << 2U << -1;
 }
 
-void tst_LazyLoadedListModelItems::leavesALatePageToTheCaller()
+void tst_LazyLoadedListModel::leavesALatePageToTheCaller()
 {
     QFETCH(const unsigned, pageSize);
     QFETCH(const int, page);
@@ -250,7 +223,7 @@ void tst_LazyLoadedListModelItems::leavesALatePageToTheCaller()
     qDeleteAll(items);
 }
 
-void tst_LazyLoadedListModelItems::deletesTheRestOfAShortPage()
+void tst_LazyLoadedListModel::deletesTheRestOfAShortPage()
 {
     LazyLetterModel model(3, 2, 6);
     model.setItemsAtPage(0, itemsOf("abc"));
@@ -269,7 +242,7 @@ void tst_LazyLoadedListModelItems::deletesTheRestOfAShortPage()
     QCOMPARE(log.take(), QStringLiteral("chg 0,0 | y..x.. | rem 1,3"));
 }
 
-void tst_LazyLoadedListModelItems::leavesItemsPastTheWindowToTheCaller()
+void tst_LazyLoadedListModel::leavesItemsPastTheWindowToTheCaller()
 {
     LazyLetterModel model(2, 2, 100);
     const QVector<QStandardItem *> items = itemsOf("abcd");
@@ -280,7 +253,7 @@ void tst_LazyLoadedListModelItems::leavesItemsPastTheWindowToTheCaller()
     delete items.at(3);
 }
 
-void tst_LazyLoadedListModelItems::deletesItsItemsAtTheEnd()
+void tst_LazyLoadedListModel::deletesItsItemsAtTheEnd()
 {
     {
         LazyLetterModel model(2, 2, 4);
@@ -290,7 +263,7 @@ void tst_LazyLoadedListModelItems::deletesItsItemsAtTheEnd()
     QCOMPARE(CountedItem::alive, 0);
 }
 
-void tst_LazyLoadedListModelItems::deletesItsItemsOnReset()
+void tst_LazyLoadedListModel::deletesItsItemsOnReset()
 {
     LazyLetterModel model(2, 2, 4);
     model.setItemsAtPage(0, itemsOf("abcd"));
@@ -303,7 +276,7 @@ void tst_LazyLoadedListModelItems::deletesItsItemsOnReset()
     QCOMPARE(model.window(), QStringLiteral("...."));
 }
 
-void tst_LazyLoadedListModelItems::deletesItemsThatItNoLongerHolds()
+void tst_LazyLoadedListModel::deletesItemsThatItNoLongerHolds()
 {
     LazyLetterModel model(2, 3, 100);
     SignalLog log;
@@ -323,6 +296,3 @@ void tst_LazyLoadedListModelItems::deletesItemsThatItNoLongerHolds()
     model.reset();
     QCOMPARE(log.take(), QStringLiteral("d:c..... | c:......"));
 }
-
-QTEST_MAIN(tst_LazyLoadedListModelItems)
-#include "tst_lazyloadedlistmodel_items.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "tst_lazyloadedlistmodel.h"
+
 #include "LazyLetterModel.h"
 #include "support/RandomSeed.h"
 
@@ -194,16 +196,7 @@ QString doOne(std::mt19937 &generator, LazyLetterModel &model, ReferenceWindow &
 
 } // namespace
 
-/// A LazyLoadedListModel against a window that goes row by row, through many random operations.
-class tst_LazyLoadedListModelRandom : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void doesWhatAWindowDoesRowByRow();
-};
-
-void tst_LazyLoadedListModelRandom::doesWhatAWindowDoesRowByRow()
+void tst_LazyLoadedListModel::doesWhatAWindowDoesRowByRow()
 {
     std::mt19937 generator = seededGenerator();
     LazyLetterModel model;
@@ -222,6 +215,3 @@ void tst_LazyLoadedListModelRandom::doesWhatAWindowDoesRowByRow()
         QCOMPARE(CountedItem::alive, loaded);
     }
 }
-
-QTEST_MAIN(tst_LazyLoadedListModelRandom)
-#include "tst_lazyloadedlistmodel_random.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "tst_lazyloadedlistmodel.h"
+
 #include "LazyLetterModel.h"
 
 #include <QTest>
@@ -17,28 +19,7 @@ void recordWindow(SignalLog &log, const LazyLetterModel &model)
 
 } // namespace
 
-/// How a LazyLoadedListModel gets its paging and its rows, and loses them.
-class tst_LazyLoadedListModelSize : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void ignoresPagingWithoutPages_data();
-    void ignoresPagingWithoutPages();
-    void startsAfreshWithNewPaging();
-    void startsAfreshWithTheSamePaging();
-    void resetsSilentlyWithoutRows();
-
-    void changesItsSize_data();
-    void changesItsSize();
-    void changesItsCountAfterTheSignals();
-    void unloadsBeforeItTellsOfAReset();
-    void unloadsAfterItTellsOfASmallerSize();
-    void shrinksTheWindowWithTheList_data();
-    void shrinksTheWindowWithTheList();
-};
-
-void tst_LazyLoadedListModelSize::ignoresPagingWithoutPages_data()
+void tst_LazyLoadedListModel::ignoresPagingWithoutPages_data()
 {
     QTest::addColumn<unsigned>("pageSize");
     QTest::addColumn<unsigned>("storagePages");
@@ -48,7 +29,7 @@ void tst_LazyLoadedListModelSize::ignoresPagingWithoutPages_data()
     QTest::newRow("neither") << 0U << 0U;
 }
 
-void tst_LazyLoadedListModelSize::ignoresPagingWithoutPages()
+void tst_LazyLoadedListModel::ignoresPagingWithoutPages()
 {
     QFETCH(const unsigned, pageSize);
     QFETCH(const unsigned, storagePages);
@@ -64,7 +45,7 @@ void tst_LazyLoadedListModelSize::ignoresPagingWithoutPages()
     QCOMPARE(model.window(), QStringLiteral("ab...."));
 }
 
-void tst_LazyLoadedListModelSize::startsAfreshWithNewPaging()
+void tst_LazyLoadedListModel::startsAfreshWithNewPaging()
 {
     LazyLetterModel model(2, 3, 100);
     model.setScrolledIndex(50);
@@ -78,7 +59,7 @@ void tst_LazyLoadedListModelSize::startsAfreshWithNewPaging()
     QCOMPARE(CountedItem::alive, 0);
 }
 
-void tst_LazyLoadedListModelSize::startsAfreshWithTheSamePaging()
+void tst_LazyLoadedListModel::startsAfreshWithTheSamePaging()
 {
     LazyLetterModel model(2, 2, 3);
     model.setItemsAtPage(0, LazyLetterModel::itemsOf(QStringLiteral("ab")));
@@ -88,7 +69,7 @@ void tst_LazyLoadedListModelSize::startsAfreshWithTheSamePaging()
     QCOMPARE(model.window(), QStringLiteral("...."));
 }
 
-void tst_LazyLoadedListModelSize::resetsSilentlyWithoutRows()
+void tst_LazyLoadedListModel::resetsSilentlyWithoutRows()
 {
     LazyLetterModel model(2, 2);
     model.setScrolledIndex(50);
@@ -99,7 +80,7 @@ void tst_LazyLoadedListModelSize::resetsSilentlyWithoutRows()
     QCOMPARE(model.window(), QStringLiteral("...."));
 }
 
-void tst_LazyLoadedListModelSize::changesItsSize_data()
+void tst_LazyLoadedListModel::changesItsSize_data()
 {
     QTest::addColumn<int>("before");
     QTest::addColumn<int>("size");
@@ -114,7 +95,7 @@ void tst_LazyLoadedListModelSize::changesItsSize_data()
     QTest::newRow("to none") << 7 << 0 << QStringLiteral("rem 0,6");
 }
 
-void tst_LazyLoadedListModelSize::changesItsSize()
+void tst_LazyLoadedListModel::changesItsSize()
 {
     QFETCH(const int, before);
     QFETCH(const int, size);
@@ -128,7 +109,7 @@ void tst_LazyLoadedListModelSize::changesItsSize()
     }
 }
 
-void tst_LazyLoadedListModelSize::changesItsCountAfterTheSignals()
+void tst_LazyLoadedListModel::changesItsCountAfterTheSignals()
 {
     LazyLetterModel model(2, 2);
     SignalLog log;
@@ -148,7 +129,7 @@ void tst_LazyLoadedListModelSize::changesItsCountAfterTheSignals()
     QCOMPARE(model.rowCount(), 0);
 }
 
-void tst_LazyLoadedListModelSize::unloadsBeforeItTellsOfAReset()
+void tst_LazyLoadedListModel::unloadsBeforeItTellsOfAReset()
 {
     LazyLetterModel model(2, 2, 100);
     model.setScrolledIndex(22);
@@ -160,7 +141,7 @@ void tst_LazyLoadedListModelSize::unloadsBeforeItTellsOfAReset()
     QCOMPARE(model.getStartIndex(), 0);
 }
 
-void tst_LazyLoadedListModelSize::unloadsAfterItTellsOfASmallerSize()
+void tst_LazyLoadedListModel::unloadsAfterItTellsOfASmallerSize()
 {
     LazyLetterModel model(2, 2, 100);
     model.setScrolledIndex(22);
@@ -175,7 +156,7 @@ void tst_LazyLoadedListModelSize::unloadsAfterItTellsOfASmallerSize()
     QCOMPARE(model.getStartIndex(), 0);
 }
 
-void tst_LazyLoadedListModelSize::shrinksTheWindowWithTheList_data()
+void tst_LazyLoadedListModel::shrinksTheWindowWithTheList_data()
 {
     QTest::addColumn<int>("size");
     QTest::addColumn<int>("startIndex");
@@ -190,7 +171,7 @@ void tst_LazyLoadedListModelSize::shrinksTheWindowWithTheList_data()
     QTest::newRow("no rows are left") << 0 << 0 << QStringLiteral("......");
 }
 
-void tst_LazyLoadedListModelSize::shrinksTheWindowWithTheList()
+void tst_LazyLoadedListModel::shrinksTheWindowWithTheList()
 {
     QFETCH(const int, size);
     LazyLetterModel model(2, 3, 100);
@@ -203,6 +184,3 @@ void tst_LazyLoadedListModelSize::shrinksTheWindowWithTheList()
     QTEST(model.window(), "window");
     QCOMPARE(CountedItem::alive, 6 - model.window().count(QLatin1Char('.')));
 }
-
-QTEST_MAIN(tst_LazyLoadedListModelSize)
-#include "tst_lazyloadedlistmodel_size.moc"
