@@ -11,7 +11,12 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 if(UIELEMENTS_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    # GCC does not count what an int cannot hold among the undefined.
+    add_compile_options(
+        -fsanitize=address,undefined,float-cast-overflow
+        -fno-sanitize-recover=undefined,float-cast-overflow
+        -fno-omit-frame-pointer
+    )
     add_link_options(-fsanitize=address,undefined)
 endif()
 
