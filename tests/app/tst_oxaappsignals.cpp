@@ -3,6 +3,8 @@
 #include "support/SignalLog.h"
 #include "support/TestApplication.h"
 
+#include <UiElements/app/OxaGlobalSignalListener.h>
+
 #include <QMetaEnum>
 #include <QMetaMethod>
 
@@ -30,12 +32,13 @@ QString describe(const QMetaMethod &method)
 
 } // namespace
 
+/// The two switchboards of the application.
 class tst_OxaAppSignals : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void isAnObjectOfTheLibrary();
+    void areObjectsOfTheLibrary();
     void hasAsManySignalsAsItsTable();
     void listsItsSignalsInOrder_data();
     void listsItsSignalsInOrder();
@@ -49,11 +52,17 @@ private Q_SLOTS:
     void reachesSlotsThatAreConnectedToAShorterForm();
     void carriesTheOuterApplicationsValues();
     void letsAReceiverMoveThePopupsRectangle();
+
+    void hasTwoSignals();
+    void isTheListenerOfTheApplication();
+    void carriesTheNameOfAShortcut();
+    void carriesTheThemeOfTheDeveloperTools();
 };
 
-void tst_OxaAppSignals::isAnObjectOfTheLibrary()
+void tst_OxaAppSignals::areObjectsOfTheLibrary()
 {
     QCOMPARE(OxaAppSignals::staticMetaObject.superClass(), &OxaObject::staticMetaObject);
+    QCOMPARE(OxaGlobalSignalListener::staticMetaObject.superClass(), &OxaObject::staticMetaObject);
 }
 
 void tst_OxaAppSignals::hasAsManySignalsAsItsTable()
@@ -180,6 +189,49 @@ void tst_OxaAppSignals::letsAReceiverMoveThePopupsRectangle()
     QCOMPARE(rect, QRect(6, 7, 3, 4));
     Q_EMIT hub.popupMeetingDetailPage(nullptr, {}, {}, {}, {}, {}, rect, 10);
     QCOMPARE(rect, QRect(11, 22, 3, 4));
+}
+
+void tst_OxaAppSignals::hasTwoSignals()
+{
+    const QMetaObject &type = OxaGlobalSignalListener::staticMetaObject;
+    QStringList methods;
+    for (int index = type.methodOffset(); index < type.methodCount(); ++index) {
+        const QMetaMethod method = type.method(index);
+        QCOMPARE(method.methodType(), QMetaMethod::Signal);
+        methods += QString::fromLatin1(method.methodSignature() + ' '
+                                       + method.parameterNames().join(", "));
+    }
+    QCOMPARE(methods,
+             (QStringList {
+                     QStringLiteral(
+                             "shortcutActivated(OxaKeySequenceLookup::Shortcut) shortcutType"),
+                     QStringLiteral("setDevToolsThemeMode(QString) theme") }));
+}
+
+void tst_OxaAppSignals::isTheListenerOfTheApplication()
+{
+    const auto *application = qobject_cast<OxaApplication *>(qApp);
+    QVERIFY(OxaGlobalSignalListener::get());
+    QCOMPARE(OxaGlobalSignalListener::get(), application->getGlobalSignalListener());
+    QCOMPARE(OxaGlobalSignalListener::get()->parent(), application);
+}
+
+void tst_OxaAppSignals::carriesTheNameOfAShortcut()
+{
+    OxaGlobalSignalListener listener;
+    auto seen = OxaKeySequenceLookup::Shortcut::Unknown;
+    connect(&listener, &OxaGlobalSignalListener::shortcutActivated, this,
+            [&seen](OxaKeySequenceLookup::Shortcut shortcutType) { seen = shortcutType; });
+    Q_EMIT listener.shortcutActivated(OxaKeySequenceLookup::Shortcut::EndCall);
+    QCOMPARE(seen, OxaKeySequenceLookup::Shortcut::EndCall);
+}
+
+void tst_OxaAppSignals::carriesTheThemeOfTheDeveloperTools()
+{
+    OxaGlobalSignalListener listener;
+    const QSignalSpy spy(&listener, &OxaGlobalSignalListener::setDevToolsThemeMode);
+    Q_EMIT listener.setDevToolsThemeMode(QStringLiteral("dark"));
+    QCOMPARE(spy, (QList<QVariantList> { { QStringLiteral("dark") } }));
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaAppSignals)

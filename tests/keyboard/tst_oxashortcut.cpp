@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/ContextTranslator.h"
 
+#include <UiElements/keyboard/OxaKeyboardShortcutsGroup.h>
+#include <UiElements/keyboard/OxaKeyboardShortcutsManager.h>
 #include <UiElements/keyboard/OxaShortcut.h>
 
 #include <QMetaEnum>
+#include <QMetaObject>
 #include <QTest>
 #include <QWidget>
+
+#include <type_traits>
 
 namespace {
 
@@ -13,6 +18,7 @@ const QKeySequence keys(Qt::CTRL | Qt::Key_K);
 
 } // namespace
 
+/// A shortcut, its groups, and the manager that clients fill.
 class tst_OxaShortcut : public QObject
 {
     Q_OBJECT
@@ -32,6 +38,12 @@ private Q_SLOTS:
     void leavesDisabledWhatWasDisabled();
     void losesTheStateWhenItIsDisabledTwice();
     void disablesWhenNothingWasRemembered();
+
+    void numbersTheSections();
+    void isAPlainValue();
+
+    void isABareObjectOfTheLibrary();
+    void goesWithItsParent();
 };
 
 void tst_OxaShortcut::hasGroupsAsBits()
@@ -175,6 +187,49 @@ void tst_OxaShortcut::disablesWhenNothingWasRemembered()
     OxaShortcut shortcut(&window);
     shortcut.temporarilyDisable(false);
     QVERIFY(!shortcut.isEnabled());
+}
+
+void tst_OxaShortcut::numbersTheSections()
+{
+    const auto sections = QMetaEnum::fromType<OxaKeyboardShortcutsGroup::ShortcutGroup>();
+    QCOMPARE(sections.scope(), "OxaKeyboardShortcutsGroup");
+    QStringList values;
+    for (int index = 0; index < sections.keyCount(); ++index)
+        values += QStringLiteral("%1 %2")
+                          .arg(QLatin1String(sections.key(index)))
+                          .arg(sections.value(index));
+    QCOMPARE(values.join(QLatin1String(", ")),
+             QStringLiteral("None 0, General 1, Messaging 2, Formatting 3, MeetingsAndCalling 4"));
+}
+
+void tst_OxaShortcut::isAPlainValue()
+{
+    QVERIFY(std::is_default_constructible_v<OxaKeyboardShortcutsGroup>);
+    QVERIFY(std::is_copy_assignable_v<OxaKeyboardShortcutsGroup>);
+    QVERIFY(std::is_move_assignable_v<OxaKeyboardShortcutsGroup>);
+    QVERIFY(!(std::is_base_of_v<QObject, OxaKeyboardShortcutsGroup>));
+}
+
+void tst_OxaShortcut::isABareObjectOfTheLibrary()
+{
+    const OxaKeyboardShortcutsManager manager;
+    const QMetaObject *type = manager.metaObject();
+    QCOMPARE(type->className(), "OxaKeyboardShortcutsManager");
+    QCOMPARE(type->superClass(), &OxaObject::staticMetaObject);
+    QCOMPARE(type->methodCount(), type->methodOffset());
+    QCOMPARE(type->propertyCount(), type->propertyOffset());
+    QVERIFY(!manager.parent());
+    QVERIFY(manager.children().isEmpty());
+}
+
+void tst_OxaShortcut::goesWithItsParent()
+{
+    auto parent = std::make_unique<QObject>();
+    const QPointer<OxaKeyboardShortcutsManager> manager = new OxaKeyboardShortcutsManager(
+            parent.get());
+    QCOMPARE(manager->parent(), parent.get());
+    parent.reset();
+    QVERIFY(!manager);
 }
 
 QTEST_MAIN(tst_OxaShortcut)

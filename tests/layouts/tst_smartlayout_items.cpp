@@ -1,11 +1,38 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Blocks.h"
 #include "RandomItems.h"
 
 #include <UiElements/layouts/SmartLayout.h>
 
+#include <QPointer>
+#include <QSpacerItem>
+#include <QTest>
+
+using Blocks::Block;
+using Blocks::Item;
 using namespace RandomItems;
 
 namespace {
+
+constexpr bool ofItems = false;
+constexpr bool ofWidgets = true;
+
+/// A window with a block that wants 20 by 10 pixels and may have 15 by 40.
+struct Limited
+{
+    explicit Limited(bool useWidgetSizing, int maximumItemsPerRow = -1)
+        : layout(&window, QMargins(), 5, 3, Qt::AlignLeft, maximumItemsPerRow, useWidgetSizing)
+    {
+        block->setMaximumSize(15, 40);
+        block->setMinimumHeight(12);
+        layout.addWidget(block);
+        layout.setGeometry(QRect(0, 0, 100, 100));
+    }
+
+    QWidget window;
+    Block *block = new Block(QSize(20, 10));
+    SmartLayout layout;
+};
 
 constexpr int noLimit = -1;
 
@@ -84,12 +111,23 @@ QString wrongInBreaks(const std::vector<Row> &rows, const Case &given)
 
 } // namespace
 
-/// What holds of a SmartLayout with any items.
-class tst_SmartLayoutRandom : public QObject
+Q_DECLARE_METATYPE(Qt::AlignmentFlag)
+
+/// What the layout does with its items: their widgets, and sizes at random.
+class tst_SmartLayoutItems : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void asksItemsForSizesByDefault();
+    void asksWidgetsForSizesWhenItUsesWidgetSizing();
+    void usesTheItemWhereThereIsNoWidget();
+    void givesASingleColumnTheSizesOfItsWidgets();
+    void alignsASingleColumnByTheSizesOfItsWidgets_data();
+    void alignsASingleColumnByTheSizesOfItsWidgets();
+    void deletesWidgetsWhenItClears();
+    void deletesNothingWhenItClearsSpacers();
+
     void passesAgree();
     void itemsKeepTheirSizesAndOrder();
     void itemsDoNotOverlap();
@@ -101,14 +139,112 @@ private Q_SLOTS:
     void needsTheHeightOfAllRows();
 };
 
-void tst_SmartLayoutRandom::passesAgree()
+void tst_SmartLayoutItems::asksItemsForSizesByDefault()
+{
+    Limited limited(ofItems);
+    QCOMPARE(limited.layout.itemAt(0)->sizeHint(), QSize(15, 12));
+    QCOMPARE(limited.block->geometry(), QRect(0, 0, 15, 12));
+    QCOMPARE(limited.layout.heightForWidth(100), 12);
+}
+
+void tst_SmartLayoutItems::asksWidgetsForSizesWhenItUsesWidgetSizing()
+{
+    Limited limited(ofWidgets);
+    QCOMPARE(limited.layout.heightForWidth(100), 10);
+    // A widget keeps its own limits in any geometry that it is given.
+    QCOMPARE(limited.block->geometry(), QRect(0, 0, 15, 12));
+    limited.block->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    limited.block->setMinimumHeight(0);
+    limited.block->hide();
+    limited.layout.setGeometry(QRect(0, 0, 50, 50));
+    // The item of a hidden widget would have wanted nothing and moved nothing.
+    QCOMPARE(limited.layout.itemAt(0)->sizeHint(), QSize(0, 0));
+    QCOMPARE(limited.block->geometry(), QRect(0, 0, 20, 10));
+}
+
+void tst_SmartLayoutItems::usesTheItemWhereThereIsNoWidget()
+{
+    SmartLayout layout(nullptr, QMargins(), 5, 3, Qt::AlignLeft, 1, ofWidgets);
+    Blocks::fill(layout, { { 20, 10 }, { 30, 10 } });
+    layout.setGeometry(QRect(0, 0, 100, 100));
+    QCOMPARE(Blocks::text(layout), QStringLiteral("0,0 20x10 | 0,13 30x10"));
+}
+
+void tst_SmartLayoutItems::givesASingleColumnTheSizesOfItsWidgets()
+{
+    Limited limited(ofItems, 1);
+    limited.block->setMinimumHeight(0);
+    limited.block->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    limited.block->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    QCOMPARE(limited.layout.itemAt(0)->sizeHint(), QSize(0, 0));
+    limited.layout.setGeometry(QRect(0, 0, 50, 50));
+    QCOMPARE(limited.block->geometry(), QRect(0, 0, 20, 10));
+    // The height is measured with what the item wants, all the same.
+    QCOMPARE(limited.layout.heightForWidth(50), 0);
+}
+
+void tst_SmartLayoutItems::alignsASingleColumnByTheSizesOfItsWidgets_data()
+{
+    QTest::addColumn<Qt::AlignmentFlag>("alignment");
+    QTest::addColumn<int>("left");
+    QTest::newRow("left") << Qt::AlignLeft << 0;
+    QTest::newRow("centre") << Qt::AlignCenter << 40;
+    QTest::newRow("right") << Qt::AlignRight << 80;
+}
+
+void tst_SmartLayoutItems::alignsASingleColumnByTheSizesOfItsWidgets()
+{
+    QFETCH(const Qt::AlignmentFlag, alignment);
+    QFETCH(const int, left);
+    QWidget window;
+    SmartLayout layout(&window, QMargins(), 5, 3, alignment, 1, ofItems);
+    auto *block = new Block(QSize(20, 10));
+    block->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    layout.addWidget(block);
+    // By its item, which wants nothing, the row would spare a whole 100 pixels.
+    layout.setGeometry(QRect(0, 0, 100, 100));
+    QCOMPARE(block->geometry(), QRect(left, 0, 20, 10));
+}
+
+void tst_SmartLayoutItems::deletesWidgetsWhenItClears()
+{
+    QWidget window;
+    SmartLayout layout(&window, QMargins(), 5, 3, Qt::AlignLeft, -1, ofItems);
+    const QPointer<QWidget> first = new Block(QSize(20, 10));
+    const QPointer<QWidget> second = new Block(QSize(20, 10));
+    layout.addWidget(first);
+    layout.addWidget(second);
+    const std::unique_ptr<QLayoutItem> items[] = { std::unique_ptr<QLayoutItem>(layout.itemAt(0)),
+                                                   std::unique_ptr<QLayoutItem>(layout.itemAt(1)) };
+    layout.clear();
+    QCOMPARE(layout.count(), 0);
+    QVERIFY(first && second);
+    QCOMPARE(items[1]->widget(), second.data());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!first && !second);
+}
+
+void tst_SmartLayoutItems::deletesNothingWhenItClearsSpacers()
+{
+    SmartLayout layout(nullptr, QMargins(), 5, 3, Qt::AlignLeft, -1, ofItems);
+    const auto spacer = std::make_unique<QSpacerItem>(20, 10);
+    const auto item = std::make_unique<Item>(QSize(20, 10));
+    layout.addItem(spacer.get());
+    layout.addItem(item.get());
+    layout.clear();
+    QCOMPARE(layout.count(), 0);
+    QCOMPARE(spacer->sizeHint(), QSize(20, 10));
+    QCOMPARE(item->sizeHint(), QSize(20, 10));
+}
+
+void tst_SmartLayoutItems::passesAgree()
 {
     forRandomCases([](const Case &given, std::mt19937 &generator) {
         return wrongInPasses(*make(given, randomRules(generator)), given.rect);
     });
 }
 
-void tst_SmartLayoutRandom::itemsKeepTheirSizesAndOrder()
+void tst_SmartLayoutItems::itemsKeepTheirSizesAndOrder()
 {
     forRandomCases([](const Case &given, std::mt19937 &generator) {
         std::vector<QSize> sizes;
@@ -120,7 +256,7 @@ void tst_SmartLayoutRandom::itemsKeepTheirSizesAndOrder()
     });
 }
 
-void tst_SmartLayoutRandom::itemsDoNotOverlap()
+void tst_SmartLayoutItems::itemsDoNotOverlap()
 {
     forRandomCases([](const Case &given, std::mt19937 &generator) {
         const auto layout = make(given, randomRules(generator));
@@ -129,7 +265,7 @@ void tst_SmartLayoutRandom::itemsDoNotOverlap()
     });
 }
 
-void tst_SmartLayoutRandom::rowsStandBelowEachOther()
+void tst_SmartLayoutItems::rowsStandBelowEachOther()
 {
     forRandomCases([](const Case &given, std::mt19937 &generator) {
         int top = given.effective().top();
@@ -144,7 +280,7 @@ void tst_SmartLayoutRandom::rowsStandBelowEachOther()
     });
 }
 
-void tst_SmartLayoutRandom::alignsEveryRow()
+void tst_SmartLayoutItems::alignsEveryRow()
 {
     forRandomCases([](const Case &given, std::mt19937 &generator) {
         const Rules rules = randomRules(generator);
@@ -152,14 +288,14 @@ void tst_SmartLayoutRandom::alignsEveryRow()
     });
 }
 
-void tst_SmartLayoutRandom::breaksLinesWhereItHasTo()
+void tst_SmartLayoutItems::breaksLinesWhereItHasTo()
 {
     forRandomCases([](const Case &given, std::mt19937 &) {
         return wrongInBreaks(placedRows(given, Rules()), given);
     });
 }
 
-void tst_SmartLayoutRandom::rowsNeverGrowUnderALimit()
+void tst_SmartLayoutItems::rowsNeverGrowUnderALimit()
 {
     forRandomCases([](const Case &given, std::mt19937 &generator) {
         Rules rules = randomRules(generator);
@@ -175,7 +311,7 @@ void tst_SmartLayoutRandom::rowsNeverGrowUnderALimit()
     });
 }
 
-void tst_SmartLayoutRandom::fillsRowsOfAFixedNumber()
+void tst_SmartLayoutItems::fillsRowsOfAFixedNumber()
 {
     forRandomCases([](const Case &given, std::mt19937 &generator) {
         Rules rules = randomRules(generator);
@@ -190,7 +326,7 @@ void tst_SmartLayoutRandom::fillsRowsOfAFixedNumber()
     });
 }
 
-void tst_SmartLayoutRandom::needsTheHeightOfAllRows()
+void tst_SmartLayoutItems::needsTheHeightOfAllRows()
 {
     forRandomCases([](const Case &given, std::mt19937 &generator) {
         const auto layout = make(given, randomRules(generator));
@@ -202,5 +338,5 @@ void tst_SmartLayoutRandom::needsTheHeightOfAllRows()
     });
 }
 
-QTEST_APPLESS_MAIN(tst_SmartLayoutRandom)
-#include "tst_smartlayout_random.moc"
+QTEST_MAIN(tst_SmartLayoutItems)
+#include "tst_smartlayout_items.moc"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PlainFlow.h"
+#include "support/RandomSeed.h"
 
+#include <QPushButton>
 #include <QTest>
-
-Q_DECLARE_METATYPE(std::vector<QPoint>)
 
 namespace {
 
@@ -42,10 +42,60 @@ std::vector<QPoint> grid(int rows)
     return centres;
 }
 
+/// A window with a layout of buttons, one for each letter.
+class Buttons : public QWidget
+{
+public:
+    explicit Buttons(const QString &letters)
+    {
+        for (const QChar letter : letters)
+            layout.addWidget(new QPushButton(letter));
+    }
+
+    void sort()
+    {
+        layout.sort([](QLayoutItem *a, QLayoutItem *b) { return textOf(a) < textOf(b); });
+    }
+
+    QString order() const
+    {
+        QString letters;
+        for (int i = 0; i < layout.count(); ++i)
+            letters += textOf(layout.itemAt(i));
+        return letters;
+    }
+
+    /// Returns the letters in the order of the focus chain, from the first item on.
+    QString tabOrder() const
+    {
+        const QWidget *first = nullptr;
+        for (int i = 0; i < layout.count() && !first; ++i)
+            first = layout.widgetAt(i);
+        QString letters;
+        const QWidget *widget = first;
+        do {
+            if (const auto *button = qobject_cast<const QPushButton *>(widget))
+                letters += button->text();
+            widget = widget->nextInFocusChain();
+        } while (widget != first);
+        return letters;
+    }
+
+    static QString textOf(QLayoutItem *item)
+    {
+        const auto *button = qobject_cast<QPushButton *>(item->widget());
+        return button ? button->text() : QStringLiteral("-");
+    }
+
+    PlainFlow layout { this, QMargins(), 0, 0 };
+};
+
 } // namespace
 
-/// The neighbour that a key leads to.
-class tst_FlowLayoutNextWidget : public QObject
+Q_DECLARE_METATYPE(std::vector<QPoint>)
+
+/// The order of the items: the way that keys take through it, and how it is sorted.
+class tst_FlowLayoutOrder : public QObject
 {
     Q_OBJECT
 
@@ -63,9 +113,17 @@ private Q_SLOTS:
     void passesOverWhatIsNoWidget();
     void countsHiddenWidgets();
     void leadsNowhereAcrossADistanceThatNoIntHolds();
+
+    void sortsItemsAndTabOrder_data();
+    void sortsItemsAndTabOrder();
+    void sortsAnyOrder();
+    void invalidates();
+    void keepsEqualItems();
+    void interruptsTheTabOrderAtWhatHasNoWidget();
+    void chainsAWidgetThatStandsInItTwiceOnce();
 };
 
-void tst_FlowLayoutNextWidget::goesToTheNeighbour_data()
+void tst_FlowLayoutOrder::goesToTheNeighbour_data()
 {
     QTest::addColumn<char>("letter");
     QTest::addColumn<Qt::Key>("key");
@@ -91,7 +149,7 @@ void tst_FlowLayoutNextWidget::goesToTheNeighbour_data()
     QTest::newRow("a letter") << 'E' << Qt::Key_A << QString();
 }
 
-void tst_FlowLayoutNextWidget::goesToTheNeighbour()
+void tst_FlowLayoutOrder::goesToTheNeighbour()
 {
     QFETCH(const char, letter);
     QFETCH(const Qt::Key, key);
@@ -99,7 +157,7 @@ void tst_FlowLayoutNextWidget::goesToTheNeighbour()
     QTEST(placed.next(letter, key), "next");
 }
 
-void tst_FlowLayoutNextWidget::takesTheNearestCentre_data()
+void tst_FlowLayoutOrder::takesTheNearestCentre_data()
 {
     QTest::addColumn<std::vector<QPoint>>("centres");
     QTest::addColumn<Qt::Key>("key");
@@ -117,7 +175,7 @@ void tst_FlowLayoutNextWidget::takesTheNearestCentre_data()
             << above << Qt::Key_Up << QStringLiteral("B");
 }
 
-void tst_FlowLayoutNextWidget::takesTheNearestCentre()
+void tst_FlowLayoutOrder::takesTheNearestCentre()
 {
     QFETCH(const std::vector<QPoint>, centres);
     QFETCH(const Qt::Key, key);
@@ -125,7 +183,7 @@ void tst_FlowLayoutNextWidget::takesTheNearestCentre()
     QTEST(placed.next('A', key), "next");
 }
 
-void tst_FlowLayoutNextWidget::takesHalfOfAnOddHeightCutOff_data()
+void tst_FlowLayoutOrder::takesHalfOfAnOddHeightCutOff_data()
 {
     QTest::addColumn<int>("distance");
     QTest::addColumn<QString>("next");
@@ -135,7 +193,7 @@ void tst_FlowLayoutNextWidget::takesHalfOfAnOddHeightCutOff_data()
     QTest::newRow("a pixel beyond") << 6 << QStringLiteral("B");
 }
 
-void tst_FlowLayoutNextWidget::takesHalfOfAnOddHeightCutOff()
+void tst_FlowLayoutOrder::takesHalfOfAnOddHeightCutOff()
 {
     QFETCH(const int, distance);
     const Placed below({ { 100, 100 }, { 130, 100 + distance } });
@@ -144,7 +202,7 @@ void tst_FlowLayoutNextWidget::takesHalfOfAnOddHeightCutOff()
     QTEST(above.next('A', Qt::Key_Up), "next");
 }
 
-void tst_FlowLayoutNextWidget::goesFourStepsAtMostByAPage()
+void tst_FlowLayoutOrder::goesFourStepsAtMostByAPage()
 {
     const Placed placed(grid(7));
     QCOMPARE(placed.next('B', Qt::Key_PageDown), QStringLiteral("N"));
@@ -152,7 +210,7 @@ void tst_FlowLayoutNextWidget::goesFourStepsAtMostByAPage()
     QCOMPARE(placed.next('N', Qt::Key_PageDown), QStringLiteral("T"));
 }
 
-void tst_FlowLayoutNextWidget::measuresEachStepOfAPageAnew()
+void tst_FlowLayoutOrder::measuresEachStepOfAPageAnew()
 {
     // A stair: each step is nearest to the one before, and not to the start.
     const Placed placed({ { 100, 100 }, { 150, 130 }, { 200, 160 }, { 100, 400 } });
@@ -161,7 +219,7 @@ void tst_FlowLayoutNextWidget::measuresEachStepOfAPageAnew()
     QCOMPARE(placed.next('A', Qt::Key_PageDown), QStringLiteral("D"));
 }
 
-void tst_FlowLayoutNextWidget::leadsNowhereFromAStranger()
+void tst_FlowLayoutOrder::leadsNowhereFromAStranger()
 {
     const Placed placed(grid(3));
     QWidget stranger;
@@ -169,7 +227,7 @@ void tst_FlowLayoutNextWidget::leadsNowhereFromAStranger()
         QCOMPARE(placed.layout.nextWidget(&stranger, key), nullptr);
 }
 
-void tst_FlowLayoutNextWidget::leadsNowhereFromNothing()
+void tst_FlowLayoutOrder::leadsNowhereFromNothing()
 {
     Placed placed(grid(1));
     QCOMPARE(placed.layout.nextWidget(nullptr, Qt::Key_Left), nullptr);
@@ -179,7 +237,7 @@ void tst_FlowLayoutNextWidget::leadsNowhereFromNothing()
         QCOMPARE(placed.layout.nextWidget(nullptr, key), nullptr);
 }
 
-void tst_FlowLayoutNextWidget::passesOverWhatIsNoWidget()
+void tst_FlowLayoutOrder::passesOverWhatIsNoWidget()
 {
     Placed placed({ { 100, 100 } });
     placed.layout.addItem(new Blocks::Item(QSize(10, 10)));
@@ -191,7 +249,7 @@ void tst_FlowLayoutNextWidget::passesOverWhatIsNoWidget()
     QCOMPARE(placed.next('A', Qt::Key_Right), QString());
 }
 
-void tst_FlowLayoutNextWidget::countsHiddenWidgets()
+void tst_FlowLayoutOrder::countsHiddenWidgets()
 {
     const Placed placed(grid(3));
     placed.widget(4)->hide();
@@ -199,7 +257,7 @@ void tst_FlowLayoutNextWidget::countsHiddenWidgets()
     QCOMPARE(placed.next('D', Qt::Key_Right), QStringLiteral("E"));
 }
 
-void tst_FlowLayoutNextWidget::leadsNowhereAcrossADistanceThatNoIntHolds()
+void tst_FlowLayoutOrder::leadsNowhereAcrossADistanceThatNoIntHolds()
 {
     const Placed near({ { 100, 100 }, { 100, 46440 } });
     QCOMPARE(near.next('A', Qt::Key_Down), QStringLiteral("B"));
@@ -209,5 +267,88 @@ void tst_FlowLayoutNextWidget::leadsNowhereAcrossADistanceThatNoIntHolds()
     QCOMPARE(farther.next('A', Qt::Key_Down), QString());
 }
 
-QTEST_MAIN(tst_FlowLayoutNextWidget)
-#include "tst_flowlayout_nextwidget.moc"
+void tst_FlowLayoutOrder::sortsItemsAndTabOrder_data()
+{
+    QTest::addColumn<QString>("letters");
+    QTest::newRow("none") << QString();
+    QTest::newRow("one") << QStringLiteral("A");
+    QTest::newRow("sorted") << QStringLiteral("ABC");
+    QTest::newRow("backwards") << QStringLiteral("EDCBA");
+    QTest::newRow("mixed") << QStringLiteral("CAEBDF");
+}
+
+void tst_FlowLayoutOrder::sortsItemsAndTabOrder()
+{
+    QFETCH(const QString, letters);
+    Buttons buttons(letters);
+    QString sorted = letters;
+    std::sort(sorted.begin(), sorted.end());
+    buttons.sort();
+    QCOMPARE(buttons.order(), sorted);
+    if (!letters.isEmpty())
+        QCOMPARE(buttons.tabOrder(), sorted);
+}
+
+void tst_FlowLayoutOrder::sortsAnyOrder()
+{
+    std::mt19937 generator = seededGenerator();
+    const QString sorted = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    for (int i = 0; i < 50; ++i) {
+        QString letters = sorted;
+        std::shuffle(letters.begin(), letters.end(), generator);
+        Buttons buttons(letters);
+        buttons.sort();
+        QCOMPARE(buttons.order(), sorted);
+        QCOMPARE(buttons.tabOrder(), sorted);
+    }
+}
+
+void tst_FlowLayoutOrder::invalidates()
+{
+    Buttons buttons(QStringLiteral("AB"));
+    buttons.layout.invalidations = 0;
+    buttons.sort();
+    QVERIFY(buttons.layout.invalidations > 0);
+}
+
+void tst_FlowLayoutOrder::keepsEqualItems()
+{
+    Buttons buttons(QStringLiteral("BABAB"));
+    buttons.sort();
+    QCOMPARE(buttons.order(), QStringLiteral("AABBB"));
+    QCOMPARE(buttons.tabOrder(), QStringLiteral("AABBB"));
+}
+
+void tst_FlowLayoutOrder::interruptsTheTabOrderAtWhatHasNoWidget()
+{
+    // The focus chain is B A C at first; "-" sorts before the letters, and chains nothing.
+    Buttons buttons(QStringLiteral("BAC"));
+    buttons.layout.addItem(new Blocks::Item(QSize(10, 10)));
+    buttons.sort();
+    QCOMPARE(buttons.order(), QStringLiteral("-ABC"));
+    QCOMPARE(buttons.tabOrder(), QStringLiteral("ABC"));
+    const auto byPlace = [](QLayoutItem *a, QLayoutItem *b) {
+        const QString places = QStringLiteral("CA-B");
+        return places.indexOf(Buttons::textOf(a)) < places.indexOf(Buttons::textOf(b));
+    };
+    buttons.layout.sort(byPlace);
+    QCOMPARE(buttons.order(), QStringLiteral("CA-B"));
+    QCOMPARE(buttons.tabOrder(), QStringLiteral("CAB"));
+}
+
+void tst_FlowLayoutOrder::chainsAWidgetThatStandsInItTwiceOnce()
+{
+    // Sorted by a number, A comes first and third. Its neighbour is that of its first item.
+    Buttons buttons(QStringLiteral("ACB"));
+    buttons.layout.addItem(new QWidgetItem(buttons.layout.widgetAt(0)));
+    std::map<QLayoutItem *, int> numbers;
+    const int places[] = { 0, 3, 1, 2 };
+    for (int i = 0; i < 4; ++i)
+        numbers[buttons.layout.itemAt(i)] = places[i];
+    buttons.layout.sort([&](QLayoutItem *a, QLayoutItem *b) { return numbers[a] < numbers[b]; });
+    QCOMPARE(buttons.order(), QStringLiteral("ABAC"));
+    QCOMPARE(buttons.tabOrder(), QStringLiteral("ABC"));
+}
+
+QTEST_MAIN(tst_FlowLayoutOrder)
+#include "tst_flowlayout_order.moc"

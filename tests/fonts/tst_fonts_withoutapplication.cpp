@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "FontTokens.h"
 
+#include <UiElements/fonts/OxaFontManager.h>
+#include <UiElements/fonts/OxaScaledFonts.h>
+#include <UiElements/widgets/OxaWidget.h>
+
 #include <QApplication>
 
+using FontType = FontManagerEnum::FontType;
 using Token = OxaFont::Token;
 
 /// Fonts in a process without an OxaApplication.
@@ -56,12 +61,53 @@ void tst_OxaFontWithoutApplication::warnsOfAnUnknownToken()
     QCOMPARE(OxaFont(static_cast<Token>(99), false).pixelSize(), 16);
 }
 
-/// Runs the tests twice: without any application object, and under one that is Qt's own.
+/// The font manager, and widgets that look for it, under an application that is Qt's own.
+class tst_OxaFontManagerWithoutApplication : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void warnsThatThereIsNone();
+    void worksWhenMadeByHand();
+    void leavesWidgetsWithTheirTokensFont();
+};
+
+void tst_OxaFontManagerWithoutApplication::warnsThatThereIsNone()
+{
+    QTest::ignoreMessage(QtWarningMsg, "Unable to find OxaApplication");
+    QVERIFY(!OxaFontManager::get());
+}
+
+void tst_OxaFontManagerWithoutApplication::worksWhenMadeByHand()
+{
+    OxaFontManager manager;
+    manager.setScalingFactor(FontType::MeetingView, FontManagerEnum::FontScalingFactor::Large);
+    QCOMPARE(manager.getFont(FontType::MeetingView)->getFont(OxaFont::Token::Title).pixelSize(),
+             20);
+}
+
+void tst_OxaFontManagerWithoutApplication::leavesWidgetsWithTheirTokensFont()
+{
+    OxaWidget widget;
+    widget.setFontToken(OxaFont::Token::Title);
+    QTest::ignoreMessage(QtWarningMsg, "Unable to find OxaApplication");
+    widget.setFontType(FontType::MessagingView);
+    QCOMPARE(widget.getFontType(), FontType::MessagingView);
+    QCOMPARE(widget.font().pixelSize(), 20);
+
+    QTest::ignoreMessage(QtWarningMsg, "Unable to find OxaApplication");
+    widget.setFontToken(OxaFont::Token::Display);
+    QCOMPARE(widget.font().pixelSize(), 40);
+}
+
+/// Runs the tests of fonts twice: without any application object, and under one that is Qt's own.
 int main(int argc, char **argv)
 {
     tst_OxaFontWithoutApplication test;
-    const int failures = QTest::qExec(&test, argc, argv);
+    int failures = QTest::qExec(&test, argc, argv);
     const QApplication application(argc, argv);
-    return failures + QTest::qExec(&test, argc, argv);
+    failures += QTest::qExec(&test, argc, argv);
+    tst_OxaFontManagerWithoutApplication managerTest;
+    return failures + QTest::qExec(&managerTest, argc, argv);
 }
-#include "tst_oxafont_withoutapplication.moc"
+#include "tst_fonts_withoutapplication.moc"

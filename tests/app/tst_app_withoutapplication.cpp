@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "support/Guards.h"
+
+#include <UiElements/app/AppUtils.h>
+#include <UiElements/app/OxaAppSignals.h>
+#include <UiElements/app/OxaGlobalSignalListener.h>
+
+#include <QTest>
+
+/// Helpers and switchboards under a plain QApplication, which has neither logo nor theme.
+class tst_AppWithoutApplication : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void knowsNoLogo();
+    void ignoresAForeignApplicationsProperties();
+    void makesATransparentDialogIcon();
+    void takesTheLayoutDirectionForLeftToRight();
+
+    void warnsAtEachRequestForTheHub();
+    void warnsAtEachRequestForTheListener();
+    void servesAHubThatSomebodyMadeForItself();
+};
+
+void tst_AppWithoutApplication::knowsNoLogo()
+{
+    QCOMPARE(AppUtils::getAppSvgIconPath(), QString());
+    QCOMPARE(AppUtils::getAppPngIconPath(), QString());
+    QVERIFY(AppUtils::getDialogIcon(false).isNull());
+}
+
+void tst_AppWithoutApplication::ignoresAForeignApplicationsProperties()
+{
+    const ApplicationPropertyGuard svg("logoSvgPath", QStringLiteral(":/logo.svg"));
+    const ApplicationPropertyGuard png("logoPngPath", QStringLiteral(":/logo.png"));
+    knowsNoLogo();
+}
+
+void tst_AppWithoutApplication::makesATransparentDialogIcon()
+{
+    QCOMPARE(AppUtils::getDialogIcon(true).availableSizes(), QList<QSize> { QSize(32, 32) });
+}
+
+void tst_AppWithoutApplication::takesTheLayoutDirectionForLeftToRight()
+{
+    const LayoutDirectionGuard direction(Qt::RightToLeft);
+    QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
+    QVERIFY(!AppUtils::isRTLLayoutDirection());
+}
+
+void tst_AppWithoutApplication::warnsAtEachRequestForTheHub()
+{
+    for (int call = 0; call < 2; ++call) {
+        QTest::ignoreMessage(QtWarningMsg, "Unable to find OxaApplication");
+        QVERIFY(!OxaAppSignals::get());
+    }
+}
+
+void tst_AppWithoutApplication::warnsAtEachRequestForTheListener()
+{
+    for (int call = 0; call < 2; ++call) {
+        QTest::ignoreMessage(QtWarningMsg, "Unable to find OxaApplication");
+        QVERIFY(!OxaGlobalSignalListener::get());
+    }
+}
+
+void tst_AppWithoutApplication::servesAHubThatSomebodyMadeForItself()
+{
+    OxaAppSignals hub;
+    QWidget window;
+    hub.registerShortcuts(&window, OxaShortcut::General);
+    QVERIFY(hub.shortcutExists(OxaAppSignals::Shortcut::OpenGlobalSearch));
+}
+
+QTEST_MAIN(tst_AppWithoutApplication)
+#include "tst_app_withoutapplication.moc"
