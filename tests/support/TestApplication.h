@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <UiElements/app/OxaApplication.h>
+#include "support/TestMain.h"
 
-#include <QTest>
+#include <UiElements/app/OxaApplication.h>
 
 /// The application object of tests, with the outer application's hooks answered by doing nothing.
 class TestApplication : public OxaApplication
@@ -21,13 +21,5 @@ public:
     void setPublishingInfo(const AppPublishing::OxaPublishingInfo &info);
 };
 
-/// The main function of a test that runs under an OxaApplication. QTEST_MAIN gives a plain
-/// QApplication instead, and QTEST_APPLESS_MAIN none.
-#define UIELEMENTS_TEST_MAIN(TestClass)                                                            \
-    int main(int argc, char **argv)                                                                \
-    {                                                                                              \
-        TestApplication application(argc, argv);                                                   \
-        TestClass test;                                                                            \
-        QTEST_SET_MAIN_SOURCE_PATH                                                                 \
-        return QTest::qExec(&test, argc, argv);                                                    \
-    }
+/// Runs a test class under a TestApplication. TestMain.h has the like for other applications.
+#define UIELEMENTS_TEST_MAIN(TestClass) UIELEMENTS_TEST_MAIN_WITH(TestApplication, TestClass)

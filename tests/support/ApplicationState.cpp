@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "support/ApplicationState.h"
+
+#include <UiElements/app/IOxaApplication.h>
+
+#include <QApplication>
+#include <QDebug>
+#include <QMetaProperty>
+#include <QWidget>
+#include <QWindow>
+
+namespace {
+
+template <typename Value>
+QString textOf(const Value &value)
+{
+    QString text;
+    QDebug(&text).nospace() << value;
+    return text;
+}
+
+QString textOf(const OxaColorSetMap &store)
+{
+    QMap<QString, QString> sets;
+    for (const auto &[name, set] : store)
+        sets.insert(QString::fromStdString(name),
+                    textOf(QList<QColor>({ set.normal, set.hovered, set.pressed, set.disabled,
+                                           set.focused, set.checked })));
+    return textOf(sets);
+}
+
+} // namespace
+
+ApplicationState ApplicationState::now()
+{
+    ApplicationState state;
+    if (!qApp)
+        return state;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    state.addProperties();
+    state.addStores();
+    if (qobject_cast<QGuiApplication *>(qApp))
+        state.addWindows();
+    return state;
+}
+
+QStringList ApplicationState::differencesTo(const ApplicationState &before) const
+{
+    QStringList lines;
+    QMap<QString, QString> all = m_texts;
+    all.insert(before.m_texts);
+    for (auto it = all.keyBegin(); it != all.keyEnd(); ++it) {
+        if (m_texts.value(*it) != before.m_texts.value(*it))
+            lines.append(QStringLiteral("%1: %2 (before: %3)")
+                                 .arg(*it, m_texts.value(*it), before.m_texts.value(*it)));
+    }
+    return lines;
+}
+
+void ApplicationState::addProperties()
+{
+    const QMetaObject *const metaObject = qApp->metaObject();
+    for (int i = 0; i < metaObject->propertyCount(); ++i) {
+        const QMetaProperty property = metaObject->property(i);
+        m_texts.insert(QLatin1String(property.name()), textOf(property.read(qApp)));
+    }
+    const QList<QByteArray> names = qApp->dynamicPropertyNames();
+    for (const QByteArray &name : names)
+        m_texts.insert(QLatin1String(name), textOf(qApp->property(name.constData())));
+}
+
+void ApplicationState::addWindows()
+{
+    m_texts.insert(QStringLiteral("font"), textOf(QGuiApplication::font()));
+    m_texts.insert(QStringLiteral("palette"), textOf(QGuiApplication::palette()));
+    if (qobject_cast<QApplication *>(qApp))
+        m_texts.insert(QStringLiteral("widgets"), textOf(QApplication::topLevelWidgets()));
+    m_texts.insert(QStringLiteral("windows"), textOf(QGuiApplication::topLevelWindows()));
+}
+
+void ApplicationState::addStores()
+{
+    const auto *const application = qobject_cast<IOxaApplication *>(qApp);
+    if (!application)
+        return;
+    m_texts.insert(QStringLiteral("store"), textOf(application->getColorSets()));
+    m_texts.insert(QStringLiteral("inverted store"), textOf(application->getInvertedColorSets()));
+}
