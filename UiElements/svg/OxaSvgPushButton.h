@@ -17,8 +17,9 @@ class UIELEMENTS_EXPORT OxaSvgPushButton : public OxaPushButton
     Q_PROPERTY(QString svgIconChecked READ getSvgIconChecked WRITE setSvgIconChecked NOTIFY
                        svgIconCheckedChanged)
     Q_PROPERTY(Qt::TextFormat textFormat READ getTextFormat WRITE setTextFormat)
-    // QAbstractButton's, once more, so that the property system calls the setter below.
+    // Qt's, once more, so that the property system calls the setters below.
     Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(QFont font READ font WRITE setFont)
 
 public:
     /// Makes a button without a text and an icon.

@@ -13,12 +13,7 @@ using Factor = FontManagerEnum::FontScalingFactor;
 
 namespace {
 
-void addClassesWithFont()
-{
-    addThemedClasses([](const ThemedClass &themed) {
-        return themed.font == ThemedClass::Font::Yes && themed.start == ThemedClass::Start::Plain;
-    });
-}
+void addClassesWithFont() { addThemedClassesBut(ThemedClass::NoFont | ThemedClass::StartsStyled); }
 
 void setToken(QWidget &widget, Token token)
 {

@@ -15,7 +15,6 @@
 struct IconWidget
 {
     const char *name;
-    const QMetaObject *metaObject;
     std::function<std::unique_ptr<QWidget>()> make;
     std::function<void(QWidget &, const QMargins &)> setPadding;
     std::function<QMargins(const QWidget &)> padding;
@@ -28,7 +27,6 @@ IconWidget iconWidget()
 {
     return {
         Widget::staticMetaObject.className(),
-        &Widget::staticMetaObject,
         [] { return std::make_unique<Widget>(); },
         [](QWidget &widget, const QMargins &padding) {
             static_cast<Widget &>(widget).setSvgIconPadding(padding);

@@ -7,7 +7,6 @@
 
 #include <UiElements/svg/OxaPillTabButton.h>
 
-#include <QMetaProperty>
 #include <QSignalSpy>
 
 namespace {
@@ -34,7 +33,6 @@ private Q_SLOTS:
 
     void startsAsAnUncheckedPill();
     void takesWhatItsConstructorsAreGiven();
-    void showsItsPropertiesAndSlots();
     void appliesNoStyleUntilItIsToldOf();
 
     void writesItsStyleTextForEachState_data();
@@ -93,24 +91,6 @@ void tst_OxaPillTabButton::takesWhatItsConstructorsAreGiven()
     const auto *pill = new OxaPillTabButton(QStringLiteral("abc"), &parent);
     QCOMPARE(pill->parent(), &parent);
     QCOMPARE(pill->text(), QStringLiteral("abc"));
-}
-
-void tst_OxaPillTabButton::showsItsPropertiesAndSlots()
-{
-    const QMetaObject &type = OxaPillTabButton::staticMetaObject;
-    QStringList properties;
-    for (int i = type.propertyOffset(); i < type.propertyCount(); ++i) {
-        QCOMPARE(type.property(i).typeName(), "QString");
-        properties += QLatin1String(type.property(i).name());
-    }
-    QCOMPARE(properties.join(QLatin1Char(' ')),
-             QStringLiteral("backgroundColorSet textColorSet iconColorSet "
-                            "backgroundColorSetChecked textColorSetChecked iconColorSetChecked"));
-    for (const char *slot : { "onApplyCSS(bool)", "onSvgIconChanged(QString)" }) {
-        const QMetaMethod method = type.method(type.indexOfSlot(slot));
-        QVERIFY2(method.isValid(), slot);
-        QCOMPARE(method.access(), QMetaMethod::Private);
-    }
 }
 
 void tst_OxaPillTabButton::appliesNoStyleUntilItIsToldOf()

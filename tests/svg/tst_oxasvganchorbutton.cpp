@@ -7,7 +7,6 @@
 
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 
-#include <QMetaProperty>
 #include <QSignalSpy>
 
 #include <functional>
@@ -39,7 +38,6 @@ private Q_SLOTS:
 
     void startsCheckableWithoutPictures();
     void takesWhatItsConstructorsAreGiven();
-    void showsItsProperties();
     void tellsOfItsPictures();
     void triesPathsThatFailTwice();
     void sharesItsPaddingWithItsOffset();
@@ -85,29 +83,6 @@ void tst_OxaSvgAnchorButton::takesWhatItsConstructorsAreGiven()
     const auto *button = new OxaSvgAnchorButton(QStringLiteral("abc"), &parent);
     QCOMPARE(button->parent(), &parent);
     QCOMPARE(button->text(), QStringLiteral("abc"));
-}
-
-void tst_OxaSvgAnchorButton::showsItsProperties()
-{
-    const QMetaObject &type = OxaSvgAnchorButton::staticMetaObject;
-    QStringList properties;
-    for (int i = type.propertyOffset(); i < type.propertyCount(); ++i) {
-        const QMetaProperty property = type.property(i);
-        properties += QLatin1String(property.typeName()) + QLatin1Char(' ')
-                + QLatin1String(property.name()) + QLatin1Char(' ')
-                + QLatin1String(property.notifySignal().name());
-    }
-    const QStringList expected = {
-        QStringLiteral("QString anchorSvgOn anchorSvgOnChanged"),
-        QStringLiteral("QString anchorSvgOff anchorSvgOffChanged"),
-        QStringLiteral("QSize anchorIconSize "),
-        QStringLiteral("QString anchorSvgColorSet "),
-        QStringLiteral("int anchorPadding "),
-        QStringLiteral("QPoint anchorSvgOffset "),
-        QStringLiteral("bool isLeftAnchor "),
-        QStringLiteral("bool alignAnchorIconToText "),
-    };
-    QCOMPARE(properties, expected);
 }
 
 void tst_OxaSvgAnchorButton::tellsOfItsPictures()

@@ -8,7 +8,6 @@
 #include "support/SvgFiles.h"
 #include "support/TestApplication.h"
 
-#include <QMetaProperty>
 #include <QSignalSpy>
 
 namespace {
@@ -51,8 +50,6 @@ private Q_SLOTS:
     void init();
     void cleanup() { m_stores.reset(); }
 
-    void showsTheSameProperties_data() { addIconWidgets(); }
-    void showsTheSameProperties();
     void startsWithoutAnIcon_data() { addIconWidgets(); }
     void startsWithoutAnIcon();
     void makesAnIconWhenASizeOrSetIsFirst_data() { addIconWidgets(); }
@@ -97,37 +94,6 @@ void tst_OxaSvgIconBlock::init()
                                                     { textColors, iconColors, linkColors }),
                                             ColorSets::storeOf({ textColors, darkColors, lateColors,
                                                                  linkColors }));
-}
-
-void tst_OxaSvgIconBlock::showsTheSameProperties()
-{
-    FETCH_ICON_WIDGET;
-    const char *const properties[] = {
-        "QString svgIcon svgIconChanged",
-        "QString svgIconColorSet svgIconColorSetChanged",
-        "QSize svgIconSize svgIconSizeChanged",
-        "OxaEnum::Alignment svgIconAlignment ",
-        "OxaEnum::HorAlign textHorAlign ",
-        "int textLeftPadding ",
-        "int textRightPadding ",
-        "QPoint svgIconTopLeftPadding ",
-        "QPoint svgIconBottomRightPadding ",
-        "QString innerSvgIcon ",
-        "QString innerSvgIconColorSet ",
-        "QSize innerSvgIconSize ",
-    };
-    for (const char *expected : properties) {
-        const QByteArray name = QByteArray(expected).split(' ').at(1);
-        const QMetaProperty property = tested.metaObject->property(
-                tested.metaObject->indexOfProperty(name.constData()));
-        QVERIFY2(property.isWritable(), name.constData());
-        QCOMPARE(QByteArray(property.typeName()) + ' ' + property.name() + ' '
-                         + property.notifySignal().name(),
-                 QByteArray(expected));
-    }
-    for (const char *signature : { "svgIconChanged(QString)", "svgIconColorSetChanged(OxaColorSet)",
-                                   "svgIconSizeChanged(QSize)" })
-        QVERIFY2(tested.metaObject->indexOfSignal(signature) >= 0, signature);
 }
 
 void tst_OxaSvgIconBlock::startsWithoutAnIcon()

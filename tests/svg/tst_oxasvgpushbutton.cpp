@@ -8,7 +8,6 @@
 #include <UiElements/svg/OxaSvgPushButton.h>
 
 #include <QAbstractTextDocumentLayout>
-#include <QMetaMethod>
 #include <QSignalSpy>
 #include <QTextDocument>
 
@@ -37,7 +36,6 @@ private Q_SLOTS:
 
     void startsAsAnElidingPushButton();
     void takesWhatItsConstructorsAreGiven();
-    void showsItsOwnPropertiesAndSlots();
     void hintsTheSizeOfTextIconAndPaddings_data();
     void hintsTheSizeOfTextIconAndPaddings();
 
@@ -87,22 +85,6 @@ void tst_OxaSvgPushButton::takesWhatItsConstructorsAreGiven()
     QCOMPARE(button->parent(), &parent);
     QCOMPARE(button->text(), QStringLiteral("abc"));
     QCOMPARE(button->getAccessibleRole(), QAccessible::MenuItem);
-}
-
-void tst_OxaSvgPushButton::showsItsOwnPropertiesAndSlots()
-{
-    const QMetaObject &type = OxaSvgPushButton::staticMetaObject;
-    const QMetaProperty checked = type.property(type.indexOfProperty("svgIconChecked"));
-    QCOMPARE(checked.typeName(), "QString");
-    QCOMPARE(checked.notifySignal().methodSignature(),
-             QByteArray("svgIconCheckedChanged(QString)"));
-    QCOMPARE(type.property(type.indexOfProperty("textFormat")).typeName(), "Qt::TextFormat");
-    for (const char *slot :
-         { "onSvgIconColorSetChanged(OxaColorSet)", "onSvgIconSizeChanged(QSize)" }) {
-        const QMetaMethod method = type.method(type.indexOfSlot(slot));
-        QVERIFY2(method.isValid(), slot);
-        QCOMPARE(method.access(), QMetaMethod::Private);
-    }
 }
 
 void tst_OxaSvgPushButton::hintsTheSizeOfTextIconAndPaddings_data()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "ClientPanel.h"
 #include "support/ColorSets.h"
 
 #include <UiElements/emoji/OxaEmojiPushButton.h>
@@ -13,6 +14,7 @@
 
 #include <QTest>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -20,66 +22,97 @@
 /// One themed widget class, as the tests of the theme block see it.
 struct ThemedClass
 {
-    /// Whether the class has the font members of the block.
-    enum class Font { Yes, No };
+    /// How a class differs from the plain case: made with a parent alone, it follows that, has
+    /// fonts, and starts without a style text in the default font.
+    enum Trait {
+        NoTraits = 0,
+        NoFont = 1,           ///< Lacks the font members.
+        StyledBackground = 2, ///< Is OxaThemeBlock::Form::StyledBackground.
+        StartsStyled = 4,     ///< Has a style text or a font of its own from the start.
+        FollowsNoParent = 8,  ///< Does not follow the parent that it is made with.
+        NeedsName = 16,       ///< Expands no style text before it has an object name.
+    };
+    using Make = std::function<std::unique_ptr<QWidget>(QWidget *parent)>;
 
-    /// What happens to the expanded sheet and the object name in setCSS().
-    using Form = OxaThemeBlock::Form;
+    bool is(Trait trait) const { return (traits & trait) != 0; }
 
-    /// Whether the class starts without a style text and in the default font.
-    enum class Start { Plain, Own };
+    /// Makes a widget, named "w" where it needs a name.
+    std::unique_ptr<QWidget> make(QWidget *parent) const
+    {
+        auto widget = makeUnnamed(parent);
+        if (is(NeedsName))
+            widget->setObjectName(QStringLiteral("w"));
+        return widget;
+    }
+
+    /// Returns what a style text of a widget from make() selects it by.
+    QString selector() const
+    {
+        return is(NeedsName) ? QStringLiteral("#w") : QString::fromLatin1(name);
+    }
 
     const char *name;
     const QMetaObject *metaObject;
     const QMetaObject *baseMetaObject;
-    Font font;
-    Form form;
-    Start start;
-    std::function<std::unique_ptr<QWidget>(QWidget *parent)> make;
+    int traits;
+    std::vector<const char *> colorSets; ///< That it asks for by itself.
+    Make makeUnnamed;
     std::function<OxaThemeUtils::AppThemeType(const QWidget &)> themeType;
     std::function<OxaCSSData(const QWidget &)> cssData;
     std::function<void(QWidget &, const OxaCSSData &)> setCSSData;
 };
 
-/// Describes \a Widget, which derives from \a Base: a Qt class, or another themed one.
+/// Describes \a Widget, which derives from \a Base, a Qt class or another themed one, and is made
+/// by \a make.
 template <typename Widget, typename Base>
-ThemedClass themedClass(ThemedClass::Font font = ThemedClass::Font::Yes,
-                        ThemedClass::Form form = ThemedClass::Form::Full,
-                        ThemedClass::Start start = ThemedClass::Start::Plain)
+ThemedClass themedClass(int traits, const std::vector<const char *> &colorSets,
+                        const ThemedClass::Make &make)
 {
     return {
         Widget::staticMetaObject.className(),
         &Widget::staticMetaObject,
         &Base::staticMetaObject,
-        font,
-        form,
-        start,
-        [](QWidget *parent) { return std::make_unique<Widget>(parent); },
+        traits,
+        colorSets,
+        make,
         [](const QWidget &widget) { return static_cast<const Widget &>(widget).getThemeType(); },
         [](const QWidget &widget) { return static_cast<const Widget &>(widget).getOxaCSS(); },
         [](QWidget &widget, const OxaCSSData &data) { static_cast<Widget &>(widget).setCSS(data); },
     };
 }
 
-/// Every themed widget class of the library. A new one is one row.
+/// The same for a class that is made with a parent alone.
+template <typename Widget, typename Base>
+ThemedClass themedClass(int traits = ThemedClass::NoTraits,
+                        const std::vector<const char *> &colorSets = {})
+{
+    return themedClass<Widget, Base>(traits, colorSets, [](QWidget *parent) {
+        return std::make_unique<Widget>(parent);
+    });
+}
+
+/// Every themed widget class of the library, and one of a client. A new one is one row.
 inline const std::vector<ThemedClass> &themedClasses()
 {
-    using Font = ThemedClass::Font;
-    using Form = ThemedClass::Form;
-    using Start = ThemedClass::Start;
+    using T = ThemedClass;
+    static const std::vector<const char *> linkColors = { "button-hyperlink-text" };
     static const std::vector<ThemedClass> classes = {
-        themedClass<OxaLabel, QLabel>(),
+        themedClass<OxaLabel, QLabel>(T::NoTraits, linkColors),
         themedClass<OxaPushButton, QPushButton>(),
-        themedClass<OxaWidget, QWidget>(Font::Yes, Form::StyledBackground),
+        themedClass<OxaWidget, QWidget>(T::StyledBackground),
         // These inherit the block.
-        themedClass<OxaEmojiLabel, OxaLabel>(),
-        themedClass<OxaEmojiPushButton, OxaEmojiLabel>(),
-        themedClass<OxaPillTabButton, OxaSvgPushButton>(Font::Yes, Form::Full, Start::Own),
+        themedClass<OxaEmojiLabel, OxaLabel>(T::NoTraits, linkColors),
+        themedClass<OxaEmojiPushButton, OxaEmojiLabel>(T::NoTraits, linkColors),
+        themedClass<OxaPillTabButton, OxaSvgPushButton>(T::StartsStyled),
         themedClass<OxaSvgAnchorButton, OxaSvgPushButton>(),
-        themedClass<OxaSvgLabel, OxaLabel>(),
+        themedClass<OxaSvgLabel, OxaLabel>(T::NoTraits, linkColors),
         themedClass<OxaSvgPushButton, OxaPushButton>(),
-        themedClass<OxaToggleButton, OxaPushButton>(Font::Yes, Form::Full, Start::Own),
-        themedClass<OxaUnderlineButton, OxaPushButton>(),
+        themedClass<OxaToggleButton, OxaPushButton>(T::StartsStyled),
+        themedClass<OxaUnderlineButton, OxaPushButton>(T::NoTraits,
+                                                       { "oxa-underlineButton-background",
+                                                         "oxa-underlineButton-text" }),
+        themedClass<ClientPanel, QFrame>(T::NoFont | T::FollowsNoParent, { "client-frame" },
+                                         &ClientPanel::make),
     };
     return classes;
 }
@@ -89,9 +122,12 @@ inline const std::vector<ThemedClass> &themedClasses()
 inline OxaColorSetMap storeWith(const char *color)
 {
     OxaColorSetMap store;
-    for (const char *name : { "panel", "button-hyperlink-text", "oxa-underlineButton-background",
-                              "oxa-underlineButton-text" })
+    const auto add = [&](const char *name) {
         store.emplace(name, ColorSets::make(QString::fromLatin1(name), { color }));
+    };
+    add("panel");
+    for (const ThemedClass &themed : themedClasses())
+        std::for_each(themed.colorSets.begin(), themed.colorSets.end(), add);
     return store;
 }
 
@@ -107,17 +143,10 @@ inline void addThemedClasses(const std::function<bool(const ThemedClass &)> &isW
     }
 }
 
-/// Adds those rows for the classes of \a form.
-inline void addThemedClasses(ThemedClass::Form form)
+/// Adds those rows for the classes without any of \a traits.
+inline void addThemedClassesBut(int traits)
 {
-    addThemedClasses([form](const ThemedClass &themed) { return themed.form == form; });
-}
-
-/// Adds those rows for the classes that start plain.
-inline void addPlainThemedClasses()
-{
-    addThemedClasses(
-            [](const ThemedClass &themed) { return themed.start == ThemedClass::Start::Plain; });
+    addThemedClasses([traits](const ThemedClass &themed) { return (themed.traits & traits) == 0; });
 }
 
 /// Declares `themed`, the class of the test's current row.

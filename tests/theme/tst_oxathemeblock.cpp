@@ -7,10 +7,8 @@
 
 #include <UiElements/svg/VisualUtils.h>
 
-#include <QMetaMethod>
 #include <QSignalSpy>
 
-using Form = ThemedClass::Form;
 using OxaThemeUtils::AppThemeType;
 
 namespace {
@@ -22,13 +20,6 @@ QString sheetOf(const QString &selector, const char *color)
 {
     return QStringLiteral("%1{border:none;}%1{background-color:%2;}")
             .arg(selector, QLatin1String(color));
-}
-
-bool hasMethod(const QMetaObject *type, const char *signature, QMetaMethod::MethodType methodType,
-               QMetaMethod::Access access)
-{
-    const QMetaMethod method = type->method(type->indexOfMethod(signature));
-    return method.isValid() && method.methodType() == methodType && method.access() == access;
 }
 
 } // namespace
@@ -45,11 +36,10 @@ private Q_SLOTS:
     }
     void cleanup();
 
-    void showsTheSameSignalsAndSlots_data() { addThemedClasses(); }
-    void showsTheSameSignalsAndSlots();
-    void showsTheSameProperties_data() { addThemedClasses(); }
-    void showsTheSameProperties();
-    void startsGlobalWithoutStyleTextInTheDefaultFont_data() { addPlainThemedClasses(); }
+    void startsGlobalWithoutStyleTextInTheDefaultFont_data()
+    {
+        addThemedClassesBut(ThemedClass::StartsStyled);
+    }
     void startsGlobalWithoutStyleTextInTheDefaultFont();
 
     void expandsTheStyleTextAndTellsOfIt_data() { addThemedClasses(); }
@@ -60,23 +50,29 @@ private Q_SLOTS:
     void takesStyleTextsAsUtf8ThroughTheProperty();
     void givesAnEmptyStyleTextNoSheet_data() { addThemedClasses(); }
     void givesAnEmptyStyleTextNoSheet();
-    void costsQtNothingWithoutAStyleText_data() { addPlainThemedClasses(); }
+    void costsQtNothingWithoutAStyleText_data() { addThemedClassesBut(ThemedClass::StartsStyled); }
     void costsQtNothingWithoutAStyleText();
-    void paintsAStyledBackgroundFromItsFirstSheetOn_data()
-    {
-        addThemedClasses(Form::StyledBackground);
-    }
+    void paintsAStyledBackgroundFromItsFirstSheetOn_data();
     void paintsAStyledBackgroundFromItsFirstSheetOn();
-    void followsItsObjectNameFromTheFirstStyleTextOn_data() { addPlainThemedClasses(); }
+    void followsItsObjectNameFromTheFirstStyleTextOn_data()
+    {
+        addThemedClassesBut(ThemedClass::StartsStyled);
+    }
     void followsItsObjectNameFromTheFirstStyleTextOn();
     void expandsAgainUnderANewObjectName_data() { addThemedClasses(); }
     void expandsAgainUnderANewObjectName();
     void expandsOnceForOneNewNameAfterManyStyleTexts_data() { addThemedClasses(); }
     void expandsOnceForOneNewNameAfterManyStyleTexts();
-    void followsItsNameAgainFromAStyleTextAfterADisconnect_data() { addThemedClasses(Form::Full); }
+    void followsItsNameAgainFromAStyleTextAfterADisconnect_data()
+    {
+        addThemedClassesBut(ThemedClass::StyledBackground);
+    }
     void followsItsNameAgainFromAStyleTextAfterADisconnect();
 
-    void makesTheFirstStyleSheetTheStyleText_data() { addPlainThemedClasses(); }
+    void makesTheFirstStyleSheetTheStyleText_data()
+    {
+        addThemedClassesBut(ThemedClass::StartsStyled);
+    }
     void makesTheFirstStyleSheetTheStyleText();
     void keepsTheStyleTextWhenAStyleSheetIsSet_data() { addThemedClasses(); }
     void keepsTheStyleTextWhenAStyleSheetIsSet();
@@ -103,45 +99,6 @@ void tst_OxaThemeBlock::cleanup()
     QVERIFY2(QApplication::topLevelWidgets().isEmpty(), "A test left a window behind.");
 }
 
-void tst_OxaThemeBlock::showsTheSameSignalsAndSlots()
-{
-    FETCH_THEMED_CLASS;
-    const QMetaObject *type = themed.metaObject;
-    QCOMPARE(type->superClass(), themed.baseMetaObject);
-    QVERIFY(hasMethod(type, "cssChanged()", QMetaMethod::Signal, QMetaMethod::Public));
-    QVERIFY(hasMethod(type, "themeTypeChanged()", QMetaMethod::Signal, QMetaMethod::Public));
-    QVERIFY(hasMethod(type, "refreshCSS()", QMetaMethod::Slot, QMetaMethod::Private));
-    QVERIFY(hasMethod(type, "onThemeChanged()", QMetaMethod::Slot, QMetaMethod::Protected));
-    QVERIFY(hasMethod(type, "onParentThemeTypeChanged()", QMetaMethod::Slot, QMetaMethod::Private));
-}
-
-void tst_OxaThemeBlock::showsTheSameProperties()
-{
-    FETCH_THEMED_CLASS;
-    const QMetaObject *type = themed.metaObject;
-    const auto property = [type](const char *name) {
-        return type->property(type->indexOfProperty(name));
-    };
-    const auto description = [&property](const char *name) {
-        const QMetaProperty found = property(name);
-        return QLatin1String(found.typeName()) + QLatin1Char(' ')
-                + QLatin1String(found.notifySignal().name());
-    };
-    QCOMPARE(description("styleSheet"), QStringLiteral("QString "));
-    QVERIFY(property("styleSheet").enclosingMetaObject() != &QWidget::staticMetaObject);
-    QCOMPARE(description("css"), QStringLiteral("QByteArray cssChanged"));
-    QCOMPARE(description("themeType"), QStringLiteral("QString themeTypeChanged"));
-    QCOMPARE(description("font"), QStringLiteral("QFont "));
-
-    const bool hasFont = themed.font == ThemedClass::Font::Yes;
-    QCOMPARE(property("fontToken").isValid(), hasFont);
-    QCOMPARE(property("fontType").isValid(), hasFont);
-    if (hasFont) {
-        QCOMPARE(property("fontToken").typeName(), "OxaFont::Token");
-        QCOMPARE(property("fontType").typeName(), "FontManagerEnum::FontType");
-    }
-}
-
 void tst_OxaThemeBlock::startsGlobalWithoutStyleTextInTheDefaultFont()
 {
     FETCH_THEMED_CLASS;
@@ -151,7 +108,7 @@ void tst_OxaThemeBlock::startsGlobalWithoutStyleTextInTheDefaultFont()
     QCOMPARE(themed.themeType(*widget), AppThemeType::Global);
     QVERIFY(themed.cssData(*widget) == OxaCSSData());
     QCOMPARE(widget->styleSheet(), QString());
-    if (themed.font == ThemedClass::Font::Yes)
+    if (!themed.is(ThemedClass::NoFont))
         QCOMPARE(widget->font().pixelSize(), 16);
 }
 
@@ -162,7 +119,7 @@ void tst_OxaThemeBlock::expandsTheStyleTextAndTellsOfIt()
     const QSignalSpy cssChanged(widget.get(), SIGNAL(cssChanged()));
     const QSignalSpy themeTypeChanged(widget.get(), SIGNAL(themeTypeChanged()));
     QVERIFY(widget->setProperty("css", styleText.toUtf8()));
-    QCOMPARE(widget->styleSheet(), sheetOf(QLatin1String(themed.name), "#ff112233"));
+    QCOMPARE(widget->styleSheet(), sheetOf(themed.selector(), "#ff112233"));
     QCOMPARE(themed.cssData(*widget).backgroundColorSetName, QStringLiteral("panel"));
     QCOMPARE(cssChanged.size(), 1);
     QCOMPARE(themeTypeChanged.size(), 0);
@@ -227,6 +184,12 @@ void tst_OxaThemeBlock::costsQtNothingWithoutAStyleText()
     QVERIFY(styleChanges > 0);
 }
 
+void tst_OxaThemeBlock::paintsAStyledBackgroundFromItsFirstSheetOn_data()
+{
+    addThemedClasses(
+            [](const ThemedClass &themed) { return themed.is(ThemedClass::StyledBackground); });
+}
+
 void tst_OxaThemeBlock::paintsAStyledBackgroundFromItsFirstSheetOn()
 {
     FETCH_THEMED_CLASS;
@@ -247,7 +210,7 @@ void tst_OxaThemeBlock::followsItsObjectNameFromTheFirstStyleTextOn()
     const QSignalSpy cssChanged(widget.get(), SIGNAL(cssChanged()));
     widget->setObjectName(QStringLiteral("before"));
     // A widget that paints its background follows its name from the start.
-    const int expansions = themed.form == Form::StyledBackground ? 1 : 0;
+    const int expansions = themed.is(ThemedClass::StyledBackground) ? 1 : 0;
     QCOMPARE(cssChanged.size(), expansions);
     widget->setProperty("css", QByteArray());
     widget->setObjectName(QStringLiteral("after"));
@@ -371,9 +334,7 @@ void tst_OxaThemeBlock::ignoresAnotherThemeUntilItIsRefreshed()
 
 void tst_OxaThemeBlock::keepsItsFontOnTheToken_data()
 {
-    addThemedClasses([](const ThemedClass &themed) {
-        return themed.font == ThemedClass::Font::Yes && themed.start == ThemedClass::Start::Plain;
-    });
+    addThemedClassesBut(ThemedClass::NoFont | ThemedClass::StartsStyled);
 }
 
 void tst_OxaThemeBlock::keepsItsFontOnTheToken()

@@ -7,7 +7,6 @@
 
 #include <UiElements/widgets/OxaLabel.h>
 
-#include <QMetaMethod>
 #include <QScreen>
 #include <QSignalSpy>
 
@@ -32,12 +31,6 @@ QImage onScreen(const OxaLabel &label)
     return label.screen()->grabWindow(label.winId()).toImage();
 }
 
-QMetaMethod methodOf(const char *signature)
-{
-    const QMetaObject &type = OxaLabel::staticMetaObject;
-    return type.method(type.indexOfMethod(signature));
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(Change)
@@ -53,7 +46,6 @@ private Q_SLOTS:
 
     void startsEmptyPlainAndWithoutEllipsis();
     void takesItsArguments();
-    void showsItsSignalsAndSlots();
     void storesWhatItsPropertiesAreSetTo();
     void repaintsWhenWhatItPaintsWithChanges_data();
     void repaintsWhenWhatItPaintsWithChanges();
@@ -111,21 +103,6 @@ void tst_OxaLabel::takesItsArguments()
     QCOMPARE(heading.parentWidget(), &parent);
     QCOMPARE(heading.getAccessibleRole(), QAccessible::Heading);
     QCOMPARE(heading.windowType(), Qt::Tool);
-}
-
-void tst_OxaLabel::showsItsSignalsAndSlots()
-{
-    for (const char *signature : { "clicked()", "onVisibilityChanged(bool)" }) {
-        QVERIFY2(methodOf(signature).isValid(), signature);
-        QCOMPARE(methodOf(signature).methodType(), QMetaMethod::Signal);
-    }
-    QCOMPARE(methodOf("onVisibilityChanged(bool)").parameterNames(),
-             QList<QByteArray>({ "isVisible" }));
-    QCOMPARE(methodOf("setText(QString)").enclosingMetaObject(), &OxaLabel::staticMetaObject);
-    QCOMPARE(methodOf("setText(QString)").methodType(), QMetaMethod::Slot);
-    QCOMPARE(methodOf("setText(QString)").access(), QMetaMethod::Public);
-    QCOMPARE(methodOf("onLayoutDirectionChanged()").methodType(), QMetaMethod::Slot);
-    QCOMPARE(methodOf("onLayoutDirectionChanged()").access(), QMetaMethod::Private);
 }
 
 void tst_OxaLabel::storesWhatItsPropertiesAreSetTo()

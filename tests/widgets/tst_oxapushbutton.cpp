@@ -6,7 +6,6 @@
 
 #include <UiElements/widgets/OxaPushButton.h>
 
-#include <QMetaProperty>
 #include <QPainter>
 
 namespace {
@@ -60,7 +59,6 @@ private Q_SLOTS:
 
     void startsPlain();
     void takesWhatItsConstructorsAreGiven();
-    void showsItsPropertiesAndSignals();
     void storesWhatItIsGiven();
     void hasAnIdentityOfItsOwn();
     void repaintsForElisionOnly();
@@ -115,23 +113,6 @@ void tst_OxaPushButton::takesWhatItsConstructorsAreGiven()
     QCOMPARE(buttons[2]->text(), QStringLiteral("abc"));
     QVERIFY(buttons[1]->icon().isNull());
     QVERIFY(!buttons[2]->icon().isNull());
-}
-
-void tst_OxaPushButton::showsItsPropertiesAndSignals()
-{
-    const QMetaObject &type = OxaPushButton::staticMetaObject;
-    for (const char *expected :
-         { "Qt::TextElideMode elideMode", "int elidePadding", "QString elementUniqueId",
-           "QAccessible::Role accessibleRole", "QString focusRectColorSet", "bool longPressEnabled",
-           "bool badgeVisible", "QIcon icon" }) {
-        const QByteArray name = QByteArray(expected).split(' ').at(1);
-        const QMetaProperty property = type.property(type.indexOfProperty(name.constData()));
-        QVERIFY2(property.isWritable() && property.isReadable(), expected);
-        QCOMPARE(QByteArray(property.typeName()) + ' ' + property.name(), QByteArray(expected));
-    }
-    for (const char *signal : { "onFocusIn()", "onFocusOut()", "longPressed()", "mouseEntered()",
-                                "mouseExited()", "rightClick()" })
-        QVERIFY2(type.indexOfSignal(signal) >= 0, signal);
 }
 
 void tst_OxaPushButton::storesWhatItIsGiven()

@@ -7,7 +7,6 @@
 
 #include <UiElements/widgets/OxaUnderlineButton.h>
 
-#include <QMetaProperty>
 
 namespace {
 
@@ -40,7 +39,6 @@ private Q_SLOTS:
     void cleanup() { m_stores.reset(); }
 
     void startsWithNamedColors();
-    void showsItsProperties();
     void storesWhatItIsGiven();
     void keepsTheAnchorsPath();
     void repaintsForItsProperties();
@@ -82,20 +80,6 @@ void tst_OxaUnderlineButton::startsWithNamedColors()
     QCOMPARE(button->getAnchorIcon(), QString());
     QCOMPARE(button->property("focusBorderRadius"), QVariant(14));
     QVERIFY(!button->isCheckable());
-}
-
-void tst_OxaUnderlineButton::showsItsProperties()
-{
-    const QMetaObject &type = OxaUnderlineButton::staticMetaObject;
-    QStringList properties;
-    for (int i = type.propertyOffset(); i < type.propertyCount(); ++i) {
-        QVERIFY(type.property(i).isWritable());
-        properties += QLatin1String(type.property(i).typeName()) + QLatin1Char(' ')
-                + QLatin1String(type.property(i).name());
-    }
-    QCOMPARE(properties.join(QLatin1String(", ")),
-             QStringLiteral("int borderWidth, int bottomPadding, bool showUnreadIndicator, "
-                            "QImage leftIcon, QString anchorIcon"));
 }
 
 void tst_OxaUnderlineButton::storesWhatItIsGiven()

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/theme/OxaThemeBlock.h>
+
+#include <QFrame>
+
+#include <memory>
+
+/// A widget as a client may write one: a factory makes it, it has no fonts, asks for colours by
+/// itself, and stays with its own theme type whatever its first parent's does.
+class ClientPanel : public QFrame
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QFrame)
+
+public:
+    static std::unique_ptr<ClientPanel> make(QWidget *parent)
+    {
+        return std::unique_ptr<ClientPanel>(new ClientPanel(parent));
+    }
+
+protected Q_SLOTS:
+    virtual void onThemeChanged()
+    {
+        m_frameColor = OxaThemeUtils::getColorSet("client-frame", this).normal;
+    }
+
+private:
+    explicit ClientPanel(QWidget *parent) : QFrame(parent) { ClientPanel::onThemeChanged(); }
+
+    QColor m_frameColor;
+};

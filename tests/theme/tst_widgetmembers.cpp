@@ -1,0 +1,278 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <UiElements/emoji/OxaEmojiPushButton.h>
+#include <UiElements/svg/OxaPillTabButton.h>
+#include <UiElements/svg/OxaSvgAnchorButton.h>
+#include <UiElements/svg/OxaSvgLabel.h>
+#include <UiElements/widgets/OxaToggleButton.h>
+#include <UiElements/widgets/OxaUnderlineButton.h>
+#include <UiElements/widgets/OxaWidget.h>
+
+#include <QMetaMethod>
+#include <QMetaProperty>
+#include <QTest>
+
+Q_DECLARE_METATYPE(const QMetaObject *)
+
+namespace {
+
+const QStringList themeBlock = {
+    QStringLiteral("QString styleSheet"),
+    QStringLiteral("QByteArray css, cssChanged"),
+    QStringLiteral("QString themeType, themeTypeChanged"),
+    QStringLiteral("signal cssChanged()"),
+    QStringLiteral("signal themeTypeChanged()"),
+    QStringLiteral("protected slot onThemeChanged()"),
+    QStringLiteral("private slot refreshCSS()"),
+    QStringLiteral("private slot onParentThemeTypeChanged()"),
+};
+const QStringList fontBlock = {
+    QStringLiteral("OxaFont::Token fontToken"),
+    QStringLiteral("FontManagerEnum::FontType fontType"),
+};
+const QStringList iconBlock = {
+    QStringLiteral("QString svgIcon, svgIconChanged"),
+    QStringLiteral("QString svgIconColorSet, svgIconColorSetChanged"),
+    QStringLiteral("QSize svgIconSize, svgIconSizeChanged"),
+    QStringLiteral("OxaEnum::Alignment svgIconAlignment"),
+    QStringLiteral("OxaEnum::HorAlign textHorAlign"),
+    QStringLiteral("int textLeftPadding"),
+    QStringLiteral("int textRightPadding"),
+    QStringLiteral("QPoint svgIconTopLeftPadding"),
+    QStringLiteral("QPoint svgIconBottomRightPadding"),
+    QStringLiteral("QString innerSvgIcon"),
+    QStringLiteral("QString innerSvgIconColorSet"),
+    QStringLiteral("QSize innerSvgIconSize"),
+    QStringLiteral("signal svgIconChanged(QString path)"),
+    QStringLiteral("signal svgIconColorSetChanged(OxaColorSet colorSet)"),
+    QStringLiteral("signal svgIconSizeChanged(QSize size)"),
+};
+
+QString described(const QMetaProperty &property)
+{
+    const QString text = QLatin1String(property.typeName()) + QLatin1Char(' ')
+            + QLatin1String(property.name());
+    return property.hasNotifySignal()
+            ? text + QLatin1String(", ") + QString::fromLatin1(property.notifySignal().name())
+            : text;
+}
+
+QString described(const QMetaMethod &method)
+{
+    QStringList parameters;
+    for (int i = 0; i < method.parameterCount(); ++i)
+        parameters += QString::fromLatin1(method.parameterTypes().at(i) + ' '
+                                          + method.parameterNames().at(i));
+    const char *const access[] = { "private", "protected", "public" };
+    return (method.methodType() == QMetaMethod::Signal
+                    ? QStringLiteral("signal ")
+                    : QLatin1String(access[method.access()]) + QLatin1String(" slot "))
+            + QString::fromLatin1(method.name()) + QLatin1Char('(')
+            + parameters.join(QLatin1String(", ")) + QLatin1Char(')');
+}
+
+/// Returns the properties, signals and slots that \a type declares, sorted.
+QStringList membersOf(const QMetaObject &type)
+{
+    QStringList members;
+    for (int i = type.propertyOffset(); i < type.propertyCount(); ++i)
+        members += described(type.property(i));
+    for (int i = type.methodOffset(); i < type.methodCount(); ++i)
+        members += described(type.method(i));
+    members.sort();
+    return members;
+}
+
+bool isQts(const QMetaObject &type) { return type.className()[0] == 'Q'; }
+
+/// True when \a setter takes what a property's setter takes, and is not Qt's.
+template <typename Class, typename... Arguments>
+bool isOurs(void (Class::*)(Arguments...))
+{
+    return sizeof...(Arguments) == 1 && !isQts(Class::staticMetaObject);
+}
+
+/// Returns the properties of Qt's whose setters \a Widget or a class of ours above it replaces.
+template <typename Widget>
+QStringList propertiesWithSettersOfOurs()
+{
+    QStringList names;
+    const auto note = [&names](const char *name, auto setter) {
+        if (isOurs(setter))
+            names += QLatin1String(name);
+    };
+    note("accessibleName", &Widget::setAccessibleName);
+    note("enabled", &Widget::setEnabled);
+    note("focusPolicy", &Widget::setFocusPolicy);
+    note("font", &Widget::setFont);
+    note("layoutDirection", &Widget::setLayoutDirection);
+    note("palette", &Widget::setPalette);
+    note("styleSheet", &Widget::setStyleSheet);
+    note("toolTip", &Widget::setToolTip);
+    note("visible", &Widget::setVisible);
+    if constexpr (std::is_base_of_v<QLabel, Widget>) {
+        note("alignment", &Widget::setAlignment);
+        note("indent", &Widget::setIndent);
+        note("margin", &Widget::setMargin);
+        note("text", &Widget::setText);
+        note("textFormat", &Widget::setTextFormat);
+        note("textInteractionFlags", &Widget::setTextInteractionFlags);
+        note("wordWrap", &Widget::setWordWrap);
+    }
+    if constexpr (std::is_base_of_v<QPushButton, Widget>) {
+        note("autoDefault", &Widget::setAutoDefault);
+        note("checkable", &Widget::setCheckable);
+        note("checked", &Widget::setChecked);
+        note("default", &Widget::setDefault);
+        note("down", &Widget::setDown);
+        note("flat", &Widget::setFlat);
+        note("icon", &Widget::setIcon);
+        note("iconSize", &Widget::setIconSize);
+        note("text", &Widget::setText);
+    }
+    return names;
+}
+
+/// Adds a row for \a Widget, which derives from \a Base and declares the members of \a blocks and
+/// those in \a own.
+template <typename Widget, typename Base>
+void addRow(const QStringList &blocks, const std::vector<const char *> &own)
+{
+    QStringList members = blocks;
+    for (const char *member : own)
+        members += QLatin1String(member);
+    members.sort();
+    QTest::newRow(Widget::staticMetaObject.className())
+            << &Widget::staticMetaObject << &Base::staticMetaObject << members
+            << propertiesWithSettersOfOurs<Widget>();
+}
+
+void addLabels()
+{
+    addRow<OxaLabel, QLabel>(themeBlock + fontBlock,
+                             { "Qt::TextElideMode elideMode", "int elidePadding",
+                               "QString elementUniqueId", "QAccessible::Role accessibleRole",
+                               "QString text", "Qt::TextFormat textFormat",
+                               "Qt::TextInteractionFlags textInteractionFlags", "signal clicked()",
+                               "signal onVisibilityChanged(bool isVisible)",
+                               "public slot setText(QString text)",
+                               "private slot onLayoutDirectionChanged()" });
+    addRow<OxaEmojiLabel, OxaLabel>({},
+                                    { "int textLeftPadding", "int textRightPadding",
+                                      "signal clicked()" });
+    addRow<OxaEmojiPushButton,
+           OxaEmojiLabel>({},
+                          { "protected slot mouseReleaseEvent(QMouseEvent* event)",
+                            "protected slot keyPressEvent(QKeyEvent* event)" });
+    addRow<OxaSvgLabel, OxaLabel>(iconBlock, { "protected slot onThemeChanged()" });
+}
+
+void addButtons()
+{
+    addRow<OxaPushButton, QPushButton>(themeBlock + fontBlock,
+                                       { "Qt::TextElideMode elideMode", "int elidePadding",
+                                         "QString elementUniqueId",
+                                         "QAccessible::Role accessibleRole",
+                                         "QString focusRectColorSet", "bool longPressEnabled",
+                                         "bool badgeVisible", "QIcon icon", "signal onFocusIn()",
+                                         "signal onFocusOut()", "signal longPressed()",
+                                         "signal mouseEntered()", "signal mouseExited()",
+                                         "signal rightClick()" });
+    addRow<OxaToggleButton, OxaPushButton>({}, {});
+    addRow<OxaUnderlineButton, OxaPushButton>({},
+                                              { "int borderWidth", "int bottomPadding",
+                                                "bool showUnreadIndicator", "QImage leftIcon",
+                                                "QString anchorIcon",
+                                                "protected slot onThemeChanged()" });
+    addRow<OxaSvgPushButton,
+           OxaPushButton>(iconBlock,
+                          { "QString svgIconChecked, svgIconCheckedChanged",
+                            "Qt::TextFormat textFormat", "QString text", "QFont font",
+                            "signal svgIconCheckedChanged(QString path)",
+                            "protected slot onThemeChanged()",
+                            "private slot onSvgIconColorSetChanged(OxaColorSet colorSet)",
+                            "private slot onSvgIconSizeChanged(QSize size)" });
+    addRow<OxaSvgAnchorButton, OxaSvgPushButton>({},
+                                                 { "QString anchorSvgOn, anchorSvgOnChanged",
+                                                   "QString anchorSvgOff, anchorSvgOffChanged",
+                                                   "QSize anchorIconSize",
+                                                   "QString anchorSvgColorSet", "int anchorPadding",
+                                                   "QPoint anchorSvgOffset", "bool isLeftAnchor",
+                                                   "bool alignAnchorIconToText",
+                                                   "signal anchorSvgOnChanged(QString path)",
+                                                   "signal anchorSvgOffChanged(QString path)",
+                                                   "protected slot onThemeChanged()" });
+    addRow<OxaPillTabButton, OxaSvgPushButton>({},
+                                               { "QString backgroundColorSet",
+                                                 "QString textColorSet", "QString iconColorSet",
+                                                 "QString backgroundColorSetChecked",
+                                                 "QString textColorSetChecked",
+                                                 "QString iconColorSetChecked",
+                                                 "private slot onApplyCSS(bool isChecked)",
+                                                 "private slot onSvgIconChanged(QString path)" });
+}
+
+} // namespace
+
+/// What each widget class of the library declares to Qt's meta-object system: a row for each.
+class tst_WidgetMembers : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void areThoseOfTheTable_data() { addRows(); }
+    void areThoseOfTheTable();
+    void areWritableWherePropertiesAre_data() { addRows(); }
+    void areWritableWherePropertiesAre();
+    void holdThePropertiesOfQtWhoseSettersAreReplaced_data() { addRows(); }
+    void holdThePropertiesOfQtWhoseSettersAreReplaced();
+
+private:
+    static void addRows();
+};
+
+void tst_WidgetMembers::addRows()
+{
+    QTest::addColumn<const QMetaObject *>("type");
+    QTest::addColumn<const QMetaObject *>("baseType");
+    QTest::addColumn<QStringList>("members");
+    QTest::addColumn<QStringList>("replaced");
+    addRow<OxaWidget, QWidget>(themeBlock + fontBlock,
+                               { "QString elementUniqueId", "QString pixmap",
+                                 "public slot onLayoutDirectionChanged()" });
+    addLabels();
+    addButtons();
+}
+
+void tst_WidgetMembers::areThoseOfTheTable()
+{
+    QFETCH(const QMetaObject *, type);
+    QFETCH(const QMetaObject *, baseType);
+    QFETCH(const QStringList, members);
+    QCOMPARE(membersOf(*type).join(QLatin1String("; ")), members.join(QLatin1String("; ")));
+    QCOMPARE(type->superClass(), baseType);
+}
+
+void tst_WidgetMembers::areWritableWherePropertiesAre()
+{
+    QFETCH(const QMetaObject *, type);
+    for (int i = type->propertyOffset(); i < type->propertyCount(); ++i)
+        QVERIFY2(type->property(i).isReadable() && type->property(i).isWritable(),
+                 type->property(i).name());
+}
+
+void tst_WidgetMembers::holdThePropertiesOfQtWhoseSettersAreReplaced()
+{
+    QFETCH(const QMetaObject *, type);
+    QFETCH(const QStringList, replaced);
+    QVERIFY(replaced.contains(QLatin1String("styleSheet")));
+    for (const QString &name : replaced) {
+        const QMetaProperty property = type->property(
+                type->indexOfProperty(name.toLatin1().constData()));
+        // moc can't name a signal of Qt's with an argument for a property of ours.
+        const bool canBeDeclaredAgain = property.notifySignal().parameterCount() == 0;
+        QVERIFY2(!isQts(*property.enclosingMetaObject()) || !canBeDeclaredAgain, qPrintable(name));
+    }
+}
+
+QTEST_APPLESS_MAIN(tst_WidgetMembers)
+#include "tst_widgetmembers.moc"
