@@ -52,8 +52,6 @@ struct ThemedClass
     }
 
     const char *name;
-    const QMetaObject *metaObject;
-    const QMetaObject *baseMetaObject;
     int traits;
     std::vector<const char *> colorSets; ///< That it asks for by itself.
     Make makeUnnamed;
@@ -62,16 +60,13 @@ struct ThemedClass
     std::function<void(QWidget &, const OxaCSSData &)> setCSSData;
 };
 
-/// Describes \a Widget, which derives from \a Base, a Qt class or another themed one, and is made
-/// by \a make.
-template <typename Widget, typename Base>
+/// Describes \a Widget, which is made by \a make.
+template <typename Widget>
 ThemedClass themedClass(int traits, const std::vector<const char *> &colorSets,
                         const ThemedClass::Make &make)
 {
     return {
         Widget::staticMetaObject.className(),
-        &Widget::staticMetaObject,
-        &Base::staticMetaObject,
         traits,
         colorSets,
         make,
@@ -82,13 +77,12 @@ ThemedClass themedClass(int traits, const std::vector<const char *> &colorSets,
 }
 
 /// The same for a class that is made with a parent alone.
-template <typename Widget, typename Base>
+template <typename Widget>
 ThemedClass themedClass(int traits = ThemedClass::NoTraits,
                         const std::vector<const char *> &colorSets = {})
 {
-    return themedClass<Widget, Base>(traits, colorSets, [](QWidget *parent) {
-        return std::make_unique<Widget>(parent);
-    });
+    return themedClass<Widget>(traits, colorSets,
+                               [](QWidget *parent) { return std::make_unique<Widget>(parent); });
 }
 
 /// Every themed widget class of the library, and one of a client. A new one is one row.
@@ -97,22 +91,22 @@ inline const std::vector<ThemedClass> &themedClasses()
     using T = ThemedClass;
     static const std::vector<const char *> linkColors = { "button-hyperlink-text" };
     static const std::vector<ThemedClass> classes = {
-        themedClass<OxaLabel, QLabel>(T::NoTraits, linkColors),
-        themedClass<OxaPushButton, QPushButton>(),
-        themedClass<OxaWidget, QWidget>(T::StyledBackground),
+        themedClass<OxaLabel>(T::NoTraits, linkColors),
+        themedClass<OxaPushButton>(),
+        themedClass<OxaWidget>(T::StyledBackground),
         // These inherit the block.
-        themedClass<OxaEmojiLabel, OxaLabel>(T::NoTraits, linkColors),
-        themedClass<OxaEmojiPushButton, OxaEmojiLabel>(T::NoTraits, linkColors),
-        themedClass<OxaPillTabButton, OxaSvgPushButton>(T::StartsStyled),
-        themedClass<OxaSvgAnchorButton, OxaSvgPushButton>(),
-        themedClass<OxaSvgLabel, OxaLabel>(T::NoTraits, linkColors),
-        themedClass<OxaSvgPushButton, OxaPushButton>(),
-        themedClass<OxaToggleButton, OxaPushButton>(T::StartsStyled),
-        themedClass<OxaUnderlineButton, OxaPushButton>(T::NoTraits,
-                                                       { "oxa-underlineButton-background",
-                                                         "oxa-underlineButton-text" }),
-        themedClass<ClientPanel, QFrame>(T::NoFont | T::FollowsNoParent, { "client-frame" },
-                                         &ClientPanel::make),
+        themedClass<OxaEmojiLabel>(T::NoTraits, linkColors),
+        themedClass<OxaEmojiPushButton>(T::NoTraits, linkColors),
+        themedClass<OxaPillTabButton>(T::StartsStyled),
+        themedClass<OxaSvgAnchorButton>(),
+        themedClass<OxaSvgLabel>(T::NoTraits, linkColors),
+        themedClass<OxaSvgPushButton>(),
+        themedClass<OxaToggleButton>(T::StartsStyled),
+        themedClass<OxaUnderlineButton>(T::NoTraits,
+                                        { "oxa-underlineButton-background",
+                                          "oxa-underlineButton-text" }),
+        themedClass<ClientPanel>(T::NoFont | T::FollowsNoParent, { "client-frame" },
+                                 &ClientPanel::make),
     };
     return classes;
 }

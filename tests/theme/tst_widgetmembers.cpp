@@ -158,7 +158,9 @@ void addLabels()
                                "private slot onLayoutDirectionChanged()" });
     addRow<OxaEmojiLabel, OxaLabel>({},
                                     { "int textLeftPadding", "int textRightPadding",
-                                      "signal clicked()" });
+                                      "signal clicked()", "public slot setText(QString text)",
+                                      "private slot onLayoutDirectionChanged()",
+                                      "private slot onCssChanged()" });
     addRow<OxaEmojiPushButton,
            OxaEmojiLabel>({},
                           { "protected slot mouseReleaseEvent(QMouseEvent* event)",
