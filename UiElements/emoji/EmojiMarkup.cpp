@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "EmojiMarkup_p.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <limits>
 
@@ -60,12 +62,11 @@ int endOfTag(const QString &markup, int start)
     return int(end - markup.cbegin());
 }
 
-/// Returns the placeholder that begins at \a start and ends at \a end, if there is one.
-std::optional<EmojiMarkup::Source> placeholderIn(const QString &markup, int start, int end)
+/// Returns where the tag that begins at \a start is over, lines or not.
+int behindTag(const QString &markup, int start)
 {
-    if (end == markup.size() || !markup.midRef(start, end - start).startsWith(tagStart))
-        return {};
-    return EmojiMarkup::parseName(markup.mid(start, end - start));
+    const int end = markup.indexOf(QLatin1Char('>'), start);
+    return end < 0 ? markup.size() : end + 1;
 }
 
 } // namespace
@@ -109,28 +110,37 @@ QString EmojiMarkup::pictureName(const QString &emoji, int number)
     return emoji + QLatin1Char('|') + QString::number(number);
 }
 
+bool EmojiMarkup::hasBlocks(const QString &markup)
+{
+    static const QRegularExpression blocks(
+            QStringLiteral(
+                    "<(?!/?(a|b|big|br|code|em|font|i|img|s|small|span|strong|sub|sup|u)\\b)"),
+            QRegularExpression::CaseInsensitiveOption);
+    return markup.contains(blocks);
+}
+
 QString EmojiMarkup::marked(const QString &markup, std::vector<Source> &sources)
 {
     QString result;
     result.reserve(markup.size());
-    int tagEnd = 0; // Characters before it belong to a tag.
-    for (int i = 0; i < markup.size(); ++i) {
-        const QChar character = markup.at(i);
+    for (int start = 0; start < markup.size();) {
+        const QChar character = markup.at(start);
+        const bool isTag = character == QLatin1Char('<');
+        const int end = isTag ? behindTag(markup, start) : start + 1;
+        const QStringRef part = markup.midRef(start, end - start);
         std::optional<Source> source;
-        if (i >= tagEnd && character == QLatin1Char('<')) {
-            tagEnd = int(std::find(markup.cbegin() + i, markup.cend(), QLatin1Char('>'))
-                         - markup.cbegin());
-            source = placeholderIn(markup, i, tagEnd);
-        } else if (i >= tagEnd && character == QChar::ObjectReplacementCharacter) {
+        if (character == QChar::ObjectReplacementCharacter)
             source = Source { {}, character };
+        else if (isTag && part.startsWith(tagStart))
+            source = parseName(part.toString());
+
+        if (source) {
+            appendMark(result, sources.size());
+            sources.push_back(*source);
+        } else {
+            result += part;
         }
-        if (!source) {
-            result += character;
-            continue;
-        }
-        appendMark(result, sources.size());
-        sources.push_back(*source);
-        i = qMax(i, tagEnd);
+        start = end;
     }
     return result;
 }

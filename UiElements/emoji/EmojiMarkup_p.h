@@ -32,6 +32,10 @@ QString pictureName(const QString &emoji, int number);
 /// How many characters a mark has.
 constexpr int markLength = 3;
 
+/// Returns whether \a markup may have paragraphs, tables or anything else that stands not in a
+/// line.
+bool hasBlocks(const QString &markup);
+
 /// Returns \a markup with a mark in the place of each placeholder, and adds what the marks stand
 /// for to \a sources. A mark is text, which a document reads in linear time, unlike image tags.
 ///

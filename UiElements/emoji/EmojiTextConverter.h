@@ -80,11 +80,13 @@ public:
     /// other picture of the process has. Images of other kinds stay as they are.
     void insertImages(QTextDocument *document) const;
 
-    /// Sets \a markup, which came from convert(), as the content of \a document, with pictures.
+    /// Sets \a body, which came from convert(), as the content of \a document, with pictures, in an
+    /// element "div" with \a attributes.
     ///
-    /// The document comes out as from QTextDocument::setHtml() and insertImages(), but in time that
-    /// grows with the length of the markup: Qt needs the square of it to read image tags.
-    void setHtml(QTextDocument *document, const QString &markup) const;
+    /// The document is the same as by QTextDocument::setHtml() and insertImages(). But Qt takes
+    /// time that grows with the square of the image tags in a paragraph, 3 s for 4,000, and this
+    /// doesn't, unless the body is rich text with paragraphs, lists or tables.
+    void setHtml(QTextDocument *document, const QString &attributes, const QString &body) const;
 
     /// Returns \a markup with its image tags turned back into the emoji that they stand for. Both
     /// what convert() writes and what insertImages() names is understood; other images become

@@ -68,7 +68,7 @@ std::vector<Placeholder> marksIn(QTextDocument *document,
                                  const std::vector<EmojiMarkup::Source> &sources)
 {
     const QChar start = QChar::ObjectReplacementCharacter;
-    std::vector<Placeholder> marks;
+    std::vector<Placeholder> found;
     QTextCursor cursor(document);
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         const QString text = block.text();
@@ -77,10 +77,10 @@ std::vector<Placeholder> marksIn(QTextDocument *document,
             cursor.setPosition(block.position() + i + 1);
             // Images are the same character.
             if (number < sources.size() && !cursor.charFormat().isImageFormat())
-                marks.push_back({ block.position() + i, EmojiMarkup::markLength, sources[number] });
+                found.push_back({ block.position() + i, EmojiMarkup::markLength, sources[number] });
         }
     }
-    return marks;
+    return found;
 }
 
 /// Puts a picture of \a size in place of each of \a placeholders.
@@ -123,14 +123,17 @@ void EmojiTextConverter::insertImages(QTextDocument *document) const
     cursor.endEditBlock();
 }
 
-void EmojiTextConverter::setHtml(QTextDocument *document, const QString &markup) const
+void EmojiTextConverter::setHtml(QTextDocument *document, const QString &attributes,
+                                 const QString &body) const
 {
+    // An image behind a block is added to it, where text starts a new one: no marks there.
     std::vector<EmojiMarkup::Source> sources;
-    const QString marked = EmojiMarkup::marked(markup, sources);
+    const QString marked = EmojiMarkup::hasBlocks(body) ? body : EmojiMarkup::marked(body, sources);
     QTextCursor cursor(document);
     cursor.beginEditBlock();
-    document->setHtml(marked);
-    insertPictures(cursor, marksIn(document, sources), m_emojiSize,
-                   int(m_emojiSize * m_pixelRatio));
+    document->setHtml(QLatin1String("<div ") + attributes + QLatin1Char('>') + marked
+                      + QLatin1String("</div>"));
+    insertPictures(cursor, sources.empty() ? placeholdersIn(*document) : marksIn(document, sources),
+                   m_emojiSize, int(m_emojiSize * m_pixelRatio));
     cursor.endEditBlock();
 }

@@ -55,12 +55,12 @@ void OxaEmojiLabel::fillDocument(qreal textWidth)
     if (m_document->defaultStyleSheet() != styleSheet())
         m_document->setDefaultStyleSheet(styleSheet());
 
-    const QString html = QLatin1String("<div ") + createStyle() + QLatin1Char('>') + m_elidedHtml
-            + QLatin1String("</div>");
     if (shouldDrawSvgEmojis())
-        EmojiTextConverter(fontMetrics().height(), devicePixelRatioF()).setHtml(m_document, html);
+        EmojiTextConverter(fontMetrics().height(), devicePixelRatioF())
+                .setHtml(m_document, createStyle(), m_elidedHtml);
     else
-        m_document->setHtml(html);
+        m_document->setHtml(QLatin1String("<div ") + createStyle() + QLatin1Char('>') + m_elidedHtml
+                            + QLatin1String("</div>"));
 }
 
 QString OxaEmojiLabel::createElidedLine(const QString &text, bool elide, const QString &separator)

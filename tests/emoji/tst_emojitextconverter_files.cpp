@@ -135,7 +135,8 @@ void tst_EmojiTextConverterFiles::drawsAFileThatIsReplaced()
                                    EmojiArtwork::square(color.name().toLatin1()));
         QTextDocument document;
         EmojiTextConverter converter(4, 1.0);
-        converter.setHtml(&document, converter.convert(EmojiNotation::text({ 0x1F606 })));
+        converter.setHtml(&document, QString(),
+                          converter.convert(EmojiNotation::text({ 0x1F606 })));
         const QTextFormat format = document.begin().begin().fragment().charFormat();
         const QUrl name(format.toImageFormat().name());
         const auto picture = document.resource(QTextDocument::ImageResource, name).value<QImage>();
