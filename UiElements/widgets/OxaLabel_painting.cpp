@@ -69,8 +69,8 @@ int OxaLabel::paintParagraph(QPainter &painter, const QString &paragraph, int y)
 {
     const int spacing = painter.fontMetrics().lineSpacing();
     const int lineWidth = width() - 2 * margin() - indent();
-    // A text layout takes its alignment as it is; in a right-to-left label it has to be mirrored.
-    QTextOption option(QStyle::visualAlignment(layoutDirection(), alignment()));
+    // Not mirrored in a right-to-left label: Latin text stands where it would in a single line.
+    QTextOption option(alignment());
     option.setWrapMode(m_wrapMode);
 
     QTextLayout layout(paragraph, painter.font());

@@ -88,6 +88,8 @@ private Q_SLOTS:
     void beginsWhereADerivedClassSays();
     void alignsEachLine_data();
     void alignsEachLine();
+    void standsOnTheSameSideAsASingleLineInARightToLeftSession_data();
+    void standsOnTheSameSideAsASingleLineInARightToLeftSession();
 
 private:
     std::unique_ptr<StoreGuard> m_stores;
@@ -292,9 +294,9 @@ void tst_OxaLabelWrapping::alignsEachLine_data()
     QTest::newRow("left") << Qt::LeftToRight << left << left;
     QTest::newRow("centred") << Qt::LeftToRight << centre << centre;
     QTest::newRow("right") << Qt::LeftToRight << right << right;
-    QTest::newRow("mirrored left") << Qt::RightToLeft << left << right;
-    QTest::newRow("mirrored centred") << Qt::RightToLeft << centre << centre;
-    QTest::newRow("mirrored right") << Qt::RightToLeft << right << left;
+    QTest::newRow("left, right to left") << Qt::RightToLeft << left << left;
+    QTest::newRow("centred, right to left") << Qt::RightToLeft << centre << centre;
+    QTest::newRow("right, right to left") << Qt::RightToLeft << right << right;
 }
 
 void tst_OxaLabelWrapping::alignsEachLine()
@@ -310,6 +312,27 @@ void tst_OxaLabelWrapping::alignsEachLine()
              writtenLines(label, label.rect(),
                           { QStringLiteral("one two"), QStringLiteral("three fo\u2026") },
                           onScreen));
+}
+
+void tst_OxaLabelWrapping::standsOnTheSameSideAsASingleLineInARightToLeftSession_data()
+{
+    QTest::addColumn<Qt::Alignment>("alignment");
+    QTest::newRow("as it starts") << Qt::Alignment();
+    QTest::newRow("left") << Qt::Alignment(Qt::AlignLeft);
+    QTest::newRow("right") << Qt::Alignment(Qt::AlignRight);
+}
+
+void tst_OxaLabelWrapping::standsOnTheSameSideAsASingleLineInARightToLeftSession()
+{
+    QFETCH(const Qt::Alignment, alignment);
+    const LayoutDirectionGuard guard(Qt::RightToLeft);
+    WrappingLabel label(QStringLiteral("one"));
+    const Qt::Alignment first = OxaLabel().alignment() & Qt::AlignHorizontal_Mask;
+    label.setAlignment((alignment ? alignment : first) | Qt::AlignTop);
+    label.resize(label.lineWidth(9), label.lineHeight());
+    const QImage wrapped = Pixels::render(label);
+    label.setWordWrap(false);
+    QCOMPARE(wrapped, Pixels::render(label));
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaLabelWrapping)
