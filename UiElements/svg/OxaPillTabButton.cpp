@@ -78,15 +78,21 @@ void OxaPillTabButton::setIconColorSetChecked(const QString &name)
 
 void OxaPillTabButton::resizeEvent(QResizeEvent *event)
 {
+    const QPointer<OxaPillTabButton> self(this); // A slot may delete the button.
     roundToHeight();
-    QWidget::resizeEvent(event); // NOLINT(bugprone-parent-virtual-call): no other class adds to it
+    if (self)
+        QWidget::resizeEvent(
+                event); // NOLINT(bugprone-parent-virtual-call): no other class adds to it
 }
 
 void OxaPillTabButton::onApplyCSS(bool isChecked)
 {
     const Colors &colors = isChecked ? m_checked : m_unchecked;
     const bool hasBorder = !colors.border.trimmed().isEmpty();
+    const QPointer<OxaPillTabButton> self(this); // A slot may delete the button.
     setSvgIconColorSet(colors.icon);
+    if (!self)
+        return;
     m_style.backgroundColorSetName = colors.background;
     m_style.borderColorSetName = colors.border;
     m_style.textColorSetName = colors.text;

@@ -31,8 +31,8 @@ QString OxaSvgAnchorButton::getAnchorSvgOn() const { return m_anchorOn->getFileP
 void OxaSvgAnchorButton::setAnchorSvgOn(const QString &path)
 {
     m_anchorOn->setFilePath(path);
-    Q_EMIT anchorSvgOnChanged(path);
     update();
+    Q_EMIT anchorSvgOnChanged(path);
 }
 
 QString OxaSvgAnchorButton::getAnchorSvgOff() const { return m_anchorOff->getFilePath(); }
@@ -40,8 +40,8 @@ QString OxaSvgAnchorButton::getAnchorSvgOff() const { return m_anchorOff->getFil
 void OxaSvgAnchorButton::setAnchorSvgOff(const QString &path)
 {
     m_anchorOff->setFilePath(path);
-    Q_EMIT anchorSvgOffChanged(path);
     update();
+    Q_EMIT anchorSvgOffChanged(path);
 }
 
 QSize OxaSvgAnchorButton::getAnchorIconSize() const { return m_anchorOn->getIconSize(); }
@@ -145,8 +145,9 @@ void OxaSvgAnchorButton::onCSSChanged()
 
 void OxaSvgAnchorButton::onThemeChanged()
 {
+    const QPointer<OxaSvgAnchorButton> self(this); // A slot may delete the button.
     OxaSvgPushButton::onThemeChanged();
-    if (!m_anchorColorSetName.isEmpty())
+    if (self && !m_anchorColorSetName.isEmpty())
         setAnchorSvgColorSet(m_anchorColorSetName);
 }
 

@@ -10,6 +10,7 @@
 
 #include <QMargins>
 #include <QPoint>
+#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -153,15 +154,15 @@ public:                                                                         
     void setSvgIconColorSet(const QString &name)                                                   \
     {                                                                                              \
         m_iconBlock.setColorSetName(name);                                                         \
-        Q_EMIT svgIconColorSetChanged(m_iconBlock.colorSet());                                     \
         update();                                                                                  \
+        Q_EMIT svgIconColorSetChanged(m_iconBlock.colorSet());                                     \
     }                                                                                              \
     QSize getSvgIconSize() const { return m_iconBlock.size(); }                                    \
     void setSvgIconSize(const QSize &iconSize)                                                     \
     {                                                                                              \
         m_iconBlock.setSize(iconSize);                                                             \
-        Q_EMIT svgIconSizeChanged(iconSize);                                                       \
         update();                                                                                  \
+        Q_EMIT svgIconSizeChanged(iconSize);                                                       \
     }                                                                                              \
     OxaEnum::Alignment getSvgIconAlignment() const { return m_iconBlock.alignment(); }             \
     void setSvgIconAlignment(OxaEnum::Alignment side) { m_iconBlock.setAlignment(side); }          \
@@ -191,9 +192,10 @@ public:                                                                         
     void setInnerSvgIconSize(const QSize &iconSize) { m_iconBlock.setInnerSize(iconSize); }        \
     void refreshSvgIconColorSet()                                                                  \
     {                                                                                              \
+        const QPointer<QWidget> self(this);                                                        \
         if (!getSvgIconColorSet().isEmpty())                                                       \
             setSvgIconColorSet(getSvgIconColorSet());                                              \
-        if (!getInnerSvgIconColorSet().isEmpty())                                                  \
+        if (self && !getInnerSvgIconColorSet().isEmpty())                                          \
             setInnerSvgIconColorSet(getInnerSvgIconColorSet());                                    \
     }                                                                                              \
                                                                                                    \

@@ -117,7 +117,8 @@ Q_SIGNALS:
     /// selected. A slot may delete the label.
     void clicked();
 
-    /// The label was shown or hidden.
+    /// The label was shown or hidden. A slot calls deleteLater() rather than to delete the label:
+    /// QWidget goes on with it after this event.
     void onVisibilityChanged(bool isVisible);
 
 protected:

@@ -198,14 +198,18 @@ void OxaPushButton::mouseReleaseEvent(QMouseEvent *event)
 
 void OxaPushButton::focusInEvent(QFocusEvent *event)
 {
+    const QPointer<OxaPushButton> self(this); // A slot may delete the button.
     Q_EMIT onFocusIn();
-    QPushButton::focusInEvent(event);
+    if (self)
+        QPushButton::focusInEvent(event);
 }
 
 void OxaPushButton::focusOutEvent(QFocusEvent *event)
 {
+    const QPointer<OxaPushButton> self(this); // A slot may delete the button.
     Q_EMIT onFocusOut();
-    QPushButton::focusOutEvent(event);
+    if (self)
+        QPushButton::focusOutEvent(event);
 }
 
 void OxaPushButton::enterEvent(QEvent *event)

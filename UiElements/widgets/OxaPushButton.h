@@ -22,6 +22,9 @@ class QTimer;
 ///
 /// Every button starts as an auto-default one. The order of the virtual functions is part of the
 /// binary interface.
+///
+/// A slot may delete the button, but not a slot of toggled(), nor of a signal that follows from it:
+/// QAbstractButton goes on with the button after that. Such a slot calls deleteLater().
 class UIELEMENTS_EXPORT OxaPushButton : public QPushButton
 {
     Q_OBJECT
@@ -128,10 +131,12 @@ public:
     void setAccessibleMode(const RillsAccessible::AccessibleMode &mode);
 
 Q_SIGNALS:
-    /// The button gets the focus; Qt has not seen the event yet.
+    /// The button gets the focus; Qt has not seen the event yet. A slot calls deleteLater() rather
+    /// than to delete the button: QWidget and QApplication go on with it after this event.
     void onFocusIn();
 
-    /// The button loses the focus; Qt has not seen the event yet.
+    /// The button loses the focus; Qt has not seen the event yet. As for onFocusIn(), a slot calls
+    /// deleteLater() rather than to delete the button.
     void onFocusOut();
 
     /// The button was held down for 500 ms. No click follows.

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Subjects.h"
+
+#include <functional>
+
+/// One way in which an object comes to emit a signal.
+struct SignalTrigger
+{
+    const QMetaObject
+            *metaObject; ///< Of the class that emits it so, and of classes derived from it.
+    QByteArray signal;
+    const char *cause;
+    std::function<void(QObject *)> prepare; ///< Runs before anything is connected to the signal.
+    std::function<void(QObject *)> run;
+};
+
+using SignalTriggers = std::vector<SignalTrigger>;
+
+/// What is done to an \a Object.
+template <typename Object>
+using Act = void (*)(Object &);
+
+/// Returns one row of the table: an \a Object emits \a signal by \a run.
+template <typename Object>
+SignalTrigger row(const char *signal, const char *cause, Act<Object> run,
+                  Act<Object> prepare = nullptr)
+{
+    const auto onObject = [](Act<Object> act) -> std::function<void(QObject *)> {
+        if (!act)
+            return {};
+        return [act](QObject *object) { act(*static_cast<Object *>(object)); };
+    };
+    return { &Object::staticMetaObject, signal, cause, onObject(prepare), onObject(run) };
+}
+
+/// Returns the triggers by which an object of \a metaObject emits \a signal.
+std::vector<const SignalTrigger *> triggersOf(const QMetaObject *metaObject,
+                                              const QMetaMethod &signal);
+
+/// Returns whether \a signal of objects of \a metaObject needs no trigger: they inherit and never
+/// emit it, or Qt itself goes on with an object that a slot of it deletes.
+bool isLeftOut(const QMetaObject *metaObject, const QMetaMethod &signal);
+
+/// Emits \a signal of \a sender, as the users of a hub do.
+void emitAsHubUser(QObject *sender, const QMetaMethod &signal);
+
+/// Returns whether \a metaObject is of a hub: others emit all its signals.
+bool isHub(const QMetaObject *metaObject);
