@@ -138,8 +138,8 @@ void BaseListModel::appendOrUpdate(const std::vector<ModelRow> &rows)
             return;
         }
         if (position != last + 1) {
-            // Before the row changes: a sorting proxy finds its place by the rows as they were
-            // told.
+            // Before the row changes: a sorting proxy looks for the reported rows, and relies on
+            // the order of all others.
             reportRun();
             if (!self)
                 return;
@@ -272,8 +272,8 @@ void BaseListModel::reserveFor(std::size_t moreRows)
     m_idIndex.reserve(capacity);
 }
 
-/// Moves the ids at \a first and behind it by \a distance rows. The entries are gone through as
-/// they lie in memory: looking up each id takes ten times as long.
+/// Moves the ids at \a first and behind it by \a distance rows. Goes through the entries, as
+/// looking up the id of each row takes longer.
 void BaseListModel::shiftIndex(std::size_t first, int distance)
 {
     for (auto &entry : m_idIndex) {

@@ -254,11 +254,11 @@ void oneByOne(benchmark::State &state, int size, double gain)
         state.SkipWithError("the rows are others");
     comparison.gainAtLeast(gain);
 }
-BENCHMARK_CAPTURE(oneByOne, small, 2500, 2.0)
+BENCHMARK_CAPTURE(oneByOne, small, 2500, 1.5)
         ->Name("2,500 rows: remove and insert one by one/filling the index anew")
         ->Iterations(20)
         ->UseManualTime();
-BENCHMARK_CAPTURE(oneByOne, large, rowCount, 2.0)
+BENCHMARK_CAPTURE(oneByOne, large, rowCount, 1.5)
         ->Name("10,000 rows: remove and insert one by one/filling the index anew")
         ->Iterations(20)
         ->UseManualTime();

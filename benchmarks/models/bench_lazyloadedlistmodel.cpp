@@ -155,6 +155,31 @@ BENCHMARK_CAPTURE(scroll, withJumps, nextWithJumps)
         ->Iterations(500)
         ->UseManualTime();
 
+/// Fills a window of \a pages pages, past the end of the list, and scrolls it out of sight.
+void fillAndScroll(int pages)
+{
+    LazyLoadedListModel model;
+    model.setPagingConfig(pageSize, unsigned(pages));
+    for (int page = 0; page < pages; ++page)
+        model.setItemsAtPage(page, makePage(page));
+    for (int page = 1; page < pages; ++page)
+        model.setScrolledIndex((page + 1) * pageSize);
+    benchmark::DoNotOptimize(model.getItemAt(pages * pageSize - 1));
+}
+
+void windowGrowth(benchmark::State &state)
+{
+    Comparison comparison(state);
+    for (auto _ : state)
+        comparison.round([] { fillAndScroll(200); }, [] { fillAndScroll(50); });
+    // Four times the rows, and caches that hold fewer of them.
+    comparison.ratioAtMost(8);
+}
+BENCHMARK(windowGrowth)
+        ->Name("10,000 rows: fill and scroll the window/2,500 rows")
+        ->Iterations(20)
+        ->UseManualTime();
+
 void memoryHeld(benchmark::State &state)
 {
     Comparison comparison(state);
