@@ -76,6 +76,8 @@ private Q_SLOTS:
     void mayBeDisabledByItsOwnSignal();
     void survivesASlotThatDeletes_data();
     void survivesASlotThatDeletes();
+    void survivesASlotThatDeletesTheHubWithItsShortcut_data();
+    void survivesASlotThatDeletesTheHubWithItsShortcut();
     void showsTheDebugWindowForTheDevelopersKeys();
     void leavesKeysThatTwoShortcutsShareWithoutEffect();
 
@@ -212,6 +214,31 @@ void tst_OxaAppSignalsKeys::survivesASlotThatDeletes()
     QCOMPARE(!hub, type == "OxaAppSignals");
     QCOMPARE(!shortcut, type == "OxaShortcut" || type == "QWidget");
     delete window;
+}
+
+void tst_OxaAppSignalsKeys::survivesASlotThatDeletesTheHubWithItsShortcut_data()
+{
+    QTest::addColumn<bool>("all");
+    QTest::newRow("of one shortcut") << false;
+    QTest::newRow("of all shortcuts") << true;
+}
+
+void tst_OxaAppSignalsKeys::survivesASlotThatDeletesTheHubWithItsShortcut()
+{
+    QFETCH(const bool, all);
+    QWidget window;
+    auto hub = std::make_unique<OxaAppSignals>();
+    hub->registerShortcuts(&window, OxaShortcut::Tool);
+    const auto tools = hub->getGroupShortcuts(OxaShortcut::Tool);
+    for (const auto &tool : tools)
+        connect(tool.second, &QObject::destroyed, &window, [&hub] { hub.reset(); });
+    if (all)
+        hub->disableAll();
+    else
+        hub->disableShortcut(Shortcut::ReloadAllQmlViews);
+    QVERIFY(!hub);
+    QVERIFY(!tools.at(Shortcut::ReloadAllQmlViews));
+    QCOMPARE(!tools.at(Shortcut::ShowDevToolsDialog), all);
 }
 
 void tst_OxaAppSignalsKeys::showsTheDebugWindowForTheDevelopersKeys()

@@ -72,8 +72,6 @@ private Q_SLOTS:
     void forgetsTheShortcutsWithTheirWindow();
     void keepsTheShortcutsWhenAnEarlierWindowGoes_data();
     void keepsTheShortcutsWhenAnEarlierWindowGoes();
-    void survivesASlotThatDeletesIt_data();
-    void survivesASlotThatDeletesIt();
     void survivesTheHub();
 
     void deletesADisabledShortcut();
@@ -291,31 +289,6 @@ void tst_OxaAppSignalsShortcuts::keepsTheShortcutsWhenAnEarlierWindowGoes()
                   "This should never happen.");
     hub.registerShortcuts(&second, OxaShortcut::Tool);
     QCOMPARE(shortcutsOf(second), registered(hub).size());
-}
-
-void tst_OxaAppSignalsShortcuts::survivesASlotThatDeletesIt_data()
-{
-    QTest::addColumn<bool>("all");
-    QTest::newRow("of one shortcut") << false;
-    QTest::newRow("of all shortcuts") << true;
-}
-
-void tst_OxaAppSignalsShortcuts::survivesASlotThatDeletesIt()
-{
-    QFETCH(const bool, all);
-    QWidget window;
-    auto hub = std::make_unique<OxaAppSignals>();
-    hub->registerShortcuts(&window, OxaShortcut::Tool);
-    const auto tools = hub->getGroupShortcuts(OxaShortcut::Tool);
-    for (const auto &tool : tools)
-        connect(tool.second, &QObject::destroyed, &window, [&hub] { hub.reset(); });
-    if (all)
-        hub->disableAll();
-    else
-        hub->disableShortcut(Shortcut::ReloadAllQmlViews);
-    QVERIFY(!hub);
-    QVERIFY(!tools.at(Shortcut::ReloadAllQmlViews));
-    QCOMPARE(!tools.at(Shortcut::ShowDevToolsDialog), all);
 }
 
 void tst_OxaAppSignalsShortcuts::survivesTheHub()
