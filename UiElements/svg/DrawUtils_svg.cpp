@@ -49,44 +49,6 @@ void mapSourceToTarget(QPainter &painter, const QRectF &source, const QRectF &wa
                          true);
 }
 
-/// Takes a painter back to what it was before drawSVG(). QPainter::save() would copy the font, the
-/// clip and all the rest, too, which nodes put back by themselves, and of a small icon's time that
-/// is more than a hundredth.
-class PainterGuard
-{
-    Q_DISABLE_COPY_MOVE(PainterGuard)
-
-public:
-    explicit PainterGuard(QPainter &painter)
-        : m_painter(painter),
-          m_transform(painter.worldTransform()),
-          m_isTransformOn(painter.worldMatrixEnabled()),
-          m_pen(painter.pen()),
-          m_brush(painter.brush()),
-          m_opacity(painter.opacity()),
-          m_hints(painter.renderHints())
-    {
-    }
-    ~PainterGuard()
-    {
-        m_painter.setWorldTransform(m_transform);
-        m_painter.setWorldMatrixEnabled(m_isTransformOn);
-        m_painter.setPen(m_pen);
-        m_painter.setBrush(m_brush);
-        m_painter.setOpacity(m_opacity);
-        m_painter.setRenderHints(smoothHints & ~m_hints, false);
-    }
-
-private:
-    QPainter &m_painter;
-    const QTransform m_transform;
-    const bool m_isTransformOn;
-    const QPen m_pen;
-    const QBrush m_brush;
-    const double m_opacity;
-    const QPainter::RenderHints m_hints;
-};
-
 /// Returns the pen that a file starts with, under which a shape without a stroke of its own has
 /// none. The same for all files, and dearer to make than to use.
 const QPen &initialPen()
@@ -111,13 +73,14 @@ void DrawUtils::drawSVG(QPainter *painter, QSvgNode *node, QSvgExtraStates &stat
     QRectF target = rect;
     fitRectangle(target, source.width() / source.height());
 
-    const PainterGuard guard(*painter);
+    painter->save();
     mapSourceToTarget(*painter, source, target);
     painter->setPen(initialPen());
     painter->setBrush(QBrush(color, Qt::SolidPattern));
     painter->setOpacity(opacity);
     painter->setRenderHints(smoothHints);
     node->draw(painter, states);
+    painter->restore();
 }
 
 QPixmap DrawUtils::renderPixmap(QSvgNode *node, const QRectF &iconRect, const QSize &pixmapSize,
