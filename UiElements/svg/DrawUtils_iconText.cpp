@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DrawUtils.h"
 
+#include "IconTextPlacement_p.h"
+
 #include <UiElements/svg/OxaSvgIcon.h>
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/theme/StateColor_p.h>
 
 #include <QAbstractTextDocumentLayout>
-#include <QDebug>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QStyleOption>
@@ -16,8 +17,6 @@
 #include <functional>
 
 namespace {
-
-constexpr char unsupportedAlignWarning[] = "Unsupported OxaEnum::HorAlign!";
 
 /// What is painted beside a text, and how large it is. Nothing has the size (-1, -1), which makes
 /// the block a pixel narrower than a picture of no size would: meant so.
@@ -93,33 +92,6 @@ Line lineOf(const Block &block, int available)
     return { elided, QSize(metrics.horizontalAdvance(elided), metrics.height()) };
 }
 
-/// Moves \a painter to where a block of size \a total stands in \a rect, and returns that place.
-QPoint placeBlock(QPainter &painter, OxaEnum::HorAlign align, const QRect &rect,
-                  const QPointF &total)
-{
-    const double left = rect.x();
-    const double right = rect.width() + rect.x() - total.x();
-    const bool isMirrored = QGuiApplication::isRightToLeft();
-    double x = 0.0;
-    switch (align) {
-    case OxaEnum::HorAlign::LeftAlign:
-        x = isMirrored ? right : left;
-        break;
-    case OxaEnum::HorAlign::CenterAlign:
-        x = rect.width() * 0.5 + rect.x() - total.x() * 0.5;
-        break;
-    case OxaEnum::HorAlign::RightAlign:
-        x = isMirrored ? left : right;
-        break;
-    default:
-        QMessageLogger().warning() << unsupportedAlignWarning;
-        return {};
-    }
-    const QPoint place = QPointF(x, rect.height() * 0.5 + rect.y() - total.y() * 0.5).toPoint();
-    painter.translate(place);
-    return place;
-}
-
 void drawText(QPainter &painter, const Block &block, const QString &elided, const QSize &size)
 {
     if (block.richText) {
@@ -136,24 +108,24 @@ QRect drawIconText(QPainter &painter, const Block &block, const QStyleOption &op
 {
     const int available = block.availableWidth(option.rect, picture.size);
     const Line line = lineOf(block, available);
-    const auto [iconOffset, textOffset,
-                total] = DrawUtils::calculateIconTextOffset(picture.size, line.size,
-                                                            block.textMargins, block.iconPadding,
-                                                            block.alignment);
+    const IconTextPlacement place = IconTextPlacement::in(option.rect,
+                                                          { picture.size, line.size,
+                                                            block.iconPadding, block.textMargins,
+                                                            block.alignment, block.horAlign });
 
     painter.save();
-    const QPoint place = placeBlock(painter, block.horAlign, option.rect, total);
+    painter.translate(place.block);
     if (picture.draw) {
         painter.save();
-        picture.draw(painter, iconOffset);
+        picture.draw(painter, place.icon);
         painter.restore();
     }
-    painter.translate(textOffset);
+    painter.translate(place.text);
     painter.setPen(colorForStyleState(textColors, option.state));
     drawText(painter, block, line.text,
              QSize(available, qMax(line.size.height(), block.fontMetrics.height())));
     painter.restore();
-    return { place, QSize(static_cast<int>(total.x()), static_cast<int>(total.y())) };
+    return place.blockRect();
 }
 
 Picture pictureOf(const OxaSvgIcon *icon, QStyle::State state)
@@ -172,36 +144,6 @@ const QTextDocument *richTextOf(const OxaSvgPushButton &button, const QTextDocum
 }
 
 } // namespace
-
-std::tuple<QPointF, QPointF, QPointF> DrawUtils::calculateIconTextOffset(
-        const QSize &iconSize, const QSize &textSize, const QMargins &textMargins,
-        const QMargins &iconMargins, OxaEnum::Alignment alignment)
-{
-    using OxaEnum::Alignment;
-
-    const auto iconW = float(iconSize.width() + iconMargins.left() + iconMargins.right());
-    const auto iconH = float(iconSize.height() + iconMargins.top() + iconMargins.bottom());
-    const auto textW = float(textSize.width() + textMargins.left() + textMargins.right());
-    const auto textH = float(textSize.height() + textMargins.top() + textMargins.bottom());
-    const bool isMirrored = QGuiApplication::isRightToLeft();
-    const bool iconFirst = alignment == Alignment::Top
-            || alignment == (isMirrored ? Alignment::Right : Alignment::Left);
-
-    if (alignment == Alignment::Top || alignment == Alignment::Bottom) {
-        const float half = qMax(iconW * 0.5F, textW * 0.5F);
-        return { QPointF(double(half - iconW * 0.5F),
-                         double(float(iconMargins.top()) + (iconFirst ? 0.0F : textH))),
-                 QPointF(double(half - textW * 0.5F),
-                         double(float(textMargins.top()) + (iconFirst ? iconH : 0.0F))),
-                 QPointF(double(2.0F * half), double(iconH + textH)) };
-    }
-    const float half = qMax(iconH * 0.5F, textH * 0.5F);
-    const auto iconLead = float(isMirrored ? iconMargins.right() : iconMargins.left());
-    const auto textLead = float(isMirrored ? textMargins.right() : textMargins.left());
-    return { QPointF(double(iconLead + (iconFirst ? 0.0F : textW)), double(half - iconH * 0.5F)),
-             QPointF(double(textLead + (iconFirst ? iconW : 0.0F)), double(half - textH * 0.5F)),
-             QPointF(double(iconW + textW), double(2.0F * half)) };
-}
 
 QRect DrawUtils::drawSvgIconText(QPainter *painter, const OxaSvgLabel *label,
                                  const QStyleOption &option,
