@@ -13,15 +13,8 @@ OxaSvgAnchorButton::OxaSvgAnchorButton(const QString &text, QWidget *parent)
     : OxaSvgPushButton(text, parent, QAccessible::PushButton)
 {
     setCheckable(true);
-    // Queued: a path that could not be loaded is tried once more when the event loop turns.
-    connect(
-            this, &OxaSvgAnchorButton::anchorSvgOnChanged, this,
-            [this](const QString &path) { updateIconPath(m_anchorOn, path); },
-            Qt::QueuedConnection);
-    connect(
-            this, &OxaSvgAnchorButton::anchorSvgOffChanged, this,
-            [this](const QString &path) { updateIconPath(m_anchorOff, path); },
-            Qt::QueuedConnection);
+    OxaSvgIconBlock::lookAgainAfter(this, &OxaSvgAnchorButton::anchorSvgOnChanged, m_anchorOn);
+    OxaSvgIconBlock::lookAgainAfter(this, &OxaSvgAnchorButton::anchorSvgOffChanged, m_anchorOff);
 }
 
 OxaSvgAnchorButton::~OxaSvgAnchorButton() = default;

@@ -3,12 +3,7 @@
 
 #include <UiElements/theme/OxaThemeUtils.h>
 
-#include <QWidget>
-
-OxaSvgIconBlock::OxaSvgIconBlock(QWidget *widget, const OxaColorSet &textColorSet)
-    : m_widget(widget), m_textColorSet(textColorSet)
-{
-}
+#include <QPointer>
 
 OxaSvgIconBlock::~OxaSvgIconBlock() = default;
 
@@ -19,22 +14,26 @@ void OxaSvgIconBlock::setPath(const QString &path)
     OxaSvgIcon &icon = ensureSvgIconExists();
     icon.setFilePath(path);
     if (!icon.getColorSet().isValid())
-        icon.setColorSet(m_textColorSet);
+        icon.setColorSet(m_fallbackColors);
+    m_class.emitPathChanged(m_widget, path);
 }
 
 QSize OxaSvgIconBlock::size() const { return m_icon ? m_icon->getIconSize() : QSize(); }
 
-void OxaSvgIconBlock::setSize(const QSize &size) { ensureSvgIconExists().setIconSize(size); }
+void OxaSvgIconBlock::setSize(const QSize &size)
+{
+    ensureSvgIconExists().setIconSize(size);
+    m_widget->update();
+    m_class.emitSizeChanged(m_widget, size);
+}
 
 void OxaSvgIconBlock::setColorSetName(const QString &name)
 {
     m_colorSetName = name;
-    ensureSvgIconExists().setColorSet(colorSetOrText(name));
-}
-
-OxaColorSet OxaSvgIconBlock::colorSet() const
-{
-    return m_icon ? m_icon->getColorSet() : OxaColorSet();
+    OxaSvgIcon &icon = ensureSvgIconExists();
+    icon.setColorSet(colorSetOrFallback(name));
+    m_widget->update();
+    m_class.emitColorSetChanged(m_widget, icon.getColorSet());
 }
 
 QString OxaSvgIconBlock::innerPath() const
@@ -47,7 +46,7 @@ void OxaSvgIconBlock::setInnerPath(const QString &path)
     OxaSvgIcon &icon = ensureSvgIconExists();
     icon.setInnerFilePath(path);
     if (!icon.getInnerColorSet().isValid())
-        icon.setInnerColorSet(m_textColorSet);
+        icon.setInnerColorSet(m_fallbackColors);
 }
 
 QSize OxaSvgIconBlock::innerSize() const { return m_icon ? m_icon->getInnerIconSize() : QSize(); }
@@ -61,7 +60,7 @@ void OxaSvgIconBlock::setInnerSize(const QSize &size)
 void OxaSvgIconBlock::setInnerColorSetName(const QString &name)
 {
     m_innerColorSetName = name;
-    ensureSvgIconExists().setInnerColorSet(colorSetOrText(name));
+    ensureSvgIconExists().setInnerColorSet(colorSetOrFallback(name));
     m_widget->update();
 }
 
@@ -103,17 +102,26 @@ void OxaSvgIconBlock::setBottomRightPadding(const QPoint &padding)
     m_widget->update();
 }
 
-OxaColorSet OxaSvgIconBlock::colorSetOrText(const QString &name) const
+void OxaSvgIconBlock::refreshColorSets()
 {
-    const OxaColorSet set = OxaThemeUtils::getColorSet(name.toStdString(), m_widget);
-    return set.isValid() ? set : m_textColorSet;
+    const QPointer<QWidget> widget(m_widget); // A slot may delete the widget.
+    if (!m_colorSetName.isEmpty())
+        setColorSetName(m_colorSetName);
+    if (widget && !m_innerColorSetName.isEmpty())
+        setInnerColorSetName(m_innerColorSetName);
 }
 
-void OxaSvgIconBlock::updateIconPath(OxaSvgIcon *icon, const QString &path) const
+OxaColorSet OxaSvgIconBlock::colorSetOrFallback(const QString &name) const
+{
+    const OxaColorSet set = OxaThemeUtils::getColorSet(name.toStdString(), m_widget);
+    return set.isValid() ? set : m_fallbackColors;
+}
+
+void OxaSvgIconBlock::showPath(OxaSvgIcon *icon, const QString &path, QWidget *widget)
 {
     if (icon && (!icon->isValid() || icon->getFilePath() != path))
         icon->setFilePath(path);
-    m_widget->update();
+    widget->update();
 }
 
 OxaSvgIcon &OxaSvgIconBlock::ensureSvgIconExists()

@@ -9,33 +9,57 @@
 #include <UiElements/theme/OxaEnum.h>
 
 #include <QMargins>
+#include <QObject>
 #include <QPoint>
-#include <QPointer>
 #include <QString>
+#include <QWidget>
 
 #include <memory>
-
-class QWidget;
 
 /// Keeps an icon beside a widget's text, and where the two stand: the behaviour behind
 /// UIELEMENTS_SVG_ICON_BLOCK.
 ///
 /// A member of the widget that it serves. The icon is made when it is first needed. Where it has no
-/// colour set of its own, or one that the theme lacks, it takes the widget's text colours.
+/// colour set of its own, or one that the theme lacks, it takes the colours to fall back on. What
+/// differs from class to class, the signals, stands in one constant for each class.
 class UIELEMENTS_EXPORT OxaSvgIconBlock
 {
     Q_DISABLE_COPY_MOVE(OxaSvgIconBlock)
 
 public:
-    /// Serves \a widget, whose text colours are \a textColorSet; both must outlive the block.
-    OxaSvgIconBlock(QWidget *widget, const OxaColorSet &textColorSet);
+    /// Serves \a widget, whose icon falls back on \a fallbackColors, such as those of its text;
+    /// both must outlive the block.
+    template <typename Widget>
+    OxaSvgIconBlock(Widget *widget, const OxaColorSet &fallbackColors)
+        : m_widget(widget), m_class(classOf<Widget>), m_fallbackColors(fallbackColors)
+    {
+        lookAgainAfter(widget, &Widget::svgIconChanged, m_icon);
+    }
     ~OxaSvgIconBlock();
+
+    /// Has the event loop's next turn after each \a changed look at \a icon, a member of \a widget,
+    /// once more: it loads the path unless the icon shows that already, and repaints. So a path
+    /// that fails to load is tried twice.
+    template <typename Widget, typename Class>
+    static void lookAgainAfter(Widget *widget, void (Class::*changed)(const QString &),
+                               const std::unique_ptr<OxaSvgIcon> &icon)
+    {
+        QObject::connect(
+                widget, changed, widget,
+                [widget, &icon](const QString &path) { showPath(icon.get(), path, widget); },
+                Qt::QueuedConnection);
+    }
+
+    /// Loads \a icon, which may be null, from \a path unless it shows that already, and repaints
+    /// \a widget.
+    static void showPath(OxaSvgIcon *icon, const QString &path, QWidget *widget);
 
     /// \name The icon, and the properties of its outer picture
     /// \{
 
     /// What the widget's properties of the same names, which begin with "svgIcon", show and set.
-    /// The icon itself is null until it is needed.
+    /// The icon itself is null until it is needed. The setters emit the widget's signals, and those
+    /// of size and colours repaint it before.
     const std::unique_ptr<OxaSvgIcon> &icon() const { return m_icon; }
     std::unique_ptr<OxaSvgIcon> &icon() { return m_icon; }
     QString path() const;
@@ -45,9 +69,6 @@ public:
     QString colorSetName() const { return m_colorSetName; }
     void setColorSetName(const QString &name);
     /// \}
-
-    /// Returns the icon's colours: what the last setColorSetName() came to.
-    OxaColorSet colorSet() const;
 
     /// \name The properties of its inner picture
     /// \{
@@ -84,18 +105,30 @@ public:
     void setBottomRightPadding(const QPoint &padding);
     /// \}
 
-    /// Returns the set called \a name in the widget's theme, or its text colours where that is not
-    /// valid.
-    OxaColorSet colorSetOrText(const QString &name) const;
+    /// Sets the colour sets of both pictures again, where they have names. A slot may delete the
+    /// widget, and the block with it.
+    void refreshColorSets();
 
-    /// Loads \a icon from \a path unless it shows that already, and repaints.
-    void updateIconPath(OxaSvgIcon *icon, const QString &path) const;
+    /// Returns the set called \a name in the widget's theme, or the colours to fall back on where
+    /// that is not valid.
+    OxaColorSet colorSetOrFallback(const QString &name) const;
 
 private:
+    /// One widget class's signals, as functions on the widget.
+    struct WidgetClass
+    {
+        void (*emitPathChanged)(QWidget *, const QString &);
+        void (*emitColorSetChanged)(QWidget *, const OxaColorSet &);
+        void (*emitSizeChanged)(QWidget *, const QSize &);
+    };
+    template <typename Widget>
+    static const WidgetClass classOf;
+
     OxaSvgIcon &ensureSvgIconExists();
 
     QWidget *const m_widget;
-    const OxaColorSet &m_textColorSet;
+    const WidgetClass &m_class;
+    const OxaColorSet &m_fallbackColors;
     std::unique_ptr<OxaSvgIcon> m_icon;
     OxaEnum::Alignment m_alignment = OxaEnum::Alignment::Left;
     OxaEnum::HorAlign m_textHorAlign = OxaEnum::HorAlign::CenterAlign;
@@ -106,15 +139,28 @@ private:
     int m_textRightPadding = 0;
 };
 
+template <typename Widget>
+const OxaSvgIconBlock::WidgetClass OxaSvgIconBlock::classOf = {
+    [](QWidget *widget, const QString &path) {
+        Q_EMIT static_cast<Widget *>(widget)->svgIconChanged(path);
+    },
+    [](QWidget *widget, const OxaColorSet &colorSet) {
+        Q_EMIT static_cast<Widget *>(widget)->svgIconColorSetChanged(colorSet);
+    },
+    [](QWidget *widget, const QSize &size) {
+        Q_EMIT static_cast<Widget *>(widget)->svgIconSizeChanged(size);
+    },
+};
+
 /// Declares the icon members of a themed widget class. Stands after the theme and font blocks,
 /// without a semicolon, and leaves the access at private. The class initialises `m_iconBlock` in
 /// its constructor.
 ///
 /// Properties, in pixels and in reading direction where they have sides: `svgIcon`, the icon's
 /// path, such as OxaSvgRenderer::resourcePath() gives it, with `svgIconSize` (16 by 16) and
-/// `svgIconColorSet` (the text's colours); the same of a second picture on its centre, which begin
-/// with "inner"; `svgIconAlignment`, the side of the text on which the icon stands (Left);
-/// `textHorAlign`, where the two stand in the widget (CenterAlign); `textLeftPadding` and
+/// `svgIconColorSet` (the colours to fall back on); the same of a second picture on its centre,
+/// which begin with "inner"; `svgIconAlignment`, the side of the text on which the icon stands
+/// (Left); `textHorAlign`, where the two stand in the widget (CenterAlign); `textLeftPadding` and
 /// `textRightPadding` around the text (0); and `svgIconTopLeftPadding` and
 /// `svgIconBottomRightPadding` around the icon (0), as points of left and top, right and bottom.
 ///
@@ -145,25 +191,11 @@ private:
                                                                                                    \
 public:                                                                                            \
     QString getSvgIcon() const { return m_iconBlock.path(); }                                      \
-    void setSvgIcon(const QString &path)                                                           \
-    {                                                                                              \
-        m_iconBlock.setPath(path);                                                                 \
-        Q_EMIT svgIconChanged(path);                                                               \
-    }                                                                                              \
+    void setSvgIcon(const QString &path) { m_iconBlock.setPath(path); }                            \
     QString getSvgIconColorSet() const { return m_iconBlock.colorSetName(); }                      \
-    void setSvgIconColorSet(const QString &name)                                                   \
-    {                                                                                              \
-        m_iconBlock.setColorSetName(name);                                                         \
-        update();                                                                                  \
-        Q_EMIT svgIconColorSetChanged(m_iconBlock.colorSet());                                     \
-    }                                                                                              \
+    void setSvgIconColorSet(const QString &name) { m_iconBlock.setColorSetName(name); }            \
     QSize getSvgIconSize() const { return m_iconBlock.size(); }                                    \
-    void setSvgIconSize(const QSize &iconSize)                                                     \
-    {                                                                                              \
-        m_iconBlock.setSize(iconSize);                                                             \
-        update();                                                                                  \
-        Q_EMIT svgIconSizeChanged(iconSize);                                                       \
-    }                                                                                              \
+    void setSvgIconSize(const QSize &iconSize) { m_iconBlock.setSize(iconSize); }                  \
     OxaEnum::Alignment getSvgIconAlignment() const { return m_iconBlock.alignment(); }             \
     void setSvgIconAlignment(OxaEnum::Alignment side) { m_iconBlock.setAlignment(side); }          \
     OxaEnum::HorAlign getTextHorAlign() const { return m_iconBlock.textHorAlign(); }               \
@@ -175,10 +207,7 @@ public:                                                                         
     QMargins getSvgIconPadding() const { return m_iconBlock.padding(); }                           \
     void setSvgIconPadding(const QMargins &padding) { m_iconBlock.setPadding(padding); }           \
     QPoint getSvgIconTopLeftPadding() const { return m_iconBlock.topLeftPadding(); }               \
-    void setSvgIconTopLeftPadding(const QPoint &padding)                                           \
-    {                                                                                              \
-        m_iconBlock.setTopLeftPadding(padding);                                                    \
-    }                                                                                              \
+    void setSvgIconTopLeftPadding(const QPoint &space) { m_iconBlock.setTopLeftPadding(space); }   \
     QPoint getSvgIconBottomRightPadding() const { return m_iconBlock.bottomRightPadding(); }       \
     void setSvgIconBottomRightPadding(const QPoint &padding)                                       \
     {                                                                                              \
@@ -190,14 +219,7 @@ public:                                                                         
     void setInnerSvgIconColorSet(const QString &name) { m_iconBlock.setInnerColorSetName(name); }  \
     QSize getInnerSvgIconSize() const { return m_iconBlock.innerSize(); }                          \
     void setInnerSvgIconSize(const QSize &iconSize) { m_iconBlock.setInnerSize(iconSize); }        \
-    void refreshSvgIconColorSet()                                                                  \
-    {                                                                                              \
-        const QPointer<QWidget> self(this);                                                        \
-        if (!getSvgIconColorSet().isEmpty())                                                       \
-            setSvgIconColorSet(getSvgIconColorSet());                                              \
-        if (self && !getInnerSvgIconColorSet().isEmpty())                                          \
-            setInnerSvgIconColorSet(getInnerSvgIconColorSet());                                    \
-    }                                                                                              \
+    void refreshSvgIconColorSet() { m_iconBlock.refreshColorSets(); }                              \
                                                                                                    \
 Q_SIGNALS:                                                                                         \
     void svgIconChanged(const QString &path);                                                      \

@@ -16,13 +16,6 @@ OxaSvgLabel::OxaSvgLabel(const QString &text, QWidget *parent, QAccessible::Role
     : OxaLabel(text, parent, role, flags), m_iconBlock(this, textColors())
 {
     connect(this, &OxaSvgLabel::cssChanged, this, &OxaSvgLabel::onStyleTextChanged);
-    // Queued: a path that could not be loaded is tried once more when the event loop turns.
-    connect(
-            this, &OxaSvgLabel::svgIconChanged, this,
-            [this](const QString &path) {
-                m_iconBlock.updateIconPath(m_iconBlock.icon().get(), path);
-            },
-            Qt::QueuedConnection);
 }
 
 QSize OxaSvgLabel::sizeHint() const

@@ -21,15 +21,7 @@ OxaSvgPushButton::OxaSvgPushButton(const QString &text, QWidget *parent,
             &OxaSvgPushButton::onSvgIconColorSetChanged);
     connect(this, &OxaSvgPushButton::svgIconSizeChanged, this,
             &OxaSvgPushButton::onSvgIconSizeChanged);
-    // Queued: a path that could not be loaded is tried once more when the event loop turns.
-    connect(
-            this, &OxaSvgPushButton::svgIconChanged, this,
-            [this](const QString &path) { updateIconPath(m_iconBlock.icon(), path); },
-            Qt::QueuedConnection);
-    connect(
-            this, &OxaSvgPushButton::svgIconCheckedChanged, this,
-            [this](const QString &path) { updateIconPath(m_checkedIcon, path); },
-            Qt::QueuedConnection);
+    OxaSvgIconBlock::lookAgainAfter(this, &OxaSvgPushButton::svgIconCheckedChanged, m_checkedIcon);
     setElideMode(Qt::ElideRight);
     setAttribute(Qt::WA_Hover);
     update();
@@ -146,12 +138,12 @@ QTextDocument *OxaSvgPushButton::textDocument() const { return m_textDocument; }
 
 OxaColorSet OxaSvgPushButton::colorSetOrText(const QString &name) const
 {
-    return m_iconBlock.colorSetOrText(name);
+    return m_iconBlock.colorSetOrFallback(name);
 }
 
 void OxaSvgPushButton::updateIconPath(const std::unique_ptr<OxaSvgIcon> &icon, const QString &path)
 {
-    m_iconBlock.updateIconPath(icon.get(), path);
+    OxaSvgIconBlock::showPath(icon.get(), path, this);
 }
 
 void OxaSvgPushButton::initButtonStyleOption(QStyleOptionButton *option) const
