@@ -1,40 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DrawUtils.h"
 
-#include <QApplication>
+#include <UiElements/theme/FocusFrame_p.h>
+
 #include <QPainter>
-#include <QStyleOptionFocusRect>
-#include <QVariant>
-#include <QWidget>
 
 namespace {
-
-bool hasKeyboardFocus(QStyle::State state)
-{
-    return state.testFlag(QStyle::State_HasFocus)
-            && state.testFlag(QStyle::State_KeyboardFocusChange);
-}
-
-bool usesGlobalFocusBorders()
-{
-    const QCoreApplication *app = QCoreApplication::instance();
-    return app && app->property("useGlobalFocusBorders").toBool();
-}
 
 QColor inverse(const QColor &color)
 {
     return { 255 - color.red(), 255 - color.green(), 255 - color.blue() };
-}
-
-void drawStyledFrame(QPainter *painter, const QRect &rect, const QWidget *widget)
-{
-    QStyleOptionFocusRect option;
-    option.initFrom(widget);
-    if (!rect.isNull()) {
-        option.rect = rect;
-        option.styleObject->setProperty("hasCustomRect", true);
-    }
-    QApplication::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, painter, widget);
 }
 
 void drawDottedFrame(QPainter *painter, const QRect &rect, const QColor &color)
@@ -56,10 +31,10 @@ void drawDottedFrame(QPainter *painter, const QRect &rect, const QColor &color)
 void DrawUtils::drawFocusRect(QPainter *painter, const QFlags<QStyle::StateFlag> &state,
                               const QRect &rect, const QColor &color, const QWidget *widget)
 {
-    if (!hasKeyboardFocus(state))
+    if (!FocusFrame::isShown(state))
         return;
-    if (widget && usesGlobalFocusBorders())
-        drawStyledFrame(painter, rect, widget);
+    if (widget && FocusFrame::areBordersGlobal())
+        FocusFrame::draw(painter, FocusFrame::optionFor(widget, rect), widget);
     else
         drawDottedFrame(painter, rect, color);
 }
@@ -67,6 +42,6 @@ void DrawUtils::drawFocusRect(QPainter *painter, const QFlags<QStyle::StateFlag>
 void DrawUtils::drawLegacyFocusRect(QPainter *painter, const QFlags<QStyle::StateFlag> &state,
                                     const QRect &rect, const QColor &color)
 {
-    if (hasKeyboardFocus(state) && !usesGlobalFocusBorders())
+    if (FocusFrame::isShown(state) && !FocusFrame::areBordersGlobal())
         drawDottedFrame(painter, rect, color);
 }

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaPushButton.h"
 
-#include <QCoreApplication>
+#include "WidgetParts_p.h"
+
+#include <UiElements/theme/FocusFrame_p.h>
+
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPointer>
 #include <QStyleOptionButton>
 #include <QTimer>
@@ -29,42 +31,18 @@ OxaPushButton::OxaPushButton(const QIcon &icon, const QString &text, QWidget *pa
     : QPushButton(text, parent),
       m_themeBlock(this, OxaThemeBlock::Form::Full, &m_colorSets),
       m_accessibleRole(role),
-      m_useGlobalFocusBorders(qApp->property("useGlobalFocusBorders").toBool())
+      m_useGlobalFocusBorders(FocusFrame::areBordersGlobal())
 {
     setIcon(icon);
     setAutoDefault(true);
     m_themeBlock.followTheme();
 }
 
-Qt::TextElideMode OxaPushButton::getElideMode() const { return m_elideMode; }
-
-void OxaPushButton::setElideMode(Qt::TextElideMode mode)
-{
-    m_elideMode = mode;
-    update();
-}
-
-int OxaPushButton::getElidePadding() const { return m_elidePadding; }
-
-void OxaPushButton::setElidePadding(int padding)
-{
-    m_elidePadding = padding;
-    update();
-}
-
-QString OxaPushButton::getUniqueElementId() const { return m_uniqueElementId; }
-
-void OxaPushButton::setUniqueElementId(const QString &id) { m_uniqueElementId = id; }
-
-QAccessible::Role OxaPushButton::getAccessibleRole() const { return m_accessibleRole; }
-
-void OxaPushButton::setAccessibleRole(QAccessible::Role role) { m_accessibleRole = role; }
-
-QString OxaPushButton::getFocusRectColorSet() const { return m_focusRectColorSet.name; }
+QString OxaPushButton::getFocusRectColorSet() const { return m_focusRectColorSet.colors().name; }
 
 void OxaPushButton::setFocusRectColorSet(const QString &name)
 {
-    m_focusRectColorSet = OxaThemeUtils::getColorSet(name.toStdString(), this);
+    m_focusRectColorSet.fetch(name, getThemeType());
 }
 
 bool OxaPushButton::isLongPressEnabled() const { return m_isLongPressEnabled; }
@@ -93,20 +71,13 @@ void OxaPushButton::setIconColor(const QColor &color, QIcon::Mode mode)
 
 void OxaPushButton::setIconColor(const QColor &color, QIcon::Mode mode, QIcon::State state)
 {
-    QIcon tinted = icon();
-    if (tinted.isNull())
+    QIcon recolored = icon();
+    if (recolored.isNull())
         return;
 
-    QPixmap pixmap = tinted.pixmap(iconSize(), mode, state);
-    QPainter painter(&pixmap);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.setBrush(color);
-    painter.setPen(color);
-    painter.drawRect(pixmap.rect());
-    painter.end();
-    tinted.addPixmap(pixmap, mode, state);
-    setIcon(tinted);
+    recolored.addPixmap(WidgetParts::tinted(recolored.pixmap(iconSize(), mode, state), color), mode,
+                        state);
+    setIcon(recolored);
 }
 
 void OxaPushButton::setPixmap(const QPixmap &pixmap)
@@ -141,13 +112,10 @@ void OxaPushButton::setAccessibleMode(const RillsAccessible::AccessibleMode &mod
 
 QString OxaPushButton::getElidedText(const QString &text, int extraWidth, int sideMargin) const
 {
-    if (m_elideMode == Qt::ElideNone)
-        return text;
-    return fontMetrics().elidedText(text, m_elideMode,
-                                    getLineWidth() - 2 * sideMargin - extraWidth);
+    return m_elision.elidedText(text, 2 * sideMargin + extraWidth);
 }
 
-int OxaPushButton::getLineWidth() const { return rect().width() - m_elidePadding; }
+int OxaPushButton::getLineWidth() const { return m_elision.lineWidth(); }
 
 const OxaColorSet &OxaPushButton::textColors() const { return m_colorSets.text; }
 
@@ -155,8 +123,9 @@ const QPixmap &OxaPushButton::getPixmap() const { return m_pixmap; }
 
 void OxaPushButton::onThemeChanged()
 {
-    if (m_focusRectColorSet.isValid())
-        setFocusRectColorSet(m_focusRectColorSet.name);
+    // A set that the theme lacks is not tried again.
+    if (m_focusRectColorSet.colors().isValid())
+        m_focusRectColorSet.fetch(getThemeType());
 }
 
 void OxaPushButton::onButtonDownTimeout()

@@ -5,10 +5,12 @@
 
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/fonts/OxaFontBlock.h>
+#include <UiElements/theme/OxaNamedColorSet.h>
 #include <UiElements/theme/OxaThemeBlock.h>
+#include <UiElements/widgets/OxaElementBlock.h>
+#include <UiElements/widgets/OxaElisionBlock.h>
 #include <UiElements/widgets/RillsAccessible.h>
 
-#include <QAccessible>
 #include <QPixmap>
 #include <QPushButton>
 #include <QUuid>
@@ -30,10 +32,9 @@ class UIELEMENTS_EXPORT OxaPushButton : public QPushButton
     Q_OBJECT
     UIELEMENTS_THEME_BLOCK(QPushButton)
     UIELEMENTS_FONT_BLOCK
-    Q_PROPERTY(Qt::TextElideMode elideMode READ getElideMode WRITE setElideMode)
-    Q_PROPERTY(int elidePadding READ getElidePadding WRITE setElidePadding)
-    Q_PROPERTY(QString elementUniqueId READ getUniqueElementId WRITE setUniqueElementId)
-    Q_PROPERTY(QAccessible::Role accessibleRole READ getAccessibleRole WRITE setAccessibleRole)
+    UIELEMENTS_ELISION_BLOCK
+    UIELEMENTS_ELEMENT_ID_BLOCK
+    UIELEMENTS_ACCESSIBLE_ROLE_BLOCK
     Q_PROPERTY(QString focusRectColorSet READ getFocusRectColorSet WRITE setFocusRectColorSet)
     Q_PROPERTY(bool longPressEnabled READ isLongPressEnabled WRITE setLongPressEnabled)
     Q_PROPERTY(bool badgeVisible READ isBadgeVisible WRITE setBadgeVisible)
@@ -52,31 +53,6 @@ public:
     /// Makes a button with \a icon and \a text.
     OxaPushButton(const QIcon &icon, const QString &text, QWidget *parent = nullptr,
                   const QAccessible::Role &role = QAccessible::PushButton);
-
-    /// Returns where the text is elided. Qt::ElideNone by default.
-    Qt::TextElideMode getElideMode() const;
-
-    /// Sets where the text is elided. Repaints.
-    void setElideMode(Qt::TextElideMode mode);
-
-    /// Returns the width in pixels that an elided text keeps free. 0 by default.
-    int getElidePadding() const;
-
-    /// Sets the width in pixels that an elided text keeps free. Repaints.
-    void setElidePadding(int padding);
-
-    /// Returns the stable id by which automation finds the button. Empty by default.
-    QString getUniqueElementId() const;
-
-    /// Stores \a id.
-    void setUniqueElementId(const QString &id);
-
-    /// Returns the accessible role that was given. It is stored, and not told to assistive
-    /// technology, which hears Qt's own role for the widget. QAccessible::PushButton by default.
-    QAccessible::Role getAccessibleRole() const;
-
-    /// Stores \a role. Tells nobody.
-    void setAccessibleRole(QAccessible::Role role);
 
     /// Returns the name of the set whose normal colour lies under the focus frame. Empty by
     /// default: the button draws no frame of its own then.
@@ -193,11 +169,7 @@ private:
     void paintBadge(QPainter &painter) const;
 
     OxaStyleColorSets m_colorSets;
-    OxaColorSet m_focusRectColorSet;
-    Qt::TextElideMode m_elideMode = Qt::ElideNone;
-    int m_elidePadding = 0;
-    QString m_uniqueElementId;
-    QAccessible::Role m_accessibleRole;
+    OxaNamedColorSet m_focusRectColorSet;
     QPixmap m_pixmap;
     QUuid m_objectId = QUuid::createUuid();
     QTimer *m_longPressTimer = nullptr;

@@ -2,8 +2,8 @@
 #include "OxaPushButton.h"
 
 #include <UiElements/svg/DrawUtils.h>
+#include <UiElements/theme/FocusFrame_p.h>
 
-#include <QApplication>
 #include <QPainter>
 #include <QStyleOptionButton>
 
@@ -41,25 +41,18 @@ void OxaPushButton::paintButton()
 void OxaPushButton::paintFocusFrame(QPainter &painter, const QStyleOptionButton &option)
 {
     if (!m_useGlobalFocusBorders) {
-        if (m_focusRectColorSet.isValid())
-            DrawUtils::drawLegacyFocusRect(&painter, option.state, option.rect,
-                                           m_focusRectColorSet.normal);
+        const OxaColorSet &colors = m_focusRectColorSet.colors();
+        if (colors.isValid())
+            DrawUtils::drawLegacyFocusRect(&painter, option.state, option.rect, colors.normal);
         return;
     }
 
-    QStyleOptionFocusRect focusOption;
-    focusOption.initFrom(this);
     const QRect customRect = property("customFocusRect").toRect();
-    if (customRect.isNull()) {
+    QStyleOptionFocusRect focusOption = FocusFrame::optionFor(this, customRect);
+    if (customRect.isNull())
         focusOption.rect = option.rect;
-    } else {
-        focusOption.rect = customRect;
-        focusOption.styleObject->setProperty("hasCustomRect", true);
-    }
-    if (focusOption.state.testFlag(QStyle::State_HasFocus)
-        && focusOption.state.testFlag(QStyle::State_KeyboardFocusChange))
-        QApplication::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focusOption, &painter,
-                                             this);
+    if (FocusFrame::isShown(focusOption.state))
+        FocusFrame::draw(&painter, focusOption, this);
 }
 
 void OxaPushButton::paintBadge(QPainter &painter) const

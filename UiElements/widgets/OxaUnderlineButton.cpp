@@ -28,8 +28,8 @@ OxaUnderlineButton::OxaUnderlineButton(QWidget *parent)
     : OxaPushButton(parent, QAccessible::PushButton)
 {
     // Stored without the setters: the pen stays black until one of them runs.
-    m_backgroundColorSet = colorSet(QStringLiteral("oxa-underlineButton-background"));
-    m_textColorSet = colorSet(QStringLiteral("oxa-underlineButton-text"));
+    m_backgroundColorSet.fetch(QStringLiteral("oxa-underlineButton-background"), getThemeType());
+    m_textColorSet.fetch(QStringLiteral("oxa-underlineButton-text"), getThemeType());
     m_underlineColorSet = m_textColorSet;
     setProperty("focusBorderRadius", groundRadius);
 }
@@ -81,30 +81,31 @@ void OxaUnderlineButton::setAnchorIcon(const QString &path)
 
 void OxaUnderlineButton::setBackgroundColorSet(const QString &name)
 {
-    m_backgroundColorSet = colorSet(name);
+    m_backgroundColorSet.fetch(name, getThemeType());
 }
 
 void OxaUnderlineButton::setTextColorSet(const QString &name)
 {
-    m_textColorSet = colorSet(name);
-    m_underlinePen = penOf(m_textColorSet.pressed);
+    m_textColorSet.fetch(name, getThemeType());
+    m_underlinePen = penOf(m_textColorSet.colors().pressed);
 }
 
 void OxaUnderlineButton::setUnderlineColorSet(const QString &name)
 {
-    m_underlineColorSet = colorSet(name);
-    m_underlinePen = penOf(m_underlineColorSet.normal);
+    m_underlineColorSet.fetch(name, getThemeType());
+    m_underlinePen = penOf(m_underlineColorSet.colors().normal);
 }
 
 void OxaUnderlineButton::onThemeChanged()
 {
     OxaPushButton::onThemeChanged();
-    if (m_backgroundColorSet.isValid())
-        setBackgroundColorSet(m_backgroundColorSet.name);
-    if (m_textColorSet.isValid())
-        setTextColorSet(m_textColorSet.name);
-    if (m_underlineColorSet.isValid())
-        setUnderlineColorSet(m_underlineColorSet.name);
+    // A set that the theme lacks is not tried again.
+    if (m_backgroundColorSet.colors().isValid())
+        setBackgroundColorSet(m_backgroundColorSet.name());
+    if (m_textColorSet.colors().isValid())
+        setTextColorSet(m_textColorSet.name());
+    if (m_underlineColorSet.colors().isValid())
+        setUnderlineColorSet(m_underlineColorSet.name());
     if (m_anchorIcon)
         m_anchorIcon->setColorSet(colorSet(QStringLiteral("oxa-spaceTabs-text")));
 }
@@ -125,7 +126,8 @@ void OxaUnderlineButton::paintEvent(QPaintEvent *)
     if (m_showUnreadIndicator)
         drawUnreadDot(painter, option.rect);
     const QRect frame = option.rect.adjusted(0, 0, 0, -m_bottomPadding);
-    DrawUtils::drawFocusRect(&painter, option.state, frame, m_backgroundColorSet.pressed, this);
+    DrawUtils::drawFocusRect(&painter, option.state, frame, m_backgroundColorSet.colors().pressed,
+                             this);
 }
 
 OxaColorSet OxaUnderlineButton::colorSet(const QString &name) const
@@ -142,16 +144,16 @@ QPen OxaUnderlineButton::penOf(const QColor &color) const
 QColor OxaUnderlineButton::paintGround(QPainter &painter, const QStyleOptionButton &option) const
 {
     const QRect rect = option.rect;
-    QColor textColor = m_textColorSet.normal;
+    QColor textColor = m_textColorSet.colors().normal;
     if (!option.state.testFlag(QStyle::State_Enabled)) {
-        textColor = m_textColorSet.disabled;
+        textColor = m_textColorSet.colors().disabled;
     } else if (option.state.testFlag(QStyle::State_MouseOver)) {
-        painter.setBrush(m_backgroundColorSet.hovered);
+        painter.setBrush(m_backgroundColorSet.colors().hovered);
         painter.drawRoundedRect(rect, groundRadius, groundRadius);
-        textColor = m_textColorSet.hovered;
+        textColor = m_textColorSet.colors().hovered;
     }
     if (option.state.testFlag(QStyle::State_Sunken) || isChecked()) {
-        textColor = m_textColorSet.pressed;
+        textColor = m_textColorSet.colors().pressed;
         painter.setPen(m_underlinePen);
         painter.drawLine(rect.left() + underlineInset, rect.bottom(), rect.right() - underlineInset,
                          rect.bottom());

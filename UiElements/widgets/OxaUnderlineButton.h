@@ -82,9 +82,9 @@ private:
     QRect paintIcons(QPainter &painter, const QStyleOptionButton &option) const;
     void drawUnreadDot(QPainter &painter, const QRect &rect) const;
 
-    OxaColorSet m_backgroundColorSet;
-    OxaColorSet m_textColorSet;
-    OxaColorSet m_underlineColorSet;
+    OxaNamedColorSet m_backgroundColorSet;
+    OxaNamedColorSet m_textColorSet;
+    OxaNamedColorSet m_underlineColorSet;
     QPen m_underlinePen;
     QImage m_leftIcon;
     std::unique_ptr<OxaSvgIcon> m_anchorIcon;

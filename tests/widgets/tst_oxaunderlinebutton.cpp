@@ -50,6 +50,7 @@ private Q_SLOTS:
     void keepsThePenWhenTheBorderWidthChanges();
     void looksItsColorsUpInItsTheme();
     void leavesSetsThatTheThemeLacksAlone();
+    void fetchesANamedSetAgainAfterTheThemeLackedIt();
 
 private:
     SvgFiles m_files;
@@ -215,6 +216,30 @@ void tst_OxaUnderlineButton::leavesSetsThatTheThemeLacksAlone()
     OxaUnderlineButton button;
     button.setThemeType(QStringLiteral("dark")); // Nothing is looked up.
     QCOMPARE(underlineOf(button), halfBlack);
+}
+
+void tst_OxaUnderlineButton::fetchesANamedSetAgainAfterTheThemeLackedIt()
+{
+    const auto global = OxaThemeUtils::AppThemeType::Global;
+    OxaNamedColorSet set(line.name);
+    QVERIFY(!set.colors().isValid());
+    set.fetch(global);
+    QCOMPARE(set.colors(), line);
+
+    m_stores.reset();
+    m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf({ text }));
+    QTest::ignoreMessage(QtWarningMsg, "ColorSet name does not exist!  \"line\"");
+    set.fetch(global);
+    QVERIFY(!set.colors().isValid());
+    QCOMPARE(set.name(), line.name);
+
+    m_stores.reset();
+    m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf({ line, text }));
+    set.fetch(global);
+    QCOMPARE(set.colors(), line);
+    set.fetch(text.name, global);
+    QCOMPARE(set.name(), text.name);
+    QCOMPARE(set.colors(), text);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaUnderlineButton)

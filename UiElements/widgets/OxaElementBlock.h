@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QAccessible>
+#include <QString>
+
+/// Declares the stable id by which automation finds a widget, as `m_uniqueElementId`. Stands after
+/// the other blocks, without a semicolon, and leaves the access at private.
+///
+/// Property: `elementUniqueId` (empty). It is stored, and nothing in the library reads it.
+#define UIELEMENTS_ELEMENT_ID_BLOCK                                                                \
+    Q_PROPERTY(QString elementUniqueId READ getUniqueElementId WRITE setUniqueElementId)           \
+                                                                                                   \
+public:                                                                                            \
+    QString getUniqueElementId() const { return m_uniqueElementId; }                               \
+    void setUniqueElementId(const QString &id) { m_uniqueElementId = id; }                         \
+                                                                                                   \
+private:                                                                                           \
+    QString m_uniqueElementId;
+
+/// Declares the accessible role that a widget stores, as `m_accessibleRole`. Stands after the other
+/// blocks, without a semicolon, and leaves the access at private.
+///
+/// Property: `accessibleRole` (QAccessible::NoRole, unless the class's constructor sets it). It is
+/// stored, and not told to assistive technology.
+#define UIELEMENTS_ACCESSIBLE_ROLE_BLOCK                                                           \
+    Q_PROPERTY(QAccessible::Role accessibleRole READ getAccessibleRole WRITE setAccessibleRole)    \
+                                                                                                   \
+public:                                                                                            \
+    QAccessible::Role getAccessibleRole() const { return m_accessibleRole; }                       \
+    void setAccessibleRole(QAccessible::Role role) { m_accessibleRole = role; }                    \
+                                                                                                   \
+private:                                                                                           \
+    QAccessible::Role m_accessibleRole = QAccessible::NoRole;

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QColor>
+#include <QMargins>
+#include <QPainter>
+#include <QPixmap>
+
+/// Small rules that several widgets follow.
+namespace WidgetParts {
+
+/// True when \a key, a Qt::Key, clicks a focused widget.
+inline bool isClickKey(int key)
+{
+    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// Returns \a margins with left and right swapped.
+inline QMargins mirrored(const QMargins &margins)
+{
+    return { margins.right(), margins.top(), margins.left(), margins.bottom() };
+}
+
+/// Returns \a pixmap, which is not null, painted over with \a color in its own shape.
+inline QPixmap tinted(QPixmap pixmap, const QColor &color)
+{
+    QPainter painter(&pixmap);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.setBrush(color);
+    painter.setPen(color);
+    painter.drawRect(pixmap.rect());
+    return pixmap;
+}
+
+} // namespace WidgetParts
