@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaLabel.h"
 
+#include "WidgetParts_p.h"
+
 #include <QGuiApplication>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPointer>
 #include <QTextDocument>
 
@@ -59,30 +60,6 @@ void OxaLabel::setTextInteractionFlags(Qt::TextInteractionFlags flags)
         update();
 }
 
-Qt::TextElideMode OxaLabel::getElideMode() const { return m_elideMode; }
-
-void OxaLabel::setElideMode(Qt::TextElideMode mode)
-{
-    m_elideMode = mode;
-    update();
-}
-
-int OxaLabel::getElidePadding() const { return m_elidePadding; }
-
-void OxaLabel::setElidePadding(int padding)
-{
-    m_elidePadding = padding;
-    update();
-}
-
-QString OxaLabel::getUniqueElementId() const { return m_uniqueElementId; }
-
-void OxaLabel::setUniqueElementId(const QString &id) { m_uniqueElementId = id; }
-
-QAccessible::Role OxaLabel::getAccessibleRole() const { return m_accessibleRole; }
-
-void OxaLabel::setAccessibleRole(QAccessible::Role role) { m_accessibleRole = role; }
-
 void OxaLabel::updateWrapMode(QTextOption::WrapMode mode)
 {
     m_wrapMode = mode;
@@ -91,27 +68,16 @@ void OxaLabel::updateWrapMode(QTextOption::WrapMode mode)
 
 void OxaLabel::setPixmapColor(const QColor &color)
 {
-    QPixmap pixmap = QLabel::pixmap(Qt::ReturnByValue);
-    if (pixmap.isNull())
-        return;
-
-    QPainter painter(&pixmap);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.setBrush(color);
-    painter.setPen(color);
-    painter.drawRect(pixmap.rect());
-    painter.end();
-    setPixmap(pixmap);
+    const QPixmap pixmap = QLabel::pixmap(Qt::ReturnByValue);
+    if (!pixmap.isNull())
+        setPixmap(WidgetParts::tinted(pixmap, color));
 }
 
-int OxaLabel::getLineWidth() const { return rect().width() - m_elidePadding; }
+int OxaLabel::getLineWidth() const { return m_elision.lineWidth(); }
 
 QString OxaLabel::getElidedText(const QString &text, int indent, int margin) const
 {
-    if (m_elideMode == Qt::ElideNone)
-        return text;
-    return fontMetrics().elidedText(text, m_elideMode, getLineWidth() - 2 * margin - indent);
+    return m_elision.elidedText(text, 2 * margin + indent);
 }
 
 QPointF OxaLabel::getTextOffset() const
@@ -125,16 +91,16 @@ void OxaLabel::setText(const QString &text)
 {
     m_rawText = text;
     const bool hasLinks = textFormat() == Qt::RichText && text.contains(QLatin1String("<a"));
-    m_shownText = hasLinks ? withLinkColors(text, m_linkColors) : text;
+    m_shownText = hasLinks ? withLinkColors(text, m_linkColors.colors()) : text;
     QLabel::setText(m_shownText);
     // QLabel leaves its margins out, into which an elided text reaches.
-    if (m_elideMode != Qt::ElideNone)
+    if (getElideMode() != Qt::ElideNone)
         update();
 }
 
 void OxaLabel::onThemeChanged()
 {
-    m_linkColors = OxaThemeUtils::getColorSet("button-hyperlink-text", this);
+    m_linkColors.fetch(getThemeType());
     if (textFormat() != Qt::RichText || !showsItsText())
         return;
     // QLabel keeps the selection of a text that is the same, and of others until it lays them out.
@@ -158,9 +124,7 @@ void OxaLabel::mouseReleaseEvent(QMouseEvent *event)
 
 void OxaLabel::keyPressEvent(QKeyEvent *event)
 {
-    const int key = event->key();
-    const bool isClick = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (isClick && isInteractive() && !emitClicked())
+    if (WidgetParts::isClickKey(event->key()) && isInteractive() && !emitClicked())
         return;
     QLabel::keyPressEvent(event);
 }
@@ -179,8 +143,7 @@ void OxaLabel::hideEvent(QHideEvent *event)
 
 void OxaLabel::onLayoutDirectionChanged()
 {
-    const QMargins margins = contentsMargins();
-    setContentsMargins(margins.right(), margins.top(), margins.left(), margins.bottom());
+    setContentsMargins(WidgetParts::mirrored(contentsMargins()));
 
     // "TextDirection" tells the direction of the interface's language, which may differ from that
     // of its layout.

@@ -5,20 +5,22 @@
 
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/fonts/OxaFontBlock.h>
+#include <UiElements/theme/OxaNamedColorSet.h>
 #include <UiElements/theme/OxaThemeBlock.h>
+#include <UiElements/widgets/OxaElementBlock.h>
+#include <UiElements/widgets/OxaElisionBlock.h>
 
-#include <QAccessible>
 #include <QLabel>
 #include <QTextOption>
 
 /// A label that takes part in theming, elides its text, colours its links and can be clicked.
 ///
 /// Texts are plain unless setTextFormat() says otherwise. With an elide mode the label paints its
-/// text itself: one elided line, or with word wrap as many lines as there is room for, the last of
-/// them elided at its end. While text is selected it paints as QLabel does, without an ellipsis.
-/// The size hints stay those of the whole text, so that a layout makes the label narrower only
-/// where it has a minimum width. Such a text keeps off the edges by margin(), not by a padding of
-/// the style text.
+/// text itself: one elided line, or with word wrap, in any mode but Qt::ElideNone, as many lines as
+/// there is room for, the last of them elided at its end. While text is selected it paints as
+/// QLabel does, without an ellipsis. The size hints stay those of the whole text, so that a layout
+/// makes the label narrower only where it has a minimum width. Such a text keeps off the edges by
+/// margin(), not by a padding of the style text.
 ///
 /// The horizontal alignment follows the layout direction of the application, and is set anew at
 /// each change of it: one that was set before, centring included, is lost then. Set it after
@@ -28,10 +30,9 @@ class UIELEMENTS_EXPORT OxaLabel : public QLabel
     Q_OBJECT
     UIELEMENTS_THEME_BLOCK(QLabel)
     UIELEMENTS_FONT_BLOCK
-    Q_PROPERTY(Qt::TextElideMode elideMode READ getElideMode WRITE setElideMode)
-    Q_PROPERTY(int elidePadding READ getElidePadding WRITE setElidePadding)
-    Q_PROPERTY(QString elementUniqueId READ getUniqueElementId WRITE setUniqueElementId)
-    Q_PROPERTY(QAccessible::Role accessibleRole READ getAccessibleRole WRITE setAccessibleRole)
+    UIELEMENTS_ELISION_BLOCK
+    UIELEMENTS_ELEMENT_ID_BLOCK
+    UIELEMENTS_ACCESSIBLE_ROLE_BLOCK
     // QLabel's, once more, so that the property system calls the setters below.
     Q_PROPERTY(QString text READ text WRITE setText)
     Q_PROPERTY(Qt::TextFormat textFormat READ textFormat WRITE setTextFormat)
@@ -55,32 +56,6 @@ public:
     /// Sets what the user can do with the text, QLabel's default at first. Repaints where the text
     /// becomes selectable.
     virtual void setTextInteractionFlags(Qt::TextInteractionFlags flags);
-
-    /// Returns where the text is elided. Qt::ElideNone by default: QLabel paints it all.
-    Qt::TextElideMode getElideMode() const;
-
-    /// Sets where the text is elided. With word wrap any mode but Qt::ElideNone elides the last
-    /// line at its end. Repaints.
-    void setElideMode(Qt::TextElideMode mode);
-
-    /// Returns the width in pixels that an elided text keeps free. 0 by default.
-    int getElidePadding() const;
-
-    /// Sets the width in pixels that an elided text keeps free. Repaints.
-    void setElidePadding(int padding);
-
-    /// Returns the stable id by which automation finds the label. Empty by default.
-    QString getUniqueElementId() const;
-
-    /// Stores \a id.
-    void setUniqueElementId(const QString &id);
-
-    /// Returns the accessible role that was given. It is stored, and not told to assistive
-    /// technology, which hears Qt's own role for the widget. QAccessible::NoRole by default.
-    QAccessible::Role getAccessibleRole() const;
-
-    /// Stores \a role. Tells nobody.
-    void setAccessibleRole(QAccessible::Role role);
 
     /// Sets where the lines of an eliding label with word wrap may break, QTextOption::WordWrap at
     /// first. Repaints.
@@ -146,12 +121,8 @@ private:
     QColor frameGround() const;
 
     OxaStyleColorSets m_colorSets;
-    OxaColorSet m_linkColors;
+    OxaNamedColorSet m_linkColors { QStringLiteral("button-hyperlink-text") };
     QString m_rawText;
     QString m_shownText;
-    QString m_uniqueElementId;
     QTextOption::WrapMode m_wrapMode = QTextOption::WordWrap;
-    Qt::TextElideMode m_elideMode = Qt::ElideNone;
-    int m_elidePadding = 0;
-    QAccessible::Role m_accessibleRole = QAccessible::NoRole;
 };

@@ -22,7 +22,7 @@ bool isFramePainted(const QWidget &widget)
 
 void OxaLabel::paintEvent(QPaintEvent *event)
 {
-    const bool paintsByItself = m_elideMode != Qt::ElideNone && !hasSelectedText();
+    const bool paintsByItself = getElideMode() != Qt::ElideNone && !hasSelectedText();
     if (!paintsByItself)
         QLabel::paintEvent(event);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaWidget.h"
 
+#include "WidgetParts_p.h"
+
 #include <UiElements/app/AppUtils.h>
 
 #include <QGuiApplication>
@@ -9,15 +11,10 @@
 
 namespace {
 
-QMargins mirrored(const QMargins &margins)
-{
-    return { margins.right(), margins.top(), margins.left(), margins.bottom() };
-}
-
 /// Turns margins in reading direction into margins on screen.
 QMargins onScreen(const QMargins &margins)
 {
-    return AppUtils::isRTLLayoutDirection() ? mirrored(margins) : margins;
+    return AppUtils::isRTLLayoutDirection() ? WidgetParts::mirrored(margins) : margins;
 }
 
 } // namespace
@@ -30,10 +27,6 @@ OxaWidget::OxaWidget(QWidget *parent, Qt::WindowFlags flags)
     connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this,
             &OxaWidget::onLayoutDirectionChanged);
 }
-
-QString OxaWidget::getUniqueElementId() const { return m_uniqueElementId; }
-
-void OxaWidget::setUniqueElementId(const QString &id) { m_uniqueElementId = id; }
 
 QString OxaWidget::getPixmapSrc() const { return m_pixmapPath; }
 
@@ -66,9 +59,9 @@ void OxaWidget::setLayoutContentsMargins(int left, int top, int right, int botto
 
 void OxaWidget::onLayoutDirectionChanged()
 {
-    QWidget::setContentsMargins(mirrored(contentsMargins()));
+    QWidget::setContentsMargins(WidgetParts::mirrored(contentsMargins()));
     if (layout())
-        layout()->setContentsMargins(mirrored(layout()->contentsMargins()));
+        layout()->setContentsMargins(WidgetParts::mirrored(layout()->contentsMargins()));
 }
 
 void OxaWidget::onThemeChanged() { }

@@ -4,6 +4,7 @@
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/fonts/OxaFontBlock.h>
 #include <UiElements/theme/OxaThemeBlock.h>
+#include <UiElements/widgets/OxaElementBlock.h>
 
 #include <QPixmap>
 #include <QWidget>
@@ -18,18 +19,12 @@ class UIELEMENTS_EXPORT OxaWidget : public QWidget
     Q_OBJECT
     UIELEMENTS_THEME_BLOCK(QWidget)
     UIELEMENTS_FONT_BLOCK
-    Q_PROPERTY(QString elementUniqueId READ getUniqueElementId WRITE setUniqueElementId)
+    UIELEMENTS_ELEMENT_ID_BLOCK
     Q_PROPERTY(QString pixmap READ getPixmapSrc WRITE setPixmapSrc)
 
 public:
     /// Makes an empty container.
     explicit OxaWidget(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
-
-    /// Returns the stable id by which automation finds the widget. Empty by default.
-    QString getUniqueElementId() const;
-
-    /// Stores \a id.
-    void setUniqueElementId(const QString &id);
 
     /// Returns the path of the background picture. Empty by default.
     QString getPixmapSrc() const;
@@ -64,7 +59,6 @@ protected Q_SLOTS:
     virtual void onThemeChanged();
 
 private:
-    QString m_uniqueElementId;
     QString m_pixmapPath;
     QPixmap m_pixmap;
 };
