@@ -4,13 +4,15 @@
 #include "EmojiTextConverter.h"
 #include "Newlines_p.h"
 
+#include <UiElements/theme/FocusFrame_p.h>
+#include <UiElements/widgets/WidgetParts_p.h>
+
 #include <QAbstractTextDocumentLayout>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QRegularExpression>
-#include <QStyleOptionFocusRect>
 #include <QTextDocument>
 #include <QTextFrame>
 
@@ -184,9 +186,7 @@ void OxaEmojiLabel::mouseReleaseEvent(QMouseEvent *event)
 void OxaEmojiLabel::keyPressEvent(QKeyEvent *event)
 {
     const QPointer<OxaEmojiLabel> self(this); // A slot may delete the label.
-    const int key = event->key();
-    if (textInteractionFlags() != Qt::NoTextInteraction
-        && (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter))
+    if (textInteractionFlags() != Qt::NoTextInteraction && WidgetParts::isClickKey(event->key()))
         Q_EMIT clicked();
     if (self)
         OxaLabel::keyPressEvent(event);
@@ -204,13 +204,8 @@ void OxaEmojiLabel::paintEvent(QPaintEvent *)
     m_document->drawContents(&painter, QRectF());
     painter.restore();
 
-    constexpr QStyle::State keyboardFocus = QStyle::State_HasFocus
-            | QStyle::State_KeyboardFocusChange;
-    if ((option.state & keyboardFocus) == keyboardFocus) {
-        QStyleOptionFocusRect focusOption;
-        focusOption.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focusOption, &painter, this);
-    }
+    if (FocusFrame::isShown(option.state))
+        FocusFrame::draw(&painter, FocusFrame::optionFor(this), this, style());
 }
 
 void OxaEmojiLabel::resizeEvent(QResizeEvent *event)

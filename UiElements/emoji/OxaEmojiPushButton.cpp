@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaEmojiPushButton.h"
 
+#include <UiElements/widgets/WidgetParts_p.h>
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -12,7 +14,6 @@ void OxaEmojiPushButton::mouseReleaseEvent(QMouseEvent *event)
 
 void OxaEmojiPushButton::keyPressEvent(QKeyEvent *event)
 {
-    const int key = event->key();
-    if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
+    if (WidgetParts::isClickKey(event->key()))
         Q_EMIT clicked();
 }
