@@ -6,13 +6,11 @@
 /// A colour set that a widget paints with, kept by its name and fetched again at each change of the
 /// theme.
 ///
-/// A member of the widget, which hands over its theme type: OxaNamedColorSet knows no widget. The
-/// name stays where the theme lacks the set, for the next fetch(); the colours are not valid then.
+/// The name stays where the theme lacks the set, for the next fetch(); the colours are not valid
+/// then.
 class UIELEMENTS_EXPORT OxaNamedColorSet
 {
 public:
-    using ThemeType = OxaThemeUtils::AppThemeType;
-
     /// Has no name, and colours that are not valid.
     OxaNamedColorSet() = default;
 
@@ -25,17 +23,17 @@ public:
     /// Returns the set as the last fetch() found it.
     const OxaColorSet &colors() const { return m_colors; }
 
-    /// Looks the set up in the colours of \a theme. Warnings as in OxaThemeUtils::getColorSet().
-    void fetch(ThemeType theme)
+    /// Looks the set up in the theme of \a widget. Warnings as in OxaThemeUtils::getColorSet().
+    void fetch(const QWidget *widget)
     {
-        m_colors = OxaThemeUtils::getColorSet(m_name.toStdString(), theme);
+        m_colors = OxaThemeUtils::getColorSet(m_name.toStdString(), widget);
     }
 
     /// The same for the set called \a name from now on.
-    void fetch(const QString &name, ThemeType theme)
+    void fetch(const QString &name, const QWidget *widget)
     {
         m_name = name;
-        fetch(theme);
+        fetch(widget);
     }
 
 private:

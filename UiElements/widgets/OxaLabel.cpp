@@ -100,7 +100,7 @@ void OxaLabel::setText(const QString &text)
 
 void OxaLabel::onThemeChanged()
 {
-    m_linkColors.fetch(getThemeType());
+    m_linkColors.fetch(this);
     if (textFormat() != Qt::RichText || !showsItsText())
         return;
     // QLabel keeps the selection of a text that is the same, and of others until it lays them out.

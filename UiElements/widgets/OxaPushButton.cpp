@@ -42,7 +42,7 @@ QString OxaPushButton::getFocusRectColorSet() const { return m_focusRectColorSet
 
 void OxaPushButton::setFocusRectColorSet(const QString &name)
 {
-    m_focusRectColorSet.fetch(name, getThemeType());
+    m_focusRectColorSet.fetch(name, this);
 }
 
 bool OxaPushButton::isLongPressEnabled() const { return m_isLongPressEnabled; }
@@ -125,7 +125,7 @@ void OxaPushButton::onThemeChanged()
 {
     // A set that the theme lacks is not tried again.
     if (m_focusRectColorSet.colors().isValid())
-        m_focusRectColorSet.fetch(getThemeType());
+        m_focusRectColorSet.fetch(this);
 }
 
 void OxaPushButton::onButtonDownTimeout()

@@ -28,8 +28,8 @@ OxaUnderlineButton::OxaUnderlineButton(QWidget *parent)
     : OxaPushButton(parent, QAccessible::PushButton)
 {
     // Stored without the setters: the pen stays black until one of them runs.
-    m_backgroundColorSet.fetch(QStringLiteral("oxa-underlineButton-background"), getThemeType());
-    m_textColorSet.fetch(QStringLiteral("oxa-underlineButton-text"), getThemeType());
+    m_backgroundColorSet.fetch(QStringLiteral("oxa-underlineButton-background"), this);
+    m_textColorSet.fetch(QStringLiteral("oxa-underlineButton-text"), this);
     m_underlineColorSet = m_textColorSet;
     setProperty("focusBorderRadius", groundRadius);
 }
@@ -81,18 +81,18 @@ void OxaUnderlineButton::setAnchorIcon(const QString &path)
 
 void OxaUnderlineButton::setBackgroundColorSet(const QString &name)
 {
-    m_backgroundColorSet.fetch(name, getThemeType());
+    m_backgroundColorSet.fetch(name, this);
 }
 
 void OxaUnderlineButton::setTextColorSet(const QString &name)
 {
-    m_textColorSet.fetch(name, getThemeType());
+    m_textColorSet.fetch(name, this);
     m_underlinePen = penOf(m_textColorSet.colors().pressed);
 }
 
 void OxaUnderlineButton::setUnderlineColorSet(const QString &name)
 {
-    m_underlineColorSet.fetch(name, getThemeType());
+    m_underlineColorSet.fetch(name, this);
     m_underlinePen = penOf(m_underlineColorSet.colors().normal);
 }
 
