@@ -50,7 +50,8 @@ public:
     explicit OxaLabel(const QString &text, QWidget *parent = nullptr,
                       QAccessible::Role role = QAccessible::NoRole, Qt::WindowFlags flags = {});
 
-    /// Sets how the text is read, Qt::PlainText at first. A change sets the text again.
+    /// Sets how the text is read, Qt::PlainText at first. A change sets the text again, but not
+    /// after clear(), setNum() or setPixmap().
     virtual void setTextFormat(Qt::TextFormat format);
 
     /// Sets what the user can do with the text, QLabel's default at first. Repaints where the text
@@ -61,8 +62,7 @@ public:
     /// first. Repaints.
     void updateWrapMode(QTextOption::WrapMode mode);
 
-    /// Paints the label's pixmap over with \a color, keeping its shape. Without a pixmap it does
-    /// nothing.
+    /// Paints the label's pixmap, if it has one, over with \a color, keeping its shape.
     void setPixmapColor(const QColor &color);
 
     /// Returns the label's width less the elide padding, in pixels.
@@ -75,7 +75,8 @@ public:
 public Q_SLOTS:
     /// Sets the text. Rich text with links gets a style element in the colours of the set
     /// "button-hyperlink-text", so that text() returns more than was set. Rich text is set again at
-    /// each change of the theme type, and loses its selection then.
+    /// each change of the theme type, and loses its selection then. That ends with clear(),
+    /// setNum() and setPixmap().
     virtual void setText(const QString &text);
 
 protected Q_SLOTS:
@@ -92,8 +93,8 @@ Q_SIGNALS:
     /// selected. A slot may delete the label.
     void clicked();
 
-    /// The label was shown or hidden. A slot calls deleteLater() rather than to delete the label:
-    /// QWidget goes on with it after this event.
+    /// The label was shown or hidden. Here, and on linkHovered(), a slot calls deleteLater() rather
+    /// than to delete the label: Qt goes on with it.
     void onVisibilityChanged(bool isVisible);
 
 protected:

@@ -68,8 +68,8 @@ private Q_SLOTS:
     void setsTheTextAgainForRichTextOnly();
     void losesTheSelectionInRichTextWhenTheThemeTypeChanges_data();
     void losesTheSelectionInRichTextWhenTheThemeTypeChanges();
-    void leavesWhatHasTakenTheTextsPlace_data();
-    void leavesWhatHasTakenTheTextsPlace();
+    void setsNoTextAgainAfterClearSetNumOrSetPixmap_data();
+    void setsNoTextAgainAfterClearSetNumOrSetPixmap();
     void warnsAndTakesBlackForLinksWithoutTheirSet();
 
 private:
@@ -258,7 +258,7 @@ void tst_OxaLabelText::losesTheSelectionInRichTextWhenTheThemeTypeChanges()
     QTEST(label.selectedText(), "selected");
 }
 
-void tst_OxaLabelText::leavesWhatHasTakenTheTextsPlace_data()
+void tst_OxaLabelText::setsNoTextAgainAfterClearSetNumOrSetPixmap_data()
 {
     QTest::addColumn<Change>("change");
     QTest::newRow("nothing") << Change([](OxaLabel &label) { label.clear(); });
@@ -270,7 +270,7 @@ void tst_OxaLabelText::leavesWhatHasTakenTheTextsPlace_data()
     });
 }
 
-void tst_OxaLabelText::leavesWhatHasTakenTheTextsPlace()
+void tst_OxaLabelText::setsNoTextAgainAfterClearSetNumOrSetPixmap()
 {
     QFETCH(const Change, change);
     OxaLabel label;

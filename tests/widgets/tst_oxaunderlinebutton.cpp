@@ -220,24 +220,24 @@ void tst_OxaUnderlineButton::leavesSetsThatTheThemeLacksAlone()
 
 void tst_OxaUnderlineButton::fetchesANamedSetAgainAfterTheThemeLackedIt()
 {
-    const auto global = OxaThemeUtils::AppThemeType::Global;
+    const QWidget widget;
     OxaNamedColorSet set(line.name);
     QVERIFY(!set.colors().isValid());
-    set.fetch(global);
+    set.fetch(&widget);
     QCOMPARE(set.colors(), line);
 
     m_stores.reset();
     m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf({ text }));
     QTest::ignoreMessage(QtWarningMsg, "ColorSet name does not exist!  \"line\"");
-    set.fetch(global);
+    set.fetch(&widget);
     QVERIFY(!set.colors().isValid());
     QCOMPARE(set.name(), line.name);
 
     m_stores.reset();
     m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf({ line, text }));
-    set.fetch(global);
+    set.fetch(&widget);
     QCOMPARE(set.colors(), line);
-    set.fetch(text.name, global);
+    set.fetch(text.name, &widget);
     QCOMPARE(set.name(), text.name);
     QCOMPARE(set.colors(), text);
 }
