@@ -166,8 +166,7 @@ void LazyLoadedListModel::scrollUp(int page)
         return;
     }
     const int newRows = pageToIndex(newPages);
-    for (int i = 0; i < newRows; ++i)
-        delete m_storage.takeLast();
+    deleteFromTheEnd(newRows);
     m_storage.insert(0, newRows, nullptr);
     m_startIndex = pageToIndex(page);
     requestPages(page, newPages);
@@ -181,9 +180,10 @@ void LazyLoadedListModel::scrollDown(int page)
         return;
     }
     const int newRows = pageToIndex(newPages);
-    for (int i = 0; i < newRows; ++i)
-        delete std::exchange(m_storage[i], nullptr);
-    m_storage.remove(0, newRows);
+    const auto firstStaying = m_storage.begin() + newRows;
+    for (auto leaving = m_storage.begin(); leaving != firstStaying; ++leaving)
+        delete std::exchange(*leaving, nullptr);
+    m_storage.erase(m_storage.begin(), firstStaying);
     m_storage.insert(m_storage.size(), newRows, nullptr);
     m_startIndex = pageToIndex(page);
     requestPages(page + m_storagePages - newPages, newPages);
@@ -210,10 +210,16 @@ void LazyLoadedListModel::deleteItemAtIndex(int index)
         delete std::exchange(m_storage[index - m_startIndex], nullptr);
 }
 
-void LazyLoadedListModel::clearList()
+void LazyLoadedListModel::clearList() { deleteFromTheEnd(m_storage.size()); }
+
+/// Takes each entry off the storage before its item goes.
+void LazyLoadedListModel::deleteFromTheEnd(int count)
 {
-    while (!m_storage.isEmpty())
-        delete m_storage.takeLast();
+    for (; count > 0; --count) {
+        const QStandardItem *item = m_storage.constLast();
+        m_storage.removeLast();
+        delete item;
+    }
 }
 
 void LazyLoadedListModel::eraseStorage()

@@ -108,6 +108,7 @@ private:
     void requestPages(int firstPage, int count);
     void deleteItemAtIndex(int index);
     void clearList();
+    void deleteFromTheEnd(int count);
     void eraseStorage();
 
     QVector<QStandardItem *> m_storage;
