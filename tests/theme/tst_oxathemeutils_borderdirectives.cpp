@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleTexts.h"
-
-#include <QTest>
+#include "support/TestMain.h"
 
 namespace {
 
@@ -264,5 +263,5 @@ void tst_OxaThemeUtilsBorderDirectives::leavesDirectivesWithoutAnEnd()
              rule("border-style:solid; border-width:1px;") + borderRules + directive);
 }
 
-QTEST_APPLESS_MAIN(tst_OxaThemeUtilsBorderDirectives)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaThemeUtilsBorderDirectives)
 #include "tst_oxathemeutils_borderdirectives.moc"

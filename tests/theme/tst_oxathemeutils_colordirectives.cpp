@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleTexts.h"
-
-#include <QTest>
+#include "support/TestMain.h"
 
 namespace {
 
@@ -311,5 +310,5 @@ void tst_OxaThemeUtilsColorDirectives::namesAnInvalidSetAfterAWordItCannotExpand
     QCOMPARE(result.textColorSet, OxaColorSet(textName, QColor()));
 }
 
-QTEST_APPLESS_MAIN(tst_OxaThemeUtilsColorDirectives)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaThemeUtilsColorDirectives)
 #include "tst_oxathemeutils_colordirectives.moc"

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Documents.h"
+#include "support/TestMain.h"
 
 #include <UiElements/theme/OxaThemeUtils.h>
-
-#include <QTest>
 
 namespace {
 
@@ -242,5 +241,5 @@ void tst_OxaThemeUtilsColorSetDocuments::givesNothingWithoutTokens()
                     .empty());
 }
 
-QTEST_APPLESS_MAIN(tst_OxaThemeUtilsColorSetDocuments)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaThemeUtilsColorSetDocuments)
 #include "tst_oxathemeutils_colorsetdocuments.moc"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Documents.h"
+#include "support/TestMain.h"
 
 #include <UiElements/theme/OxaThemeUtils.h>
 
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 
@@ -135,5 +135,5 @@ void tst_OxaThemeUtilsDocuments::missesTheTokensInAMissingFile()
     QVERIFY(OxaThemeUtils::parseOxaColorSetsFromJson(missingFile(), {}).empty());
 }
 
-QTEST_APPLESS_MAIN(tst_OxaThemeUtilsDocuments)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaThemeUtilsDocuments)
 #include "tst_oxathemeutils_documents.moc"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleTexts.h"
-
-#include <QTest>
+#include "support/TestMain.h"
 
 namespace {
 
@@ -147,5 +146,5 @@ void tst_OxaThemeUtilsGradients::makesWayForASetOfItsName()
     QCOMPARE(result.oxaCSS.backgroundColorSetName, QLatin1String("gradient-primary"));
 }
 
-QTEST_APPLESS_MAIN(tst_OxaThemeUtilsGradients)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaThemeUtilsGradients)
 #include "tst_oxathemeutils_gradients.moc"

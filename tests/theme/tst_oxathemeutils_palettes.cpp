@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Documents.h"
+#include "support/TestMain.h"
 
 #include <UiElements/theme/OxaThemeUtils.h>
-
-#include <QTest>
 
 namespace {
 
@@ -265,5 +264,5 @@ void tst_OxaThemeUtilsPalettes::resolvesAliasesAfterAllColors()
     QCOMPARE(paletteOf(documentOf({ alias("twin", "nope"), entry("bad", "{}") })), QString());
 }
 
-QTEST_APPLESS_MAIN(tst_OxaThemeUtilsPalettes)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaThemeUtilsPalettes)
 #include "tst_oxathemeutils_palettes.moc"

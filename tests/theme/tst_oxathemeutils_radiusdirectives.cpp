@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleTexts.h"
-
-#include <QTest>
+#include "support/TestMain.h"
 
 namespace {
 
@@ -186,5 +185,5 @@ void tst_OxaThemeUtilsRadiusDirectives::findsRoundCornersInTheSelectorsOfRulesTo
     QTEST(int(result.oxaCSS.rectangularCornerMask), "mask");
 }
 
-QTEST_APPLESS_MAIN(tst_OxaThemeUtilsRadiusDirectives)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaThemeUtilsRadiusDirectives)
 #include "tst_oxathemeutils_radiusdirectives.moc"

@@ -2,8 +2,7 @@
 #include "StyleTexts.h"
 #include "support/NaiveStyleText.h"
 #include "support/RandomSeed.h"
-
-#include <QTest>
+#include "support/TestMain.h"
 
 namespace {
 
@@ -238,5 +237,5 @@ void tst_OxaThemeUtilsRandomTexts::writesRecordsAsThePlainReadingDoes()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_OxaThemeUtilsRandomTexts)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaThemeUtilsRandomTexts)
 #include "tst_oxathemeutils_randomtexts.moc"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleTexts.h"
-
-#include <QTest>
+#include "support/TestMain.h"
 
 #include <functional>
 
@@ -333,5 +332,5 @@ void tst_OxaThemeUtilsRecords::differsWhenAFieldDiffers()
     QVERIFY(!(data == OxaCSSData()));
 }
 
-QTEST_APPLESS_MAIN(tst_OxaThemeUtilsRecords)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaThemeUtilsRecords)
 #include "tst_oxathemeutils_records.moc"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleTexts.h"
-
-#include <QTest>
+#include "support/TestMain.h"
 
 /// Colour references in style texts: "$(name.state)".
 class tst_OxaThemeUtilsReferences : public QObject
@@ -211,5 +210,5 @@ void tst_OxaThemeUtilsReferences::keepsReferencesInThePlainStyleSheet()
     QCOMPARE(result.oxaCSS.plainStyleSheet, QLatin1String("#bar{color:$(x.hovered);}"));
 }
 
-QTEST_APPLESS_MAIN(tst_OxaThemeUtilsReferences)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaThemeUtilsReferences)
 #include "tst_oxathemeutils_references.moc"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleTexts.h"
-
-#include <QTest>
+#include "support/TestMain.h"
 
 using OxaThemeUtils::ColorSetType;
 
@@ -202,5 +201,5 @@ void tst_OxaThemeUtilsStyleText::findsTheNameInADirective()
     QCOMPARE(OxaThemeUtils::getColorSetNameFromString(type, text), name);
 }
 
-QTEST_APPLESS_MAIN(tst_OxaThemeUtilsStyleText)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaThemeUtilsStyleText)
 #include "tst_oxathemeutils_styletext.moc"
