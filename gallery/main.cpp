@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "GalleryApplication.h"
-#include "GalleryOptions.h"
+#include "shell/GalleryApplication.h"
+#include "shell/GalleryOptions.h"
 
 int main(int argc, char **argv)
 {

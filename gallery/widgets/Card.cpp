@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Card.h"
 
-#include "Metrics.h"
-#include "widgets/Labels.h"
+#include "Labels.h"
+#include "looks/Metrics.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CodeEdit.h"
 
-#include "Metrics.h"
+#include "looks/Metrics.h"
 
 CodeEdit::CodeEdit(QWidget *parent) : QPlainTextEdit(parent)
 {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "EmptyState.h"
 
-#include "Metrics.h"
-#include "widgets/AlignedLabel.h"
-#include "widgets/Button.h"
+#include "AlignedLabel.h"
+#include "Buttons.h"
+#include "looks/Metrics.h"
 
 #include <QVBoxLayout>
 
@@ -30,8 +30,8 @@ EmptyState::EmptyState(const QString &advice, const QString &action, QWidget *pa
     OxaLabel *adviceLine = makeLine(OxaFont::Token::BodySecondary,
                                     "$textColors: gallery-caption-text;", this);
     adviceLine->setText(advice);
-    auto *button = new Button(action, this);
-    connect(button, &Button::clicked, this, &EmptyState::actionTriggered);
+    auto *button = Buttons::make(action, this);
+    connect(button, &OxaPushButton::clicked, this, &EmptyState::actionTriggered);
 
     auto *column = new QVBoxLayout(this);
     column->setSpacing(Metrics::small);

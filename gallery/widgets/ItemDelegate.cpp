@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ItemDelegate.h"
 
-#include "Metrics.h"
+#include "looks/Metrics.h"
 
 #include <UiElements/fonts/OxaFont.h>
 
+#include <QAbstractItemView>
 #include <QPainter>
 
 ItemLook::ItemLook(OxaThemeUtils::AppThemeType themeType)
@@ -29,6 +30,16 @@ ItemDelegate::ItemDelegate(QObject *parent)
 
 void ItemDelegate::refresh(OxaThemeUtils::AppThemeType themeType) { m_look = ItemLook(themeType); }
 
+void ItemDelegate::ensureCurrent(QAbstractItemView &view)
+{
+    const QAbstractItemModel &model = *view.model();
+    for (int row = 0; row < model.rowCount() && !view.currentIndex().isValid(); ++row) {
+        const QModelIndex index = model.index(row, 0);
+        if (index.flags().testFlag(Qt::ItemIsEnabled))
+            view.setCurrentIndex(index);
+    }
+}
+
 int ItemDelegate::headingHeight() const
 {
     return QFontMetrics(m_look.headingFont).height() + Metrics::gap;
@@ -46,7 +57,7 @@ void ItemDelegate::paintGround(QPainter *painter, const QStyleOptionViewItem &op
     painter->fillRect(option.rect, colorFor(m_look.ground, option.state));
     paintLine(painter, option.rect);
     if (option.state.testFlag(QStyle::State_HasFocus))
-        paintFocusFrame(painter, option.rect);
+        paintFocusFrame(painter, option.rect, option.state);
 }
 
 void ItemDelegate::paintLine(QPainter *painter, const QRect &rect) const
@@ -54,10 +65,10 @@ void ItemDelegate::paintLine(QPainter *painter, const QRect &rect) const
     painter->fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), m_look.line.normal);
 }
 
-void ItemDelegate::paintFocusFrame(QPainter *painter, const QRect &rect) const
+void ItemDelegate::paintFocusFrame(QPainter *painter, const QRect &rect, QStyle::State state) const
 {
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(QPen(m_look.focusBorder.normal, 2));
+    painter->setPen(QPen(colorFor(m_look.focusBorder, state), 2));
     painter->drawRect(rect.adjusted(1, 1, -1, -2));
 }
 

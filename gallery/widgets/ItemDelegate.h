@@ -6,6 +6,8 @@
 #include <QFont>
 #include <QStyledItemDelegate>
 
+class QAbstractItemView;
+
 /// The colours and the fonts of items in lists and tables.
 struct ItemLook
 {
@@ -37,6 +39,10 @@ public:
     /// Takes the colours of \a themeType, and the fonts at the scale of this moment.
     virtual void refresh(OxaThemeUtils::AppThemeType themeType);
 
+    /// Gives \a view a current item, the first that there is, where it has none: keys start at an
+    /// item that one sees.
+    static void ensureCurrent(QAbstractItemView &view);
+
     /// Returns the height of a heading's row.
     int headingHeight() const;
 
@@ -51,7 +57,7 @@ protected:
     void paintGround(QPainter *painter, const QStyleOptionViewItem &option) const;
 
     void paintLine(QPainter *painter, const QRect &rect) const;
-    void paintFocusFrame(QPainter *painter, const QRect &rect) const;
+    void paintFocusFrame(QPainter *painter, const QRect &rect, QStyle::State state) const;
     void paintHeading(QPainter *painter, const QRect &rect, const QString &text) const;
     void paintBadge(QPainter *painter, const QRect &rect, const QString &text,
                     QStyle::State state) const;

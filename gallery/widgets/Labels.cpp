@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Labels.h"
 
-#include "widgets/AlignedLabel.h"
+#include "AlignedLabel.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ListView.h"
 
-#include "GalleryApplication.h"
 #include "ItemDelegate.h"
-#include "TextSettings.h"
+#include "looks/TextSettings.h"
+#include "shell/GalleryApplication.h"
 
 ListView::ListView(QAbstractItemModel *model, ItemDelegate *delegate, QWidget *parent)
     : QListView(parent), m_delegate(delegate)
@@ -40,4 +40,10 @@ void ListView::refresh()
     m_delegate->refresh(getThemeType());
     scheduleDelayedItemsLayout();
     viewport()->update();
+}
+
+void ListView::focusInEvent(QFocusEvent *event)
+{
+    ItemDelegate::ensureCurrent(*this);
+    QListView::focusInEvent(event);
 }

@@ -20,6 +20,9 @@ public:
     /// Returns the style text of the frame, for whatever else scrolls items.
     static QString frameStyleText();
 
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+
 protected Q_SLOTS:
     virtual void onThemeChanged();
 

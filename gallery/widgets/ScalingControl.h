@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "TextSettings.h"
-#include "widgets/SegmentedControl.h"
+#include "SegmentedControl.h"
+#include "looks/TextSettings.h"
 
 /// Scales the fonts of one of the views that the user can enlarge.
 class ScalingControl : public SegmentedControl

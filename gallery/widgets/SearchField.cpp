@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SearchField.h"
 
+#include <QKeyEvent>
+
 namespace {
 
 constexpr int fieldWidth = 320;
@@ -13,4 +15,11 @@ SearchField::SearchField(const QString &hint, QWidget *parent) : LineEdit(parent
     setAccessibleName(tr("Search"));
     setClearButtonEnabled(true);
     setFixedWidth(fieldWidth);
+}
+
+void SearchField::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && !text().isEmpty())
+        return clear();
+    LineEdit::keyPressEvent(event);
 }

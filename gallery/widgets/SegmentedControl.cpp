@@ -1,25 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SegmentedControl.h"
 
-#include "widgets/ToggleButton.h"
+#include "Buttons.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
 
 namespace {
 
-ToggleButton::Look segmentLook()
+QString look(const char *background, const char *text, const char *focusBorder)
 {
-    const QString shape = QStringLiteral("$borderWidth: 2; $borderRadius: 6;"
-                                         "ToggleButton { padding: 3px 10px; }");
-    return { QStringLiteral("$backgroundColors: gallery-pill-background;"
-                            "$borderColors: gallery-quiet-button-border;"
-                            "$textColors: oxa-contentTabViewButton-text;")
-                     + shape,
-             QStringLiteral("$backgroundColors: gallery-pill-checked-background;"
-                            "$borderColors: gallery-accent-button-border;"
-                            "$textColors: oxa-contentTabViewButtonChecked-text;")
-                     + shape };
+    return QStringLiteral("$backgroundColors: %1; $textColors: %2; $borderRadius: 6;"
+                          "OxaToggleButton { padding: 3px 10px; border: 2px solid transparent; }"
+                          "OxaToggleButton:focus { border-color: $(%3); }")
+            .arg(QLatin1String(background), QLatin1String(text), QLatin1String(focusBorder));
 }
 
 } // namespace
@@ -36,9 +30,13 @@ SegmentedControl::SegmentedControl(const QStringList &texts, QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(2, 2, 2, 2);
     row->setSpacing(2);
-    const ToggleButton::Look look = segmentLook();
+    const QString unchecked = look("gallery-pill-background", "oxa-contentTabViewButton-text",
+                                   "gallery-focus-border.normal");
+    const QString checked = look("gallery-pill-checked-background",
+                                 "oxa-contentTabViewButtonChecked-text",
+                                 "gallery-focus-border.checked");
     for (int i = 0; i < texts.size(); ++i) {
-        auto *button = new ToggleButton(texts[i], look, this);
+        OxaToggleButton *button = Buttons::makeChoice(texts[i], unchecked, checked, this);
         button->setFontToken(OxaFont::Token::TagLabelSecondary);
         m_buttons->addButton(button, i);
         row->addWidget(button);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StatusBox.h"
 
-#include "Metrics.h"
-#include "widgets/AlignedLabel.h"
+#include "AlignedLabel.h"
+#include "looks/Metrics.h"
 
 #include <QVBoxLayout>
 

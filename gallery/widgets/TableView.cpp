@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "TableView.h"
 
-#include "GalleryApplication.h"
 #include "ItemDelegate.h"
-#include "TextSettings.h"
+#include "looks/TextSettings.h"
+#include "shell/GalleryApplication.h"
 
 #include <UiElements/fonts/OxaFont.h>
 
@@ -98,4 +98,10 @@ void TableView::setUpHeaders()
     header->setSectionsClickable(false);
     header->setMinimumSectionSize(1);
     header->setSectionResizeMode(QHeaderView::Fixed);
+}
+
+void TableView::focusInEvent(QFocusEvent *event)
+{
+    ItemDelegate::ensureCurrent(*this);
+    QTableView::focusInEvent(event);
 }

@@ -23,6 +23,7 @@ public:
     virtual void refresh();
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
     /// Gives the first column the room that the others leave.

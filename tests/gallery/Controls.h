@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <widgets/Button.h>
+#include <widgets/Buttons.h>
 #include <widgets/SegmentedControl.h>
-#include <widgets/ToggleButton.h>
 
 /// Finds and uses the controls of a card as a user does: by what they are called.
 namespace Controls {
@@ -21,7 +20,7 @@ Widget *called(const QWidget &parent, const char *name)
 }
 
 /// Returns the button below \a parent whose text is \a text, or null.
-template <typename ButtonClass = Button>
+template <typename ButtonClass = OxaPushButton>
 ButtonClass *withText(const QWidget &parent, const char *text)
 {
     const auto buttons = parent.findChildren<ButtonClass *>();
@@ -35,7 +34,7 @@ ButtonClass *withText(const QWidget &parent, const char *text)
 /// Chooses the segment \a text of the control called \a name.
 inline void choose(const QWidget &parent, const char *name, const char *text)
 {
-    withText<ToggleButton>(*called<SegmentedControl>(parent, name), text)->click();
+    withText<OxaToggleButton>(*called<SegmentedControl>(parent, name), text)->click();
 }
 
 } // namespace Controls

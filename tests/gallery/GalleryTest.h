@@ -3,7 +3,7 @@
 
 #include <QTest>
 
-#include <GalleryApplication.h>
+#include <shell/GalleryApplication.h>
 
 /// The main function of a test that runs under a GalleryApplication with the gallery's own colours.
 #define GALLERY_TEST_MAIN(TestClass)                                                               \

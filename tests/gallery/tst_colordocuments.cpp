@@ -8,8 +8,8 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
-#include <ColorDocuments.h>
-#include <LibraryColorSets.h>
+#include <looks/ColorDocuments.h>
+#include <looks/LibraryColorSets.h>
 
 #include <algorithm>
 

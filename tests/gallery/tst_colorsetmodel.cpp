@@ -4,7 +4,7 @@
 
 #include <QAbstractItemModelTester>
 
-#include <pages/ColorSetModel.h>
+#include <pages/colours/ColorSetModel.h>
 
 namespace {
 

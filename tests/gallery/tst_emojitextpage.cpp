@@ -9,15 +9,15 @@
 #include <pages/emoji/ArtworkCard.h>
 #include <pages/emoji/ArtworkModel.h>
 #include <pages/emoji/EmojiEdit.h>
-#include <pages/emoji/EmojiTextPage.h>
 #include <pages/emoji/MessageRow.h>
 #include <pages/emoji/Messages.h>
 #include <pages/emoji/PlaygroundCard.h>
 #include <pages/emoji/PlaygroundLabel.h>
 #include <pages/emoji/ReactionButton.h>
 #include <pages/emoji/TextAnalysis.h>
+#include <pages/widgets/Pages.h>
+#include <shell/Page.h>
 #include <widgets/ListView.h>
-#include <widgets/ToggleButton.h>
 
 Q_DECLARE_METATYPE(ArtworkKind)
 
@@ -34,8 +34,8 @@ QVector<QString> filesOf(const QString &text)
 /// Chooses the segment called \a text in \a parent.
 void choose(const QWidget &parent, const char *text)
 {
-    const auto buttons = parent.findChildren<ToggleButton *>();
-    for (ToggleButton *button : buttons) {
+    const auto buttons = parent.findChildren<OxaToggleButton *>();
+    for (OxaToggleButton *button : buttons) {
         if (button->text() == QLatin1String(text))
             button->click();
     }
@@ -147,13 +147,13 @@ void tst_EmojiTextPage::showsTheChosenKind()
 
 void tst_EmojiTextPage::putsChosenArtworkIntoThePlayground()
 {
-    EmojiTextPage page;
-    auto *text = page.findChild<PlaygroundCard *>()->findChild<EmojiEdit *>();
+    const std::unique_ptr<Page> page(Pages::makeEmojiText(nullptr));
+    auto *text = page->findChild<PlaygroundCard *>()->findChild<EmojiEdit *>();
     text->clear();
-    const auto *view = page.findChild<ListView *>();
+    const auto *view = page->findChild<ListView *>();
     const QModelIndex first = view->model()->index(0, 0);
-    QSignalSpy chosen(page.findChild<ArtworkCard *>(), &ArtworkCard::chosen);
-    Q_EMIT page.findChild<ListView *>()->clicked(first);
+    QSignalSpy chosen(page->findChild<ArtworkCard *>(), &ArtworkCard::chosen);
+    Q_EMIT page->findChild<ListView *>()->clicked(first);
     QCOMPARE(chosen.size(), 1);
     QCOMPARE(text->text(), first.data(ArtworkModel::EmojiRole).toString());
 }

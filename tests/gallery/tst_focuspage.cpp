@@ -6,15 +6,14 @@
 #include <QSignalSpy>
 
 #include <pages/focus/FocusPage.h>
-#include <pages/focus/TabOrder.h>
 #include <pages/focus/TabOrderOverlay.h>
 #include <pages/focus/WindowWatcher.h>
-#include <widgets/Button.h>
+#include <shell/TabOrder.h>
+#include <widgets/Buttons.h>
 #include <widgets/CodeEdit.h>
 #include <widgets/LineEdit.h>
 #include <widgets/SegmentedControl.h>
 #include <widgets/Slider.h>
-#include <widgets/ToggleButton.h>
 
 namespace {
 
@@ -33,8 +32,8 @@ struct Shown
     /// Clicks the segment called \a text.
     void click(const char *text) const
     {
-        const auto buttons = page.findChildren<ToggleButton *>();
-        for (ToggleButton *button : buttons) {
+        const auto buttons = page.findChildren<OxaToggleButton *>();
+        for (OxaToggleButton *button : buttons) {
             if (button->text() == QLatin1String(text))
                 button->click();
         }
@@ -50,7 +49,7 @@ struct Shown
         const QStringList lines = page.findChild<CodeEdit *>()->toPlainText().split(
                 QLatin1Char('\n'));
         for (const QString &line : lines) {
-            if (line.contains(QLatin1String(" Button ")))
+            if (line.contains(QLatin1String(" OxaPushButton ")))
                 names += line.section(QStringLiteral("“"), 1).chopped(1);
         }
         return names.join(QLatin1Char(' '));
@@ -59,7 +58,7 @@ struct Shown
     TabOrderOverlay *overlay() const { return window.findChild<TabOrderOverlay *>(); }
 
     QWidget window;
-    Button &outside = *new Button(QStringLiteral("Outside"), &window);
+    OxaPushButton &outside = *Buttons::make(QStringLiteral("Outside"), &window);
     FocusPage &page = *new FocusPage(&window);
 };
 
@@ -93,7 +92,7 @@ void tst_FocusPage::listsTheTabOrderOfTheWholeWindow()
     const auto stops = TabOrder::of(&shown.window);
     const QString text = shown.page.findChild<CodeEdit *>()->toPlainText();
     QCOMPARE(text.count(QLatin1Char('\n')) + 1, int(stops.size()));
-    QVERIFY(text.startsWith(QStringLiteral("   1 Button “Outside”")));
+    QVERIFY(text.startsWith(QStringLiteral("   1 OxaPushButton “Outside”")));
 }
 
 void tst_FocusPage::followsTheOrderOfTheCompoundWidget()
@@ -135,7 +134,7 @@ void tst_FocusPage::marksWhatHasTheFocus()
     QVERIFY(QTest::qWaitForWindowActive(&shown.window));
     shown.outside.setFocus();
     const auto *list = shown.page.findChild<CodeEdit *>();
-    QTRY_VERIFY(list->toPlainText().startsWith(QStringLiteral("▸  1 Button “Outside”")));
+    QTRY_VERIFY(list->toPlainText().startsWith(QStringLiteral("▸  1 OxaPushButton “Outside”")));
     QCOMPARE(list->toPlainText().count(QStringLiteral("▸")), 1);
 }
 
@@ -182,8 +181,8 @@ void tst_FocusPage::describesWidgets_data()
     QTest::addColumn<QString>("text");
     auto *parent = new QWidget;
     QTest::newRow("a button, by its text")
-            << static_cast<QWidget *>(new Button(QStringLiteral("Send"), parent))
-            << QStringLiteral("Button “Send”");
+            << static_cast<QWidget *>(Buttons::make(QStringLiteral("Send"), parent))
+            << QStringLiteral("OxaPushButton “Send”");
     auto *field = new LineEdit(parent);
     field->setAccessibleName(QStringLiteral("Name"));
     QTest::newRow("a field, by its accessible name")

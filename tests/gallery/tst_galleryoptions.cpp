@@ -3,8 +3,8 @@
 
 #include <QDir>
 
-#include <GalleryOptions.h>
-#include <PageRegistry.h>
+#include <shell/GalleryOptions.h>
+#include <shell/PageRegistry.h>
 
 using Task = GalleryOptions::Task;
 

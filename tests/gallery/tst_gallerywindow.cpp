@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "GalleryTest.h"
 
+#include <QAccessible>
 #include <QLayout>
 #include <QScrollBar>
 
-#include <GalleryWindow.h>
-#include <HeaderBar.h>
-#include <Metrics.h>
-#include <NavigationList.h>
-#include <PageRegistry.h>
-#include <TextSettings.h>
-#include <ThemeSwitcher.h>
-#include <widgets/PageStack.h>
+#include <looks/Metrics.h>
+#include <looks/TextSettings.h>
+#include <looks/ThemeSwitcher.h>
+#include <shell/GalleryWindow.h>
+#include <shell/HeaderBar.h>
+#include <shell/NavigationList.h>
+#include <shell/PageRegistry.h>
+#include <shell/PageStack.h>
+#include <shell/TabOrder.h>
 #include <widgets/ScrollArea.h>
 #include <widgets/SegmentedControl.h>
-#include <widgets/ToggleButton.h>
 
 namespace {
 
@@ -84,6 +85,13 @@ private Q_SLOTS:
     void stylesEveryScrollBar();
     void bringsTheCurrentPageIntoSight();
     void ignoresAnUnknownPage();
+    void stopsInTheOrderOfSight_data();
+    void stopsInTheOrderOfSight();
+    void namesWhateverTakesTheFocus_data();
+    void namesWhateverTakesTheFocus();
+
+private:
+    static void expectToFit(GalleryWindow &window, const QString &page);
 };
 
 void tst_GalleryWindow::cleanup()
@@ -113,8 +121,8 @@ void tst_GalleryWindow::marksTheCurrentPage()
 {
     GalleryWindow window;
     window.showPage(QStringLiteral("labels"));
-    const auto buttons = window.findChildren<ToggleButton *>();
-    const auto isLabels = [](const ToggleButton *button) {
+    const auto buttons = window.findChildren<OxaToggleButton *>();
+    const auto isLabels = [](const OxaToggleButton *button) {
         return button->text() == QLatin1String("Labels");
     };
     const auto labels = std::find_if(buttons.begin(), buttons.end(), isLabels);
@@ -153,8 +161,8 @@ void tst_GalleryWindow::keepsTheControlsOfItsHeaderInSight()
     ShownWindow window;
     const auto *header = window.findChild<HeaderBar *>();
     QCOMPARE(header->findChildren<SegmentedControl *>().size(), 4);
-    const auto buttons = header->findChildren<ToggleButton *>();
-    for (const ToggleButton *button : buttons) {
+    const auto buttons = header->findChildren<OxaToggleButton *>();
+    for (const OxaToggleButton *button : buttons) {
         const QRect rect(button->mapTo(header, QPoint()), button->size());
         QVERIFY2(header->rect().contains(rect), qPrintable(button->text()));
         QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->text()));
@@ -172,7 +180,19 @@ void tst_GalleryWindow::fitsEachPageAtItsSmallestSize_data()
 void tst_GalleryWindow::fitsEachPageAtItsSmallestSize()
 {
     QFETCH(const QString, page);
-    ShownWindow window;
+    for (const float scale : { 1.0F, 1.5F }) {
+        GalleryApplication::get()->textSettings()->setFontScale(scale);
+        ShownWindow window;
+        // Larger text asks for a window of the usual size.
+        if (scale > 1)
+            window.resize(Metrics::windowWidth, Metrics::windowHeight);
+        expectToFit(window, page);
+    }
+}
+
+/// Shows \a page in \a window and checks that nothing of it is cut off at its sides.
+void tst_GalleryWindow::expectToFit(GalleryWindow &window, const QString &page)
+{
     window.showPage(page);
     QCoreApplication::processEvents();
     const auto areas = window.findChild<PageStack *>()
@@ -180,8 +200,8 @@ void tst_GalleryWindow::fitsEachPageAtItsSmallestSize()
                                ->findChildren<ScrollArea *>(QString(), Qt::FindDirectChildrenOnly);
     QCOMPARE(areas.size(), 1);
     QCOMPARE(areas.front()->horizontalScrollBar()->maximum(), 0);
-    const auto buttons = areas.front()->findChildren<ToggleButton *>();
-    for (const ToggleButton *button : buttons)
+    const auto buttons = areas.front()->findChildren<OxaToggleButton *>();
+    for (const OxaToggleButton *button : buttons)
         QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->text()));
 }
 
@@ -241,6 +261,65 @@ void tst_GalleryWindow::ignoresAnUnknownPage()
     window.showPage(QStringLiteral("labels"));
     window.showPage(QStringLiteral("nowhere"));
     QCOMPARE(window.findChild<PageStack *>()->count(), 1);
+}
+
+void tst_GalleryWindow::stopsInTheOrderOfSight_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QStringList>("names");
+    QTest::newRow("colours") << QStringLiteral(
+            "colours") << QStringList { QStringLiteral("Search"), QStringLiteral("Colour sets") };
+    QTest::newRow("signals") << QStringLiteral("signals")
+                             << QStringList { QStringLiteral("Search"),
+                                              QStringLiteral("Emit"),
+                                              QStringLiteral("Add a receiver"),
+                                              QStringLiteral("Remove receivers"),
+                                              QStringLiteral("Signals"),
+                                              QStringLiteral("What is emitted"),
+                                              QStringLiteral("Clear the log") };
+    QTest::newRow("icons") << QStringLiteral("icons")
+                           << QStringList { QStringLiteral("Gallery"), QStringLiteral("All"),
+                                            QStringLiteral("Search"),  QStringLiteral("Icon"),
+                                            QStringLiteral("24"),      QStringLiteral("Icons") };
+}
+
+void tst_GalleryWindow::stopsInTheOrderOfSight()
+{
+    QFETCH(const QString, page);
+    ShownWindow window;
+    window.resize(Metrics::windowWidth, Metrics::windowHeight);
+    window.showPage(page);
+    QCoreApplication::processEvents();
+    const QWidget *shown = window.findChild<PageStack *>()->currentWidget();
+    QStringList names;
+    for (QWidget *stop : TabOrder::of(&window)) {
+        if (shown->isAncestorOf(stop))
+            names += QAccessible::queryAccessibleInterface(stop)->text(QAccessible::Name);
+    }
+    QTEST(names, "names");
+}
+
+void tst_GalleryWindow::namesWhateverTakesTheFocus_data() { fitsEachPageAtItsSmallestSize_data(); }
+
+void tst_GalleryWindow::namesWhateverTakesTheFocus()
+{
+    QFETCH(const QString, page);
+    ShownWindow window;
+    window.showPage(page);
+    QCoreApplication::processEvents();
+    QStringList nameless;
+    const auto widgets = window.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (widget->focusPolicy() == Qt::NoFocus)
+            continue;
+        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+        if (!interface || interface->text(QAccessible::Name).isEmpty())
+            nameless += QStringLiteral("%1 in %2")
+                                .arg(QLatin1String(widget->metaObject()->className()),
+                                     QLatin1String(
+                                             widget->parentWidget()->metaObject()->className()));
+    }
+    QCOMPARE(nameless.join(QLatin1Char('\n')), QString());
 }
 
 GALLERY_TEST_MAIN(tst_GalleryWindow)

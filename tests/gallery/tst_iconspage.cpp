@@ -14,9 +14,8 @@
 #include <pages/icons/IconsPage.h>
 #include <support/Pixels.h>
 #include <support/SvgFiles.h>
-#include <widgets/Button.h>
+#include <widgets/Buttons.h>
 #include <widgets/LineEdit.h>
-#include <widgets/ToggleButton.h>
 
 namespace {
 

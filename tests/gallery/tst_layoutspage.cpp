@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Controls.h"
 #include "GalleryTest.h"
 #include "support/Guards.h"
 
@@ -10,13 +11,11 @@
 
 #include <pages/layouts/LayoutFigures.h>
 #include <pages/layouts/LayoutsPage.h>
-#include <pages/layouts/NumberRow.h>
 #include <pages/layouts/ResizeFrame.h>
 #include <pages/layouts/ResizeHandle.h>
 #include <pages/layouts/TileBoard.h>
-#include <widgets/Button.h>
+#include <widgets/Buttons.h>
 #include <widgets/Slider.h>
-#include <widgets/ToggleButton.h>
 
 namespace {
 
@@ -116,9 +115,9 @@ void tst_LayoutsPage::choosesEachLayout()
 void tst_LayoutsPage::hasAsManyTilesAsTheSliderSays()
 {
     const Shown shown;
-    auto *row = shown.page.findChild<NumberRow *>();
+    auto *tiles = Controls::called<Slider>(shown.page, "Tiles");
     for (const int count : { 400, 7, 0, 12 }) {
-        row->setValue(count);
+        tiles->setValue(count);
         QCOMPARE(shown.board.flow().count(), count);
         QCOMPARE(shown.board.findChildren<Tile *>().size(), count);
     }

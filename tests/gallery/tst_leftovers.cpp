@@ -2,8 +2,8 @@
 #include <QLabel>
 #include <QTest>
 
-#include <WarningCollector.h>
-#include <pages/Leftovers.h>
+#include <looks/WarningCollector.h>
+#include <pages/styletext/Leftovers.h>
 
 namespace {
 

@@ -1,30 +1,32 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Controls.h"
 #include "GalleryTest.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
 #include <QScrollBar>
 
-#include <TextSettings.h>
+#include <looks/TextSettings.h>
 #include <pages/lists/ConversationsCard.h>
 #include <pages/lists/HistoryCard.h>
 #include <pages/lists/HistoryModel.h>
 #include <pages/lists/HistoryServer.h>
 #include <pages/lists/LongListView.h>
 #include <pages/lists/OverflowBar.h>
-#include <pages/lists/OverflowCard.h>
 #include <pages/lists/RowRole.h>
-#include <widgets/Button.h>
+#include <pages/widgets/Pages.h>
+#include <shell/Page.h>
+#include <widgets/Buttons.h>
 #include <widgets/CodeEdit.h>
 #include <widgets/EmptyState.h>
 #include <widgets/Slider.h>
 
 namespace {
 
-Button *buttonCalled(const QWidget &parent, const char *text)
+OxaPushButton *buttonCalled(const QWidget &parent, const char *text)
 {
-    const auto buttons = parent.findChildren<Button *>();
-    for (Button *button : buttons) {
+    const auto buttons = parent.findChildren<OxaPushButton *>();
+    for (OxaPushButton *button : buttons) {
         if (button->text() == QLatin1String(text))
             return button;
     }
@@ -259,9 +261,10 @@ void tst_ListsPage::showsAsManyAvatarsAsThereIsRoomFor()
 {
     QFETCH(const int, width);
     QFETCH(const int, hidden);
-    const Shown<OverflowCard> shown;
-    auto *bar = shown.card.findChild<OverflowBar *>();
-    shown.card.findChild<Slider *>()->setValue(width);
+    const std::unique_ptr<Page> page(Pages::makeLists(nullptr));
+    page->show();
+    auto *bar = page->findChild<OverflowBar *>();
+    Controls::called<Slider>(*page, "Width")->setValue(width);
     QTRY_COMPARE(bar->width(), width);
     QCOMPARE(bar->hiddenPeople()->rowCount(), hidden);
     const auto labels = bar->findChildren<OxaLabel *>();

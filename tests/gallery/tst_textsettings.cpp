@@ -5,7 +5,7 @@
 #include <UiElements/fonts/OxaScaledFonts.h>
 #include <UiElements/widgets/OxaLabel.h>
 
-#include <TextSettings.h>
+#include <looks/TextSettings.h>
 #include <widgets/AlignedLabel.h>
 
 using View = TextSettings::FontType;

@@ -7,7 +7,7 @@
 
 #include <QSignalSpy>
 
-#include <ThemeSwitcher.h>
+#include <looks/ThemeSwitcher.h>
 
 using Appearance = ThemeSwitcher::Appearance;
 

@@ -2,7 +2,7 @@
 #include <QDebug>
 #include <QTest>
 
-#include <WarningCollector.h>
+#include <looks/WarningCollector.h>
 
 /// WarningCollector: warnings are kept for a while, instead of being printed.
 class tst_WarningCollector : public QObject

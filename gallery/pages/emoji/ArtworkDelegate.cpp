@@ -2,7 +2,7 @@
 #include "ArtworkDelegate.h"
 
 #include "ArtworkModel.h"
-#include "Metrics.h"
+#include "looks/Metrics.h"
 
 #include <QPainter>
 #include <QPixmapCache>

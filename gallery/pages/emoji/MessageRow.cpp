@@ -2,9 +2,9 @@
 #include "MessageRow.h"
 
 #include "Messages.h"
-#include "Metrics.h"
 #include "ReactionButton.h"
 #include "WrappedEmojiLabel.h"
+#include "looks/Metrics.h"
 #include "pages/lists/AvatarColors.h"
 #include "widgets/AlignedLabel.h"
 #include "widgets/Labels.h"

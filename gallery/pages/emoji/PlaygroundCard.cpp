@@ -2,14 +2,12 @@
 #include "PlaygroundCard.h"
 
 #include "EmojiEdit.h"
-#include "Metrics.h"
 #include "PlaygroundLabel.h"
 #include "TextAnalysis.h"
+#include "looks/Metrics.h"
+#include "specimens/ControlPanel.h"
 #include "widgets/CodeEdit.h"
-#include "widgets/ControlRow.h"
 #include "widgets/Labels.h"
-#include "widgets/SegmentedControl.h"
-#include "widgets/Slider.h"
 
 #include <QVBoxLayout>
 
@@ -56,10 +54,7 @@ PlaygroundCard::PlaygroundCard(QWidget *parent)
     body()->addWidget(m_text);
     body()->addWidget(m_label);
     body()->addWidget(m_state);
-    body()->addWidget(makeWidthRow());
-    body()->addWidget(makeElisionRow());
-    body()->addWidget(makeAlignmentRow());
-    body()->addWidget(makeSwitches());
+    body()->addWidget(makeControls());
     body()->addLayout(makeAnalysis(), 1);
 
     connect(m_text, &QTextEdit::textChanged, this, &PlaygroundCard::showText);
@@ -68,68 +63,41 @@ PlaygroundCard::PlaygroundCard(QWidget *parent)
 
 void PlaygroundCard::insert(const QString &text) { m_text->insertPlainText(text); }
 
-QWidget *PlaygroundCard::makeWidthRow()
-{
-    auto *width = new Slider(leastWidth, greatestWidth, firstWidth, this);
-    connect(width, &Slider::valueChanged, this, [this](int value) {
-        m_label->setFixedWidth(value);
-        showText();
-    });
-    return new ControlRow(tr("Width"), width, this);
-}
-
-QWidget *PlaygroundCard::makeElisionRow()
-{
-    auto *elision = new SegmentedControl({ tr("Right"), tr("Middle"), tr("Left"), tr("None") },
-                                         this);
-    m_label->setElideMode(elideModes[0]);
-    connect(elision, &SegmentedControl::chosen, this, [this](int index) {
-        m_label->setElideMode(elideModes[index]);
-        showText();
-    });
-    return new ControlRow(tr("Elision"), elision, this);
-}
-
-QWidget *PlaygroundCard::makeAlignmentRow()
+QWidget *PlaygroundCard::makeControls()
 {
     const Qt::Alignment alignments[] = { Qt::AlignLeft | Qt::AlignTop,
                                          Qt::AlignLeft | Qt::AlignVCenter,
                                          Qt::AlignHCenter | Qt::AlignTop, Qt::AlignCenter };
-    auto *alignment = new SegmentedControl({ tr("Top"), tr("Middle"), tr("Top centre"),
-                                             tr("Centre") },
-                                           this);
+    m_label->setElideMode(elideModes[0]);
     m_label->setAlignment(alignments[0]);
-    connect(alignment, &SegmentedControl::chosen, this, [this, alignments](int index) {
-        m_label->setAlignment(alignments[index]);
-        showText();
-    });
-    return new ControlRow(tr("Alignment"), alignment, this);
-}
-
-QWidget *PlaygroundCard::makeSwitches()
-{
-    auto *wrap = new SegmentedControl({ tr("One line"), tr("Word wrap") }, this);
-    connect(wrap, &SegmentedControl::chosen, this, [this](int index) {
-        m_label->setWordWrap(index == 1);
-        showText();
-    });
-    wrap->setAccessibleName(tr("Lines"));
-    auto *selection = new SegmentedControl({ tr("Fixed"), tr("Selectable") }, this);
-    connect(selection, &SegmentedControl::chosen, this, [this](int index) {
-        m_label->setTextInteractionFlags(index == 1 ? Qt::TextSelectableByMouse
-                                                    : Qt::NoTextInteraction);
-        showText();
-    });
-    selection->setAccessibleName(tr("Selection"));
-
-    auto *switches = new OxaWidget(this);
-    auto *row = new QHBoxLayout(switches);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Metrics::small);
-    row->addWidget(new ControlRow(tr("Lines"), wrap, this));
-    row->addWidget(selection);
-    row->addStretch(1);
-    return switches;
+    auto *controls = new ControlPanel(this);
+    const auto showing = [this](auto set) {
+        return [this, set](int value) {
+            set(*m_label, value);
+            showText();
+        };
+    };
+    controls->addNumber(tr("Width"), leastWidth, greatestWidth, firstWidth,
+                        showing([](PlaygroundLabel &label, int width) {
+                            label.setFixedWidth(width);
+                        }));
+    controls->addChoice(tr("Elision"), { tr("Right"), tr("Middle"), tr("Left"), tr("None") }, 0,
+                        showing([](PlaygroundLabel &label, int i) {
+                            label.setElideMode(elideModes[i]);
+                        }));
+    controls->addChoice(tr("Alignment"),
+                        { tr("Top"), tr("Middle"), tr("Top centre"), tr("Centre") }, 0,
+                        showing([alignments](PlaygroundLabel &label, int i) {
+                            label.setAlignment(alignments[i]);
+                        }));
+    controls->addChoice(tr("Lines"), { tr("One line"), tr("Word wrap") }, 0,
+                        showing([](PlaygroundLabel &label, int i) { label.setWordWrap(i == 1); }));
+    controls->addChoice(tr("Selection"), { tr("Fixed"), tr("Selectable") }, 0,
+                        showing([](PlaygroundLabel &label, int i) {
+                            label.setTextInteractionFlags(i == 1 ? Qt::TextSelectableByMouse
+                                                                 : Qt::NoTextInteraction);
+                        }));
+    return controls;
 }
 
 QLayout *PlaygroundCard::makeAnalysis()

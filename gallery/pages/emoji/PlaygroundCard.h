@@ -5,7 +5,6 @@
 
 class CodeEdit;
 class EmojiEdit;
-class ControlRow;
 class OxaLabel;
 class PlaygroundLabel;
 
@@ -21,10 +20,7 @@ public:
     void insert(const QString &text);
 
 private:
-    QWidget *makeWidthRow();
-    QWidget *makeElisionRow();
-    QWidget *makeAlignmentRow();
-    QWidget *makeSwitches();
+    QWidget *makeControls();
     QLayout *makeAnalysis();
     void showText();
 

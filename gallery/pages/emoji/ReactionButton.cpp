@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ReactionButton.h"
 
-#include "Metrics.h"
+#include "looks/Metrics.h"
 
 ReactionButton::ReactionButton(const QString &emoji, int count, QWidget *parent)
     : OxaEmojiPushButton(parent, QAccessible::Button), m_emoji(emoji), m_count(count)

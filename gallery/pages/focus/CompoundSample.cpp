@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CompoundSample.h"
 
-#include "Metrics.h"
-#include "widgets/Button.h"
+#include "looks/Metrics.h"
+#include "widgets/Buttons.h"
 
 #include <UiElements/keyboard/TabOrderUtils.h>
 
@@ -13,14 +13,17 @@
 
 namespace {
 
-QString nameOf(QLayoutItem *item) { return static_cast<const Button *>(item->widget())->text(); }
+QString nameOf(QLayoutItem *item)
+{
+    return static_cast<const OxaPushButton *>(item->widget())->text();
+}
 
 } // namespace
 
 CompoundSample::CompoundSample(QWidget *parent)
     : OxaWidget(parent),
-      m_first(new Button(tr("First"), this)),
-      m_last(new Button(tr("Last"), this)),
+      m_first(Buttons::make(tr("First"), this)),
+      m_last(Buttons::make(tr("Last"), this)),
       m_items(new SmartLayout(nullptr, QMargins(), Metrics::small, Metrics::small, Qt::AlignLeft,
                               -1, false))
 {
@@ -32,7 +35,7 @@ CompoundSample::CompoundSample(QWidget *parent)
     column->addWidget(m_last, 0, Qt::AlignLeft);
     const QStringList names { tr("Ada"), tr("Ben"), tr("Cleo"), tr("Dev"), tr("Eva"), tr("Finn") };
     for (const QString &name : names)
-        m_items->addWidget(new Button(name));
+        m_items->addWidget(Buttons::make(name));
     chain();
     connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &CompoundSample::alignToStart);
     alignToStart();

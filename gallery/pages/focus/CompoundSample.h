@@ -6,7 +6,7 @@
 
 #include <random>
 
-class Button;
+class OxaPushButton;
 
 /// Items of a layout between two buttons. The tab order goes from the first button through the
 /// items, in the order of the layout, to the last one.
@@ -26,8 +26,8 @@ private:
     void alignToStart();
     void chain();
 
-    Button *m_first;
-    Button *m_last;
+    OxaPushButton *m_first;
+    OxaPushButton *m_last;
     SmartLayout *m_items;
     std::mt19937 m_generator;
 };

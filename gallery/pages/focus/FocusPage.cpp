@@ -2,11 +2,11 @@
 #include "FocusPage.h"
 
 #include "CompoundSample.h"
-#include "Metrics.h"
-#include "TabOrder.h"
 #include "TabOrderOverlay.h"
 #include "WindowWatcher.h"
-#include "widgets/Button.h"
+#include "looks/Metrics.h"
+#include "shell/TabOrder.h"
+#include "widgets/Buttons.h"
 #include "widgets/Card.h"
 #include "widgets/CodeEdit.h"
 #include "widgets/ColumnsLayout.h"
@@ -23,7 +23,7 @@ constexpr int leastListLines = 8;
 /// What the third button of the sample does with the focus.
 enum class Sample { Takes, ClickOnly, Disabled, Hidden };
 
-void apply(Sample sample, Button &button)
+void apply(Sample sample, OxaPushButton &button)
 {
     button.setFocusPolicy(sample == Sample::ClickOnly ? Qt::ClickFocus : Qt::TabFocus);
     button.setEnabled(sample != Sample::Disabled);
@@ -86,7 +86,7 @@ Card *FocusPage::makeStatesCard()
     auto *name = new LineEdit(card);
     name->setAccessibleName(tr("Name"));
     name->setPlaceholderText(tr("Name"));
-    auto *button = new Button(tr("Invite"), card);
+    auto *button = Buttons::make(tr("Invite"), card);
     row->addWidget(name, 1);
     row->addWidget(button);
     auto *state = new SegmentedControl({ tr("Tab"), tr("Click"), tr("Disabled"), tr("Hidden") },

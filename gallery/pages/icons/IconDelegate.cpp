@@ -3,7 +3,7 @@
 
 #include "IconModel.h"
 #include "IconRenderers.h"
-#include "Metrics.h"
+#include "looks/Metrics.h"
 
 #include <UiElements/svg/OxaSvgRenderer.h>
 
@@ -82,7 +82,8 @@ void IconDelegate::paintFrame(QPainter *painter, const QStyleOptionViewItem &opt
     paintLine(painter, option.rect);
     const auto *view = qobject_cast<const QAbstractItemView *>(option.widget);
     if (view && view->currentIndex() == index)
-        paintFocusFrame(painter, option.rect);
+        paintFocusFrame(painter, option.rect,
+                        index.column() == IconModel::NameColumn ? option.state : QStyle::State());
 }
 
 void IconDelegate::paintName(QPainter *painter, const QStyleOptionViewItem &option,

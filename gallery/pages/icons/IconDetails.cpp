@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "IconDetails.h"
 
-#include "GalleryApplication.h"
 #include "IconDiagnosis.h"
 #include "IconFiles.h"
 #include "IconMatrix.h"
-#include "Metrics.h"
-#include "TextSettings.h"
-#include "pages/ColorSetModel.h"
+#include "looks/Metrics.h"
+#include "looks/TextSettings.h"
+#include "pages/colours/ColorSetModel.h"
+#include "shell/GalleryApplication.h"
 #include "widgets/Labels.h"
 #include "widgets/ScrollArea.h"
 #include "widgets/StatusBox.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "IconDiagnosis.h"
 
-#include "WarningCollector.h"
+#include "looks/WarningCollector.h"
 
 #include <UiElements/svg/DrawUtils.h>
 

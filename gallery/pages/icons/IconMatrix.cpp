@@ -2,7 +2,7 @@
 #include "IconMatrix.h"
 
 #include "IconRenderers.h"
-#include "Metrics.h"
+#include "looks/Metrics.h"
 
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/svg/OxaSvgRenderer.h>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "IconsPage.h"
 
-#include "GalleryApplication.h"
 #include "IconDetails.h"
 #include "IconModel.h"
 #include "IconRenderers.h"
 #include "IconTable.h"
-#include "Metrics.h"
+#include "looks/Metrics.h"
+#include "shell/GalleryApplication.h"
 #include "widgets/ControlRow.h"
 #include "widgets/EmptyState.h"
 #include "widgets/Labels.h"
@@ -118,9 +118,8 @@ QLayout *IconsPage::makeControls()
     row->addWidget(source);
     row->addWidget(shown);
     row->addWidget(m_search);
-    row->addWidget(
-            new ControlRow(tr("Colours"), makeColorSets(), this, ControlRow::Caption::Tight));
-    row->addWidget(new ControlRow(tr("Size"), makeSizes(), this, ControlRow::Caption::Tight));
+    row->addWidget(new ControlRow(tr("Colours"), makeColorSets(), this));
+    row->addWidget(new ControlRow(tr("Size"), makeSizes(), this));
     row->addWidget(m_count);
     return row;
 }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LayoutControls.h"
 
-#include "Metrics.h"
-#include "NumberRow.h"
-#include "widgets/ControlRow.h"
-#include "widgets/SegmentedControl.h"
+#include "looks/Metrics.h"
+#include "specimens/ControlPanel.h"
 
 #include <QVBoxLayout>
 
@@ -21,6 +19,8 @@ constexpr int widestTile = 160;
 
 /// The ratio is set in hundredths.
 constexpr int percent = 100;
+
+constexpr Qt::AlignmentFlag alignments[] = { Qt::AlignLeft, Qt::AlignCenter, Qt::AlignRight };
 
 } // namespace
 
@@ -49,76 +49,80 @@ void LayoutControls::setKind(LayoutSettings::Kind kind)
     Q_EMIT changed();
 }
 
+/// Returns a function that hands a number to \a store and tells of the change.
+template <typename Store>
+std::function<void(int)> LayoutControls::changing(Store store)
+{
+    return [this, store](int value) {
+        store(m_settings, value);
+        Q_EMIT changed();
+    };
+}
+
 void LayoutControls::addCommonRows()
 {
-    LayoutSettings &all = m_settings;
-    addRow(m_common, tr("Tiles"), 0, mostTiles, all.tileCount, QString(),
-           [&all](int value) { all.tileCount = value; });
-    addRow(m_common, tr("Left margin"), 0, widestMargin, all.margins.left(), QString(),
-           [&all](int value) { all.margins.setLeft(value); });
-    addRow(m_gaps, tr("Sizes"), { tr("Equal"), tr("Heights"), tr("Both") }, int(all.sizes),
-           [&all](int i) { all.sizes = static_cast<LayoutSettings::Sizes>(i); });
-    addRow(m_gaps, tr("Across"), -1, widestGap, all.horizontalSpacing, tr("style"),
-           [&all](int value) { all.horizontalSpacing = value; });
-    addRow(m_gaps, tr("Down"), -1, widestGap, all.verticalSpacing, tr("style"),
-           [&all](int value) { all.verticalSpacing = value; });
+    const LayoutSettings &now = m_settings;
+    m_common->addNumber(tr("Tiles"), 0, mostTiles, now.tileCount,
+                        changing([](LayoutSettings &all, int value) { all.tileCount = value; }));
+    m_common->addNumber(tr("Left margin"), 0, widestMargin, now.margins.left(),
+                        changing([](LayoutSettings &all, int value) {
+                            all.margins.setLeft(value);
+                        }));
+    m_gaps->addChoice(tr("Sizes"), { tr("Equal"), tr("Heights"), tr("Both") }, int(now.sizes),
+                      changing([](LayoutSettings &all, int i) {
+                          all.sizes = static_cast<LayoutSettings::Sizes>(i);
+                      }));
+    m_gaps->addNumber(tr("Across"), -1, widestGap, now.horizontalSpacing,
+                      changing([](LayoutSettings &all, int value) {
+                          all.horizontalSpacing = value;
+                      }),
+                      tr("style"));
+    m_gaps->addNumber(tr("Down"), -1, widestGap, now.verticalSpacing,
+                      changing([](LayoutSettings &all, int value) { all.verticalSpacing = value; }),
+                      tr("style"));
 }
 
 void LayoutControls::addSmartRows()
 {
-    LayoutSettings &all = m_settings;
-    const Qt::AlignmentFlag alignments[] = { Qt::AlignLeft, Qt::AlignCenter, Qt::AlignRight };
-    addRow(m_smart, tr("Rows"), { tr("Left"), tr("Centre"), tr("Right") }, 0,
-           [&all, alignments](int i) { all.alignment = alignments[i]; });
+    m_smart->addChoice(tr("Rows"), { tr("Left"), tr("Centre"), tr("Right") }, 0,
+                       changing([](LayoutSettings &all, int i) { all.alignment = alignments[i]; }));
     // 0 is no limit that the layout knows.
-    addRow(m_smart, tr("At most"), 0, longestRow, 0, tr("any"),
-           [&all](int value) { all.maximumItemsPerRow = value == 0 ? -1 : value; });
-    addRow(m_smart, tr("Exactly"), 0, longestRow, 0, tr("any"),
-           [&all](int value) { all.fixedItemsPerRow = value; });
+    m_smart->addNumber(tr("At most"), 0, longestRow, 0,
+                       changing([](LayoutSettings &all, int value) {
+                           all.maximumItemsPerRow = value == 0 ? -1 : value;
+                       }),
+                       tr("any"));
+    m_smart->addNumber(tr("Exactly"), 0, longestRow, 0,
+                       changing([](LayoutSettings &all, int value) {
+                           all.fixedItemsPerRow = value;
+                       }),
+                       tr("any"));
 }
 
 void LayoutControls::addRatioRows()
 {
-    ItemData &item = m_settings.itemData;
-    addRow(m_ratio, tr("Height, %"), 20, 2 * percent, qRound(item.heightToWidthRatio * percent),
-           QString(), [&item](int value) { item.heightToWidthRatio = float(value) / percent; });
-    addRow(m_ratio, tr("Border"), 0, widestBorder, item.borderWidth, QString(),
-           [&item](int value) { item.borderWidth = value; });
-    addRow(m_ratio, tr("Least width"), 0, widestTile, item.minimumWidth, QString(),
-           [&item](int value) { item.minimumWidth = value; });
-    addRow(m_ratio, tr("Spacing"), 0, widestGap, item.spacing, QString(),
-           [&item](int value) { item.spacing = value; });
+    const auto &now = m_settings.itemData;
+    m_ratio->addNumber(tr("Height, %"), 20, 2 * percent, qRound(now.heightToWidthRatio * percent),
+                       changing([](LayoutSettings &all, int value) {
+                           all.itemData.heightToWidthRatio = float(value) / percent;
+                       }));
+    m_ratio->addNumber(tr("Border"), 0, widestBorder, now.borderWidth,
+                       changing([](LayoutSettings &all, int value) {
+                           all.itemData.borderWidth = value;
+                       }));
+    m_ratio->addNumber(tr("Least width"), 0, widestTile, now.minimumWidth,
+                       changing([](LayoutSettings &all, int value) {
+                           all.itemData.minimumWidth = value;
+                       }));
+    m_ratio->addNumber(tr("Spacing"), 0, widestGap, now.spacing,
+                       changing([](LayoutSettings &all, int value) {
+                           all.itemData.spacing = value;
+                       }));
 }
 
-OxaWidget *LayoutControls::addGroup()
+ControlPanel *LayoutControls::addGroup()
 {
-    auto *group = new OxaWidget(this);
-    auto *column = new QVBoxLayout(group);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(Metrics::small);
+    auto *group = new ControlPanel(this);
     m_column->addWidget(group);
     return group;
-}
-
-void LayoutControls::addRow(QWidget *group, const QString &caption, int minimum, int maximum,
-                            int value, const QString &word, const std::function<void(int)> &store)
-{
-    auto *row = new NumberRow(caption, minimum, maximum, value, word, group);
-    group->layout()->addWidget(row);
-    connect(row, &NumberRow::valueChanged, this, [this, store](int number) {
-        store(number);
-        Q_EMIT changed();
-    });
-}
-
-void LayoutControls::addRow(QWidget *group, const QString &caption, const QStringList &choices,
-                            int chosen, const std::function<void(int)> &store)
-{
-    auto *control = new SegmentedControl(choices, group);
-    control->setCurrentIndex(chosen);
-    group->layout()->addWidget(new ControlRow(caption, control, group));
-    connect(control, &SegmentedControl::chosen, this, [this, store](int index) {
-        store(index);
-        Q_EMIT changed();
-    });
 }

@@ -5,6 +5,9 @@
 
 #include <UiElements/widgets/OxaWidget.h>
 
+#include <functional>
+
+class ControlPanel;
 class QVBoxLayout;
 
 /// The controls of the playground: those of all layouts, and below them those of the chosen one.
@@ -25,21 +28,17 @@ Q_SIGNALS:
     void changed();
 
 private:
-    using ItemData = FixedItemRatioLayoutNotSupportScroll::ItemData;
-
+    template <typename Store>
+    std::function<void(int)> changing(Store store);
     void addCommonRows();
     void addSmartRows();
     void addRatioRows();
-    OxaWidget *addGroup();
-    void addRow(QWidget *group, const QString &caption, int minimum, int maximum, int value,
-                const QString &word, const std::function<void(int)> &store);
-    void addRow(QWidget *group, const QString &caption, const QStringList &choices, int chosen,
-                const std::function<void(int)> &store);
+    ControlPanel *addGroup();
 
     LayoutSettings m_settings;
     QVBoxLayout *m_column;
-    OxaWidget *m_common;
-    OxaWidget *m_gaps;
-    OxaWidget *m_smart;
-    OxaWidget *m_ratio;
+    ControlPanel *m_common;
+    ControlPanel *m_gaps;
+    ControlPanel *m_smart;
+    ControlPanel *m_ratio;
 };

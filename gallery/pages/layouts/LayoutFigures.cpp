@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LayoutFigures.h"
 
-#include "Metrics.h"
 #include "TileBoard.h"
+#include "looks/Metrics.h"
 #include "widgets/Labels.h"
 #include "widgets/WrapLayout.h"
 

@@ -3,10 +3,10 @@
 
 #include "LayoutControls.h"
 #include "LayoutFigures.h"
-#include "Metrics.h"
 #include "ResizeFrame.h"
 #include "TileBoard.h"
-#include "widgets/Button.h"
+#include "looks/Metrics.h"
+#include "widgets/Buttons.h"
 #include "widgets/Card.h"
 #include "widgets/ScrollArea.h"
 #include "widgets/SegmentedControl.h"
@@ -69,8 +69,8 @@ Card *LayoutsPage::makeControlsCard()
         { tr("Prepend"), &TileBoard::prependTile },
     };
     for (const auto &[text, action] : actions) {
-        auto *button = new Button(text, card);
-        connect(button, &Button::clicked, m_board, action);
+        auto *button = Buttons::make(text, card);
+        connect(button, &OxaPushButton::clicked, m_board, action);
         order->addWidget(button, 1);
     }
     card->body()->addWidget(kind);

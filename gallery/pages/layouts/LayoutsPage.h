@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Page.h"
+#include "shell/Page.h"
 
 class Card;
 class LayoutControls;

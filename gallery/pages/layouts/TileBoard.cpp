@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "TileBoard.h"
 
-#include "GalleryApplication.h"
-#include "TextSettings.h"
+#include "looks/TextSettings.h"
 #include "pages/lists/AvatarColors.h"
+#include "shell/GalleryApplication.h"
 
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/keyboard/TabOrderUtils.h>

@@ -4,10 +4,10 @@
 #include "ConversationList.h"
 #include "ConversationModel.h"
 #include "Conversations.h"
-#include "Metrics.h"
 #include "ModelRecorder.h"
 #include "RowRole.h"
-#include "widgets/Button.h"
+#include "looks/Metrics.h"
+#include "widgets/Buttons.h"
 #include "widgets/CodeEdit.h"
 #include "widgets/Labels.h"
 #include "widgets/ListView.h"
@@ -92,8 +92,9 @@ QLayout *ConversationsCard::makeReplaceRow()
 void ConversationsCard::addButton(QLayout *row, const QString &text, const char *operation,
                                   Action action)
 {
-    auto *button = new Button(text, this);
-    connect(button, &Button::clicked, this, [this, operation, action] { run(operation, action); });
+    auto *button = Buttons::make(text, this);
+    connect(button, &OxaPushButton::clicked, this,
+            [this, operation, action] { run(operation, action); });
     row->addWidget(button);
 }
 

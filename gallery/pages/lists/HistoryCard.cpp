@@ -5,8 +5,8 @@
 #include "HistoryModel.h"
 #include "HistoryServer.h"
 #include "LongListView.h"
-#include "Metrics.h"
-#include "widgets/Button.h"
+#include "looks/Metrics.h"
+#include "widgets/Buttons.h"
 #include "widgets/CodeEdit.h"
 #include "widgets/ControlRow.h"
 #include "widgets/Labels.h"
@@ -123,14 +123,14 @@ QLayout *HistoryCard::makeControls()
     speed->setCurrentIndex(1);
     connect(speed, &SegmentedControl::chosen, m_server,
             [server = m_server, delays](int i) { server->setMeanDelay(delays[i]); });
-    row->addWidget(new ControlRow(tr("Server"), speed, this, ControlRow::Caption::Tight));
+    row->addWidget(new ControlRow(tr("Server"), speed, this));
     return row;
 }
 
 void HistoryCard::addJump(QLayout *row, const QString &text, int listRow)
 {
-    auto *button = new Button(text, this);
-    connect(button, &Button::clicked, m_view,
+    auto *button = Buttons::make(text, this);
+    connect(button, &OxaPushButton::clicked, m_view,
             [view = m_view, listRow] { view->scrollToRow(listRow); });
     row->addWidget(button);
 }

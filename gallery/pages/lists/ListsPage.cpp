@@ -1,24 +1,110 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "ListsPage.h"
-
+#include "ConversationList.h"
+#include "ConversationModel.h"
+#include "Conversations.h"
 #include "ConversationsCard.h"
-#include "EmptyStateCard.h"
 #include "HistoryCard.h"
-#include "OverflowCard.h"
+#include "OverflowBar.h"
+#include "RowRole.h"
+#include "pages/widgets/Pages.h"
+#include "shell/Page.h"
+#include "specimens/ControlPanel.h"
+#include "widgets/Buttons.h"
+#include "widgets/Card.h"
 #include "widgets/ColumnsLayout.h"
+#include "widgets/Labels.h"
+#include "widgets/Slider.h"
+
+#include <UiElements/models/SmallListModel.h>
+#include <UiElements/widgets/OxaLabel.h>
 
 #include <QVBoxLayout>
 
-ListsPage::ListsPage(QWidget *parent)
-    : Page(tr("Lists"),
-           tr("Models for item views and QML that tell what changed exactly, and hold no more than "
-              "they have to."),
-           parent)
+namespace {
+
+constexpr int rowsToFill = 4;
+constexpr int peopleCount = 8;
+constexpr int firstWidth = 256;
+
+QString tr(const char *text) { return Page::tr(text); }
+
+SmallListModel *makePeople(QObject *parent)
 {
-    ColumnsLayout *cards = makeColumns();
+    auto *people = new SmallListModel({ { RowRole::Title, "title" },
+                                        { RowRole::Avatar, "avatar" } },
+                                      parent, QVariant());
+    std::vector<SmallListModel::Row> rows;
+    for (const ModelRow &row : Conversations::make(0, peopleCount))
+        rows.push_back(row.second);
+    people->add(rows);
+    return people;
+}
+
+/// A bar of people that can be made too narrow, and the names of those that it has no room for.
+Card *makeOverflow()
+{
+    auto *card = new Card(
+            tr("Overflow"),
+            tr("OverflowListProxyModel has the rows that the bar in front has no room for."));
+    auto *bar = new OverflowBar(makePeople(card), card);
+    bar->setFixedWidth(firstWidth);
+    OxaLabel *hidden = Labels::paragraph(QString());
+    const OverflowListProxyModel *people = bar->hiddenPeople();
+    const auto showHidden = [people, hidden] {
+        QStringList names;
+        for (int row = 0; row < people->rowCount(); ++row)
+            names += people->index(row, 0).data(RowRole::Title).toString();
+        hidden->setText(names.isEmpty()
+                                ? tr("There is room for all.")
+                                : tr("Behind the bar: %1").arg(names.join(QStringLiteral(", "))));
+    };
+    QObject::connect(people, &OverflowListProxyModel::rowsInserted, hidden, showHidden);
+    QObject::connect(people, &OverflowListProxyModel::rowsRemoved, hidden, showHidden);
+    showHidden();
+    auto *controls = new ControlPanel;
+    controls->addNumber(tr("Width"), OverflowBar::leastWidth(), bar->fullWidth(), firstWidth,
+                        [bar](int width) { bar->setFixedWidth(width); });
+    card->body()->addWidget(bar);
+    card->body()->addWidget(controls);
+    card->body()->addWidget(hidden);
+    card->body()->addStretch(1);
+    return card;
+}
+
+/// A list that begins empty, and shows the texts that its model carries for this case.
+Card *makeEmptyState()
+{
+    auto *card = new Card(
+            tr("Empty state"),
+            tr("EmptyStateBaseListModel carries what the view shows when it has no rows."));
+    auto *model = new ConversationModel(card);
+    auto *list = new ConversationList(model);
+    OxaPushButton *clear = Buttons::make(tr("Clear"));
+    clear->setEnabled(false);
+    card->body()->addWidget(list, 1);
+    card->body()->addWidget(clear, 0, Qt::AlignLeading);
+    QObject::connect(list, &ConversationList::fillRequested, model,
+                     [model] { model->appendRows(Conversations::make(0, rowsToFill)); });
+    QObject::connect(clear, &OxaPushButton::clicked, model, &ConversationModel::clear);
+    QObject::connect(model, &ConversationModel::countChanged, clear,
+                     [clear](int count) { clear->setEnabled(count > 0); });
+    return card;
+}
+
+} // namespace
+
+Page *Pages::makeLists(QWidget *parent)
+{
+    auto *page = new Page(tr("Lists"),
+                          tr("Models for item views and QML that tell what changed exactly, and "
+                             "hold no more than "
+                             "they have to."),
+                          parent);
+    ColumnsLayout *cards = page->makeColumns();
     cards->addWideWidget(new ConversationsCard);
     cards->addWideWidget(new HistoryCard);
-    cards->addWidget(new OverflowCard);
-    cards->addWidget(new EmptyStateCard);
-    body()->addStretch(1);
+    cards->addWidget(makeOverflow());
+    cards->addWidget(makeEmptyState());
+    page->body()->addStretch(1);
+    return page;
 }

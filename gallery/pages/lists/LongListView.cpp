@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LongListView.h"
 
-#include "GalleryApplication.h"
 #include "RowDelegate.h"
-#include "TextSettings.h"
+#include "looks/TextSettings.h"
+#include "shell/GalleryApplication.h"
 #include "widgets/ListView.h"
 
 #include <QPaintEvent>

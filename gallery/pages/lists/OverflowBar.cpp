@@ -2,8 +2,8 @@
 #include "OverflowBar.h"
 
 #include "AvatarColors.h"
-#include "Metrics.h"
 #include "RowRole.h"
+#include "looks/Metrics.h"
 #include "widgets/AlignedLabel.h"
 
 #include <QHBoxLayout>

@@ -2,8 +2,8 @@
 #include "RowDelegate.h"
 
 #include "AvatarColors.h"
-#include "Metrics.h"
 #include "RowRole.h"
+#include "looks/Metrics.h"
 
 #include <QPainter>
 

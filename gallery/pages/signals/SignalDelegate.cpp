@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SignalDelegate.h"
 
-#include "Metrics.h"
 #include "SignalModel.h"
+#include "looks/Metrics.h"
 
 #include <QPainter>
 

@@ -8,23 +8,25 @@ namespace {
 struct Group
 {
     const char *heading;
-    int count;
+    const char *firstSignal;
 };
 
 constexpr Group groups[] = {
-    { QT_TRANSLATE_NOOP("SignalGroups", "Contacts"), 11 },
-    { QT_TRANSLATE_NOOP("SignalGroups", "Spaces and messages"), 40 },
-    { QT_TRANSLATE_NOOP("SignalGroups", "Navigation and search"), 16 },
-    { QT_TRANSLATE_NOOP("SignalGroups", "Content and whiteboards"), 5 },
-    { QT_TRANSLATE_NOOP("SignalGroups", "Space list and filters"), 9 },
-    { QT_TRANSLATE_NOOP("SignalGroups", "Meetings and calls"), 11 },
-    { QT_TRANSLATE_NOOP("SignalGroups", "Floating windows and coach marks"), 6 },
-    { QT_TRANSLATE_NOOP("SignalGroups", "Application windows and dialogs"), 16 },
-    { QT_TRANSLATE_NOOP("SignalGroups", "Meeting containers"), 4 },
-    { QT_TRANSLATE_NOOP("SignalGroups", "Phone widget and call windows"), 9 },
-    { QT_TRANSLATE_NOOP("SignalGroups", "Developer tools"), 2 },
-    { QT_TRANSLATE_NOOP("SignalGroups", "Sharing and annotation"), 17 },
-    { QT_TRANSLATE_NOOP("SignalGroups", "Other"), 13 },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Contacts"), "closeContactCards" },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Spaces and messages"), "copySpaceMetaDataToClipboard" },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Navigation and search"), "navigateToRill" },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Content and whiteboards"), "createWhiteboard" },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Space list and filters"), "moveDownSpaceList" },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Meetings and calls"), "preferenceMeetingSettingChanged" },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Floating windows and coach marks"),
+      "ShowHomeTabCoachMark" },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Application windows and dialogs"), "reloadAllQmlViews" },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Meeting containers"), "shareMeetingContainer" },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Phone widget and call windows"),
+      "phoneWidgetEnableChanged" },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Developer tools"), "showDebugWindow" },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Sharing and annotation"), "startLocalShare" },
+    { QT_TRANSLATE_NOOP("SignalGroups", "Other"), "showVDIUpgradeCheckerWindow" },
 };
 
 } // namespace
@@ -33,7 +35,7 @@ std::vector<SignalGroup> signalGroups()
 {
     std::vector<SignalGroup> result;
     for (const Group &group : groups)
-        result.push_back(
-                { QCoreApplication::translate("SignalGroups", group.heading), group.count });
+        result.push_back({ QCoreApplication::translate("SignalGroups", group.heading),
+                           QByteArray(group.firstSignal) });
     return result;
 }

@@ -9,7 +9,7 @@
 struct SignalGroup
 {
     QString heading;
-    int count; ///< How many signals the group has, shorter forms included.
+    QByteArray firstSignal; ///< The name of the signal that the group begins with.
 };
 
 /// Returns the groups of the hub's signals, in the order of its meta-object.

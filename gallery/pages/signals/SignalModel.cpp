@@ -124,9 +124,15 @@ void SignalModel::rebuild()
     m_rows.clear();
     const std::vector<QMetaMethod> all = signalsOf(*m_hub->metaObject());
     auto next = all.begin();
-    for (const SignalGroup &group : signalGroups()) {
+    const std::vector<SignalGroup> groups = signalGroups();
+    for (const SignalGroup &group : groups) {
+        const bool isLast = &group == &groups.back();
+        const QByteArray following = isLast ? QByteArray() : (&group + 1)->firstSignal;
+        const auto end = std::find_if(next, all.end(), [&following](const QMetaMethod &signal) {
+            return signal.name() == following;
+        });
         std::vector<Row> rows;
-        for (int i = 0; i < group.count && next != all.end(); ++i, ++next) {
+        for (; next != end; ++next) {
             const QString signature = signatureOf(*next);
             if (signature.contains(m_filter, Qt::CaseInsensitive))
                 rows.push_back({ signature, *next, receiversOf(*next) });

@@ -19,10 +19,15 @@ bool isShorterForm(const QMetaMethod &signal) { return signal.attributes() & QMe
 } // namespace
 
 SignalWatcher::SignalWatcher(QObject *sender, Heard heard, QObject *parent)
+    : SignalWatcher(sender, std::move(heard), parent, sender->metaObject()->methodOffset())
+{
+}
+
+SignalWatcher::SignalWatcher(QObject *sender, Heard heard, QObject *parent, int first)
     : QObject(parent), m_senderClass(sender->metaObject()), m_heard(std::move(heard))
 {
     const int firstSlot = QObject::staticMetaObject.methodCount();
-    for (int i = m_senderClass->methodOffset(); i < m_senderClass->methodCount(); ++i) {
+    for (int i = first; i < m_senderClass->methodCount(); ++i) {
         const QMetaMethod method = m_senderClass->method(i);
         if (method.methodType() == QMetaMethod::Signal && !isShorterForm(method))
             QMetaObject::connect(sender, i, this, firstSlot + i, Qt::DirectConnection);

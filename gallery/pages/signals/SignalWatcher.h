@@ -23,6 +23,9 @@ public:
     /// Listens to the signals that the class of \a sender declares itself.
     SignalWatcher(QObject *sender, Heard heard, QObject *parent = nullptr);
 
+    /// Listens to the signals of \a sender from the method numbered \a first on.
+    SignalWatcher(QObject *sender, Heard heard, QObject *parent, int first);
+
     /// Returns the signal that is emitted for \a signal: itself, or for a form that leaves
     /// arguments to their defaults the one with all of them. Qt lists the whole form first.
     static QMetaMethod wholeForm(const QMetaMethod &signal);

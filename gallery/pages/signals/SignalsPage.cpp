@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SignalsPage.h"
 
-#include "Metrics.h"
 #include "SignalArguments.h"
 #include "SignalDelegate.h"
 #include "SignalModel.h"
 #include "SignalWatcher.h"
-#include "widgets/Button.h"
+#include "looks/Metrics.h"
+#include "widgets/Buttons.h"
 #include "widgets/CodeEdit.h"
 #include "widgets/EmptyState.h"
 #include "widgets/Labels.h"
@@ -111,8 +111,8 @@ QBoxLayout *SignalsPage::makeLog()
     m_log->setReadOnly(true);
     m_log->setAccessibleName(tr("What is emitted"));
     m_log->setMaximumBlockCount(linesToKeep);
-    auto *clear = new Button(tr("Clear the log"), this);
-    connect(clear, &Button::clicked, m_log, &CodeEdit::clear);
+    auto *clear = Buttons::make(tr("Clear the log"), this);
+    connect(clear, &OxaPushButton::clicked, m_log, &CodeEdit::clear);
     auto *column = new QVBoxLayout;
     column->setSpacing(Metrics::small);
     column->addWidget(m_log, 1);
@@ -120,10 +120,10 @@ QBoxLayout *SignalsPage::makeLog()
     return column;
 }
 
-Button *SignalsPage::makeButton(const QString &text, void (SignalsPage::*action)())
+OxaPushButton *SignalsPage::makeButton(const QString &text, void (SignalsPage::*action)())
 {
-    auto *button = new Button(text, this);
-    connect(button, &Button::clicked, this, action);
+    auto *button = Buttons::make(text, this);
+    connect(button, &OxaPushButton::clicked, this, action);
     return button;
 }
 
@@ -135,7 +135,7 @@ void SignalsPage::search(const QString &text)
     m_view->setCurrentIndex(index.isValid() ? index : m_model->firstSignal());
     m_emptyState->setSummary(tr("Nothing matches “%1”").arg(text.trimmed()));
     const int count = m_model->signalCount();
-    m_count->setText(tr("%1 signals").arg(count));
+    m_count->setText(count == 1 ? tr("1 signal") : tr("%1 signals").arg(count));
     m_view->setVisible(count > 0);
     m_emptyState->setVisible(count == 0);
     choose(m_view->currentIndex());
@@ -144,7 +144,7 @@ void SignalsPage::search(const QString &text)
 void SignalsPage::choose(const QModelIndex &index)
 {
     const bool isSignal = m_model->signalAt(index).isValid();
-    for (Button *button : { m_emit, m_addReceiver, m_removeReceivers })
+    for (OxaPushButton *button : { m_emit, m_addReceiver, m_removeReceivers })
         button->setEnabled(isSignal);
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Page.h"
 #include "SignalReceiver.h"
+#include "shell/Page.h"
 
 #include <QTimer>
 
-class Button;
+class OxaPushButton;
 class CodeEdit;
 class EmptyState;
 class ListView;
@@ -31,7 +31,7 @@ protected:
 private:
     QLayout *makeToolbar();
     QBoxLayout *makeLog();
-    Button *makeButton(const QString &text, void (SignalsPage::*action)());
+    OxaPushButton *makeButton(const QString &text, void (SignalsPage::*action)());
     void search(const QString &text);
     void choose(const QModelIndex &index);
     void emitChosen();
@@ -45,9 +45,9 @@ private:
     SearchField *m_search;
     OxaLabel *m_count;
     CodeEdit *m_log;
-    Button *m_emit;
-    Button *m_addReceiver;
-    Button *m_removeReceivers;
+    OxaPushButton *m_emit;
+    OxaPushButton *m_addReceiver;
+    OxaPushButton *m_removeReceivers;
     QTimer m_recount;
     SignalReceiver m_receiver;
 };

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+class Page;
+class QWidget;
+
+/// The pages that need no class of their own: most are widgets with their property controls.
+namespace Pages {
+
+Page *makeTypography(QWidget *parent);
+Page *makeLabels(QWidget *parent);
+Page *makeButtons(QWidget *parent);
+Page *makeSvgWidgets(QWidget *parent);
+Page *makeEmojiText(QWidget *parent);
+Page *makeLists(QWidget *parent);
+
+} // namespace Pages

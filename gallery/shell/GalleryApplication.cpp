@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "GalleryApplication.h"
+
+#include "GalleryWindow.h"
+#include "PageRegistry.h"
+#include "Screenshots.h"
+#include "looks/EmojiFiles.h"
+#include "looks/TextSettings.h"
+#include "looks/ThemeSwitcher.h"
+
+#include <QProcess>
+#include <QStyleFactory>
+#include <QTextStream>
+
+namespace {
+
+using Task = GalleryOptions::Task;
+
+int print(const QString &text)
+{
+    QTextStream(stdout) << text;
+    return EXIT_SUCCESS;
+}
+
+int fail(const QString &reason)
+{
+    QTextStream(stderr) << QCoreApplication::applicationName() << ": " << reason << '\n';
+    return EXIT_FAILURE;
+}
+
+/// Names the fonts that stand in, here, for the ones that the library asks for.
+void substituteFonts()
+{
+    QFont::insertSubstitution(QStringLiteral("Segoe UI"), QStringLiteral("Open Sans"));
+    QFont::insertSubstitution(QStringLiteral("Consolas"), QStringLiteral("DejaVu Sans Mono"));
+}
+
+} // namespace
+
+GalleryApplication::GalleryApplication(int &argc, char **argv)
+    : OxaApplication(argc, argv), m_textSettings(new TextSettings(this))
+{
+    setApplicationName(QStringLiteral("uielements-gallery"));
+    setApplicationVersion(QStringLiteral(UIELEMENTS_VERSION));
+    setApplicationDisplayName(tr("UiElements Gallery"));
+    setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    substituteFonts();
+}
+
+GalleryApplication *GalleryApplication::get()
+{
+    return qobject_cast<GalleryApplication *>(instance());
+}
+
+bool GalleryApplication::loadDocuments(const DocumentPaths &paths, QString &problem)
+{
+    const auto ownDocuments = ColorDocuments::read(DocumentPaths(), problem);
+    auto documents = ColorDocuments::read(paths, problem);
+    if (!documents || !ownDocuments)
+        return false;
+    documents->addFurniture(*ownDocuments);
+    delete m_themeSwitcher;
+    m_themeSwitcher = new ThemeSwitcher(*documents, this);
+    return true;
+}
+
+int GalleryApplication::run(const GalleryOptions &options)
+{
+    switch (options.task) {
+    case Task::PrintHelp:
+        return print(options.message);
+    case Task::Fail:
+        return fail(options.message);
+    case Task::ListPages:
+        return print(pageNames().join(QLatin1Char('\n')) + QLatin1Char('\n'));
+    case Task::ShowWindow:
+    case Task::TakeScreenshots:
+        break;
+    }
+
+    setArtworkFolder(options.artworkFolder);
+    EmojiFiles::load(options.artworkFolder);
+    QString problem;
+    if (!loadDocuments(options.documents, problem))
+        return fail(problem);
+    if (options.task == Task::ShowWindow)
+        return showWindow(options.pages.first());
+    return Screenshots::take(options.pages, options.screenshotFolder, problem) ? EXIT_SUCCESS
+                                                                               : fail(problem);
+}
+
+int GalleryApplication::showWindow(const QString &page)
+{
+    GalleryWindow window;
+    window.showPage(page);
+    window.show();
+    return exec();
+}
+
+void GalleryApplication::onQmlEngineCreated(OxaQmlEngine *engine) { Q_UNUSED(engine) }
+
+void GalleryApplication::restart()
+{
+    QProcess::startDetached(applicationFilePath(), arguments().mid(1));
+    quit();
+}
+
+void GalleryApplication::registerMainWindowShortcuts(OxaMainWindow *window) { Q_UNUSED(window) }

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Page.h"
+
+#include "looks/Metrics.h"
+#include "widgets/ColumnsLayout.h"
+#include "widgets/Labels.h"
+#include "widgets/ScrollArea.h"
+
+#include <UiElements/widgets/OxaLabel.h>
+
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace {
+
+/// Around a body that scrolls, which takes the focus so that keys can scroll it.
+constexpr int focusFrame = 2;
+
+} // namespace
+
+Page::Page(const QString &title, const QString &summary, QWidget *parent)
+    : OxaWidget(parent), m_body(new QVBoxLayout)
+{
+    m_body->setSpacing(Metrics::spacing);
+    auto *head = new QVBoxLayout;
+    head->setContentsMargins(Metrics::margin, Metrics::gap, Metrics::margin,
+                             Metrics::spacing - focusFrame);
+    head->setSpacing(Metrics::tight);
+    head->addWidget(Labels::title(title, this));
+    head->addWidget(Labels::paragraph(summary, this));
+    ScrollArea *area = makeArea();
+    area->setAccessibleName(title);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(head);
+    column->addWidget(area, 1);
+}
+
+ScrollArea *Page::makeArea()
+{
+    auto *area = new ScrollArea(this);
+    area->setCSS(QStringLiteral("ScrollArea { border: %1px solid transparent; }"
+                                "ScrollArea:focus { border-color: $(gallery-focus-border); }")
+                         .arg(focusFrame));
+    auto *contents = new OxaWidget(area->viewport());
+    contents->setLayout(m_body);
+    const QScrollBar *bar = area->verticalScrollBar();
+    // Cards are as wide with a scroll bar beside them as without. Tab stops at what keys can
+    // scroll.
+    const auto followBar = [area, contents, bar] {
+        constexpr int side = Metrics::margin - focusFrame;
+        const bool scrolls = bar->maximum() > 0;
+        area->setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
+        contents->setLayoutContentsMargins(side, 0, side - (scrolls ? Metrics::scrollBar : 0),
+                                           side);
+    };
+    connect(bar, &QScrollBar::rangeChanged, contents, followBar);
+    followBar();
+    area->setContents(contents);
+    return area;
+}
+
+ColumnsLayout *Page::makeColumns()
+{
+    auto *columns = new ColumnsLayout(Metrics::spacing, Metrics::spacing);
+    m_body->addLayout(columns);
+    return columns;
+}

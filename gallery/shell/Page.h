@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/widgets/OxaWidget.h>
+
+class ColumnsLayout;
+class QVBoxLayout;
+class ScrollArea;
+
+/// A page of the gallery: a title, a line that says what it shows, and a body that fills the rest,
+/// and scrolls where that is not enough.
+class Page : public OxaWidget
+{
+    Q_OBJECT
+
+public:
+    Page(const QString &title, const QString &summary, QWidget *parent = nullptr);
+
+    /// Returns the layout of the body, with the page's margins.
+    QVBoxLayout *body() const { return m_body; }
+
+    /// Appends columns for cards to the body and returns them.
+    ColumnsLayout *makeColumns();
+
+private:
+    ScrollArea *makeArea();
+
+    QVBoxLayout *m_body;
+};

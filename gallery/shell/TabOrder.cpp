@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "TabOrder.h"
+
+#include <UiElements/keyboard/TabOrderUtils.h>
+
+#include <QAbstractButton>
+#include <QLayout>
+
+namespace {
+
+void appendContents(const QWidget &parent, std::vector<QWidget *> &widgets);
+
+void appendItems(const QLayout &layout, std::vector<QWidget *> &widgets)
+{
+    for (int i = 0; i < layout.count(); ++i) {
+        QLayoutItem *item = layout.itemAt(i);
+        if (const QLayout *inner = item->layout())
+            appendItems(*inner, widgets);
+        if (QWidget *widget = item->widget()) {
+            widgets.push_back(widget);
+            appendContents(*widget, widgets);
+        }
+    }
+}
+
+/// Appends all widgets inside \a parent to \a widgets, in the order of layouts where there are any.
+void appendContents(const QWidget &parent, std::vector<QWidget *> &widgets)
+{
+    if (parent.layout())
+        return appendItems(*parent.layout(), widgets);
+    const auto children = parent.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *child : children) {
+        widgets.push_back(child);
+        appendContents(*child, widgets);
+    }
+}
+
+/// True for one of several buttons that Tab may stop at once it is the checked one.
+bool isChoice(const QWidget &widget)
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(&widget);
+    return button && button->autoExclusive();
+}
+
+} // namespace
+
+std::vector<QWidget *> TabOrder::of(QWidget *window)
+{
+    std::vector<QWidget *> stops;
+    QWidget *const first = TabOrderUtils::getNextPrevFocusableWidget(window, true, nullptr);
+    QWidget *stop = first;
+    while (stop) {
+        stops.push_back(stop);
+        stop = TabOrderUtils::getNextPrevFocusableWidget(stop, true, nullptr);
+        if (stop == first)
+            break;
+    }
+    return stops;
+}
+
+QWidget *TabOrder::firstIn(const QWidget &pane)
+{
+    QWidget *widget = pane.nextInFocusChain();
+    while (widget != &pane && !(pane.isAncestorOf(widget) && TabOrderUtils::isTabFocusable(widget)))
+        widget = widget->nextInFocusChain();
+    return widget == &pane ? nullptr : widget;
+}
+
+void TabOrder::followLayouts(QWidget *parent)
+{
+    std::vector<QWidget *> widgets;
+    appendContents(*parent, widgets);
+    QWidget *previous = nullptr;
+    for (QWidget *widget : widgets) {
+        const Qt::FocusPolicy policy = widget->focusPolicy();
+        if (policy == Qt::NoFocus && !isChoice(*widget))
+            continue;
+        // Qt has no place in its order for a widget without a focus policy.
+        widget->setFocusPolicy(Qt::StrongFocus);
+        if (previous)
+            QWidget::setTabOrder(previous, widget);
+        widget->setFocusPolicy(policy);
+        previous = widget;
+    }
+}
+
+QString TabOrder::describe(const QWidget &widget)
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(&widget);
+    const QString name = button ? button->text() : widget.accessibleName();
+    const QString kind = QString::fromLatin1(widget.metaObject()->className());
+    return name.isEmpty() ? kind : QStringLiteral("%1 “%2”").arg(kind, name);
+}

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/widgets/OxaWidget.h>
+
+#include <functional>
+
+class LineEdit;
+class OxaLabel;
+class SegmentedControl;
+class Slider;
+
+/// Controls with their captions, in two columns where there is room. A control hands what the user
+/// chooses to a function, and its caption is its accessible name.
+class ControlPanel : public OxaWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ControlPanel(QWidget *parent = nullptr);
+
+    /// Adds a choice between \a texts, of which \a current is checked.
+    SegmentedControl *addChoice(const QString &caption, const QStringList &texts, int current,
+                                const std::function<void(int index)> &choose);
+
+    /// Adds a slider with its number behind it. A \a word stands for the smallest number.
+    Slider *addNumber(const QString &caption, int minimum, int maximum, int value,
+                      const std::function<void(int value)> &change,
+                      const QString &word = QString());
+
+    /// Adds a field for a text.
+    LineEdit *addText(const QString &caption, const QString &text,
+                      const std::function<void(const QString &text)> &change);
+
+    /// Adds a text that is not the user's to change, and returns its label.
+    OxaLabel *addValue(const QString &caption, const QString &text = QString());
+
+    /// Adds \a control.
+    void add(const QString &caption, QWidget *control);
+
+private:
+    void place(const QString &caption, QWidget *control);
+};

@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "PropertyControls.h"
+
+#include "looks/Metrics.h"
+#include "widgets/LineEdit.h"
+#include "widgets/SegmentedControl.h"
+#include "widgets/Slider.h"
+
+#include <UiElements/widgets/OxaLabel.h>
+
+#include <QHBoxLayout>
+#include <QMetaProperty>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace {
+
+using Choice = PropertyControls::Choice;
+using Choices = PropertyControls::Choices;
+
+/// A choice between more would not fit beside its caption.
+constexpr int mostChoices = 6;
+
+/// What all themed widgets have, and the header of the window sets.
+constexpr const char *commonProperties[] = { "css", "themeType", "styleSheet", "fontToken",
+                                             "fontType" };
+
+PropertyControls::Apply setter(const char *property)
+{
+    return [property](QWidget *widget, const QVariant &value) {
+        widget->setProperty(property, value);
+    };
+}
+
+QStringList textsOf(const Choices &choices)
+{
+    QStringList texts;
+    for (const auto &choice : choices)
+        texts += choice.text;
+    return texts;
+}
+
+/// Returns the index of \a value, which may be an enumerator or its number; -1 if it is none.
+int indexOf(const Choices &choices, const QVariant &value)
+{
+    const auto found = std::find_if(choices.begin(), choices.end(), [&value](const Choice &choice) {
+        return choice.value == value
+                || (choice.value.type() == QVariant::Int && choice.value.toInt() == value.toInt());
+    });
+    return found == choices.end() ? -1 : int(found - choices.begin());
+}
+
+/// Returns how many letters all of \a texts begin with.
+int commonStart(const QStringList &texts)
+{
+    const auto [first, last] = std::minmax_element(texts.begin(), texts.end());
+    const auto end = std::mismatch(first->begin(), first->end(), last->begin(), last->end());
+    return int(end.first - first->begin());
+}
+
+QStringList reversed(QStringList texts)
+{
+    for (QString &text : texts)
+        std::reverse(text.begin(), text.end());
+    return texts;
+}
+
+/// Returns the enumerators of \a type, without what all of their names begin and end with.
+Choices enumerators(const QMetaEnum &type)
+{
+    QStringList keys;
+    for (int i = 0; i < type.keyCount(); ++i)
+        keys += QString::fromLatin1(type.key(i));
+    const int start = commonStart(keys);
+    const int end = commonStart(reversed(keys));
+    Choices choices;
+    for (int i = 0; i < keys.size(); ++i)
+        choices += { keys[i].mid(start).chopped(end), type.value(i) };
+    return choices;
+}
+
+} // namespace
+
+PropertyControls::PropertyControls(const QVector<QWidget *> &widgets, QWidget *parent)
+    : ControlPanel(parent), m_widgets(widgets)
+{
+}
+
+void PropertyControls::offer(const char *ending, const Choices &choices)
+{
+    m_offers += { ending, choices };
+}
+
+void PropertyControls::setRange(const char *property, int minimum, int maximum)
+{
+    m_ranges[property] = { minimum, maximum };
+}
+
+void PropertyControls::addAll()
+{
+    const QMetaObject *type = m_widgets.front()->metaObject();
+    for (; !QByteArray(type->className()).startsWith('Q'); type = type->superClass()) {
+        for (int i = type->propertyOffset(); i < type->propertyCount(); ++i)
+            add(type->property(i));
+    }
+}
+
+void PropertyControls::addProperty(const char *property)
+{
+    const QMetaObject *type = m_widgets.front()->metaObject();
+    add(type->property(type->indexOfProperty(property)));
+}
+
+void PropertyControls::add(const QMetaProperty &property)
+{
+    const char *name = property.name();
+    const auto isThis = [name](const char *other) { return qstrcmp(name, other) == 0; };
+    if (std::any_of(std::begin(commonProperties), std::end(commonProperties), isThis)
+        || hasControl(name))
+        return;
+    for (const auto &[ending, choices] : m_offers) {
+        if (QByteArray(name).endsWith(ending))
+            return addChoiceOf(name, choices);
+    }
+    if (property.isEnumType()) {
+        if (!property.isFlagType() && property.enumerator().keyCount() <= mostChoices)
+            addChoiceOf(name, enumerators(property.enumerator()));
+        return;
+    }
+    switch (property.userType()) {
+    case QMetaType::Bool:
+        return addChoiceOf(name, noAndYes());
+    case QMetaType::Int:
+        return addNumberOf(name);
+    case QMetaType::QSize:
+        return addSizeOf(name);
+    case QMetaType::QPoint:
+        return addPointOf(name);
+    case QMetaType::QString:
+        return addTextOf(name);
+    default:
+        break;
+    }
+}
+
+void PropertyControls::addChoiceOf(const char *property, const Choices &choices)
+{
+    const Apply apply = setter(property);
+    SegmentedControl *control = ControlPanel::addChoice(QString::fromLatin1(property),
+                                                        textsOf(choices), 0,
+                                                        [this, apply, choices](int i) {
+                                                            applyToAll(apply, choices[i].value);
+                                                        });
+    keepUpToDate([this, control, choices, property] {
+        const int index = indexOf(choices, value(property));
+        if (index >= 0)
+            control->setCurrentIndex(index);
+    });
+}
+
+void PropertyControls::addNumberOf(const char *property)
+{
+    const Range range = m_ranges.value(property);
+    const Apply apply = setter(property);
+    Slider *slider = ControlPanel::addNumber(QString::fromLatin1(property), range.minimum,
+                                             range.maximum, value(property).toInt(),
+                                             [this, apply](int number) {
+                                                 applyToAll(apply, number);
+                                             });
+    keepUpToDate([this, slider, property] { slider->setValue(value(property).toInt()); });
+}
+
+/// The size is a square one.
+void PropertyControls::addSizeOf(const char *property)
+{
+    const Range range = m_ranges.value(property, { 8, 40 });
+    const Apply apply = setter(property);
+    Slider *slider = ControlPanel::addNumber(QString::fromLatin1(property), range.minimum,
+                                             range.maximum, value(property).toSize().width(),
+                                             [this, apply](int side) {
+                                                 applyToAll(apply, QSize(side, side));
+                                             });
+    keepUpToDate([this, slider, property] { slider->setValue(value(property).toSize().width()); });
+}
+
+void PropertyControls::addPointOf(const char *property)
+{
+    const Range range = m_ranges.value(property);
+    auto *both = new OxaWidget;
+    auto *x = new Slider(range.minimum, range.maximum, 0, both);
+    auto *y = new Slider(range.minimum, range.maximum, 0, both);
+    const QString name = QString::fromLatin1(property);
+    x->setAccessibleName(tr("%1, across").arg(name));
+    y->setAccessibleName(tr("%1, down").arg(name));
+    const Apply apply = setter(property);
+    const auto change = [this, apply, property](void (QPoint::*set)(int)) {
+        return [this, apply, property, set](int number) {
+            QPoint point = value(property).toPoint();
+            (point.*set)(number);
+            applyToAll(apply, point);
+        };
+    };
+    auto *row = new QHBoxLayout(both);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Metrics::small);
+    row->addWidget(x);
+    row->addWidget(y);
+    ControlPanel::add(name, both);
+    keepUpToDate([this, x, y, property] {
+        x->setValue(value(property).toPoint().x());
+        y->setValue(value(property).toPoint().y());
+    });
+    connect(x, &Slider::valueChanged, this, change(&QPoint::setX));
+    connect(y, &Slider::valueChanged, this, change(&QPoint::setY));
+}
+
+void PropertyControls::addTextOf(const char *property)
+{
+    const Apply apply = setter(property);
+    LineEdit *field = addText(QString::fromLatin1(property), value(property).toString(),
+                              [this, apply](const QString &text) { applyToAll(apply, text); });
+    keepUpToDate([this, field, property] {
+        if (field->text() != value(property).toString())
+            field->setText(value(property).toString());
+    });
+}
+
+void PropertyControls::addChoice(const QString &name, const Choices &choices, const Apply &apply)
+{
+    ControlPanel::addChoice(name, textsOf(choices), 0,
+                            [this, apply, choices](int i) { applyToAll(apply, choices[i].value); });
+}
+
+void PropertyControls::addNumber(const QString &name, int minimum, int maximum, int value,
+                                 const Apply &apply)
+{
+    ControlPanel::addNumber(name, minimum, maximum, value,
+                            [this, apply](int number) { applyToAll(apply, number); });
+}
+
+void PropertyControls::addReading(const QString &name, const std::function<QString()> &read)
+{
+    OxaLabel *label = addValue(name);
+    keepUpToDate([label, read] { label->setText(read()); });
+}
+
+void PropertyControls::refresh()
+{
+    const QScopedValueRollback<bool> guard(m_isRefreshing, true);
+    for (const auto &show : m_refreshers)
+        show();
+}
+
+Choices PropertyControls::noAndYes() { return { { tr("No"), false }, { tr("Yes"), true } }; }
+
+bool PropertyControls::hasControl(const char *property) const
+{
+    const auto controls = findChildren<QWidget *>();
+    return std::any_of(controls.begin(), controls.end(), [property](const QWidget *control) {
+        return control->accessibleName() == QLatin1String(property);
+    });
+}
+
+QVariant PropertyControls::value(const char *property) const
+{
+    return m_widgets.front()->property(property);
+}
+
+void PropertyControls::keepUpToDate(const std::function<void()> &show)
+{
+    m_refreshers += show;
+    show();
+}
+
+void PropertyControls::applyToAll(const Apply &apply, const QVariant &value)
+{
+    // A slider that shows a value is at its end where the value is beyond.
+    if (m_isRefreshing)
+        return;
+    for (QWidget *widget : m_widgets)
+        apply(widget, value);
+    refresh();
+}

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "ControlPanel.h"
+
+#include <QVariant>
+#include <QVector>
+
+class QMetaProperty;
+
+/// Controls, each of which sets one property of several widgets at once.
+///
+/// A control is called by its property and shows the value that the first of the widgets has, also
+/// when another control changed it.
+class PropertyControls : public ControlPanel
+{
+    Q_OBJECT
+
+public:
+    /// A value to choose, and what it is called.
+    struct Choice
+    {
+        QString text;
+        QVariant value;
+    };
+    using Choices = QVector<Choice>;
+    using Apply = std::function<void(QWidget *widget, const QVariant &value)>;
+
+    /// Makes an empty panel for \a widgets, which must outlive it.
+    explicit PropertyControls(const QVector<QWidget *> &widgets, QWidget *parent = nullptr);
+
+    /// Returns the widget whose values are shown.
+    QWidget *front() const { return m_widgets.front(); }
+
+    /// Offers \a choices for each property whose name ends in \a ending, instead of what addAll()
+    /// would make of its type. The first offer that fits counts.
+    void offer(const char *ending, const Choices &choices);
+
+    /// Bounds the numbers of \a property, whose slider goes from 0 to 24 otherwise.
+    void setRange(const char *property, int minimum, int maximum);
+
+    /// Adds a control for each property that the library declares for the widgets' class, and that
+    /// has none yet: a switch, a slider, a choice or a field, by its type. Leaves out what no such
+    /// control can set, and what all themed widgets have.
+    void addAll();
+
+    /// Adds a control for \a property alone.
+    void addProperty(const char *property);
+
+    /// Adds a choice between \a choices for what is not a property, and is set by \a apply.
+    void addChoice(const QString &name, const Choices &choices, const Apply &apply);
+
+    /// Adds a slider, at \a value at first, for what is not a property, and is set by \a apply.
+    void addNumber(const QString &name, int minimum, int maximum, int value, const Apply &apply);
+
+    /// Adds a text that \a read returns, and that is read anew with all values.
+    void addReading(const QString &name, const std::function<QString()> &read);
+
+    /// Shows the values that the first widget has now.
+    void refresh();
+
+    /// Returns the choices no and yes.
+    static Choices noAndYes();
+
+private:
+    struct Range
+    {
+        int minimum = 0;
+        int maximum = 24;
+    };
+
+    void add(const QMetaProperty &property);
+    void addChoiceOf(const char *property, const Choices &choices);
+    void addNumberOf(const char *property);
+    void addSizeOf(const char *property);
+    void addPointOf(const char *property);
+    void addTextOf(const char *property);
+    bool hasControl(const char *property) const;
+    QVariant value(const char *property) const;
+    void keepUpToDate(const std::function<void()> &show);
+    void applyToAll(const Apply &apply, const QVariant &value);
+
+    const QVector<QWidget *> m_widgets;
+    QVector<std::pair<const char *, Choices>> m_offers;
+    QHash<QByteArray, Range> m_ranges;
+    QVector<std::function<void()>> m_refreshers; ///< Each shows a value in its control.
+    bool m_isRefreshing = false;
+};

@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controls.h"
+#include "GalleryTest.h"
+
+#include <shell/GalleryWindow.h>
+#include <shell/HeaderBar.h>
+#include <shell/NavigationList.h>
+#include <shell/PageStack.h>
+#include <shell/TabOrder.h>
+#include <support/RealInput.h>
+#include <widgets/SearchField.h>
+#include <widgets/TableView.h>
+
+namespace {
+
+/// The gallery's window, shown and active, with the focus on the first thing that Tab stops at.
+class Shown
+{
+public:
+    explicit Shown(const char *page)
+    {
+        window.showPage(QString::fromLatin1(page));
+        window.show();
+        isActive = QTest::qWaitForWindowActive(&window);
+        TabOrder::of(&window).front()->setFocus(Qt::TabFocusReason);
+    }
+
+    /// Types the key \a name and returns what has the focus then.
+    QWidget *type(const char *name) const
+    {
+        const QWidget *before = window.focusWidget();
+        if (!RealInput::typeKeys({ QString::fromLatin1(name) }))
+            return nullptr;
+        // What does not move the focus is told by the caller's comparison.
+        if (!QTest::qWaitFor([this, before] { return window.focusWidget() != before; }, 2000))
+            qInfo("%s left the focus where it was", name);
+        return window.focusWidget();
+    }
+
+    QString focusedText() const
+    {
+        const auto *button = qobject_cast<const QAbstractButton *>(window.focusWidget());
+        return button ? button->text() : QString();
+    }
+
+    SegmentedControl &control(const char *name) const
+    {
+        return *Controls::called<SegmentedControl>(window, name);
+    }
+
+    QWidget *page() const { return window.findChild<PageStack *>()->currentWidget(); }
+
+    GalleryWindow window;
+    bool isActive = false;
+};
+
+} // namespace
+
+/// The gallery by keyboard, with keys that come from the X server.
+class tst_GalleryWindow_keys : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void entersASegmentedControlAtItsCurrentMember();
+    void goesToTheNextSegmentByAnArrowKey();
+    void listsTheStopsThatTabMakes();
+    void goesBetweenThePanesByF6();
+    void choosesTheFirstAndTheLastPageByHomeAndEnd();
+    void clearsASearchByEscape();
+    void showsTheCurrentCellOfATable();
+};
+
+void tst_GalleryWindow_keys::entersASegmentedControlAtItsCurrentMember()
+{
+    const Shown shown("labels");
+    QVERIFY(shown.isActive);
+    shown.control("Theme type").setCurrentIndex(2);
+    QCOMPARE(shown.focusedText(), QStringLiteral("Light"));
+    QVERIFY(shown.type("Tab"));
+    QCOMPARE(shown.focusedText(), QStringLiteral("Dark"));
+    QVERIFY(shown.type("Tab"));
+    QCOMPARE(shown.focusedText(), QStringLiteral("LTR"));
+    QVERIFY(shown.type("shift+Tab"));
+    QCOMPARE(shown.focusedText(), QStringLiteral("Dark"));
+}
+
+void tst_GalleryWindow_keys::goesToTheNextSegmentByAnArrowKey()
+{
+    const Shown shown("labels");
+    QVERIFY(shown.isActive);
+    QVERIFY(shown.type("Tab"));
+    QVERIFY(shown.type("Right"));
+    QCOMPARE(shown.focusedText(), QStringLiteral("Light"));
+    QCOMPARE(shown.control("Theme type").currentIndex(), 1);
+    QVERIFY(shown.type("Left"));
+    QCOMPARE(shown.control("Theme type").currentIndex(), 0);
+}
+
+void tst_GalleryWindow_keys::listsTheStopsThatTabMakes()
+{
+    Shown shown("focus");
+    QVERIFY(shown.isActive);
+    const std::vector<QWidget *> stops = TabOrder::of(&shown.window);
+    QVERIFY(stops.size() > 10);
+    for (std::size_t i = 1; i <= stops.size(); ++i) {
+        const QWidget *expected = stops[i % stops.size()];
+        const QWidget *reached = shown.type("Tab");
+        QVERIFY2(reached == expected, qPrintable(TabOrder::describe(*reached)));
+    }
+}
+
+void tst_GalleryWindow_keys::goesBetweenThePanesByF6()
+{
+    const Shown shown("colours");
+    QVERIFY(shown.isActive);
+    const QWidget *inHeader = shown.window.focusWidget();
+    const auto *navigation = shown.window.findChild<NavigationList *>();
+    QVERIFY(navigation->isAncestorOf(shown.type("F6")));
+    QCOMPARE(shown.focusedText(), QStringLiteral("Colours"));
+    const QWidget *inPage = shown.type("F6");
+    QVERIFY(shown.page()->isAncestorOf(inPage));
+    QCOMPARE(shown.type("F6"), inHeader);
+    QCOMPARE(shown.type("shift+F6"), inPage);
+    QVERIFY(navigation->isAncestorOf(shown.type("shift+F6")));
+}
+
+void tst_GalleryWindow_keys::choosesTheFirstAndTheLastPageByHomeAndEnd()
+{
+    const Shown shown("labels");
+    QVERIFY(shown.isActive);
+    shown.type("F6");
+    shown.type("End");
+    QCOMPARE(shown.focusedText(), QStringLiteral("Signals"));
+    QCOMPARE(QString::fromLatin1(shown.page()->metaObject()->className()),
+             QStringLiteral("SignalsPage"));
+    shown.type("Home");
+    QCOMPARE(shown.focusedText(), QStringLiteral("Colours"));
+}
+
+void tst_GalleryWindow_keys::clearsASearchByEscape()
+{
+    const Shown shown("colours");
+    QVERIFY(shown.isActive);
+    auto *search = shown.page()->findChild<SearchField *>();
+    search->setText(QStringLiteral("border"));
+    search->setFocus();
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("Escape") }));
+    QTRY_COMPARE(search->text(), QString());
+    QVERIFY(search->hasFocus());
+}
+
+void tst_GalleryWindow_keys::showsTheCurrentCellOfATable()
+{
+    const Shown shown("colours");
+    QVERIFY(shown.isActive);
+    auto *table = shown.page()->findChild<TableView *>();
+    const QColor border = OxaThemeUtils::getColorSet("gallery-focus-border",
+                                                     OxaThemeUtils::AppThemeType::Global)
+                                  .normal;
+    const auto frameIsAt = [table, border](const QModelIndex &index) {
+        const QImage image = table->viewport()->grab().toImage();
+        return image.pixelColor(table->visualRect(index).topLeft() + QPoint(1, 5)) == border;
+    };
+    shown.page()->findChild<SearchField *>()->setFocus();
+    QCOMPARE(shown.type("Tab"), table);
+    const QModelIndex first = table->currentIndex();
+    QVERIFY(first.isValid());
+    QTRY_VERIFY(frameIsAt(first));
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("Right") }));
+    QTRY_VERIFY(frameIsAt(first.siblingAtColumn(1)));
+    QVERIFY(!frameIsAt(first));
+}
+
+GALLERY_TEST_MAIN(tst_GalleryWindow_keys)
+#include "tst_gallerywindow_keys.moc"
