@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ThemePalette.h"
 
+#include <UiElements/theme/OxaPaletteUtils.h>
+
 namespace {
 
-struct RoleSource
-{
-    QPalette::ColorRole role;
-    const char *colorSet;
-};
-
-constexpr RoleSource roleSources[] = {
+const std::vector<OxaPaletteUtils::RoleSource> roleSources = {
     { QPalette::Window, "gallery-window-background" },
     { QPalette::WindowText, "gallery-body-text" },
     { QPalette::Base, "gallery-field-background" },
@@ -30,12 +26,5 @@ constexpr RoleSource roleSources[] = {
 
 QPalette themePalette(OxaThemeUtils::AppThemeType themeType)
 {
-    // Light and shadow come from the ground, as in any palette of Qt's.
-    QPalette palette(OxaThemeUtils::getColorSet("gallery-window-background", themeType).normal);
-    for (const RoleSource &source : roleSources) {
-        const OxaColorSet set = OxaThemeUtils::getColorSet(source.colorSet, themeType);
-        palette.setColor(source.role, set.normal);
-        palette.setColor(QPalette::Disabled, source.role, set.disabled);
-    }
-    return palette;
+    return OxaPaletteUtils::makePalette(roleSources, themeType);
 }
