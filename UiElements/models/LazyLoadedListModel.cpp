@@ -126,7 +126,7 @@ void LazyLoadedListModel::setItemsAtPage(int page, const QVector<QStandardItem *
     const int count = items.size();
     const QPointer<LazyLoadedListModel> self = this;
     // A slot that deletes the model may take the caller's list with it.
-    const QVector<QStandardItem *> taken = items;
+    QVector<QStandardItem *> taken = items;
     for (int i = 0; i < count; ++i) {
         setItemAtIndex(first + i, taken.at(i));
         if (!self) {
