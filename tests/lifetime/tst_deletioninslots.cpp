@@ -92,6 +92,8 @@ QStringList classesInHeaders()
 
 } // namespace
 
+Q_DECLARE_METATYPE(Victim)
+
 /// A slot may delete the object whose signal it hears, that object's parent, or their window.
 class tst_DeletionInSlots : public QObject
 {
@@ -246,8 +248,6 @@ void tst_DeletionInSlots::survivesDeletions()
         emitAsHubUser(family.sender, signal);
     QVERIFY(!family.sender);
 }
-
-Q_DECLARE_METATYPE(Victim)
 
 QTEST_APPLESS_MAIN(tst_DeletionInSlots)
 #include "tst_deletioninslots.moc"
