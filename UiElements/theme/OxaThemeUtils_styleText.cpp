@@ -66,15 +66,17 @@ QString OxaThemeUtils::convertToOxaCSS(OxaCSSData data)
 
 void OxaThemeUtils::removeOxaCSSFromStyleSheet(QString &styleText)
 {
-    for (const QStringView tag : StyleTag::all)
-        StyleDirective::take(styleText, tag);
+    for (const QStringView tag : StyleTag::directives) {
+        if (const auto directive = StyleDirective::find(styleText, tag))
+            styleText.remove(directive->position, directive->length);
+    }
     styleText = styleText.trimmed();
 }
 
 QString OxaThemeUtils::getColorSetNameFromString(ColorSetType type, const QString &styleText)
 {
     const auto directive = StyleDirective::find(styleText, StyleTag::of(type));
-    return directive ? directive->value : QString();
+    return directive ? directive->valueIn(styleText) : QString();
 }
 
 QString OxaThemeUtils::getHyperlinkCSS(AppThemeType themeType)

@@ -16,6 +16,9 @@ constexpr std::array<QStringView, 4> corners = { u"top-left", u"top-right", u"bo
 constexpr int allCorners = 0;
 constexpr int topCorners = 5;
 
+/// Enough for usual selectors. A longer rule takes more memory as it grows.
+constexpr int expectedRuleLength = 256;
+
 /// A side's word and its flag, in the order in which sides are written.
 struct Side
 {
@@ -63,13 +66,17 @@ void readSides(const QString &value, OxaCSSData &data)
 /// corners leave the others square; the capital R of a radius directive rounds all of them.
 quint8 squareCorners(const QString &sheet)
 {
-    constexpr quint8 all = 0xf;
-    quint8 mask = 0;
-    for (std::size_t i = 0; i < corners.size(); ++i) {
-        if (!sheet.contains(QString(corners[i] % u"-radius")))
-            mask = static_cast<quint8>(mask | 1U << i);
+    constexpr QStringView radius = u"-radius";
+    constexpr unsigned all = 0xf;
+    unsigned mask = all;
+    for (int at = -1; (at = positionOf(radius, sheet, at + 1)) >= 0;) {
+        for (std::size_t i = 0; i < corners.size(); ++i) {
+            if (sheet.leftRef(at).endsWith(corners[i]))
+                mask &= ~(1U << i);
+        }
     }
-    return mask == all && sheet.contains(QLatin1String("Radius")) ? quint8(0) : mask;
+    const bool isRoundByDirective = mask == all && positionOf(u"Radius", sheet) >= 0;
+    return isRoundByDirective ? quint8(0) : static_cast<quint8>(mask);
 }
 
 int readCorner(const QString &word)
@@ -92,6 +99,20 @@ void readRadius(const QString &value, OxaCSSData &data)
     data.radiusCorner = hasCorner ? readCorner(parts[1]) : allCorners;
 }
 
+/// Removes the first directive of \a tag at \a from or later from \a sheet and returns its value.
+/// Unless that is empty, \a position becomes the directive's.
+QString takeDirective(QString &sheet, QStringView tag, int from, int &position)
+{
+    const auto directive = StyleDirective::find(sheet, tag, from);
+    if (!directive)
+        return {};
+    const QString value = directive->valueIn(sheet);
+    if (!value.isEmpty())
+        position = directive->position;
+    sheet.remove(directive->position, directive->length);
+    return value;
+}
+
 /// Takes the border directives out of \a sheet and fills the border fields of \a data. Returns
 /// where the border rule belongs, or -1 for no rule.
 int takeDirectives(QString &sheet, OxaCSSData &data)
@@ -103,23 +124,20 @@ int takeDirectives(QString &sheet, OxaCSSData &data)
         data.*side.flag = hasBorderSet;
     data.borderWidth = hasBorderSet ? 1 : 0;
     int position = hasSet ? 0 : -1;
+    const int begin = std::max(sheet.indexOf(QLatin1Char('$')), 0); // No tag begins before it.
+    int widthPosition = -1; // A width alone makes no border.
 
-    const auto width = StyleDirective::take(sheet, StyleTag::borderWidth);
-    if (width && !width->value.isEmpty())
-        data.borderWidth = readWidth(width->value);
-
-    const auto borders = StyleDirective::take(sheet, StyleTag::borders);
-    if (borders && !borders->value.isEmpty()) {
-        readSides(borders->value, data);
-        position = borders->position;
+    const QString width = takeDirective(sheet, StyleTag::borderWidth, begin, widthPosition);
+    if (!width.isEmpty())
+        data.borderWidth = readWidth(width);
+    const QString borders = takeDirective(sheet, StyleTag::borders, begin, position);
+    if (!borders.isEmpty()) {
+        readSides(borders, data);
         data.rectangularCornerMask = squareCorners(sheet);
     }
-
-    const auto radius = StyleDirective::take(sheet, StyleTag::borderRadius);
-    if (radius && !radius->value.isEmpty()) {
-        readRadius(radius->value, data);
-        position = radius->position;
-    }
+    const QString radius = takeDirective(sheet, StyleTag::borderRadius, begin, position);
+    if (!radius.isEmpty())
+        readRadius(radius, data);
     data.noBorder = !hasBorderSet && data.borderRadius != 0;
     return position;
 }
@@ -135,33 +153,42 @@ QStringView cornerWord(int corner)
     return isOneCorner ? corners[static_cast<std::size_t>(corner - 1)] : u"";
 }
 
-QString radiusDeclarations(const OxaCSSData &data)
+void appendRadius(QString &rule, const OxaCSSData &data)
 {
     if (data.borderRadius == 0)
-        return {};
+        return;
     const QString end = u"-radius:" % QString::number(data.borderRadius) % u"px;";
-    if (data.radiusCorner == topCorners)
-        return u"border-top-left" % end % u" border-top-right" % end;
     const QStringView corner = cornerWord(data.radiusCorner);
-    return u"border" % QStringView(corner.isEmpty() ? u"" : u"-") % corner % end;
+    if (data.radiusCorner == topCorners)
+        rule += u"border-top-left" % end % u" border-top-right" % end;
+    else
+        rule += u"border" % QStringView(corner.isEmpty() ? u"" : u"-") % corner % end;
 }
 
-QString borderDeclarations(const OxaCSSData &data)
+void appendSides(QString &rule, const OxaCSSData &data)
 {
-    if (hasNothing(data))
-        return QStringLiteral("border:none;");
-    if (data.noBorder)
-        return radiusDeclarations(data);
-
     const QString end = u"width:" % QString::number(data.borderWidth) % u"px;";
-    QString text = QStringLiteral("border-style:solid;");
+    rule += QLatin1String("border-style:solid;");
     if (hasAllSides(data))
-        return text % u" border-" % end % radiusDeclarations(data);
+        rule += u" border-" % end;
     for (const Side &side : sides) {
-        if (data.*side.flag)
-            text += u"border-" % side.word % u'-' % end;
+        if (data.*side.flag && !hasAllSides(data))
+            rule += u"border-" % side.word % u'-' % end;
     }
-    return text + radiusDeclarations(data);
+}
+
+QString borderRule(const QString &selector, const OxaCSSData &data)
+{
+    QString rule = selector % u'{';
+    rule.reserve(expectedRuleLength);
+    if (hasNothing(data)) {
+        rule += QLatin1String("border:none;");
+    } else {
+        if (!data.noBorder)
+            appendSides(rule, data);
+        appendRadius(rule, data);
+    }
+    return rule + QLatin1Char('}');
 }
 
 QString radiusDirective(const OxaCSSData &data)
@@ -191,7 +218,7 @@ void StyleBorder::expandDirectives(QString &sheet, const QString &selector, OxaC
 {
     const int position = takeDirectives(sheet, data);
     if (position >= 0)
-        sheet.insert(position, selector % u'{' % borderDeclarations(data) % u'}');
+        sheet.insert(position, borderRule(selector, data));
 }
 
 QString StyleBorder::toDirectives(const OxaCSSData &data)

@@ -9,19 +9,11 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
+#include <utility>
 
 using OxaThemeUtils::ColorSetType;
 
 namespace {
-
-/// A colour reference in a style text: "$(inside)", all of it on one line.
-struct Reference
-{
-    int begin = 0; ///< Where its "$" stands.
-    int end = 0;   ///< Behind its ")".
-    QString inside;
-};
 
 /// What a colour directive expands to. Without rules it stays in the sheet.
 struct Expansion
@@ -33,6 +25,9 @@ struct Expansion
 /// The property of each ColorSetType, in its order.
 constexpr std::array<QStringView, 3> properties = { u"background-color:", u"border-color:",
                                                     u"color:" };
+
+/// Enough for six rules of a selector of usual length. Longer ones take more memory as they grow.
+constexpr int expectedRulesLength = 450;
 
 /// A state that has a rule of its own where its colour is not the normal one.
 struct State
@@ -51,50 +46,70 @@ constexpr std::array<State, 5> states = { {
         { u":disabled", &OxaColorSet::disabled },
 } };
 
-const OxaColorSet *findSet(const OxaColorSetMap &colorSets, const QString &name)
+const OxaColorSet *findSet(const OxaColorSetMap &colorSets, QStringView name)
 {
-    const auto found = colorSets.find(name.toStdString());
+    const auto found = colorSets.find(name.toUtf8().toStdString());
     return found == colorSets.cend() ? nullptr : &found->second;
 }
 
-QString nameOf(const QColor &color) { return color.name(QColor::HexArgb); }
-
-/// Finds the first reference in \a text that begins at \a from or later.
-std::optional<Reference> findReference(const QString &text, int from)
+/// The name of a colour, alpha first: "#aarrggbb". QColor::name() would allocate twice for each,
+/// which is a third of the time of an expansion.
+class ColorName
 {
-    constexpr QStringView opening = u"$(";
+public:
+    explicit ColorName(const QColor &color)
+    {
+        QRgb rgba = color.rgba();
+        for (auto digit = m_text.rbegin(); digit != m_text.rend() - 1; ++digit, rgba >>= 4)
+            *digit = u"0123456789abcdef"[rgba & 0xf];
+    }
+
+    QStringView text() const { return { m_text.data(), qsizetype(m_text.size()) }; }
+
+private:
+    std::array<char16_t, 9> m_text = { u'#' };
+};
+
+QString nameOf(const QColor &color) { return ColorName(color).text().toString(); }
+
+/// Returns where the reference whose inside begins at \a position ends: at its ")", or where the
+/// line or the text ends before one.
+int endOfReference(const QString &text, int position)
+{
     const auto isEnd = [](QChar character) {
         return character == QLatin1Char(')') || character == QLatin1Char('\n');
     };
-    int end = from;
-    for (int begin = 0; (begin = text.indexOf(opening, end)) >= 0;) {
-        const int inside = begin + int(opening.size());
-        end = int(std::find_if(text.begin() + inside, text.end(), isEnd) - text.begin());
-        if (end < text.size() && text[end] == QLatin1Char(')'))
-            return Reference { begin, end + 1, text.mid(inside, end - inside) };
-        // No "$(" up to the end of this line has a ")": the search goes on behind it.
-    }
-    return std::nullopt;
+    return int(std::find_if(text.begin() + position, text.end(), isEnd) - text.begin());
 }
 
 /// Returns the colour that a reference names by \a inside, or an invalid one and a warning.
-QColor referencedColor(const QString &inside, const OxaColorSetMap &colorSets)
+QColor referencedColor(QStringView inside, const OxaColorSetMap &colorSets)
 {
-    const int dot = inside.indexOf(QLatin1Char('.'));
-    const OxaColorSet *set = findSet(colorSets, inside.left(dot));
+    const auto dot = inside.indexOf(QLatin1Char('.'));
+    const OxaColorSet *set = findSet(colorSets, dot < 0 ? inside : inside.left(dot));
     if (!set || !set->isValid()) {
         QMessageLogger().warning()
                 << "OxaThemeUtils: format is invalid! expected: $(colorSetName.state) found:"
                 << inside;
         return {};
     }
-    return dot < 0 ? set->normal : set->colorForState(QStringView(inside).mid(dot + 1));
+    return dot < 0 ? set->normal : set->colorForState(inside.mid(dot + 1));
 }
 
-QString ruleFor(ColorSetType type, const QString &selector, const QColor &color)
+void appendRule(QString &rules, ColorSetType type, const QString &selector, QStringView pseudoState,
+                const QColor &color)
 {
-    const QStringView property = properties[static_cast<std::size_t>(type)];
-    return selector % u'{' % property % nameOf(color) % u";}";
+    const ColorName name(color);
+    rules += selector % pseudoState % u'{' % properties[static_cast<std::size_t>(type)]
+            % name.text() % u";}";
+}
+
+/// Returns the rule of a directive that has no states.
+QString onlyRule(ColorSetType type, const QString &selector, const QColor &color)
+{
+    QString rule;
+    appendRule(rule, type, selector, u"", color);
+    return rule;
 }
 
 bool usesGlobalFocusBorders()
@@ -108,13 +123,15 @@ QString rulesForStates(ColorSetType type, const QString &selector, const OxaColo
     const auto differs = [&set](const QColor &color) {
         return color.isValid() && color != set.normal;
     };
-    QString rules = ruleFor(type, selector, set.normal);
+    QString rules;
+    rules.reserve(expectedRulesLength);
+    appendRule(rules, type, selector, u"", set.normal);
     for (const State &state : states) {
         if (differs(set.*state.color))
-            rules += ruleFor(type, selector % state.pseudoState, set.*state.color);
+            appendRule(rules, type, selector, state.pseudoState, set.*state.color);
     }
     if (type == ColorSetType::Border && differs(set.focused) && !usesGlobalFocusBorders())
-        rules += selector % u"{outline:none;}";
+        rules += selector + QLatin1String("{outline:none;}");
     return rules;
 }
 
@@ -128,13 +145,16 @@ QStringView gradientKind(const QString &value, QStringView word)
 
 Expansion expandGradient(QStringView kind, const QString &selector, const OxaColorSetMap &colorSets)
 {
-    const OxaColorSet *start = findSet(colorSets, u"theme-gradient-" % kind % u"-1-background");
-    const OxaColorSet *end = findSet(colorSets, u"theme-gradient-" % kind % u"-0-background");
+    const QString name = QStringLiteral("theme-gradient-%1-%2-background").arg(kind);
+    const OxaColorSet *start = findSet(colorSets, name.arg(1));
+    const OxaColorSet *end = findSet(colorSets, name.arg(0));
     if (!start || !end)
         return {};
     return { OxaThemeUtils::transparentColourSet(),
-             selector % u"{background: qlineargradient(x1:1 y1:1, x2:1 y2:0, stop:0 "
-                     % nameOf(start->normal) % u", stop:1 " % nameOf(end->normal) % u"); }" };
+             selector
+                     + QStringLiteral("{background: qlineargradient(x1:1 y1:1, x2:1 y2:0, "
+                                      "stop:0 %1, stop:1 %2); }")
+                               .arg(nameOf(start->normal), nameOf(end->normal)) };
 }
 
 /// Expands a background that is no set: "none" or a gradient.
@@ -144,7 +164,7 @@ Expansion expandBackgroundWord(const QString &value, const QString &selector,
     constexpr QStringView marker = u"gradient-";
     if (value == QLatin1String("none")) {
         return { OxaThemeUtils::transparentColourSet(),
-                 ruleFor(ColorSetType::Background, selector, Qt::transparent) };
+                 onlyRule(ColorSetType::Background, selector, Qt::transparent) };
     }
     const int gradient = value.indexOf(marker);
     if (gradient < 0)
@@ -159,7 +179,7 @@ Expansion expandLiteralColor(const QString &value, ColorSetType type, const QStr
 {
     const QColor color = type == ColorSetType::Text ? QColor(value) : QColor();
     return { OxaColorSet(value, color),
-             color.isValid() ? ruleFor(type, selector, color) : QString() };
+             color.isValid() ? onlyRule(type, selector, color) : QString() };
 }
 
 Expansion expand(const QString &value, ColorSetType type, const QString &selector,
@@ -176,15 +196,23 @@ Expansion expand(const QString &value, ColorSetType type, const QString &selecto
 
 QString StyleColors::substituteReferences(const QString &styleText, const OxaColorSetMap &colorSets)
 {
+    const QStringView source(styleText);
     QString text;
-    int copied = 0; // How much of the style text is in the new one.
-    for (auto reference = findReference(styleText, 0); reference;
-         reference = findReference(styleText, reference->end)) {
-        const QColor color = referencedColor(reference->inside, colorSets);
+    int copied = 0; // How much of the source is in the text.
+    int end = 0;
+    for (int begin = 0; (begin = positionOf(StyleTag::reference, styleText, end)) >= 0;) {
+        const int inside = begin + int(StyleTag::reference.size());
+        // Where the line has no ")", no other reference in it has one: the search goes on behind
+        // it.
+        end = endOfReference(styleText, inside);
+        if (end == source.size() || source[end] != QLatin1Char(')'))
+            continue;
+        const QColor color = referencedColor(source.mid(inside, end - inside), colorSets);
         if (!color.isValid())
             continue;
-        text += styleText.midRef(copied, reference->begin - copied) % nameOf(color);
-        copied = reference->end;
+        text += styleText.midRef(copied, begin - copied);
+        text += nameOf(color);
+        copied = end + 1;
     }
     return text + styleText.midRef(copied);
 }
@@ -195,8 +223,9 @@ OxaColorSet StyleColors::expandDirective(QString &sheet, ColorSetType type, cons
     const auto directive = StyleDirective::find(sheet, StyleTag::of(type));
     if (!directive)
         return {};
-    const Expansion expansion = expand(directive->value, type, selector, colorSets);
+    const QString value = directive->valueIn(sheet);
+    Expansion expansion = expand(value, type, selector, colorSets);
     if (!expansion.rules.isEmpty())
         sheet.replace(directive->position, directive->length, expansion.rules);
-    return expansion.set;
+    return std::move(expansion.set);
 }

@@ -1,23 +1,29 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleDirective_p.h"
 
-std::optional<StyleDirective> StyleDirective::find(const QString &text, QStringView tag)
+std::optional<StyleDirective> StyleDirective::find(const QString &text, QStringView tag, int from)
 {
-    const int position = text.indexOf(tag);
+    const int position = positionOf(tag, text, from);
     if (position < 0)
         return std::nullopt;
     const int valuePosition = position + int(tag.size());
     const int end = text.indexOf(QLatin1Char(';'), valuePosition);
     if (end < 0)
         return std::nullopt;
-    const QString value = text.mid(valuePosition, end - valuePosition).trimmed();
-    return StyleDirective { position, end + 1 - position, value };
+    return StyleDirective { position, end + 1 - position, valuePosition };
 }
 
-std::optional<StyleDirective> StyleDirective::take(QString &text, QStringView tag)
+QString StyleDirective::valueIn(const QString &text) const
 {
-    const auto directive = find(text, tag);
-    if (directive)
-        text.remove(directive->position, directive->length);
-    return directive;
+    const int end = position + length - 1;
+    return QStringView(text).mid(valuePosition, end - valuePosition).trimmed().toString();
+}
+
+int positionOf(QStringView word, const QString &text, int from)
+{
+    const QChar first = word.first();
+    int position = text.indexOf(first, from);
+    while (position >= 0 && !QStringView(text).mid(position).startsWith(word))
+        position = text.indexOf(first, position + 1);
+    return position;
 }
