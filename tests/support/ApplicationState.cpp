@@ -62,7 +62,12 @@ void ApplicationState::addProperties()
     const QMetaObject *const metaObject = qApp->metaObject();
     for (int i = 0; i < metaObject->propertyCount(); ++i) {
         const QMetaProperty property = metaObject->property(i);
-        m_texts.insert(QLatin1String(property.name()), textOf(property.read(qApp)));
+        if (!property.isWritable())
+            continue;
+        QVariant value = property.read(qApp);
+        if (property.isEnumType()) // An int as well, until something makes the type known to Qt.
+            value.convert(QMetaType::Int);
+        m_texts.insert(QLatin1String(property.name()), textOf(value));
     }
     const QList<QByteArray> names = qApp->dynamicPropertyNames();
     for (const QByteArray &name : names)

@@ -13,6 +13,8 @@
 /// Arguments are those of Qt Test. A class runs the functions that are named and are its own; where
 /// functions are named and none is its own, it does not run.
 ///
+/// Types that sources declare as metatypes need names of their own in a program: Qt knows them by name.
+///
 /// After each class the application is compared with what it was before. Windows that are left,
 /// other properties, font, palette or stores count as a failure of the class.
 namespace TestMain {

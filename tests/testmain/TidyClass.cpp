@@ -17,6 +17,7 @@ private Q_SLOTS:
         window->show();
         window->deleteLater();
     }
+    void registersTheTypeOfAProperty() { qRegisterMetaType<Qt::LayoutDirection>(); }
 };
 
 UIELEMENTS_TEST_MAIN(TidyClass)
