@@ -73,15 +73,20 @@ QString LabelLines::endingInEllipsis(QString line, const QFont &font, int width)
     const QString ending = QString(QChar::Nbsp) + ellipsis;
     const int endingWidth = metrics.horizontalAdvance(ending);
     const int ellipsisWidth = metrics.horizontalAdvance(ellipsis);
-    const auto fits = [&] {
-        const int added = line.endsWith(QLatin1Char(' ')) ? ellipsisWidth : endingWidth;
-        return metrics.horizontalAdvance(line) + added <= width;
+    // By halves: a line may be of many characters without a width, or of tags.
+    const auto lengthWithin = [&](int available) {
+        int longest = 0;
+        for (int tooLong = line.size() + 1; tooLong - longest > 1;) {
+            const int middle = longest + (tooLong - longest) / 2;
+            (metrics.horizontalAdvance(line, middle) <= available ? longest : tooLong) = middle;
+        }
+        return longest;
     };
-    // An image tag is many times longer than what fits. Where half of the line is too long by
-    // itself, no more than that half has to be measured character by character.
-    while (line.size() > 1 && metrics.horizontalAdvance(line, line.size() / 2) > width)
-        line.truncate(line.size() / 2);
-    while (!line.isEmpty() && !fits())
-        line.chop(1);
+    // What fits only without the space has to bring its own.
+    const int shortest = lengthWithin(width - endingWidth);
+    int length = lengthWithin(width - ellipsisWidth);
+    while (length > shortest && line.at(length - 1) != QLatin1Char(' '))
+        --length;
+    line.truncate(length);
     return line + (line.endsWith(QLatin1Char(' ')) ? QString(ellipsis) : ending);
 }

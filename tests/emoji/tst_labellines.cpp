@@ -160,6 +160,9 @@ void tst_LabelLines::cutsALineOfManyTagsInNoTime()
     timer.start();
     QCOMPARE(LabelLines::endingInEllipsis(line, font(), widthOf(10)),
              QStringLiteral("<img src\u00A0\u2026"));
+    const QString narrow(30000, QChar(0x200B));
+    QCOMPARE(LabelLines::endingInEllipsis(narrow + line, font(), widthOf(10)),
+             narrow + QStringLiteral("<img src\u00A0\u2026"));
     QVERIFY(timer.elapsed() < 5000);
 }
 
