@@ -32,7 +32,9 @@ public:
         const int count = m_layout ? m_layout->count() : 0;
         for (int tried = 0; tried < count; ++tried) {
             // The item asked for last is followed by the one asked for now, hidden ones apart.
-            if (m_layout->itemAt(m_next++ % count) == item)
+            if (m_next >= count)
+                m_next = 0;
+            if (m_layout->itemAt(m_next++) == item)
                 return true;
         }
         return false;
