@@ -21,7 +21,9 @@ class QTextDocument;
 ///
 /// Only Qt::PlainText, the default, may carry what users wrote. Qt::RichText is laid out as a
 /// whole, and nested tables in a short text can keep Qt at that for minutes; a text in another
-/// format is escaped before it is shown, but QLabel takes it for markup when it is measured.
+/// format is escaped before it is shown, but QLabel takes it for markup when it is measured. Plain
+/// text takes time by its length; of rich text, 64 kB of elements that are never closed take Qt 4 s
+/// and of image tags 2 s.
 ///
 /// While text is selected the label paints as before: a selection does not show.
 class UIELEMENTS_EXPORT OxaEmojiLabel : public OxaLabel
