@@ -115,15 +115,15 @@ void againstPath(benchmark::State &state, int size, double limit)
                          [&] { canvas.paint(paintPath, shapes, knownColor); }, 10);
     comparison.ratioAtMost(limit);
 }
-BENCHMARK_CAPTURE(againstPath, 16, 16, 1.08)
+BENCHMARK_CAPTURE(againstPath, 16, 16, 1.09)
         ->Name("icon at 16 px/QPainter::drawPath")
         ->Iterations(200)
         ->UseManualTime();
-BENCHMARK_CAPTURE(againstPath, 24, 24, 1.05)
+BENCHMARK_CAPTURE(againstPath, 24, 24, 1.06)
         ->Name("icon at 24 px/QPainter::drawPath")
         ->Iterations(200)
         ->UseManualTime();
-BENCHMARK_CAPTURE(againstPath, 48, 48, 1.05)
+BENCHMARK_CAPTURE(againstPath, 48, 48, 1.06)
         ->Name("icon at 48 px/QPainter::drawPath")
         ->Iterations(100)
         ->UseManualTime();
