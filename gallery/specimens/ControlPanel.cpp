@@ -65,6 +65,7 @@ LineEdit *ControlPanel::addText(const QString &caption, const QString &text,
 {
     auto *field = new LineEdit;
     field->setText(text);
+    field->setCursorPosition(0);
     connect(field, &QLineEdit::textChanged, this, change);
     add(caption, field);
     return field;

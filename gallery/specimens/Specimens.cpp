@@ -21,6 +21,8 @@ constexpr int stageHeight = 80;
 void holdHovered(QWidget *widget)
 {
     widget->setAttribute(Qt::WA_UnderMouse);
+    // A style decides when it polishes a widget whether the pointer matters to it.
+    widget->ensurePolished();
     // A push button that tracks the pointer wants to be told where it is.
     widget->setMouseTracking(true);
     const QPointF somewhere(widget->rect().center());
@@ -77,7 +79,10 @@ void Specimens::add(QWidget *widget, const QString &caption)
 {
     auto *specimen = new OxaWidget(this);
     // The widget may become narrower; the ones behind it stay where they are.
-    specimen->setMinimumWidth(widget->minimumSize().expandedTo(widget->sizeHint()).width());
+    specimen->setMinimumWidth(widget->minimumSize()
+                                      .expandedTo(widget->sizeHint())
+                                      .boundedTo(widget->maximumSize())
+                                      .width());
     auto *stage = new QHBoxLayout;
     stage->addStrut(stageHeight);
     stage->addWidget(widget, 0, Qt::AlignLeft | Qt::AlignVCenter);

@@ -37,7 +37,7 @@ CodeEdit *makeLog(QWidget *widget, PropertyControls *controls)
     auto *log = new CodeEdit;
     log->setReadOnly(true);
     log->setAccessibleName(tr("What it emits"));
-    log->setPlaceholderText(tr("What it emits appears here."));
+    log->setPlaceholderText(tr("What it emits appears here"));
     log->setMaximumBlockCount(linesToKeep);
     log->setMinimumLines(logLines);
     log->setMaximumHeight(log->minimumHeight());

@@ -17,6 +17,7 @@
 #include <pages/emoji/TextAnalysis.h>
 #include <pages/widgets/Pages.h>
 #include <shell/Page.h>
+#include <widgets/Buttons.h>
 #include <widgets/ListView.h>
 
 Q_DECLARE_METATYPE(ArtworkKind)

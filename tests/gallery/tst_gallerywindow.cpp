@@ -14,6 +14,7 @@
 #include <shell/PageRegistry.h>
 #include <shell/PageStack.h>
 #include <shell/TabOrder.h>
+#include <widgets/Buttons.h>
 #include <widgets/ScrollArea.h>
 #include <widgets/SegmentedControl.h>
 
@@ -266,21 +267,14 @@ void tst_GalleryWindow::ignoresAnUnknownPage()
 void tst_GalleryWindow::stopsInTheOrderOfSight_data()
 {
     QTest::addColumn<QString>("page");
-    QTest::addColumn<QStringList>("names");
-    QTest::newRow("colours") << QStringLiteral(
-            "colours") << QStringList { QStringLiteral("Search"), QStringLiteral("Colour sets") };
+    QTest::addColumn<QString>("names");
+    QTest::newRow("colours") << QStringLiteral("colours") << QStringLiteral("Search, Colour sets");
     QTest::newRow("signals") << QStringLiteral("signals")
-                             << QStringList { QStringLiteral("Search"),
-                                              QStringLiteral("Emit"),
-                                              QStringLiteral("Add a receiver"),
-                                              QStringLiteral("Remove receivers"),
-                                              QStringLiteral("Signals"),
-                                              QStringLiteral("What is emitted"),
-                                              QStringLiteral("Clear the log") };
+                             << QStringLiteral("Search, Emit, Add a receiver, Remove receivers, "
+                                               "Signals, What is emitted, Clear the log");
     QTest::newRow("icons") << QStringLiteral("icons")
-                           << QStringList { QStringLiteral("Gallery"), QStringLiteral("All"),
-                                            QStringLiteral("Search"),  QStringLiteral("Icon"),
-                                            QStringLiteral("24"),      QStringLiteral("Icons") };
+                           << QStringLiteral("Gallery, All, Search, Icon, 24, Icons, "
+                                             "About the icon");
 }
 
 void tst_GalleryWindow::stopsInTheOrderOfSight()
@@ -296,7 +290,7 @@ void tst_GalleryWindow::stopsInTheOrderOfSight()
         if (shown->isAncestorOf(stop))
             names += QAccessible::queryAccessibleInterface(stop)->text(QAccessible::Name);
     }
-    QTEST(names, "names");
+    QTEST(names.join(QStringLiteral(", ")), "names");
 }
 
 void tst_GalleryWindow::namesWhateverTakesTheFocus_data() { fitsEachPageAtItsSmallestSize_data(); }

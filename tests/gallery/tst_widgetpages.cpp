@@ -2,6 +2,7 @@
 #include "Controls.h"
 #include "GalleryTest.h"
 
+#include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaLabel.h>
 
@@ -24,7 +25,7 @@ namespace {
 class Sample
 {
 public:
-    Sample(const char *page, int index)
+    Sample(const QByteArray &page, int index)
         : m_page(findPageEntry(QString::fromLatin1(page))->make(&m_window)),
           m_specimens(m_page->findChildren<Specimens *>().at(index)),
           m_controls(m_page->findChildren<PropertyControls *>().at(index))
@@ -47,17 +48,17 @@ public:
         return Controls::called<Control>(*m_controls, name);
     }
 
-    void choose(const char *name, const char *text) const
+    void choose(const QByteArray &name, const QByteArray &text) const
     {
-        Controls::choose(*m_controls, name, text);
+        Controls::choose(*m_controls, name.constData(), text.constData());
     }
 
     /// Returns the values that the widgets have of \a property.
-    QVariantList values(const char *property) const
+    QVariantList values(const QByteArray &property) const
     {
         QVariantList values;
         for (const QWidget *widget : widgets())
-            values += widget->property(property);
+            values += widget->property(property.constData());
         return values;
     }
 
@@ -289,7 +290,6 @@ void tst_WidgetPages::holdsAWidgetInEachOfItsStates_data()
     QTest::addColumn<int>("card");
     QTest::addColumn<int>("count");
     QTest::newRow("a push button") << QByteArray("buttons") << 0 << 5;
-    QTest::newRow("an underline button") << QByteArray("buttons") << 1 << 5;
     QTest::newRow("a toggle button") << QByteArray("buttons") << 2 << 5;
     QTest::newRow("an SVG label") << QByteArray("svg-widgets") << 0 << 3;
     QTest::newRow("an SVG button") << QByteArray("svg-widgets") << 1 << 5;
@@ -366,6 +366,7 @@ void tst_WidgetPages::tintsIconsWithTheTheme()
 void tst_WidgetPages::showsAPixmap()
 {
     const Sample card("buttons", 0);
+    card.choose("setCSS()", "Quiet");
     const QImage without = Pixels::render(*card.inUse());
     card.choose("setPixmap()", "Bell");
     QVERIFY(Pixels::render(*card.inUse()) != without);
@@ -409,6 +410,7 @@ void tst_WidgetPages::tintsALabelsPixmapWithTheTheme()
     const auto starIs = [&card](const QColor &color) {
         return Pixels::countNear(Pixels::render(*card.inUse()), color, QRect(), 0) > 100;
     };
+    QVERIFY(starIs(colors("gallery-accent").normal));
     for (const auto appearance :
          { ThemeSwitcher::Appearance::Dark, ThemeSwitcher::Appearance::Light }) {
         GalleryApplication::get()->themeSwitcher()->setAppearance(appearance);

@@ -16,6 +16,7 @@ ColorSetTable::ColorSetTable(ColorSetModel *model, QWidget *parent)
 ColorSetTable::ColorSetTable(ColorSetModel *model, ColorSetDelegate *delegate, QWidget *parent)
     : TableView(model, delegate, parent), m_delegate(delegate)
 {
+    setAccessibleName(tr("Colour sets"));
     setSelectionMode(NoSelection);
     ColorSetTable::refresh();
     connect(model, &ColorSetModel::modelReset, this, &ColorSetTable::spanHeadings);

@@ -69,6 +69,7 @@ IconDetails::IconDetails(IconRenderers *renderers, QWidget *parent)
     column->addStretch(1);
 
     auto *area = new ScrollArea(this);
+    area->setAccessibleName(tr("About the icon"));
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setContents(contents);
     auto *frame = new QVBoxLayout(this);

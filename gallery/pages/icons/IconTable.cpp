@@ -16,6 +16,7 @@ IconTable::IconTable(IconModel *model, IconRenderers *renderers, IconDelegate *d
                      QWidget *parent)
     : TableView(model, delegate, parent), m_delegate(delegate)
 {
+    setAccessibleName(tr("Icons"));
     setSelectionMode(SingleSelection);
     setSelectionBehavior(SelectRows);
     connect(renderers, &IconRenderers::repaintNeeded, viewport(), qOverload<>(&QWidget::update));

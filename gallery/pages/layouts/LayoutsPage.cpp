@@ -10,14 +10,9 @@
 #include "widgets/Card.h"
 #include "widgets/ScrollArea.h"
 #include "widgets/SegmentedControl.h"
+#include "widgets/WrapLayout.h"
 
-#include <QHBoxLayout>
-
-namespace {
-
-constexpr int controlsWidth = 312;
-
-} // namespace
+#include <QVBoxLayout>
 
 LayoutsPage::LayoutsPage(QWidget *parent)
     : Page(tr("Layouts"),
@@ -28,11 +23,8 @@ LayoutsPage::LayoutsPage(QWidget *parent)
       m_controls(new LayoutControls(this)),
       m_area(new ScrollArea(this))
 {
-    auto *row = new QHBoxLayout;
-    row->setSpacing(Metrics::spacing);
-    row->addWidget(makeStageCard(), 1);
-    row->addWidget(makeControlsCard());
-    body()->addLayout(row, 1);
+    body()->addWidget(makeControlsCard());
+    body()->addWidget(makeStageCard(), 1);
     connect(m_controls, &LayoutControls::changed, this, &LayoutsPage::applySettings);
     applySettings();
 }
@@ -54,29 +46,25 @@ Card *LayoutsPage::makeStageCard()
 Card *LayoutsPage::makeControlsCard()
 {
     auto *card = new Card(tr("Settings"), QString(), this);
-    card->setMinimumWidth(controlsWidth);
-    card->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     auto *kind = new SegmentedControl({ tr("Auto grid"), tr("Smart"), tr("Fixed ratio") }, card);
     kind->setAccessibleName(tr("Layout"));
     connect(kind, &SegmentedControl::chosen, m_controls, [controls = m_controls](int i) {
         controls->setKind(static_cast<LayoutSettings::Kind>(i));
     });
-    auto *order = new QHBoxLayout;
-    order->setSpacing(Metrics::small);
-    const std::pair<QString, void (TileBoard::*)()> actions[] = {
+    auto *actions = new WrapLayout(Metrics::small);
+    actions->addWidget(kind);
+    const std::pair<QString, void (TileBoard::*)()> named[] = {
         { tr("Shuffle"), &TileBoard::shuffle },
         { tr("Sort"), &TileBoard::sortByNumber },
         { tr("Prepend"), &TileBoard::prependTile },
     };
-    for (const auto &[text, action] : actions) {
+    for (const auto &[text, action] : named) {
         auto *button = Buttons::make(text, card);
         connect(button, &OxaPushButton::clicked, m_board, action);
-        order->addWidget(button, 1);
+        actions->addWidget(button);
     }
-    card->body()->addWidget(kind);
+    card->body()->addLayout(actions);
     card->body()->addWidget(m_controls);
-    card->body()->addLayout(order);
-    card->body()->addStretch(1);
     return card;
 }
 

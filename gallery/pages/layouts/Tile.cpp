@@ -16,6 +16,7 @@ Tile::Tile(int number, const TileLook &look, QWidget *parent)
 {
     // Tab stops once at all tiles together; the arrow keys go from one to the next.
     setFocusPolicy(Qt::ClickFocus);
+    setAccessibleName(tr("Tile %1").arg(number));
 }
 
 void Tile::setSizes(LayoutSettings::Sizes sizes)

@@ -8,10 +8,10 @@
 #include "RowRole.h"
 #include "pages/widgets/Pages.h"
 #include "shell/Page.h"
-#include "specimens/ControlPanel.h"
 #include "widgets/Buttons.h"
 #include "widgets/Card.h"
 #include "widgets/ColumnsLayout.h"
+#include "widgets/ControlRow.h"
 #include "widgets/Labels.h"
 #include "widgets/Slider.h"
 
@@ -61,11 +61,10 @@ Card *makeOverflow()
     QObject::connect(people, &OverflowListProxyModel::rowsInserted, hidden, showHidden);
     QObject::connect(people, &OverflowListProxyModel::rowsRemoved, hidden, showHidden);
     showHidden();
-    auto *controls = new ControlPanel;
-    controls->addNumber(tr("Width"), OverflowBar::leastWidth(), bar->fullWidth(), firstWidth,
-                        [bar](int width) { bar->setFixedWidth(width); });
+    auto *width = new Slider(OverflowBar::leastWidth(), bar->fullWidth(), firstWidth);
+    QObject::connect(width, &Slider::valueChanged, bar, &QWidget::setFixedWidth);
     card->body()->addWidget(bar);
-    card->body()->addWidget(controls);
+    card->body()->addWidget(new ControlRow(tr("Width"), width));
     card->body()->addWidget(hidden);
     card->body()->addStretch(1);
     return card;

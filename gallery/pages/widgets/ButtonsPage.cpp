@@ -19,6 +19,7 @@ constexpr QSize iconSize(16, 16);
 constexpr QSize pictureSize(17, 17);
 constexpr int narrowest = 48;
 constexpr int widest = 208;
+constexpr int firstWidth = 144;
 constexpr int customInset = 5;
 
 QString tr(const char *text) { return Page::tr(text); }
@@ -46,7 +47,7 @@ QWidget *makePushButton()
     button->setElideMode(Qt::ElideRight);
     button->setElidePadding(Metrics::margin);
     button->setLongPressEnabled(true);
-    button->setFixedWidth(widest - Metrics::margin);
+    button->setFixedWidth(firstWidth);
     button->setUniqueElementId(QStringLiteral("message.favourite"));
     button->setProperty("iconColorSet", QStringLiteral("gallery-icon"));
     QObject::connect(button, &OxaPushButton::themeTypeChanged, button, [button] { tint(button); });
@@ -127,7 +128,8 @@ void addPushButton(Page &page)
     auto *controls = WidgetCard::add(
             page, tr("OxaPushButton"),
             tr("Click it, hold it down for half a second, click with the right button, or tab "
-               "through. The icon has a picture for each state, painted over with a colour set."),
+               "through. The icon has a picture for each state, painted over with a colour set; a "
+               "pixmap lies under the background, and shows in the quiet look."),
             makePushButton);
     controls->offer("ColorSet", WidgetCard::colorSets());
     controls->setRange("elidePadding", 0, 96);
@@ -136,7 +138,7 @@ void addPushButton(Page &page)
     addPictures(controls);
     addRoles(controls);
     controls->addAll();
-    addWidth(controls, widest - Metrics::margin);
+    addWidth(controls, firstWidth);
 }
 
 void addUnderlineButton(Page &page)

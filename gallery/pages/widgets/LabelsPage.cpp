@@ -12,7 +12,7 @@ namespace {
 
 constexpr int narrowest = 64;
 constexpr int widest = 392;
-constexpr int firstWidth = 256;
+constexpr int firstWidth = 232;
 constexpr int highest = 120;
 constexpr int firstHeight = 40;
 
@@ -106,6 +106,7 @@ void addPixmap(Page &page)
         label->setPixmap(WidgetCard::pixmap("star-filled_16", QSize(72, 72)));
         label->setProperty("pixmapColorSet", colors.front().value);
         QObject::connect(label, &OxaLabel::themeTypeChanged, label, [label] { tint(label); });
+        tint(label);
         return label;
     };
     auto *controls = WidgetCard::add(page, tr("Pixmap"),

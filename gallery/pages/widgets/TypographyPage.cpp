@@ -55,6 +55,15 @@ QString weightText(const QFont &font)
                 : QString::number(font.weight());
 }
 
+/// Returns a caption that gives way to the samples where there is little room.
+OxaLabel *elidedCaption(const QString &text)
+{
+    OxaLabel *label = Labels::caption(text);
+    label->setElideMode(Qt::ElideRight);
+    label->setMinimumWidth(1);
+    return label;
+}
+
 void addToken(QGridLayout *grid, const QString &name, OxaFont::Token token)
 {
     OxaLabel *sample = Labels::elidedLine(tr("The quick brown fox jumps"));
@@ -64,7 +73,7 @@ void addToken(QGridLayout *grid, const QString &name, OxaFont::Token token)
     followSizes(size,
                 [size, token] { size->setText(tr("%1 px").arg(OxaFont(token).pixelSize())); });
     const int row = grid->rowCount();
-    grid->addWidget(Labels::caption(name), row, 0);
+    grid->addWidget(elidedCaption(name), row, 0);
     grid->addWidget(sample, row, 1);
     grid->addWidget(weight, row, 2);
     grid->addWidget(size, row, 3);
@@ -90,7 +99,7 @@ void addScaledFont(QGridLayout *grid, const char *name)
 {
     const int row = grid->rowCount();
     int column = 0;
-    grid->addWidget(Labels::caption(QString::fromLatin1(name)), row, column++);
+    grid->addWidget(elidedCaption(QString::fromLatin1(name)), row, column++);
     for (const View view : views) {
         OxaLabel *label = Labels::elidedLine(tr("Good day"));
         grid->addWidget(label, row, column++);
@@ -124,7 +133,7 @@ Card *makeScaledFonts()
     int column = 0;
     for (const QString &heading : { tr("Font"), tr("Messaging view"), tr("Meeting view"),
                                     tr("Small"), tr("Regular"), tr("Medium"), tr("Large") })
-        grid->addWidget(Labels::caption(heading), 0, column++);
+        grid->addWidget(elidedCaption(heading), 0, column++);
     // The fonts are the properties of the class that holds them.
     const QMetaObject &type = OxaScaledFonts::staticMetaObject;
     for (int i = type.propertyOffset(); i < type.propertyCount(); ++i)
