@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaThemeUtils.h"
 
+#include "MissingColors_p.h"
 #include "ThemeChange_p.h"
 #include "WidgetStyleText_p.h"
 
 #include <QApplication>
-#include <QLoggingCategory>
 #include <QMetaMethod>
 #include <QPointer>
-#include <QRegularExpression>
 #include <QVariant>
 #include <QVector>
 
@@ -16,42 +15,11 @@ using OxaThemeUtils::AppThemeType;
 
 namespace {
 
-QString selectorOf(const QWidget *widget)
-{
-    const QString name = widget->objectName();
-    return name.isEmpty() ? QString::fromLatin1(widget->metaObject()->className())
-                          : QLatin1Char('#') + name;
-}
-
 constexpr char themeTypeProperty[] = "themeType";
 
 AppThemeType ownThemeType(const QWidget *widget)
 {
     return OxaThemeUtils::stringToThemeType(widget->property(themeTypeProperty).toString());
-}
-
-/// Tells which widget lacks colours. The warnings of the same matter don't say: they come from
-/// functions that know no widgets. Off unless somebody asks for it.
-Q_LOGGING_CATEGORY(themeLog, "uielements.theme", QtWarningMsg)
-
-void tellOfMissingColors(const QString &name, const QWidget *widget)
-{
-    qCInfo(themeLog) << "No colours called" << name << "for" << widget->metaObject()->className()
-                     << widget->objectName();
-}
-
-/// Tells of what is left of \a widget's style text in its \a sheet because it can't be expanded.
-void tellOfLeftovers(const QString &sheet, const QWidget *widget)
-{
-    using OxaThemeUtils::ColorSetType;
-    for (const auto type : { ColorSetType::Background, ColorSetType::Border, ColorSetType::Text }) {
-        const QString name = OxaThemeUtils::getColorSetNameFromString(type, sheet);
-        if (!name.isEmpty())
-            tellOfMissingColors(name, widget);
-    }
-    static const QRegularExpression reference(QStringLiteral(R"(\$\(([^)]*)\))"));
-    for (auto found = reference.globalMatch(sheet); found.hasNext();)
-        tellOfMissingColors(found.next().captured(1), widget);
 }
 
 /// Returns \a root and the widgets below it, parents before their children.
@@ -133,7 +101,7 @@ OxaColorSet OxaThemeUtils::getColorSet(const std::string &name, const QWidget *w
     const bool isMissing = !name.empty() && store.find(name) == store.cend();
     const OxaColorSet set = getColorSet(name, themeType);
     if (isMissing && widget)
-        tellOfMissingColors(QString::fromStdString(name), widget);
+        MissingColors::tell(QString::fromStdString(name), widget);
     return set;
 }
 
@@ -155,21 +123,4 @@ OxaThemeUtils::CSSParserResult OxaThemeUtils::parseCSS(QWidget *widget, const QS
                                                        const OxaColorSetMap &colorSets)
 {
     return WidgetStyleText::parse(widget, getThemeTypeOfWidget(widget), styleText, colorSets);
-}
-
-OxaThemeUtils::CSSParserResult WidgetStyleText::parse(QWidget *widget, AppThemeType themeType,
-                                                      const QString &styleText,
-                                                      const OxaColorSetMap &globalColorSets)
-{
-    const OxaColorSetMap &store = themeType == AppThemeType::Global
-            ? globalColorSets
-            : OxaThemeUtils::getOxaColorSetsByThemeType(themeType);
-    auto result = OxaThemeUtils::parseCSS(selectorOf(widget), styleText, store);
-    // The focus frame reads both. A radius is kept when a later text has none.
-    if (result.oxaCSS.borderRadius != 0)
-        widget->setProperty("focusBorderRadius", int(result.oxaCSS.borderRadius));
-    widget->setProperty("rectangularCornerMask", int(result.oxaCSS.rectangularCornerMask));
-    if (themeLog().isInfoEnabled())
-        tellOfLeftovers(result.expandedStyleSheet, widget);
-    return result;
 }

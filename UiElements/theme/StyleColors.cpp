@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "FocusFrame_p.h"
 #include "StyleColors_p.h"
 #include "StyleDirective_p.h"
 
-#include <QCoreApplication>
 #include <QDebug>
 #include <QStringBuilder>
-#include <QVariant>
 
 #include <algorithm>
 #include <array>
@@ -103,12 +102,6 @@ QString onlyRule(ColorSetType type, const QString &selector, const QColor &color
     return rule;
 }
 
-bool usesGlobalFocusBorders()
-{
-    const QCoreApplication *app = QCoreApplication::instance();
-    return app && app->property("useGlobalFocusBorders").toBool();
-}
-
 QString rulesForStates(ColorSetType type, const QString &selector, const OxaColorSet &set)
 {
     const auto differs = [&set](const QColor &color) {
@@ -121,7 +114,7 @@ QString rulesForStates(ColorSetType type, const QString &selector, const OxaColo
         if (differs(set.*state.color))
             appendRule(rules, type, selector, state.pseudoState, set.*state.color);
     }
-    if (type == ColorSetType::Border && differs(set.focused) && !usesGlobalFocusBorders())
+    if (type == ColorSetType::Border && differs(set.focused) && !FocusFrame::areBordersGlobal())
         rules += selector + QLatin1String("{outline:none;}");
     return rules;
 }
