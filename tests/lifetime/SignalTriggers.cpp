@@ -305,6 +305,7 @@ SignalTriggers allRows()
     addPictureRows(rows);
     addValueRows(rows);
     addApplicationRows(rows);
+    addModelTriggers(rows);
     return rows;
 }
 

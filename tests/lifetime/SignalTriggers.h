@@ -35,6 +35,9 @@ SignalTrigger row(const char *signal, const char *cause, Act<Object> run,
     return { &Object::staticMetaObject, signal, cause, onObject(prepare), onObject(run) };
 }
 
+/// Adds the triggers of the list models to \a rows.
+void addModelTriggers(SignalTriggers &rows);
+
 /// Returns the triggers by which an object of \a metaObject emits \a signal.
 std::vector<const SignalTrigger *> triggersOf(const QMetaObject *metaObject,
                                               const QMetaMethod &signal);

@@ -6,6 +6,10 @@
 #include <UiElements/emoji/OxaEmojiPushButton.h>
 #include <UiElements/fonts/OxaScaledFonts.h>
 #include <UiElements/keyboard/OxaKeyEvent.h>
+#include <UiElements/models/EmptyStateBaseListModel.h>
+#include <UiElements/models/LazyLoadedListModel.h>
+#include <UiElements/models/OverflowListProxyModel.h>
+#include <UiElements/models/SmallListModel.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
@@ -16,12 +20,22 @@
 
 namespace {
 
-/// Describes \a Class.
-template <typename Class>
+/// A list whose base class has no role names of its own.
+template <typename Model>
+class NamedModel : public Model
+{
+public:
+    explicit NamedModel(QObject *parent) : Model(parent) { }
+
+    QHash<int, QByteArray> roleNames() const override { return { { Qt::UserRole + 1, "value" } }; }
+};
+
+/// Describes \a Class, of which \a Made is or derives.
+template <typename Class, typename Made = Class>
 Subject subject()
 {
     return { Class::staticMetaObject.className(), &Class::staticMetaObject,
-             [](QWidget *parent) -> QObject * { return new Class(parent); } };
+             [](QWidget *parent) -> QObject * { return new Made(parent); } };
 }
 
 /// The same for a class whose objects are made without a parent.
@@ -33,6 +47,14 @@ Subject subjectWithoutParent()
                  auto *made = new Class;
                  made->setParent(parent);
                  return made;
+             } };
+}
+
+Subject smallListModel()
+{
+    return { SmallListModel::staticMetaObject.className(), &SmallListModel::staticMetaObject,
+             [](QWidget *parent) -> QObject * {
+                 return new SmallListModel({}, parent, QVariant());
              } };
 }
 
@@ -65,6 +87,11 @@ const std::vector<Subject> &subjects()
         subject<OxaKeySequenceInfo>(),
         subject<OxaAppSignals>(),
         subject<OxaGlobalSignalListener>(),
+        subject<BaseListModel, NamedModel<BaseListModel>>(),
+        subject<EmptyStateBaseListModel, NamedModel<EmptyStateBaseListModel>>(),
+        subject<LazyLoadedListModel>(),
+        subject<OverflowListProxyModel>(),
+        smallListModel(),
     };
     return all;
 }

@@ -4,6 +4,9 @@
 #include "support/Guards.h"
 #include "support/TestApplication.h"
 
+#include <UiElements/fonts/OxaFontManager.h>
+#include <UiElements/fonts/OxaScaledFonts.h>
+#include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaWidget.h>
 
 #include <QDirIterator>
@@ -108,6 +111,8 @@ private Q_SLOTS:
     void survivesTheDeletionOfTheApplication();
     void survivesDeletions_data();
     void survivesDeletions();
+    void makesFontsAnewThatASlotDeleted();
+    void followsNoFontsThatWereDeleted();
 
 private:
     void ensureApplication();
@@ -142,10 +147,6 @@ void tst_DeletionInSlots::knowsEveryClassWithSignals()
                QStringLiteral("OxaObject"),
                QStringLiteral("OxaShortcut"),
                QStringLiteral("SmartLayout") };
-    // List models have no rows yet.
-    known += { QStringLiteral("BaseListModel"), QStringLiteral("EmptyStateBaseListModel"),
-               QStringLiteral("LazyLoadedListModel"), QStringLiteral("OverflowListProxyModel"),
-               QStringLiteral("SmallListModel") };
     const QStringList declared = classesInHeaders();
     QVERIFY(declared.size() > 20);
     for (const QString &name : declared)
@@ -247,6 +248,34 @@ void tst_DeletionInSlots::survivesDeletions()
     else
         emitAsHubUser(family.sender, signal);
     QVERIFY(!family.sender);
+}
+
+void tst_DeletionInSlots::makesFontsAnewThatASlotDeleted()
+{
+    ensureApplication();
+    OxaFontManager manager;
+    const auto view = FontManagerEnum::FontType::MessagingView;
+    const QPointer<OxaScaledFonts> fonts = manager.getFont(view);
+    Deleter deleter(fonts);
+    deleter.listenTo(fonts, QMetaMethod::fromSignal(&OxaScaledFonts::fontTokenChanged));
+    manager.setScalingFactor(view, FontManagerEnum::FontScalingFactor::Large);
+    QVERIFY(!fonts);
+
+    manager.setScalingFactor(view, FontManagerEnum::FontScalingFactor::Large);
+    QCOMPARE(manager.getFont(view)->getFont(OxaFont::Token::BodyPrimary).pixelSize(), 26);
+}
+
+void tst_DeletionInSlots::followsNoFontsThatWereDeleted()
+{
+    ensureApplication();
+    const StoreGuard stores(storeOfAllSets(), storeOfAllSets());
+    const auto view = FontManagerEnum::FontType::MeetingView;
+    OxaLabel label;
+    label.setFontType(view);
+    delete OxaFontManager::get()->getFont(view);
+    label.setFontToken(OxaFont::Token::BodyPrimary);
+    OxaFontManager::get()->setScalingFactor(view, FontManagerEnum::FontScalingFactor::Large);
+    QCOMPARE(label.font().pixelSize(), 26);
 }
 
 QTEST_APPLESS_MAIN(tst_DeletionInSlots)
