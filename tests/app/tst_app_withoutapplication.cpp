@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/Guards.h"
+#include "support/TestMain.h"
 
 #include <UiElements/app/AppUtils.h>
 #include <UiElements/app/OxaAppSignals.h>
@@ -73,5 +74,5 @@ void tst_AppWithoutApplication::servesAHubThatSomebodyMadeForItself()
     QVERIFY(hub.shortcutExists(OxaAppSignals::Shortcut::OpenGlobalSearch));
 }
 
-QTEST_MAIN(tst_AppWithoutApplication)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_AppWithoutApplication)
 #include "tst_app_withoutapplication.moc"

@@ -117,5 +117,5 @@ void tst_OxaApplicationHubs::survivesTheEndOfItsChildren()
     QCOMPARE(widget.font().pixelSize(), 20);
 }
 
-QTEST_APPLESS_MAIN(tst_OxaApplicationHubs)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaApplicationHubs)
 #include "tst_oxaapplication_hubs.moc"

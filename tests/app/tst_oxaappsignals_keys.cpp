@@ -2,6 +2,7 @@
 #include "DebugShortcuts.h"
 #include "ShortcutsTable.h"
 #include "support/SignalLog.h"
+#include "support/TestMain.h"
 
 #include <QFile>
 #include <QMetaMethod>
@@ -262,5 +263,5 @@ void tst_OxaAppSignalsKeys::leavesKeysThatTwoShortcutsShareWithoutEffect()
     QCOMPARE(hub.emittedFor(window, debugKeys), QStringLiteral("showDebugWindow"));
 }
 
-QTEST_MAIN(tst_OxaAppSignalsKeys)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_OxaAppSignalsKeys)
 #include "tst_oxaappsignals_keys.moc"

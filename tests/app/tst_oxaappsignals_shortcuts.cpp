@@ -2,6 +2,7 @@
 #include "DebugShortcuts.h"
 #include "ShortcutsTable.h"
 #include "support/ContextTranslator.h"
+#include "support/TestMain.h"
 
 #include <QMetaEnum>
 #include <QTest>
@@ -407,5 +408,5 @@ void tst_OxaAppSignalsShortcuts::replacesARegisteredShortcutAndLeavesTheOldOneAl
     QVERIFY(ungrouped.at(Shortcut::Debug_ShowDebugWindow) != first);
 }
 
-QTEST_MAIN(tst_OxaAppSignalsShortcuts)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_OxaAppSignalsShortcuts)
 #include "tst_oxaappsignals_shortcuts.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
 #include <UiElements/app/OxaApplication.h>
 #include <UiElements/emoji/OxaEmojiLabel.h>
 #include <UiElements/layouts/FlowLayout.h>
@@ -132,5 +134,5 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder()
     QCOMPARE(end, first + std::ptrdiff_t(slots.size()));
 }
 
-QTEST_APPLESS_MAIN(tst_VirtualSlots)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_VirtualSlots)
 #include "tst_virtualslots.moc"

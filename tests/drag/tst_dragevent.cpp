@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
 #include <UiElements/drag/DragEvent.h>
 
 #include <QImage>
@@ -315,5 +317,5 @@ void tst_DragEvent::survivesAnotherOwner()
     QVERIFY(event.toMimeData()->formats().isEmpty());
 }
 
-QTEST_MAIN(tst_DragEvent)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_DragEvent)
 #include "tst_dragevent.moc"

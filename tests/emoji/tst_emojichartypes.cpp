@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/EmojiTestFile.h"
+#include "support/TestMain.h"
 
 #include <UiElements/emoji/EmojiTextConverter.h>
 
@@ -136,5 +137,5 @@ void tst_EmojiCharTypes::knowsTheFirstCodePointOfAllSequences()
     QCOMPARE(unknown.join(QLatin1Char(' ')), QStringLiteral("26a7-fe0f 26a7"));
 }
 
-QTEST_GUILESS_MAIN(tst_EmojiCharTypes)
+UIELEMENTS_TEST_MAIN_WITH(QCoreApplication, tst_EmojiCharTypes)
 #include "tst_emojichartypes.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/EmojiArtwork.h"
 #include "support/EmojiTestFile.h"
+#include "support/TestMain.h"
 
 #include <UiElements/emoji/EmojiTextConverter.h>
 
@@ -115,5 +116,5 @@ void tst_EmojiConformance::findsEachSequenceInAText()
     QCOMPARE(missed.join(QLatin1Char('\n')), QString());
 }
 
-QTEST_GUILESS_MAIN(tst_EmojiConformance)
+UIELEMENTS_TEST_MAIN_WITH(QCoreApplication, tst_EmojiConformance)
 #include "tst_emojiconformance.moc"

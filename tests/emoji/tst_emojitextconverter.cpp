@@ -2,6 +2,7 @@
 #include "EmojiNotation.h"
 #include "support/EmojiArtwork.h"
 #include "support/RandomSeed.h"
+#include "support/TestMain.h"
 
 #include <UiElements/emoji/EmojiTextConverter.h>
 
@@ -360,5 +361,5 @@ void tst_EmojiTextConverter::takesTimeByTheLengthOfItsText()
     QVERIFY(timer.elapsed() < 20000);
 }
 
-QTEST_GUILESS_MAIN(tst_EmojiTextConverter)
+UIELEMENTS_TEST_MAIN_WITH(QCoreApplication, tst_EmojiTextConverter)
 #include "tst_emojitextconverter.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "EmojiNotation.h"
 #include "support/EmojiArtwork.h"
+#include "support/TestMain.h"
 
 #include <UiElements/emoji/EmojiTextConverter.h>
 
@@ -179,5 +180,5 @@ void tst_EmojiTextConverterFiles::looksAtNoMoreThan64FilesAgain()
     QVERIFY(converted(text + emoji).endsWith(emoji));
 }
 
-QTEST_MAIN(tst_EmojiTextConverterFiles)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_EmojiTextConverterFiles)
 #include "tst_emojitextconverter_files.moc"

@@ -2,6 +2,7 @@
 #include "EmojiNotation.h"
 #include "support/EmojiArtwork.h"
 #include "support/RandomSeed.h"
+#include "support/TestMain.h"
 
 #include <UiElements/emoji/EmojiTextConverter.h>
 
@@ -303,5 +304,5 @@ void tst_EmojiTextConverterImages::setsRandomMarkupAsADocumentThatIsGivenPicture
     }
 }
 
-QTEST_MAIN(tst_EmojiTextConverterImages)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_EmojiTextConverterImages)
 #include "tst_emojitextconverter_images.moc"

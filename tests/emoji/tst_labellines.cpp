@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
 #include <UiElements/emoji/LabelLines_p.h>
 
 #include <QElapsedTimer>
@@ -166,5 +168,5 @@ void tst_LabelLines::cutsALineOfManyTagsInNoTime()
     QVERIFY(timer.elapsed() < 5000);
 }
 
-QTEST_MAIN(tst_LabelLines)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_LabelLines)
 #include "tst_labellines.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
 #include <UiElements/emoji/Newlines_p.h>
 
 #include <QTest>
@@ -75,5 +77,5 @@ void tst_Newlines::joinsTheCharactersInAnExpression()
         QCOMPARE(pattern[i], QChar(QLatin1Char('|')));
 }
 
-QTEST_GUILESS_MAIN(tst_Newlines)
+UIELEMENTS_TEST_MAIN_WITH(QCoreApplication, tst_Newlines)
 #include "tst_newlines.moc"

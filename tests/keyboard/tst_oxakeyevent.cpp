@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
 #include <UiElements/keyboard/OxaKeyEvent.h>
 
 #include <QKeyEvent>
@@ -92,5 +94,5 @@ void tst_OxaKeyEvent::forgetsTheEventForNull()
     QCOMPARE(event.modifiers(), Qt::ControlModifier);
 }
 
-QTEST_APPLESS_MAIN(tst_OxaKeyEvent)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaKeyEvent)
 #include "tst_oxakeyevent.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/ContextTranslator.h"
 #include "support/SignalLog.h"
+#include "support/TestMain.h"
 
 #include <UiElements/keyboard/OxaKeySequenceInfo.h>
 
@@ -152,5 +153,5 @@ void tst_OxaKeySequenceInfo::readsTextsAsThePlatformShowsThem()
     QCOMPARE(split.second, Qt::Key_F);
 }
 
-QTEST_MAIN(tst_OxaKeySequenceInfo)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_OxaKeySequenceInfo)
 #include "tst_oxakeysequenceinfo.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ShortcutNames.h"
+#include "support/TestMain.h"
 
 #include <UiElements/keyboard/OxaKeySequenceLookup.h>
 
@@ -282,5 +283,5 @@ void tst_OxaKeySequenceLookup::goesBackToTheFallbackWithTheService()
              QStringLiteral("'Ctrl+F' enabled"));
 }
 
-QTEST_GUILESS_MAIN(tst_OxaKeySequenceLookup)
+UIELEMENTS_TEST_MAIN_WITH(QCoreApplication, tst_OxaKeySequenceLookup)
 #include "tst_oxakeysequencelookup.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/ContextTranslator.h"
+#include "support/TestMain.h"
 
 #include <UiElements/keyboard/OxaKeyboardShortcutsGroup.h>
 #include <UiElements/keyboard/OxaKeyboardShortcutsManager.h>
@@ -232,5 +233,5 @@ void tst_OxaShortcut::goesWithItsParent()
     QVERIFY(!manager);
 }
 
-QTEST_MAIN(tst_OxaShortcut)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_OxaShortcut)
 #include "tst_oxashortcut.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
 #include <UiElements/keyboard/TabOrderUtils.h>
 
 #include <QHBoxLayout>
@@ -287,5 +289,5 @@ void tst_TabOrderUtils::knowsAncestors()
     QVERIFY(!TabOrderUtils::isAncestorOfParent(nullptr, nullptr));
 }
 
-QTEST_MAIN(tst_TabOrderUtils)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_TabOrderUtils)
 #include "tst_taborderutils.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
 #include <UiElements/keyboard/TabOrderUtils.h>
 #include <UiElements/widgets/OxaPushButton.h>
 #include <UiElements/widgets/OxaToggleButton.h>
@@ -139,5 +141,5 @@ void tst_TabOrderUtilsArrowKeys::takesNoOtherKey()
         QVERIFY(!TabOrderUtils::removeArrowKeyTabbingFromSpecificWidgets(object, &event));
 }
 
-QTEST_MAIN(tst_TabOrderUtilsArrowKeys)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_TabOrderUtilsArrowKeys)
 #include "tst_taborderutils_arrowkeys.moc"

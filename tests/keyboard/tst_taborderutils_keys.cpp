@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/RealInput.h"
+#include "support/TestMain.h"
 
 #include <UiElements/keyboard/TabOrderUtils.h>
 #include <UiElements/layouts/SmartLayout.h>
@@ -344,5 +345,5 @@ void tst_TabOrderUtilsKeys::keepsArrowKeysByTheTypeOfAButton()
     QTEST(window.visited(), "visited");
 }
 
-QTEST_MAIN(tst_TabOrderUtilsKeys)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_TabOrderUtilsKeys)
 #include "tst_taborderutils_keys.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
 #include <UiElements/keyboard/TabOrderUtils.h>
 
 #include <QHBoxLayout>
@@ -278,5 +280,5 @@ void tst_TabOrderUtilsLayouts::findsNothingInALayoutThatShowsNothing()
     QCOMPARE(TabOrderUtils::getFirstItemInLayoutIf(&window.items, isAny, false), nullptr);
 }
 
-QTEST_MAIN(tst_TabOrderUtilsLayouts)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_TabOrderUtilsLayouts)
 #include "tst_taborderutils_layouts.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Blocks.h"
 #include "RandomItems.h"
+#include "support/TestMain.h"
 
 #include <UiElements/layouts/AutoGridLayout.h>
 
@@ -317,5 +318,5 @@ void tst_AutoGridLayout::needsTheHeightOfTheLastRowOfAnyItems()
     });
 }
 
-QTEST_MAIN(tst_AutoGridLayout)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_AutoGridLayout)
 #include "tst_autogridlayout.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Blocks.h"
+#include "support/TestMain.h"
 
 #include <UiElements/layouts/FixedItemRatioLayoutNotSupportScroll.h>
 
@@ -354,5 +355,5 @@ void tst_FixedItemRatioLayout::bearsARatioOfZero()
              QStringLiteral("300x8, 2x1"));
 }
 
-QTEST_MAIN(tst_FixedItemRatioLayout)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_FixedItemRatioLayout)
 #include "tst_fixeditemratiolayout.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "RandomItems.h"
+#include "support/TestMain.h"
 
 #include <UiElements/layouts/FixedItemRatioLayoutNotSupportScroll.h>
 
@@ -234,5 +235,5 @@ void tst_FixedItemRatioLayoutRandom::aSecondPassMovesNothing()
     });
 }
 
-QTEST_APPLESS_MAIN(tst_FixedItemRatioLayoutRandom)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_FixedItemRatioLayoutRandom)
 #include "tst_fixeditemratiolayout_random.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PlainFlow.h"
 #include "support/RandomSeed.h"
+#include "support/TestMain.h"
 
 #include <QPushButton>
 #include <QTest>
@@ -350,5 +351,5 @@ void tst_FlowLayoutOrder::chainsAWidgetThatStandsInItTwiceOnce()
     QCOMPARE(buttons.tabOrder(), QStringLiteral("ABC"));
 }
 
-QTEST_MAIN(tst_FlowLayoutOrder)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_FlowLayoutOrder)
 #include "tst_flowlayout_order.moc"

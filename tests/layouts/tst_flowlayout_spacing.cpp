@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PlainFlow.h"
 #include "support/Guards.h"
+#include "support/TestMain.h"
 
 #include <UiElements/layouts/AutoGridLayout.h>
 #include <UiElements/layouts/SmartLayout.h>
@@ -218,5 +219,5 @@ void tst_FlowLayoutSpacing::spacesEachLayoutAlike()
     QCOMPARE(smart.placed(), expected);
 }
 
-QTEST_MAIN(tst_FlowLayoutSpacing)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_FlowLayoutSpacing)
 #include "tst_flowlayout_spacing.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Blocks.h"
 #include "support/Guards.h"
+#include "support/TestMain.h"
 
 #include <UiElements/layouts/AutoGridLayout.h>
 #include <UiElements/layouts/FixedItemRatioLayoutNotSupportScroll.h>
@@ -291,5 +292,5 @@ void tst_LayoutsInWindows::holdsLengthsThatNoIntCanAddUp()
     }
 }
 
-QTEST_MAIN(tst_LayoutsInWindows)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_LayoutsInWindows)
 #include "tst_layouts_inwindows.moc"

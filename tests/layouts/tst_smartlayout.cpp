@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Blocks.h"
+#include "support/TestMain.h"
 
 #include <UiElements/layouts/SmartLayout.h>
 
@@ -336,5 +337,5 @@ void tst_SmartLayout::placesWithinItsRectangleAndMargins()
     QCOMPARE(layout.heightForWidth(85), 20 + 36 + 40);
 }
 
-QTEST_MAIN(tst_SmartLayout)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_SmartLayout)
 #include "tst_smartlayout.moc"

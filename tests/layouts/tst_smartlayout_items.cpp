@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Blocks.h"
 #include "RandomItems.h"
+#include "support/TestMain.h"
 
 #include <UiElements/layouts/SmartLayout.h>
 
@@ -338,5 +339,5 @@ void tst_SmartLayoutItems::needsTheHeightOfAllRows()
     });
 }
 
-QTEST_MAIN(tst_SmartLayoutItems)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_SmartLayoutItems)
 #include "tst_smartlayout_items.moc"

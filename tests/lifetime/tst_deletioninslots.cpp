@@ -278,5 +278,5 @@ void tst_DeletionInSlots::followsNoFontsThatWereDeleted()
     QCOMPARE(label.font().pixelSize(), 26);
 }
 
-QTEST_APPLESS_MAIN(tst_DeletionInSlots)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_DeletionInSlots)
 #include "tst_deletioninslots.moc"

@@ -2,6 +2,7 @@
 #include "tst_baselistmodel.h"
 
 #include "LetterListModel.h"
+#include "support/TestMain.h"
 
 #include <QMetaProperty>
 #include <QTest>
@@ -270,5 +271,5 @@ void tst_BaseListModel::handsOutCopies()
     QCOMPARE(model.text(), QStringLiteral("ab"));
 }
 
-QTEST_MAIN(tst_BaseListModel)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_BaseListModel)
 #include "moc_tst_baselistmodel.cpp"

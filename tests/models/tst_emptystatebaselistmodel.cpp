@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/ModelLog.h"
+#include "support/TestMain.h"
 
 #include <UiElements/models/EmptyStateBaseListModel.h>
 
@@ -126,5 +127,5 @@ void tst_EmptyStateBaseListModel::takesASizeForNewThatDiffersInOneLength()
     QTEST(int(changed.size()), "signalCount");
 }
 
-QTEST_MAIN(tst_EmptyStateBaseListModel)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_EmptyStateBaseListModel)
 #include "tst_emptystatebaselistmodel.moc"

@@ -2,6 +2,7 @@
 #include "tst_lazyloadedlistmodel.h"
 
 #include "LazyLetterModel.h"
+#include "support/TestMain.h"
 
 #include <QTest>
 
@@ -190,5 +191,5 @@ void tst_LazyLoadedListModel::holdsOneWindowOfItemsWhateverTheSize()
     QCOMPARE(model.rowCount(), 10000000);
 }
 
-QTEST_MAIN(tst_LazyLoadedListModel)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_LazyLoadedListModel)
 #include "moc_tst_lazyloadedlistmodel.cpp"

@@ -2,6 +2,7 @@
 #include "tst_modelcontract.h"
 
 #include "ModelScenario.h"
+#include "support/TestMain.h"
 
 #include <QAbstractItemModelTester>
 #include <QListView>
@@ -276,5 +277,5 @@ void tst_ModelContract::paintsNothingWhenNothingIsReplaced()
     QCOMPARE(view.painted, QRegion(view.visualRect(model.index(2))));
 }
 
-QTEST_MAIN(tst_ModelContract)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_ModelContract)
 #include "moc_tst_modelcontract.cpp"

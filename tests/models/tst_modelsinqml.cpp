@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ModelChanges.h"
 #include "ModelScenario.h"
+#include "support/TestMain.h"
 
 #include <QQmlComponent>
 #include <QQmlContext>
@@ -339,5 +340,5 @@ void tst_ModelsInQml::leavesRowsEmptyThatComeWhileARepeaterIsAttached()
     QCOMPARE(attachedLater.text(), QStringLiteral("abcD"));
 }
 
-QTEST_MAIN(tst_ModelsInQml)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_ModelsInQml)
 #include "tst_modelsinqml.moc"

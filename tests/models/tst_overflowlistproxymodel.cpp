@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "LetterListModel.h"
 #include "support/RandomSeed.h"
+#include "support/TestMain.h"
 
 #include <UiElements/models/OverflowListProxyModel.h>
 
@@ -278,5 +279,5 @@ void tst_OverflowListProxyModel::followsItsSourceThroughRandomChanges()
     }
 }
 
-QTEST_MAIN(tst_OverflowListProxyModel)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_OverflowListProxyModel)
 #include "tst_overflowlistproxymodel.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/ModelLog.h"
 #include "support/RandomSeed.h"
+#include "support/TestMain.h"
 
 #include <UiElements/models/SmallListModel.h>
 
@@ -307,5 +308,5 @@ void tst_SmallListModel::doesWhatAPlainListDoes()
     }
 }
 
-QTEST_MAIN(tst_SmallListModel)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_SmallListModel)
 #include "tst_smalllistmodel.moc"

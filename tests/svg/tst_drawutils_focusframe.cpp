@@ -2,6 +2,7 @@
 #include "support/Guards.h"
 #include "support/Pixels.h"
 #include "support/RecordingStyle.h"
+#include "support/TestMain.h"
 
 #include <UiElements/svg/DrawUtils.h>
 
@@ -274,5 +275,5 @@ void tst_DrawUtilsFocusFrame::asksNoStyleWhereThePropertyIsFalse()
     QVERIFY(!widget.property("hasCustomRect").isValid());
 }
 
-QTEST_MAIN(tst_DrawUtilsFocusFrame)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_DrawUtilsFocusFrame)
 #include "tst_drawutils_focusframe.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/Pixels.h"
+#include "support/TestMain.h"
 
 #include <UiElements/svg/DrawUtils.h>
 
@@ -176,5 +177,5 @@ void tst_DrawUtilsGeometry::smoothsAPixmapThatItScales()
     QVERIFY(Pixels::countNear(scaled, Qt::gray) > 0);
 }
 
-QTEST_MAIN(tst_DrawUtilsGeometry)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_DrawUtilsGeometry)
 #include "tst_drawutils_geometry.moc"

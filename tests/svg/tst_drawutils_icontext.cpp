@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/Guards.h"
+#include "support/TestMain.h"
 
 #include <UiElements/svg/DrawUtils.h>
 
@@ -126,5 +127,5 @@ void tst_DrawUtilsIconText::reckonsInSinglePrecision()
     QCOMPARE(icon, QPointF(0, 0));
 }
 
-QTEST_MAIN(tst_DrawUtilsIconText)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_DrawUtilsIconText)
 #include "tst_drawutils_icontext.moc"

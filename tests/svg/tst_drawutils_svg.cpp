@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/Pixels.h"
 #include "support/SvgFiles.h"
+#include "support/TestMain.h"
 
 #include <UiElements/svg/DrawUtils.h>
 
@@ -389,5 +390,5 @@ void tst_DrawUtilsSvg::rendersNoPixmapWithoutANode()
                     .isNull());
 }
 
-QTEST_MAIN(tst_DrawUtilsSvg)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_DrawUtilsSvg)
 #include "tst_drawutils_svg.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/Pixels.h"
+#include "support/TestMain.h"
 
 #include <UiElements/svg/DrawUtils.h>
 
@@ -29,5 +30,5 @@ void tst_DrawUtilsWithoutApplication::paintsADottedFrame()
     QCOMPARE(Pixels::countNear(image, Qt::red), 12);
 }
 
-QTEST_APPLESS_MAIN(tst_DrawUtilsWithoutApplication)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_DrawUtilsWithoutApplication)
 #include "tst_drawutils_withoutapplication.moc"

@@ -2,6 +2,7 @@
 #include "support/Faces.h"
 #include "support/Pixels.h"
 #include "support/SvgFiles.h"
+#include "support/TestMain.h"
 
 #include <UiElements/svg/OxaSvgIcon.h>
 
@@ -375,5 +376,5 @@ void tst_OxaSvgIcon::asksNobodyToRepaint()
     QCOMPARE(repaintNeeded.size(), 0);
 }
 
-QTEST_MAIN(tst_OxaSvgIcon)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_OxaSvgIcon)
 #include "tst_oxasvgicon.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Frames.h"
 #include "support/SvgFiles.h"
+#include "support/TestMain.h"
 
 #include <UiElements/svg/OxaSvgRenderer.h>
 
@@ -301,5 +302,5 @@ void tst_OxaSvgRenderer::forgetsTheFramesOfAFileThatWasReplaced()
     QCOMPARE(repaintNeeded.size(), 0);
 }
 
-QTEST_MAIN(tst_OxaSvgRenderer)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_OxaSvgRenderer)
 #include "tst_oxasvgrenderer.moc"

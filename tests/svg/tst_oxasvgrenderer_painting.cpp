@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/Pixels.h"
 #include "support/SvgFiles.h"
+#include "support/TestMain.h"
 
 #include <UiElements/svg/OxaSvgRenderer.h>
 
@@ -366,5 +367,5 @@ void tst_OxaSvgRendererPainting::rendersNothingForNamesThatFail()
     QCOMPARE(icon.availableSizes(QIcon::Normal, QIcon::Off), { QSize(16, 16) });
 }
 
-QTEST_MAIN(tst_OxaSvgRendererPainting)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_OxaSvgRendererPainting)
 #include "tst_oxasvgrenderer_painting.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/ColorSets.h"
+#include "support/TestMain.h"
 
 #include <UiElements/theme/StateColor_p.h>
 
@@ -83,5 +84,5 @@ void tst_StateColor::skipsFocusWithoutAColorOfItsOwn()
     QCOMPARE(colorForStyleState(set, state), set.colorForState(color));
 }
 
-QTEST_APPLESS_MAIN(tst_StateColor)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_StateColor)
 #include "tst_statecolor.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
 #include <UiElements/svg/VisualUtils.h>
 
 #include <QApplication>
@@ -318,5 +320,5 @@ void tst_VisualUtils::keepsAltGrTextFromAShortcut()
     QTEST(activated.size(), "activations");
 }
 
-QTEST_MAIN(tst_VisualUtils)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_VisualUtils)
 #include "tst_visualutils.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/ColorSets.h"
+#include "support/TestMain.h"
 
 #include <QMetaProperty>
 #include <QTest>
@@ -192,5 +193,5 @@ void tst_OxaColorSet::differsWhenTheNameDiffers()
     QVERIFY(set != sixColors());
 }
 
-QTEST_APPLESS_MAIN(tst_OxaColorSet)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaColorSet)
 #include "tst_oxacolorset.moc"

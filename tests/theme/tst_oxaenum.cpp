@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
 #include <UiElements/theme/OxaEnum.h>
 
 #include <QMetaEnum>
@@ -32,5 +34,5 @@ void tst_OxaEnum::isRegisteredWithItsNamesAndValues()
     QCOMPARE(entries.join(QLatin1String(", ")), enumerators);
 }
 
-QTEST_APPLESS_MAIN(tst_OxaEnum)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaEnum)
 #include "tst_oxaenum.moc"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "StyleTexts.h"
 #include "support/Pixels.h"
+#include "support/TestMain.h"
 
 #include <QDebug>
 #include <QLabel>
@@ -250,5 +251,5 @@ void tst_StyleSheetShapes::matchesNothingByAClassInANamespace()
     QVERIFY(label.palette().color(QPalette::Window) != panel);
 }
 
-QTEST_MAIN(tst_StyleSheetShapes)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_StyleSheetShapes)
 #include "tst_stylesheetshapes.moc"

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
 #include <UiElements/emoji/OxaEmojiPushButton.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
@@ -276,5 +278,5 @@ void tst_WidgetMembers::holdThePropertiesOfQtWhoseSettersAreReplaced()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_WidgetMembers)
+UIELEMENTS_APPLESS_TEST_MAIN(tst_WidgetMembers)
 #include "tst_widgetmembers.moc"

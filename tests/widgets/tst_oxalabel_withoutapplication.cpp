@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/Guards.h"
 #include "support/Pixels.h"
+#include "support/TestMain.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
@@ -106,5 +107,5 @@ void tst_OxaLabelWithoutApplication::hasTheFontOfItsTokenUnscaled()
              QStringList({ QStringLiteral("Segoe UI"), QStringLiteral("Segoe UI Emoji") }));
 }
 
-QTEST_MAIN(tst_OxaLabelWithoutApplication)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_OxaLabelWithoutApplication)
 #include "tst_oxalabel_withoutapplication.moc"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/Guards.h"
+#include "support/TestMain.h"
 
 #include <UiElements/widgets/OxaWidget.h>
 
@@ -33,5 +34,5 @@ void tst_OxaWidgetWithoutApplication::takesAStyleTextAsItIs()
     QCOMPARE(widget.getOxaCSS().plainStyleSheet, QString());
 }
 
-QTEST_MAIN(tst_OxaWidgetWithoutApplication)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_OxaWidgetWithoutApplication)
 #include "tst_oxawidget_withoutapplication.moc"
