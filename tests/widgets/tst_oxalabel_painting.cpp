@@ -289,21 +289,21 @@ void tst_OxaLabelPainting::putsTheTextOnItsSide_data()
     const Qt::Alignment right = Qt::AlignRight;
     const QString latin = QStringLiteral("text");
     const QString hebrew = QStringLiteral("\u05e9\u05dc\u05d5\u05dd");
-    // QLabel mirrors the alignment by the direction of the text, one line is never mirrored, and
-    // wrapped lines are by the direction of the label.
+    // QLabel mirrors the alignment by the direction of the text; a single line and wrapped lines
+    // are never mirrored.
     QTest::newRow("left") << Qt::LeftToRight << left << latin << QStringLiteral("left left left");
     QTest::newRow("right") << Qt::LeftToRight << right << latin
                            << QStringLiteral("right right right");
     QTest::newRow("left, in Hebrew")
             << Qt::LeftToRight << left << hebrew << QStringLiteral("right left left");
     QTest::newRow("left, right to left")
-            << Qt::RightToLeft << left << latin << QStringLiteral("left left right");
+            << Qt::RightToLeft << left << latin << QStringLiteral("left left left");
     QTest::newRow("right, right to left")
-            << Qt::RightToLeft << right << latin << QStringLiteral("right right left");
+            << Qt::RightToLeft << right << latin << QStringLiteral("right right right");
     QTest::newRow("left, right to left in Hebrew")
-            << Qt::RightToLeft << left << hebrew << QStringLiteral("right left right");
+            << Qt::RightToLeft << left << hebrew << QStringLiteral("right left left");
     QTest::newRow("right, right to left in Hebrew")
-            << Qt::RightToLeft << right << hebrew << QStringLiteral("left right left");
+            << Qt::RightToLeft << right << hebrew << QStringLiteral("left right right");
 }
 
 void tst_OxaLabelPainting::putsTheTextOnItsSide()
