@@ -11,20 +11,13 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
-namespace {
-
-/// Around a body that scrolls, which takes the focus so that keys can scroll it.
-constexpr int focusFrame = 2;
-
-} // namespace
-
 Page::Page(const QString &title, const QString &summary, QWidget *parent)
     : OxaWidget(parent), m_body(new QVBoxLayout)
 {
     m_body->setSpacing(Metrics::spacing);
     auto *head = new QVBoxLayout;
     head->setContentsMargins(Metrics::margin, Metrics::gap, Metrics::margin,
-                             Metrics::spacing - focusFrame);
+                             Metrics::spacing - ScrollArea::focusBorder);
     head->setSpacing(Metrics::tight);
     head->addWidget(Labels::title(title, this));
     head->addWidget(Labels::paragraph(summary, this));
@@ -41,16 +34,14 @@ Page::Page(const QString &title, const QString &summary, QWidget *parent)
 ScrollArea *Page::makeArea()
 {
     auto *area = new ScrollArea(this);
-    area->setCSS(QStringLiteral("ScrollArea { border: %1px solid transparent; }"
-                                "ScrollArea:focus { border-color: $(gallery-focus-border); }")
-                         .arg(focusFrame));
+    area->showFocus();
     auto *contents = new OxaWidget(area->viewport());
     contents->setLayout(m_body);
     const QScrollBar *bar = area->verticalScrollBar();
     // Cards are as wide with a scroll bar beside them as without. Tab stops at what keys can
     // scroll.
     const auto followBar = [area, contents, bar] {
-        constexpr int side = Metrics::margin - focusFrame;
+        constexpr int side = Metrics::margin - ScrollArea::focusBorder;
         const bool scrolls = bar->maximum() > 0;
         area->setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
         contents->setLayoutContentsMargins(side, 0, side - (scrolls ? Metrics::scrollBar : 0),

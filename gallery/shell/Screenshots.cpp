@@ -44,6 +44,9 @@ constexpr DirectionName directions[] = {
 
 constexpr int scales[] = { 1, 2 };
 
+/// Compresses a picture little: those of long pages have millions of pixels.
+constexpr int quickly = 80;
+
 QImage pictureOf(QWidget &window, int scale)
 {
     QImage image(window.size() * scale, QImage::Format_RGB32);
@@ -60,7 +63,7 @@ bool takeScales(QWidget &window, const QDir &folder, const QString &name, QStrin
 {
     for (const int scale : scales) {
         const QString path = folder.filePath(QStringLiteral("%1@%2x.png").arg(name).arg(scale));
-        if (!pictureOf(window, scale).save(path)) {
+        if (!pictureOf(window, scale).save(path, "PNG", quickly)) {
             problem = QCoreApplication::translate("Screenshots", "cannot write %1").arg(path);
             return false;
         }
@@ -80,6 +83,8 @@ void showWholePage(GalleryWindow &window)
         const auto *area = window.findChild<PageStack *>()
                                    ->currentWidget()
                                    ->findChild<ScrollArea *>(QString(), Qt::FindDirectChildrenOnly);
+        if (area->verticalScrollBar()->maximum() == 0)
+            return;
         window.resize(window.width(), window.height() + area->verticalScrollBar()->maximum());
     }
     QCoreApplication::processEvents();

@@ -70,18 +70,22 @@ void TabOrder::followLayouts(QWidget *parent)
 {
     std::vector<QWidget *> widgets;
     appendContents(*parent, widgets);
+    // Qt has no place in its order for a widget that has no focus policy at that time.
+    std::vector<QWidget *> choices;
     QWidget *previous = nullptr;
     for (QWidget *widget : widgets) {
-        const Qt::FocusPolicy policy = widget->focusPolicy();
-        if (policy == Qt::NoFocus && !isChoice(*widget))
-            continue;
-        // Qt has no place in its order for a widget without a focus policy.
-        widget->setFocusPolicy(Qt::StrongFocus);
+        if (widget->focusPolicy() == Qt::NoFocus) {
+            if (!isChoice(*widget))
+                continue;
+            widget->setFocusPolicy(Qt::TabFocus);
+            choices.push_back(widget);
+        }
         if (previous)
             QWidget::setTabOrder(previous, widget);
-        widget->setFocusPolicy(policy);
         previous = widget;
     }
+    for (QWidget *choice : choices)
+        choice->setFocusPolicy(Qt::NoFocus);
 }
 
 QString TabOrder::describe(const QWidget &widget)

@@ -119,7 +119,7 @@ void PropertyControls::add(const QMetaProperty &property)
     if (std::any_of(std::begin(commonProperties), std::end(commonProperties), isThis)
         || hasControl(name))
         return;
-    for (const auto &[ending, choices] : m_offers) {
+    for (const auto &[ending, choices] : qAsConst(m_offers)) {
         if (QByteArray(name).endsWith(ending))
             return addChoiceOf(name, choices);
     }
@@ -239,6 +239,20 @@ void PropertyControls::addNumber(const QString &name, int minimum, int maximum, 
                             [this, apply](int number) { applyToAll(apply, number); });
 }
 
+void PropertyControls::addWidth(int narrowest, int widest)
+{
+    addNumber(tr("setFixedWidth()"), narrowest, widest, front()->minimumWidth(),
+              [](QWidget *widget, const QVariant &width) { widget->setFixedWidth(width.toInt()); });
+}
+
+void PropertyControls::addHeight(int lowest, int highest)
+{
+    addNumber(tr("setFixedHeight()"), lowest, highest, front()->minimumHeight(),
+              [](QWidget *widget, const QVariant &height) {
+                  widget->setFixedHeight(height.toInt());
+              });
+}
+
 void PropertyControls::addReading(const QString &name, const std::function<QString()> &read)
 {
     OxaLabel *label = addValue(name);
@@ -248,7 +262,7 @@ void PropertyControls::addReading(const QString &name, const std::function<QStri
 void PropertyControls::refresh()
 {
     const QScopedValueRollback<bool> guard(m_isRefreshing, true);
-    for (const auto &show : m_refreshers)
+    for (const auto &show : qAsConst(m_refreshers))
         show();
 }
 

@@ -53,6 +53,10 @@ public:
     /// Adds a slider, at \a value at first, for what is not a property, and is set by \a apply.
     void addNumber(const QString &name, int minimum, int maximum, int value, const Apply &apply);
 
+    /// Adds sliders for setFixedWidth() and setFixedHeight() of widgets that have such a size.
+    void addWidth(int narrowest, int widest);
+    void addHeight(int lowest, int highest);
+
     /// Adds a text that \a read returns, and that is read anew with all values.
     void addReading(const QString &name, const std::function<QString()> &read);
 

@@ -15,7 +15,8 @@ CodeEdit::CodeEdit(QWidget *parent) : QPlainTextEdit(parent)
                           "$textColors: gallery-code-text;"
                           "CodeEdit { padding: 4px; }"
                           // Under the pointer, too, one sees where the focus is.
-                          "CodeEdit:focus { border-color: $(gallery-field-border.focused); }"));
+                          "CodeEdit:focus { padding: 3px;"
+                          " border: 2px solid $(gallery-focus-border); }"));
 }
 
 void CodeEdit::setMinimumLines(int lines)

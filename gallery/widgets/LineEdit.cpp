@@ -12,7 +12,8 @@ LineEdit::LineEdit(QWidget *parent) : QLineEdit(parent)
                           "$borderRadius: 6;"
                           "LineEdit { padding: 6px 8px; }"
                           // Under the pointer, too, one sees where the focus is.
-                          "LineEdit:focus { border-color: $(gallery-field-border.focused); }"));
+                          "LineEdit:focus { padding: 5px 7px;"
+                          " border: 2px solid $(gallery-focus-border); }"));
 }
 
 void LineEdit::onThemeChanged() { }

@@ -29,8 +29,8 @@ QString ListView::frameStyleText()
                           // Rows stay clear of the round corners.
                           "QAbstractScrollArea { padding: 3px; }"
                           // Under the pointer, too, one sees where the focus is.
-                          "QAbstractScrollArea:focus {"
-                          " border-color: $(gallery-field-border.focused); }");
+                          "QAbstractScrollArea:focus { padding: 2px;"
+                          " border: 2px solid $(gallery-focus-border); }");
 }
 
 void ListView::onThemeChanged() { refresh(); }

@@ -11,6 +11,13 @@ ScrollArea::ScrollArea(QWidget *parent) : QScrollArea(parent)
     setWidgetResizable(true);
 }
 
+void ScrollArea::showFocus()
+{
+    setCSS(QStringLiteral("ScrollArea { border: %1px solid transparent; }"
+                          "ScrollArea:focus { border-color: $(gallery-focus-border); }")
+                   .arg(focusBorder));
+}
+
 void ScrollArea::setContents(QWidget *contents)
 {
     setWidget(contents);

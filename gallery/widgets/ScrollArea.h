@@ -14,6 +14,12 @@ class ScrollArea : public QScrollArea
 public:
     explicit ScrollArea(QWidget *parent = nullptr);
 
+    /// The width of the border that showFocus() adds.
+    static constexpr int focusBorder = 2;
+
+    /// Shows by a border that the area has the focus, for an area that keys scroll.
+    void showFocus();
+
     /// Shows \a contents, over the ground that the area lies on.
     void setContents(QWidget *contents);
 

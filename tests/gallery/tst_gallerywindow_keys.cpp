@@ -3,8 +3,8 @@
 #include "GalleryTest.h"
 
 #include <shell/GalleryWindow.h>
-#include <shell/HeaderBar.h>
 #include <shell/NavigationList.h>
+#include <shell/PageRegistry.h>
 #include <shell/PageStack.h>
 #include <shell/TabOrder.h>
 #include <support/RealInput.h>
@@ -69,6 +69,8 @@ private Q_SLOTS:
     void choosesTheFirstAndTheLastPageByHomeAndEnd();
     void clearsASearchByEscape();
     void showsTheCurrentCellOfATable();
+    void showsWhereTheFocusIs_data();
+    void showsWhereTheFocusIs();
 };
 
 void tst_GalleryWindow_keys::entersASegmentedControlAtItsCurrentMember()
@@ -170,6 +172,31 @@ void tst_GalleryWindow_keys::showsTheCurrentCellOfATable()
     QVERIFY(RealInput::typeKeys({ QStringLiteral("Right") }));
     QTRY_VERIFY(frameIsAt(first.siblingAtColumn(1)));
     QVERIFY(!frameIsAt(first));
+}
+
+void tst_GalleryWindow_keys::showsWhereTheFocusIs_data()
+{
+    QTest::addColumn<QByteArray>("page");
+    for (const QString &name : pageNames())
+        QTest::newRow(qPrintable(name)) << name.toLatin1();
+}
+
+void tst_GalleryWindow_keys::showsWhereTheFocusIs()
+{
+    QFETCH(const QByteArray, page);
+    Shown shown(page.constData());
+    QVERIFY(shown.isActive);
+    QStringList unseen;
+    for (QWidget *stop : TabOrder::of(&shown.window)) {
+        if (QWidget *focused = shown.window.focusWidget())
+            focused->clearFocus();
+        const QImage without = stop->grab().toImage();
+        stop->setFocus(Qt::TabFocusReason);
+        // Tiles are one stop, which hands the focus to the first of them.
+        if (stop->grab().toImage() == without)
+            unseen += TabOrder::describe(*stop);
+    }
+    QCOMPARE(unseen.join(QLatin1Char('\n')), QString());
 }
 
 GALLERY_TEST_MAIN(tst_GalleryWindow_keys)

@@ -261,8 +261,11 @@ void tst_ListsPage::showsAsManyAvatarsAsThereIsRoomFor()
 {
     QFETCH(const int, width);
     QFETCH(const int, hidden);
-    const std::unique_ptr<Page> page(Pages::makeLists(nullptr));
-    page->show();
+    QWidget window;
+    Page *page = Pages::makeLists(&window);
+    window.resize(1000, 800);
+    page->resize(window.size());
+    window.show();
     auto *bar = page->findChild<OverflowBar *>();
     Controls::called<Slider>(*page, "Width")->setValue(width);
     QTRY_COMPARE(bar->width(), width);

@@ -30,7 +30,8 @@ EmojiEdit::EmojiEdit(QWidget *parent) : QTextEdit(parent)
                           "$borderRadius: 6;"
                           "EmojiEdit { padding: 4px; }"
                           // Under the pointer, too, one sees where the focus is.
-                          "EmojiEdit:focus { border-color: $(gallery-field-border.focused); }"));
+                          "EmojiEdit:focus { padding: 3px;"
+                          " border: 2px solid $(gallery-focus-border); }"));
     connect(this, &QTextEdit::textChanged, this, &EmojiEdit::showArtwork);
 }
 

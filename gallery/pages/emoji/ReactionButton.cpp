@@ -37,7 +37,11 @@ void ReactionButton::showCount()
             : QStringLiteral("$backgroundColors: gallery-chip-background;"
                              "$borderColors: gallery-chip-border;"
                              "$textColors: gallery-chip-text;");
-    setCSS(colors + QStringLiteral("$borderRadius: 8;"));
+    setCSS(colors
+           + QStringLiteral(
+                     "$borderRadius: 8;"
+                     "ReactionButton:focus { border: 2px solid $(gallery-focus-border.%1); }")
+                     .arg(m_isMine ? QLatin1String("checked") : QLatin1String("normal")));
     setText(QStringLiteral("%1 %2").arg(m_emoji).arg(m_count));
     setAccessibleName(m_isMine ? tr("%1, %2, one of them yours").arg(m_emoji).arg(m_count)
                                : tr("%1, %2").arg(m_emoji).arg(m_count));

@@ -70,6 +70,7 @@ IconDetails::IconDetails(IconRenderers *renderers, QWidget *parent)
 
     auto *area = new ScrollArea(this);
     area->setAccessibleName(tr("About the icon"));
+    area->showFocus();
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setContents(contents);
     auto *frame = new QVBoxLayout(this);

@@ -115,14 +115,6 @@ void addRoles(PropertyControls *controls)
                       { tr("MenuItem"), QAccessible::MenuItem } });
 }
 
-void addWidth(PropertyControls *controls, int width)
-{
-    controls->addNumber(tr("setFixedWidth()"), narrowest, widest, width,
-                        [](QWidget *widget, const QVariant &value) {
-                            widget->setFixedWidth(value.toInt());
-                        });
-}
-
 void addPushButton(Page &page)
 {
     auto *controls = WidgetCard::add(
@@ -138,7 +130,7 @@ void addPushButton(Page &page)
     addPictures(controls);
     addRoles(controls);
     controls->addAll();
-    addWidth(controls, firstWidth);
+    controls->addWidth(narrowest, widest);
 }
 
 void addUnderlineButton(Page &page)
@@ -183,7 +175,7 @@ void addUnderlineButton(Page &page)
                         { { tr("Accent"), QStringLiteral("gallery-accent") },
                           { tr("Busy"), QStringLiteral("presence-busy") } },
                         underline);
-    addWidth(controls, 128);
+    controls->addWidth(narrowest, widest);
 }
 
 void addToggleButton(Page &page)

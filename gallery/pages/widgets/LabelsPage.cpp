@@ -47,18 +47,6 @@ PropertyControls::Choices texts()
              { tr("Hebrew"), QStringLiteral("פגישת הצוות השבועית מחר בשעה עשר בבוקר") } };
 }
 
-void addSize(PropertyControls *controls)
-{
-    controls->addNumber(tr("setFixedWidth()"), narrowest, widest, firstWidth,
-                        [](QWidget *widget, const QVariant &width) {
-                            widget->setFixedWidth(width.toInt());
-                        });
-    controls->addNumber(tr("setFixedHeight()"), firstHeight, highest, firstHeight,
-                        [](QWidget *widget, const QVariant &height) {
-                            widget->setFixedHeight(height.toInt());
-                        });
-}
-
 void addText(Page &page)
 {
     auto *controls = WidgetCard::add(
@@ -82,7 +70,8 @@ void addText(Page &page)
                         });
     controls->setRange("elidePadding", 0, 96);
     controls->addAll();
-    addSize(controls);
+    controls->addWidth(narrowest, widest);
+    controls->addHeight(firstHeight, highest);
 }
 
 /// Paints the star of \a widget over with the colour set that it was given.

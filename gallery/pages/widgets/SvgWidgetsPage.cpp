@@ -75,14 +75,6 @@ void addControls(PropertyControls *controls, const Choice &own)
     controls->addAll();
 }
 
-void addWidth(PropertyControls *controls)
-{
-    controls->addNumber(tr("setFixedWidth()"), narrowest, widest, widest,
-                        [](QWidget *widget, const QVariant &width) {
-                            widget->setFixedWidth(width.toInt());
-                        });
-}
-
 /// Adds a choice for a function that shows and hides an icon.
 template <typename ButtonClass>
 void addVisibility(PropertyControls *controls, const QString &name,
@@ -108,7 +100,7 @@ void addLabel(Page &page)
                              "$textColors: gallery-chip-text;");
             });
     addControls(controls, { tr("Bell"), icon("bell_24") });
-    addWidth(controls);
+    controls->addWidth(narrowest, widest);
 }
 
 void addButton(Page &page)
@@ -124,7 +116,7 @@ void addButton(Page &page)
             });
     addControls(controls, { tr("Star"), icon("star_16") });
     addVisibility(controls, tr("setSvgIconVisible()"), &OxaSvgPushButton::setSvgIconVisible);
-    addWidth(controls);
+    controls->addWidth(narrowest, widest);
 }
 
 void addAnchorButton(Page &page)
@@ -145,7 +137,7 @@ void addAnchorButton(Page &page)
     addVisibility(controls, tr("setSvgIconVisible()"), &OxaSvgPushButton::setSvgIconVisible);
     addVisibility(controls, tr("setAnchorIconVisible()"),
                   &OxaSvgAnchorButton::setAnchorIconVisible);
-    addWidth(controls);
+    controls->addWidth(narrowest, widest);
 }
 
 void addPill(Page &page)
@@ -179,10 +171,7 @@ void addPill(Page &page)
         controls->offer(name, texts);
     addControls(controls, { tr("Mention"), icon("mention_16") });
     addVisibility(controls, tr("setSvgIconVisible()"), &OxaSvgPushButton::setSvgIconVisible);
-    controls->addNumber(tr("setFixedHeight()"), 24, 64, pillHeight,
-                        [](QWidget *widget, const QVariant &height) {
-                            widget->setFixedHeight(height.toInt());
-                        });
+    controls->addHeight(24, 64);
 }
 
 } // namespace
