@@ -80,6 +80,8 @@ void TableView::applyLook()
                           "$borderRadius: 8;"
                           // The delegate paints the ground of a chosen row.
                           "TableView { padding: 1px; selection-background-color: transparent; }"
+                          "TableView:focus { padding: 0;"
+                          " border: 2px solid $(gallery-focus-border); }"
                           "QHeaderView, QHeaderView::section {"
                           " background: $(gallery-card-background); border: none;"
                           " color: $(gallery-caption-text); }"

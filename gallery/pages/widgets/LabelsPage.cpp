@@ -25,7 +25,8 @@ QWidget *makeSample()
     // With a visible background, so that one sees how wide it is.
     label->setCSS(QStringLiteral("$backgroundColors: gallery-code-background;"
                                  "$borderColors: gallery-card-border; $borderRadius: 4;"
-                                 "$textColors: gallery-body-text;"));
+                                 "$textColors: gallery-body-text;"
+                                 "OxaLabel:focus { border: 2px solid $(gallery-focus-border); }"));
     label->setMargin(Metrics::small);
     label->setElideMode(Qt::ElideRight);
     label->setFixedSize(firstWidth, firstHeight);
