@@ -10,15 +10,8 @@ AlignedLabel::AlignedLabel(const QString &text, QWidget *parent, Place place)
     align();
 }
 
-void AlignedLabel::setText(const QString &text)
-{
-    OxaLabel::setText(text);
-    align();
-}
-
 void AlignedLabel::align()
 {
-    setLayoutDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     const Qt::Alignment start = QGuiApplication::isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
     const Qt::Alignment across = m_place == Place::Centre ? Qt::AlignHCenter
                                                           : start | Qt::AlignAbsolute;

@@ -5,7 +5,6 @@
 
 /// A label that keeps its text where the layout wants it, whatever language the text is in.
 ///
-/// The ellipsis of an elided text stands at the end of the text, not of the layout's lines.
 /// OxaLabel takes the side that suits an interface whose texts run as its layout does, and takes it
 /// anew at each change of the direction. The gallery shows English from right to left as well.
 class AlignedLabel : public OxaLabel
@@ -21,8 +20,6 @@ public:
 
     explicit AlignedLabel(const QString &text, QWidget *parent = nullptr,
                           Place place = Place::Start);
-
-    void setText(const QString &text) override;
 
 private:
     void align();

@@ -323,6 +323,11 @@ void tst_SignalsPage::keepsTheChosenSignalThroughASearch()
                             "Qt::ArrowType arrow)"));
     search->setText(QStringLiteral("guid"));
     QCOMPARE(chosen(), QStringLiteral("navigateToSpace"));
+    search->setText(QStringLiteral("contactPerson"));
+    const auto labels = page.page.findChildren<OxaLabel *>();
+    QVERIFY(std::any_of(labels.begin(), labels.end(), [](const OxaLabel *label) {
+        return label->text() == QLatin1String("1 signal");
+    }));
     search->setText(QStringLiteral("nowhere"));
     QVERIFY(!page.view.currentIndex().isValid());
     search->clear();
