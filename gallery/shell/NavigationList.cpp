@@ -84,13 +84,13 @@ void NavigationList::addEntries(QVBoxLayout *column)
 
 OxaToggleButton *NavigationList::addItem(const PageEntry &entry)
 {
-    auto *item = Buttons::makeChoice(
-            entry.title,
-            look("gallery-sidebar-item", "gallery-sidebar-item-text",
-                 "gallery-focus-border.normal"),
-            look("gallery-sidebar-current-item", "gallery-sidebar-current-item-text",
-                 "gallery-focus-border.checked"),
-            this);
+    auto *item = Buttons::makeChoice(entry.title,
+                                     look("gallery-sidebar-item", "gallery-sidebar-item-text",
+                                          "gallery-focus-border.normal"),
+                                     look("gallery-sidebar-current-item",
+                                          "gallery-sidebar-current-item-text",
+                                          "gallery-focus-border.checked"),
+                                     this);
     item->setFontToken(OxaFont::Token::TagLabelPrimary);
     connect(item, &OxaToggleButton::clicked, this, [this, item, name = entry.name] {
         m_area->ensureWidgetVisible(item);
