@@ -61,6 +61,9 @@ void OxaEmojiLabel::fillDocument(qreal textWidth)
     else
         m_document->setHtml(QLatin1String("<div ") + createStyle() + QLatin1Char('>') + m_elidedHtml
                             + QLatin1String("</div>"));
+    // A parsed sheet takes as much as an empty document, and does nothing for it any more.
+    if (m_document->isEmpty())
+        m_document->setDefaultStyleSheet(QString());
 }
 
 QString OxaEmojiLabel::createElidedLine(const QString &text, bool elide, const QString &separator)

@@ -58,6 +58,7 @@ private Q_SLOTS:
     void keepsNoPictureOfEarlierTexts();
     void followsTheFont();
     void takesTheStyleSheetForItsDocument();
+    void keepsNoParsedStyleSheetWithoutText();
 
 private:
     std::unique_ptr<Surroundings> m_surroundings;
@@ -235,6 +236,20 @@ void tst_OxaEmojiLabelRefresh::takesTheStyleSheetForItsDocument()
     label.setStyleSheet(QString());
     label.updateText();
     QVERIFY(shownColor(label) != QColor(0x12, 0x34, 0x56));
+}
+
+void tst_OxaEmojiLabelRefresh::keepsNoParsedStyleSheetWithoutText()
+{
+    EmojiLabel label;
+    const int heightBefore = label.sizeHint().height();
+    label.setStyleSheet(QStringLiteral("div { font-size: 40px; }"));
+    label.updateText();
+    QCOMPARE(label.document().defaultStyleSheet(), QString());
+    QVERIFY(label.sizeHint().height() > heightBefore); // It counted all the same.
+    label.setText(QStringLiteral("text"));
+    QCOMPARE(label.document().defaultStyleSheet(), label.styleSheet());
+    label.setText(QString());
+    QCOMPARE(label.document().defaultStyleSheet(), QString());
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaEmojiLabelRefresh)
