@@ -48,6 +48,7 @@ OxaThemeUtils::CSSParserResult OxaThemeUtils::parseCSS(const QString &selector,
     data.plainStyleSheet = styleText;
     removeOxaCSSFromStyleSheet(data.plainStyleSheet);
 
+    sheet.squeeze(); // A widget keeps it, and not the room that it has grown by.
     result.expandedStyleSheet = sheet;
     return result;
 }
