@@ -12,6 +12,16 @@
 
 using OxaThemeUtils::AppThemeType;
 
+namespace {
+
+void keep(OxaColorSet *place, const OxaColorSet &set)
+{
+    if (place)
+        *place = set;
+}
+
+} // namespace
+
 void OxaThemeBlock::followTheme()
 {
     m_class.followTheme(m_widget);
@@ -25,8 +35,8 @@ void OxaThemeBlock::setCSS(const QString &styleText)
             WidgetStyleText::parse(m_widget, effectiveThemeType(), m_styleText,
                                    OxaThemeUtils::getAppOxaColorSets());
     m_cssData = result.oxaCSS;
-    if (m_keptSets)
-        *m_keptSets = { result.backgroundColorSet, result.borderColorSet, result.textColorSet };
+    keep(m_keptSets.text, result.textColorSet);
+    keep(m_keptSets.background, result.backgroundColorSet);
 
     const QString &sheet = result.expandedStyleSheet;
     // Switched on only: who has a use for it besides, as rules of a parent's sheet, keeps it.

@@ -11,13 +11,12 @@
 #include <QObject>
 #include <QWidget>
 
-/// The colour sets that a widget's style text names, for widgets that paint with them by
-/// themselves.
-struct OxaStyleColorSets
+/// Where a widget keeps the colour sets of its style text that it paints with by itself; null where
+/// it has no use for a set.
+struct OxaKeptColorSets
 {
-    OxaColorSet background;
-    OxaColorSet border;
-    OxaColorSet text;
+    OxaColorSet *text = nullptr;
+    OxaColorSet *background = nullptr;
 };
 
 /// Binds a widget to the theme: the behaviour behind UIELEMENTS_THEME_BLOCK.
@@ -36,11 +35,11 @@ public:
         StyledBackground, ///< Has a plain QWidget paint its sheet's background; follows no name.
     };
 
-    /// Serves \a widget, which must outlive the block. With \a keptSets each setCSS() leaves the
-    /// sets of the style text there.
+    /// Serves \a widget, which must outlive the block. Each setCSS() leaves the sets of the style
+    /// text where \a keptSets points.
     template <typename Widget>
     explicit OxaThemeBlock(Widget *widget, Form form = Form::Full,
-                           OxaStyleColorSets *keptSets = nullptr)
+                           const OxaKeptColorSets &keptSets = {})
         : m_widget(widget), m_class(classOf<Widget>), m_form(form), m_keptSets(keptSets)
     {
     }
@@ -108,7 +107,7 @@ private:
     const WidgetClass &m_class;
     const Form m_form;
     int m_change = 0; ///< The change that the widget is handing down.
-    OxaStyleColorSets *const m_keptSets;
+    const OxaKeptColorSets m_keptSets;
     QString m_styleText;
     OxaCSSData m_cssData;
     QString m_themeType = QStringLiteral("global");

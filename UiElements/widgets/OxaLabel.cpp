@@ -33,7 +33,7 @@ OxaLabel::OxaLabel(QWidget *parent, QAccessible::Role role, Qt::WindowFlags flag
 OxaLabel::OxaLabel(const QString &text, QWidget *parent, QAccessible::Role role,
                    Qt::WindowFlags flags)
     : QLabel(parent, flags),
-      m_themeBlock(this, OxaThemeBlock::Form::Full, &m_colorSets),
+      m_themeBlock(this, OxaThemeBlock::Form::Full, { &m_textColors, &m_backgroundColors }),
       m_accessibleRole(role)
 {
     OxaLabel::setTextFormat(Qt::PlainText);
@@ -109,7 +109,7 @@ void OxaLabel::onThemeChanged()
     setText(m_rawText);
 }
 
-const OxaColorSet &OxaLabel::textColors() const { return m_colorSets.text; }
+const OxaColorSet &OxaLabel::textColors() const { return m_textColors; }
 
 void OxaLabel::mouseReleaseEvent(QMouseEvent *event)
 {

@@ -121,7 +121,8 @@ private:
     int paintParagraph(QPainter &painter, const QString &paragraph, int y) const;
     QColor frameGround() const;
 
-    OxaStyleColorSets m_colorSets;
+    OxaColorSet m_textColors;
+    OxaColorSet m_backgroundColors;
     OxaNamedColorSet m_linkColors { QStringLiteral("button-hyperlink-text") };
     QString m_rawText;
     QString m_shownText;

@@ -39,8 +39,8 @@ void OxaLabel::paintText(QPainter &painter, const QStyleOptionFrame &option) con
     // Once is enough: a second coat would show through a translucent background.
     if (!isFramePainted(*this))
         style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
-    if (m_colorSets.text.isValid())
-        painter.setPen(colorForStyleState(m_colorSets.text, option.state));
+    if (m_textColors.isValid())
+        painter.setPen(colorForStyleState(m_textColors, option.state));
     if (wordWrap())
         paintWrappedLines(painter);
     else
@@ -102,7 +102,7 @@ int OxaLabel::paintParagraph(QPainter &painter, const QString &paragraph, int y)
 QColor OxaLabel::frameGround() const
 {
     const auto isSeen = [](const QColor &color) { return color.isValid() && color.alpha() > 0; };
-    QColor ground = m_colorSets.background.normal;
+    QColor ground = m_backgroundColors.normal;
     for (const QWidget *widget = this; widget && !isSeen(ground); widget = widget->parentWidget())
         ground = widget->palette().color(widget->backgroundRole());
     return ground;

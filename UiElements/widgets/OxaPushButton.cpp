@@ -29,7 +29,7 @@ OxaPushButton::OxaPushButton(const QString &text, QWidget *parent, const QAccess
 OxaPushButton::OxaPushButton(const QIcon &icon, const QString &text, QWidget *parent,
                              const QAccessible::Role &role)
     : QPushButton(text, parent),
-      m_themeBlock(this, OxaThemeBlock::Form::Full, &m_colorSets),
+      m_themeBlock(this, OxaThemeBlock::Form::Full, { &m_textColors }),
       m_accessibleRole(role),
       m_useGlobalFocusBorders(FocusFrame::areBordersGlobal())
 {
@@ -117,7 +117,7 @@ QString OxaPushButton::getElidedText(const QString &text, int extraWidth, int si
 
 int OxaPushButton::getLineWidth() const { return m_elision.lineWidth(); }
 
-const OxaColorSet &OxaPushButton::textColors() const { return m_colorSets.text; }
+const OxaColorSet &OxaPushButton::textColors() const { return m_textColors; }
 
 const QPixmap &OxaPushButton::getPixmap() const { return m_pixmap; }
 

@@ -168,7 +168,7 @@ private:
     void paintFocusFrame(QPainter &painter, const QStyleOptionButton &option);
     void paintBadge(QPainter &painter) const;
 
-    OxaStyleColorSets m_colorSets;
+    OxaColorSet m_textColors;
     OxaNamedColorSet m_focusRectColorSet;
     QPixmap m_pixmap;
     QUuid m_objectId = QUuid::createUuid();
