@@ -21,6 +21,11 @@ constexpr int widgetCount = 100;
 
 const QString styleText = QStringLiteral("$backgroundColors: set-1; $textColors: set-2; "
                                          "$borderRadius: 4;");
+const QString shortText = QStringLiteral("See you at four");
+
+/// What is done with a widget before it is measured.
+const auto asNew = [](auto &) {};
+const auto withText = [](auto &widget) { widget.setText(shortText); };
 
 /// Returns how many bytes of heap a widget of \a make takes.
 template <typename Make>
@@ -34,20 +39,28 @@ double heapOf(Make make)
     return (double(mallinfo2().uordblks) - before) / widgetCount;
 }
 
-/// What comes with the peer where a class of ours has it by its nature.
-enum class Besides { Nothing, TextDocument };
+/// What comes with a peer that is given a sheet, where a class of ours has it by its nature.
+const auto nothing = [](const QString &) { return std::unique_ptr<QObject>(); };
+const auto emptyDocument = [](const QString &) { return std::make_unique<QTextDocument>(); };
+const auto filledDocument = [](const QString &sheet) {
+    auto document = std::make_unique<QTextDocument>();
+    document->setDefaultStyleSheet(sheet);
+    document->setHtml(shortText);
+    return document;
+};
 
 /// A widget with a style text, in bytes of heap, against the Qt class with the finished sheet.
-template <typename Widget, typename QtClass>
-void heap(benchmark::State &state, Besides besides = Besides::Nothing)
+template <typename Widget, typename QtClass, typename Use, typename Besides>
+void heap(benchmark::State &state, Use use, Besides besides)
 {
     OxaThemeUtils::setAppOxaColorSets(Stores::make(600));
     QString sheet;
-    const auto makeOurs = [&sheet](auto &objects) {
+    const auto makeOurs = [&](auto &objects) {
         auto widget = std::make_unique<Widget>();
         widget->setObjectName(QStringLiteral("w"));
         widget->setCSS(styleText);
         widget->ensurePolished();
+        use(*widget);
         sheet = widget->styleSheet();
         objects.push_back(std::move(widget));
     };
@@ -56,9 +69,9 @@ void heap(benchmark::State &state, Besides besides = Besides::Nothing)
         widget->setObjectName(QStringLiteral("w"));
         widget->setStyleSheet(sheet);
         widget->ensurePolished();
+        use(*widget);
         objects.push_back(std::move(widget));
-        if (besides == Besides::TextDocument)
-            objects.push_back(std::make_unique<QTextDocument>());
+        objects.push_back(besides(sheet));
     };
     // What both share is made before it is counted.
     heapOf(makeOurs);
@@ -72,27 +85,76 @@ void heap(benchmark::State &state, Besides besides = Besides::Nothing)
     comparison.ratioAtMost(1.15);
 }
 
-void container(benchmark::State &state) { heap<OxaWidget, QWidget>(state); }
+void container(benchmark::State &state) { heap<OxaWidget, QWidget>(state, asNew, nothing); }
 BENCHMARK(container)->Name("heap of OxaWidget/QWidget")->Iterations(5)->UseManualTime();
 
-void label(benchmark::State &state) { heap<OxaLabel, QLabel>(state); }
-BENCHMARK(label)->Name("heap of OxaLabel/QLabel")->Iterations(5)->UseManualTime();
-
-void svgLabel(benchmark::State &state) { heap<OxaSvgLabel, QLabel>(state); }
-BENCHMARK(svgLabel)->Name("heap of OxaSvgLabel/QLabel")->Iterations(5)->UseManualTime();
-
-void button(benchmark::State &state) { heap<OxaPushButton, QPushButton>(state); }
-BENCHMARK(button)->Name("heap of OxaPushButton/QPushButton")->Iterations(5)->UseManualTime();
-
-void svgButton(benchmark::State &state) { heap<OxaSvgPushButton, QPushButton>(state); }
-BENCHMARK(svgButton)->Name("heap of OxaSvgPushButton/QPushButton")->Iterations(5)->UseManualTime();
-
-void emojiLabel(benchmark::State &state)
+template <typename Use>
+void label(benchmark::State &state, Use use)
 {
-    heap<OxaEmojiLabel, QLabel>(state, Besides::TextDocument);
+    heap<OxaLabel, QLabel>(state, use, nothing);
 }
-BENCHMARK(emojiLabel)
+BENCHMARK_CAPTURE(label, asNew, asNew)
+        ->Name("heap of OxaLabel/QLabel")
+        ->Iterations(5)
+        ->UseManualTime();
+BENCHMARK_CAPTURE(label, withText, withText)
+        ->Name("heap of OxaLabel with a text/QLabel")
+        ->Iterations(5)
+        ->UseManualTime();
+
+template <typename Use>
+void svgLabel(benchmark::State &state, Use use)
+{
+    heap<OxaSvgLabel, QLabel>(state, use, nothing);
+}
+BENCHMARK_CAPTURE(svgLabel, asNew, asNew)
+        ->Name("heap of OxaSvgLabel/QLabel")
+        ->Iterations(5)
+        ->UseManualTime();
+BENCHMARK_CAPTURE(svgLabel, withText, withText)
+        ->Name("heap of OxaSvgLabel with a text/QLabel")
+        ->Iterations(5)
+        ->UseManualTime();
+
+template <typename Use>
+void button(benchmark::State &state, Use use)
+{
+    heap<OxaPushButton, QPushButton>(state, use, nothing);
+}
+BENCHMARK_CAPTURE(button, asNew, asNew)
+        ->Name("heap of OxaPushButton/QPushButton")
+        ->Iterations(5)
+        ->UseManualTime();
+BENCHMARK_CAPTURE(button, withText, withText)
+        ->Name("heap of OxaPushButton with a text/QPushButton")
+        ->Iterations(5)
+        ->UseManualTime();
+
+template <typename Use>
+void svgButton(benchmark::State &state, Use use)
+{
+    heap<OxaSvgPushButton, QPushButton>(state, use, nothing);
+}
+BENCHMARK_CAPTURE(svgButton, asNew, asNew)
+        ->Name("heap of OxaSvgPushButton/QPushButton")
+        ->Iterations(5)
+        ->UseManualTime();
+BENCHMARK_CAPTURE(svgButton, withText, withText)
+        ->Name("heap of OxaSvgPushButton with a text/QPushButton")
+        ->Iterations(5)
+        ->UseManualTime();
+
+template <typename Use, typename Besides>
+void emojiLabel(benchmark::State &state, Use use, Besides besides)
+{
+    heap<OxaEmojiLabel, QLabel>(state, use, besides);
+}
+BENCHMARK_CAPTURE(emojiLabel, asNew, asNew, emptyDocument)
         ->Name("heap of OxaEmojiLabel/QLabel and an empty QTextDocument")
+        ->Iterations(5)
+        ->UseManualTime();
+BENCHMARK_CAPTURE(emojiLabel, withText, withText, filledDocument)
+        ->Name("heap of OxaEmojiLabel with a text/QLabel and a QTextDocument")
         ->Iterations(5)
         ->UseManualTime();
 
