@@ -66,7 +66,8 @@ const QPen &initialPen()
 void DrawUtils::drawSVG(QPainter *painter, QSvgNode *node, QSvgExtraStates &states,
                         const QRectF &rect, const QColor &color, double opacity)
 {
-    if (!painter || !node || node->displayMode() == QSvgNode::NoneMode)
+    // A rectangle without any size has no proportions to fit, so that nothing is painted.
+    if (!painter || !node || node->displayMode() == QSvgNode::NoneMode || isZeroSized(rect))
         return;
 
     const QRectF source = sourceOf(*node);
