@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <QTest>
+#include "support/TestMain.h"
+
+#include <QApplication>
 #include <QWidget>
 
 #include <widgets/ColumnsLayout.h>
@@ -111,5 +113,5 @@ void tst_ColumnsLayout::passesOverHiddenCards()
     QCOMPARE(rects[2], QRect(0, 80, 210, 30));
 }
 
-QTEST_MAIN(tst_ColumnsLayout)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_ColumnsLayout)
 #include "tst_columnslayout.moc"

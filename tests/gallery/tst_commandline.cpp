@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
 #include <QDir>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 
@@ -152,5 +153,5 @@ void tst_CommandLine::failsForAFolderThatCannotBe()
                      .arg(file.fileName()));
 }
 
-QTEST_GUILESS_MAIN(tst_CommandLine)
+UIELEMENTS_TEST_MAIN_WITH(QCoreApplication, tst_CommandLine)
 #include "tst_commandline.moc"

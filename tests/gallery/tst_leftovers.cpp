@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
+#include <QApplication>
 #include <QLabel>
-#include <QTest>
 
 #include <looks/WarningCollector.h>
 #include <pages/styletext/Leftovers.h>
@@ -96,5 +98,5 @@ void tst_Leftovers::findsAllInOrder()
     QCOMPARE(leftovers[2].text, QStringLiteral("$borders: all;"));
 }
 
-QTEST_MAIN(tst_Leftovers)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_Leftovers)
 #include "tst_leftovers.moc"

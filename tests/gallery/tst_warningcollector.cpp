@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/TestMain.h"
+
+#include <QApplication>
 #include <QDebug>
-#include <QTest>
 
 #include <looks/WarningCollector.h>
 
@@ -53,5 +55,5 @@ void tst_WarningCollector::restoresWhatWasThere()
     qWarning("seen by the test");
 }
 
-QTEST_MAIN(tst_WarningCollector)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_WarningCollector)
 #include "tst_warningcollector.moc"

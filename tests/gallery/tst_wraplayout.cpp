@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include <QTest>
+#include "support/TestMain.h"
+
+#include <QApplication>
 #include <QWidget>
 
 #include <widgets/WrapLayout.h>
@@ -119,5 +121,5 @@ void tst_WrapLayout::makesNoWidgetWiderThanItself()
     QCOMPARE(panel.rectsIn(90).front().width(), 90);
 }
 
-QTEST_MAIN(tst_WrapLayout)
+UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_WrapLayout)
 #include "tst_wraplayout.moc"

@@ -9,7 +9,7 @@ namespace {
 
 const QString link = QStringLiteral("Read <a href=\"x\">it</a>.");
 
-using Change = std::function<void(OxaLabel &)>;
+using Replacement = std::function<void(OxaLabel &)>;
 
 /// Notes the texts that it is given.
 class NotingLabel : public OxaLabel
@@ -41,7 +41,7 @@ QString withLinkColors(const char *normal, const char *focused, const char *hove
 
 } // namespace
 
-Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(Replacement)
 
 /// The texts of OxaLabel, and how it colours the links in them.
 class tst_OxaLabelText : public QObject
@@ -260,10 +260,10 @@ void tst_OxaLabelText::losesTheSelectionInRichTextWhenTheThemeTypeChanges()
 
 void tst_OxaLabelText::setsNoTextAgainAfterClearSetNumOrSetPixmap_data()
 {
-    QTest::addColumn<Change>("change");
-    QTest::newRow("nothing") << Change([](OxaLabel &label) { label.clear(); });
-    QTest::newRow("a number") << Change([](OxaLabel &label) { label.setNum(7); });
-    QTest::newRow("a picture") << Change([](OxaLabel &label) {
+    QTest::addColumn<Replacement>("change");
+    QTest::newRow("nothing") << Replacement([](OxaLabel &label) { label.clear(); });
+    QTest::newRow("a number") << Replacement([](OxaLabel &label) { label.setNum(7); });
+    QTest::newRow("a picture") << Replacement([](OxaLabel &label) {
         QPixmap pixmap(3, 4);
         pixmap.fill(Qt::red);
         label.setPixmap(pixmap);
@@ -272,7 +272,7 @@ void tst_OxaLabelText::setsNoTextAgainAfterClearSetNumOrSetPixmap_data()
 
 void tst_OxaLabelText::setsNoTextAgainAfterClearSetNumOrSetPixmap()
 {
-    QFETCH(const Change, change);
+    QFETCH(const Replacement, change);
     OxaLabel label;
     label.setTextFormat(Qt::RichText);
     label.setText(link);
