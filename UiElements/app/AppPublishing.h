@@ -3,10 +3,10 @@
 
 #include <QString>
 
-/// What the outer application says of itself as a published product.
+/// What the outer application says about itself as a published product.
 namespace AppPublishing {
 
-/// The texts of an "about" page. The library carries them and reads none.
+/// The texts of an "about" page. The library only stores them.
 struct OxaPublishingInfo
 {
     QString organizationName;

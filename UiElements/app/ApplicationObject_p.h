@@ -5,12 +5,12 @@
 
 class OxaApplication;
 
-/// Where library code finds the application object. A process may be without one, and every caller
-/// must do without it then.
+/// Finds the application object for library code. A process may have none, and every caller must
+/// work without it.
 namespace ApplicationObject {
 
-/// Returns the application object as \a Application, which is OxaApplication or its base; null
-/// without one.
+/// Returns the application object as \a Application, which is OxaApplication or its base class;
+/// null without one.
 template <typename Application>
 Application *find()
 {

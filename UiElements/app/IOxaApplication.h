@@ -12,7 +12,7 @@ class OxaQmlEngine;
 /// The part of the application object that the theme engine and the QML host need: the theme flags
 /// and the colour stores.
 ///
-/// Don't derive from it directly: OxaApplication is the class to derive from.
+/// Derive from OxaApplication, not from this class.
 class UIELEMENTS_EXPORT IOxaApplication : public QApplication
 {
     Q_OBJECT
@@ -23,34 +23,34 @@ public:
     IOxaApplication(int &argc, char **argv);
     ~IOxaApplication() override;
 
-    /// Returns where animated images are fetched from. Null in this version.
+    /// Returns the source of animated images. Null in this version.
     virtual IOxaMovieProviderSource *getMovieProviderSource() = 0;
 
-    /// Called once for each new QML engine, for the outer application to set \a engine up. There is
-    /// no engine in this version, and so no call.
+    /// Called once for each new QML engine, so that the outer application can set \a engine up.
+    /// This version makes no engine and never calls it.
     virtual void onQmlEngineCreated(OxaQmlEngine *engine) = 0;
 
-    /// Returns the QML engine, or null as long as there is none, as always in this version.
+    /// Returns the QML engine. Always null in this version, which makes none.
     OxaQmlEngine *getQmlEngine() const;
 
-    /// Returns the ordinary store. The reference holds until the store is next replaced.
+    /// Returns the ordinary store. The reference is valid until the store is replaced.
     const OxaColorSetMap &getColorSets() const;
 
-    /// Replaces the ordinary store by a copy of \a colorSets and emits colorSetsChanged(), also
+    /// Replaces the ordinary store with a copy of \a colorSets and emits colorSetsChanged(), also
     /// when nothing differs.
     void setColorSets(const OxaColorSetMap &colorSets);
 
-    /// Returns the inverted store. The reference holds until the store is next replaced.
+    /// Returns the inverted store. The reference is valid until the store is replaced.
     const OxaColorSetMap &getInvertedColorSets() const;
 
-    /// Replaces the inverted store by a copy of \a colorSets and emits colorSetsChanged(), also
+    /// Replaces the inverted store with a copy of \a colorSets and emits colorSetsChanged(), also
     /// when nothing differs.
     void setInvertedColorSets(const OxaColorSetMap &colorSets);
 
-    /// Returns the token map. The reference holds until the map is next replaced.
+    /// Returns the token map. The reference is valid until the map is replaced.
     const OxaColorTokenMap &getColorTokens() const;
 
-    /// Replaces the token map by a copy of \a colorTokens. Emits nothing.
+    /// Replaces the token map with a copy of \a colorTokens. Emits nothing.
     void setColorTokens(const OxaColorTokenMap &colorTokens);
 
     /// True when the application's theme is dark. Off by default.
@@ -60,15 +60,15 @@ public:
     bool getIsHighContrastTheme() const;
 
 Q_SIGNALS:
-    /// A store was replaced. Widgets don't follow it: they take new colours when their theme type
-    /// is set or their style text is applied again.
+    /// A store was replaced. Widgets don't react to this signal: they take new colours when their
+    /// theme type is set or their style text is applied again.
     void colorSetsChanged();
 
 protected:
-    /// Stores the flag; telling of the change is the caller's.
+    /// Stores the flag. The caller emits the signal of the change.
     void storeIsDarkTheme(bool isDarkTheme);
 
-    /// Stores the flag; telling of the change is the caller's.
+    /// Stores the flag. The caller emits the signal of the change.
     void storeIsHighContrastTheme(bool isHighContrastTheme);
 
 private:

@@ -2,14 +2,14 @@
 #pragma once
 
 /// \file
-/// The types of the outer application that the signals of OxaAppSignals carry. The library hands
+/// The types of the outer application that the signals of OxaAppSignals carry. The library passes
 /// them on and never looks inside.
 ///
 /// An outer application with types of its own replaces all of these: it sets the CMake option
 /// UIELEMENTS_OUTER_APPLICATION_TYPES to the name of a header with its brackets, such as
-/// "<client/SignalTypes.h>", which declares every name below as a copyable type. The library is
-/// built with that header, and so is what links to its CMake target; other builds define a macro of
-/// the same name themselves.
+/// "<client/SignalTypes.h>", which declares every name below as a copyable type. The library and
+/// everything that links to its CMake target are compiled with that header; other builds define a
+/// macro of the same name themselves.
 
 #ifdef UIELEMENTS_OUTER_APPLICATION_TYPES
 #include UIELEMENTS_OUTER_APPLICATION_TYPES
@@ -28,7 +28,7 @@ struct guid
     std::array<std::uint8_t, 16> bytes {};
 };
 
-/// True when both identify the same.
+/// True when both identify the same thing.
 inline bool operator==(const guid &left, const guid &right) { return left.bytes == right.bytes; }
 
 /// True when they identify different things.
@@ -37,7 +37,7 @@ inline bool operator!=(const guid &left, const guid &right) { return !(left == r
 } // namespace fenn
 
 /// The enumerations of the outer application's view models. They are complete types without
-/// enumerators: who has the values may define them in a header beside this one.
+/// enumerators: a client that has the values may define them in a header of its own.
 namespace dolmCore::viewModels {
 
 enum class AudioDeviceAvailableStatus : int;

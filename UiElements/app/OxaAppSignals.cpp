@@ -54,7 +54,7 @@ void OxaAppSignals::registerShortcuts(QWidget *mainWindow, OxaShortcut::Shortcut
         QMessageLogger().warning() << registeredWarning;
         return;
     }
-    // The window of an earlier registration may still live: the entries are not its own any more.
+    // The window of an earlier registration may still exist, but no longer owns the entries.
     disconnect(m_windowConnection);
     m_windowConnection = connect(mainWindow, &QObject::destroyed, this,
                                  [this] { m_shortcuts.clear(); });
@@ -100,7 +100,7 @@ void OxaAppSignals::disableShortcut(OxaAppSignals::Shortcut id)
     }
     const QPointer<OxaAppSignals> self = this;
     delete entry->second.data();
-    // By its id: a slot may have changed the map.
+    // Erased by its id: a slot may have changed the map.
     if (self)
         m_shortcuts.erase(id);
 }
@@ -108,7 +108,7 @@ void OxaAppSignals::disableShortcut(OxaAppSignals::Shortcut id)
 void OxaAppSignals::disableAll()
 {
     disconnect(m_windowConnection);
-    // Taken out first: a slot may change the map.
+    // The map is emptied first: a slot may change it.
     for (const auto &entry : std::exchange(m_shortcuts, {}))
         delete entry.second.data();
 }

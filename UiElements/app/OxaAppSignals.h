@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// Longer than headers are here: the shortcuts and the signals are two tables, and moc wants both
+// Longer than other headers: the shortcuts and the signals are two tables, and moc needs both
 // inside the class.
 
 #include <UiElements/UiElementsExport.h>
@@ -25,13 +25,13 @@ struct ShortcutRow;
 
 /// The switchboard between the screens and the outer application.
 ///
-/// A widget, a QML view or a keyboard shortcut says what the user wants by emitting a signal; the
-/// outer application, which alone knows how to do it, connects to the signals that it serves.
-/// Neither knows the other. Emitting has no other effect, and a signal that nobody is connected to
-/// does nothing. OxaApplication makes the one of the process.
+/// A widget, a QML view or a keyboard shortcut says what the user wants by emitting a signal. The
+/// outer application, which alone can do it, connects to the signals that it handles. Neither knows
+/// the other. Emitting has no other effect, and a signal without a connection does nothing.
+/// OxaApplication makes the only instance of the process.
 ///
-/// The hub also owns the table of application-wide keyboard shortcuts: each shortcut's activation
-/// emits one of the signals.
+/// The hub also owns the table of application-wide keyboard shortcuts: activating a shortcut emits
+/// one of the signals.
 class UIELEMENTS_EXPORT OxaAppSignals : public OxaObject
 {
     Q_OBJECT
@@ -108,38 +108,37 @@ public:
     static OxaAppSignals *get();
 
     /// Makes the shortcuts of each group whose bit is set in \a groups, as children of
-    /// \a mainWindow. They work in all windows of the application, and live until they are disabled
-    /// or the window goes.
+    /// \a mainWindow. They work in all windows of the application, until they are disabled or the
+    /// window is deleted.
     ///
-    /// Without a window, or while any shortcut is registered, whatever its group, it logs a warning
-    /// and does nothing: ask for all groups in one call.
+    /// Without a window, or while a shortcut of any group is registered, it logs a warning and does
+    /// nothing: register all groups in one call.
     void registerShortcuts(QWidget *mainWindow, OxaShortcut::ShortcutGroup groups);
 
-    /// Returns the key of the shortcut \a id. Where it is not registered, or its object was deleted
-    /// by somebody else, a warning is logged and the sequence is empty.
+    /// Returns the key of the shortcut \a id. If it is not registered, or its object was deleted by
+    /// other code, a warning is logged and the sequence is empty.
     QKeySequence getKeySequence(OxaAppSignals::Shortcut id) const;
 
-    /// Returns the shortcuts whose group is \a group exactly; bits are not tested, so All finds
-    /// only those that were never given a group.
+    /// Returns the shortcuts whose group equals \a group. Bits are not tested, so All finds only
+    /// shortcuts that were never given a group.
     std::unordered_map<OxaAppSignals::Shortcut, QPointer<OxaShortcut>> getGroupShortcuts(
             OxaShortcut::ShortcutGroup group) const;
 
-    /// True when the shortcut \a id is registered, also when its object was deleted by somebody
-    /// else.
+    /// True when the shortcut \a id is registered, also when its object was deleted by other code.
     bool shortcutExists(OxaAppSignals::Shortcut id) const;
 
-    /// Deletes the shortcut \a id. It can't be enabled again on its own: use
+    /// Deletes the shortcut \a id. It can't be enabled again by itself: use
     /// OxaShortcut::temporarilyDisable() for that. Logs a warning when it is not registered.
     void disableShortcut(OxaAppSignals::Shortcut id);
 
-    /// Deletes all shortcuts. registerShortcuts() may be called anew.
+    /// Deletes all shortcuts. registerShortcuts() may be called again.
     void disableAll();
 
 Q_SIGNALS:
     /// \name Contacts
     /// \{
 
-    /// What the user wants of a person: the contact card, the entry in the contact list, a call.
+    /// Requests about a person: the contact card, the entry in the contact list, a call.
     void closeContactCards(bool delayToClose, bool forceClose = false);
     void contactPerson();
     void navigateToContact(const QString &contactId);
@@ -154,7 +153,7 @@ Q_SIGNALS:
     /// \name Spaces and messages
     /// \{
 
-    /// What the user wants of a space or a message, and of the place where messages are written.
+    /// Requests about a space or a message, and about the area where messages are written.
     void copySpaceMetaDataToClipboard();
     void createSpace();
     void createPublicSpace();
@@ -206,7 +205,7 @@ Q_SIGNALS:
     /// \name Navigation and search
     /// \{
 
-    /// Where the user wants to go, and what is searched or closed on the way.
+    /// Requests to go somewhere, and to search or close something on the way.
     void navigateToRill(const fenn::guid &rillId);
     void navigateToExplorePublicSpaces(bool fullScreenView, const std::string &source);
     void closeAllConversationsFormPopouts();
@@ -228,7 +227,7 @@ Q_SIGNALS:
     /// \name Content and whiteboards
     /// \{
 
-    /// A file or a whiteboard that the user wants to open, make or edit.
+    /// Requests to open, make or edit a file or a whiteboard.
     void createWhiteboard();
     void openEcmFile(const std::string &conversationId, const std::string &ecmFileName,
                      const std::string &ecmUrl);
@@ -243,7 +242,7 @@ Q_SIGNALS:
     /// \name Space list and filters
     /// \{
 
-    /// How the user walks the list of spaces, and which of them it shall show.
+    /// Requests to move in the list of spaces, and to choose which of them it shows.
     void moveDownSpaceList();
     void moveUpSpaceList();
     void selectAllSpacesTab();
@@ -258,7 +257,7 @@ Q_SIGNALS:
     /// \name Meetings and calls
     /// \{
 
-    /// What the user wants of a meeting or a call, before it and while it runs.
+    /// Requests about a meeting or a call, before and during it.
     void preferenceMeetingSettingChanged();
     void scheduleMeeting(const QVariant &scheduleInfo);
     void openBreakoutManage(const QVariantMap &properties);
@@ -276,8 +275,8 @@ Q_SIGNALS:
     /// \name Floating windows and coach marks
     /// \{
 
-    /// A coach mark that shall appear, what the user did with one, and the walk through the
-    /// floating windows.
+    /// Requests to show a coach mark or to switch between floating windows, and what the user did
+    /// with a coach mark.
     void ShowHomeTabCoachMark(dolmCore::viewModels::HomeTabCoachMark coachMark);
     void switchBetweenFloatingWindows();
     void primaryCoachMarkButtonClicked(const QString &coachMarkName);
@@ -289,7 +288,7 @@ Q_SIGNALS:
     /// \name Application windows and dialogs
     /// \{
 
-    /// A window, a dialog or a notification of the application that shall open.
+    /// Requests to open a window, a dialog or a notification of the application.
     void reloadAllQmlViews();
     void showDevToolsDialog();
     void openHelpPopUp();
@@ -311,7 +310,7 @@ Q_SIGNALS:
     /// \name Meeting containers
     /// \{
 
-    /// What the user wants of the record that a meeting leaves: share it, see it, talk in it.
+    /// Requests about the record that a meeting leaves: share it, see it, talk in it.
     void shareMeetingContainer(const QString &containerId, const QVariant &shareOrigin);
     void showMeetingContainerRecording(const QString &containerId, const QString &recordingId);
     void showMeetingContainerDetailsInBrowser(const QString &containerId);
@@ -321,7 +320,7 @@ Q_SIGNALS:
     /// \name Phone widget and call windows
     /// \{
 
-    /// The phone widget's comings and goings, and the windows of a call.
+    /// Changes of the phone widget, and requests about the windows of a call.
     void phoneWidgetEnableChanged(bool enabled);
     void setPhoneWidgetVisibility(QWindow::Visibility visibility,
                                   dolmCore::viewModels::SetWidgetVisibilityOrigin origin);
@@ -340,7 +339,7 @@ Q_SIGNALS:
     /// \name Developer tools
     /// \{
 
-    /// What a developer wants to see.
+    /// Requests of a developer to see something.
     void showDebugWindow();
     void developerOptionClicked();
     /// \}
@@ -348,7 +347,7 @@ Q_SIGNALS:
     /// \name Sharing and annotation
     /// \{
 
-    /// What the user shares, draws on or controls from afar.
+    /// Requests to share, to draw on what is shared, and to control it remotely.
     void startLocalShare(const fenn::guid &callId, QWidget *shareSelectorParent,
                          dolmCore::viewModels::ShareSourcesSelectionWindowTab windowType);
     void setShareControlBarMaxButtonChecked(bool isChecked);
@@ -372,7 +371,7 @@ Q_SIGNALS:
     /// \name Other
     /// \{
 
-    /// What fits under no other head.
+    /// Signals that fit into no other group.
     void showVDIUpgradeCheckerWindow();
     void expandTabSelectorWidget();
     void toggleCallDialogShortcuts(bool isEnabled);
@@ -381,7 +380,7 @@ Q_SIGNALS:
     void openAudioDumpDialog();
     void audioDumpStatusChanged(bool isStart);
     void showDiagnosticsDetails();
-    // The rectangle is the emitter's own, for a receiver to change.
+    // The rectangle belongs to the emitter; a receiver may change it.
     void popupMeetingDetailPage( // clazy:exclude=signal-with-return-value
             QWidget *sourceWidget, const std::string &meetingId, const std::string &eventId,
             const std::string &seriesId, const std::string &globalMeetingId,

@@ -79,8 +79,8 @@ float OxaApplication::getFontScaleFactor() const { return m_fontScaleFactor; }
 
 void OxaApplication::setFontScaleFactor(float factor)
 {
-    // Two comparisons for "out of range", and none for "in range": a NaN passes and is stored.
-    // OxaFont takes it for no scaling.
+    // Tests for "out of range", and not for "in range", so that a NaN passes and is stored. OxaFont
+    // does not scale by it.
     if (factor < minimumFontScaleFactor || factor > maximumFontScaleFactor) {
         QMessageLogger().warning() << invalidScaleWarning << factor;
         return;

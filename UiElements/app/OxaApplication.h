@@ -21,8 +21,8 @@ class OxaMainWindow;
 /// the font manager. The theme's flags and name have no public setter: the outer application sets
 /// them as Qt properties.
 ///
-/// Widgets do not follow these signals. After a change of theme or stores, call
-/// OxaThemeUtils::refreshThemedWidgets(). Don't write the widgets' theme types anew instead: those
+/// Widgets do not react to these signals. After a change of theme or stores, call
+/// OxaThemeUtils::refreshThemedWidgets(). Don't set the widgets' theme types again instead: widgets
 /// whose parent has a type of its own would take their window's.
 class UIELEMENTS_EXPORT OxaApplication : public IOxaApplication
 {
@@ -51,24 +51,24 @@ public:
     /// True when the user wants no animations. False here; the outer application overrides it.
     Q_INVOKABLE virtual bool animationsDisabled() const;
 
-    /// The outer application's hook for starting itself anew. The library never calls it.
+    /// Hook for the outer application to restart itself. The library never calls it.
     virtual void restart() = 0;
 
-    /// Called from the constructor of each main window, for the outer application to register its
-    /// shortcuts on \a window. There is no main window in this version, and so no call.
+    /// Called from the constructor of each main window, so that the outer application can register
+    /// its shortcuts on \a window. This version has no main window and never calls it.
     virtual void registerMainWindowShortcuts(OxaMainWindow *window) = 0;
 
-    /// Returns the signal hub, or null once it is gone.
+    /// Returns the signal hub, or null once it is deleted.
     OxaAppSignals *getAppSignals() const;
 
-    /// Returns the global signal listener, or null once it is gone.
+    /// Returns the global signal listener, or null once it is deleted.
     OxaGlobalSignalListener *getGlobalSignalListener() const;
 
-    /// Returns the font manager, or null once it is gone.
+    /// Returns the font manager, or null once it is deleted.
     OxaFontManager *getOxaFontManager() const;
 
-    /// Returns the set called \a colorSetName for the theme type whose word is \a themeType; any
-    /// other word, the empty one included, means "global". Warnings as in
+    /// Returns the colour set called \a colorSetName for the theme type whose word is \a themeType.
+    /// Any other word, also an empty one, means "global". Warnings as in
     /// OxaThemeUtils::getColorSet().
     Q_INVOKABLE OxaColorSet getColorSet(const QString &colorSetName,
                                         const QString &themeType = QString());
@@ -95,11 +95,12 @@ public:
     float getFontScaleFactor() const;
 
     /// Stores \a factor, 0.5 to 1.5, and emits fontScaleFactorChanged(), also when it is the same.
-    /// A factor out of range logs a warning and changes nothing; a NaN is not out of range: it is
-    /// stored, and fonts have their unscaled size then. Fonts made before keep their size.
+    /// A factor out of range logs a warning and changes nothing. A NaN does not count as out of
+    /// range: it is stored, and fonts then have their unscaled size. Existing fonts keep their
+    /// size.
     void setFontScaleFactor(float factor);
 
-    /// Returns what the outer application says of itself, where it has said anything.
+    /// Returns what the outer application says about itself, if it says anything.
     std::optional<AppPublishing::OxaPublishingInfo> getPublishingInfo() const;
 
     /// True when a window of the application is active.
@@ -115,14 +116,14 @@ Q_SIGNALS:
     /// The property `isHighContrastTheme` changed to \a isHighContrastTheme.
     void isHighContrastThemeChanged(bool isHighContrastTheme);
 
-    /// The font scale factor was set to \a scale, which it may have been before.
+    /// The font scale factor was set to \a scale, possibly the same as before.
     void fontScaleFactorChanged(float scale);
 
-    /// The SVG logo's path was set, which it may have been before. It is what the argument holds:
-    /// the parameter's name is part of the meta-object, and stays.
+    /// The SVG logo's path was set, possibly to the same one. The argument is the path: its
+    /// misleading name is kept because it is part of the meta-object.
     void logoSvgPathChanged(const QString &isDarkTheme);
 
-    /// The PNG logo's path was set; otherwise as logoSvgPathChanged().
+    /// The PNG logo's path was set; otherwise like logoSvgPathChanged().
     void logoPngPathChanged(const QString &isDarkTheme);
 
 private:

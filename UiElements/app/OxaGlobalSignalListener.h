@@ -6,7 +6,7 @@
 #include <UiElements/keyboard/OxaKeySequenceLookup.h>
 
 /// A second, small switchboard beside OxaAppSignals, for what concerns all windows at once.
-/// OxaApplication makes the one of the process.
+/// OxaApplication makes the only instance of the process.
 class UIELEMENTS_EXPORT OxaGlobalSignalListener : public OxaObject
 {
     Q_OBJECT
@@ -23,6 +23,6 @@ Q_SIGNALS:
     /// The user pressed the keys of \a shortcutType.
     void shortcutActivated(OxaKeySequenceLookup::Shortcut shortcutType);
 
-    /// The developer tools shall appear in the theme called \a theme.
+    /// The developer tools should appear in the theme called \a theme.
     void setDevToolsThemeMode(const QString &theme);
 };

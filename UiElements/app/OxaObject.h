@@ -5,7 +5,7 @@
 
 #include <QObject>
 
-/// The common base of the library's classes that are objects, but not widgets.
+/// The common base of the library's classes that are objects but not widgets.
 class UIELEMENTS_EXPORT OxaObject : public QObject
 {
     Q_OBJECT

@@ -155,7 +155,7 @@ constexpr std::initializer_list<ShortcutRow> shortcutRows = {
       &OxaAppSignals::showDevToolsDialog },
 };
 
-// The key is also that of OpenDiagnosticsDetails.
+// OpenDiagnosticsDetails has the same key.
 constexpr ShortcutRow debugShortcutRow { OxaShortcut::All, Shortcut::Debug_ShowDebugWindow,
                                          Qt::CTRL + Qt::ALT + Qt::SHIFT + Qt::Key_D,
                                          &OxaAppSignals::showDebugWindow };

@@ -9,7 +9,7 @@
 class ShortcutKey
 {
 public:
-    // Implicit, for the rows of the table.
+    // Implicit, to keep the rows of the table short.
     constexpr ShortcutKey(int combination) : m_combination(combination) { }
     constexpr ShortcutKey(QKeySequence::StandardKey standardKey) : m_standardKey(standardKey) { }
 
@@ -23,14 +23,14 @@ private:
     QKeySequence::StandardKey m_standardKey = QKeySequence::UnknownKey;
 };
 
-/// One shortcut, and what it does.
+/// One shortcut: its key, the signal that it emits, and how a list shows it.
 struct ShortcutRow
 {
     OxaShortcut::ShortcutGroup registeredWith; ///< The bit that registers it.
     OxaAppSignals::Shortcut id;
     ShortcutKey key;
     void (OxaAppSignals::*signal)();
-    const char *description = nullptr; ///< Null for what no list shows.
+    const char *description = nullptr; ///< Null for a shortcut that no list shows.
     OxaShortcut::ShortcutGroup group = registeredWith;
 };
 

@@ -17,13 +17,13 @@ int truncated(double value)
     return std::isnan(value) ? 0 : int(qBound(double(Limits::min()), value, double(Limits::max())));
 }
 
-/// Returns the picture in the file \a path. The path comes from a stranger, and opening a pipe or a
-/// device may wait for ever: only a regular file is opened.
+/// Returns the picture in the file \a path. The path comes from outside, and opening a pipe or a
+/// device may block for ever: only a regular file is opened.
 QImage pictureIn(const QString &path)
 {
     QImage picture;
     QFile file(path);
-    // By the file: by its name, QImage would try other names when it cannot be opened.
+    // Loaded from the open file: given a name, QImage tries other names if it cannot be opened.
     if (QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly))
         picture.load(&file, nullptr);
     return picture;

@@ -14,24 +14,24 @@
 
 class QMimeData;
 
-/// A drag as QML describes it, in a map of named values, on its way into widget code, where a drop
-/// target expects a QMimeData.
+/// A drag that QML describes as a map of named values, for widget code, where a drop target expects
+/// a QMimeData.
 ///
 /// The record owns the mime data that it makes. Copy a record before toMimeData(): copies made
-/// afterwards share the mime data, and the first of them to go deletes it for all. What takes
-/// ownership of it, as QDrag does, must go before the record.
+/// afterwards share the mime data, and the first of them to be destroyed deletes it for all. An
+/// object that takes ownership of it, as QDrag does, must be destroyed before the record.
 class UIELEMENTS_EXPORT DragEvent
 {
 public:
     /// Reads "x", "y", "html", "urls" (a list of URLs, or what QVariant converts to one) and "data"
-    /// (bytes, which may be the text of a URL) from \a values. What is missing is 0 or empty.
+    /// (bytes, which may be the text of a URL) from \a values. Missing values are 0 or empty.
     explicit DragEvent(const QMap<QString, QVariant> &values);
 
     /// Copies the values and shares the mime data.
     DragEvent(const DragEvent &other);
 
-    /// Copies the values and shares the mime data. The record's own mime data, where it is another,
-    /// is deleted.
+    /// Copies the values and shares the mime data. The record's own mime data is deleted if it is a
+    /// different one.
     DragEvent &operator=(const DragEvent &other);
 
     /// Deletes the mime data.
@@ -41,8 +41,8 @@ public:
     QPoint position() const;
 
     /// Returns the drag as mime data, made on the first call and filled again on each: the HTML and
-    /// the URLs where there are any. With HTML, "data" that is the URL of a local picture adds the
-    /// picture. Only regular files are opened.
+    /// the URLs, if there are any. If there is HTML and "data" is the URL of a local picture, the
+    /// picture is added. Only regular files are opened.
     QMimeData *toMimeData();
 
 private:
@@ -51,6 +51,6 @@ private:
     QString m_html;
     QList<QUrl> m_urls;
     QByteArray m_data;
-    // Of records that share one, the first to go deletes it; the others must see that.
+    // The first record to be destroyed deletes shared mime data; the others must notice that.
     QPointer<QMimeData> m_mimeData;
 };

@@ -12,11 +12,11 @@ namespace {
 /// Room for all emoji that a screen of text shows, at twice the usual size.
 constexpr int pictureCacheBytes = 8 * 1024 * 1024;
 
-/// How many files are looked at again for a text. A look takes a microsecond.
+/// How many files are checked again for each text. A check takes a microsecond.
 constexpr int checksPerText = 64;
 
-/// Tells whether a resource is still the one that it was. The place by itself doesn't: a file that
-/// is registered where another one was unregistered is likely to get the same.
+/// Tells whether a resource has changed. Its address alone does not: a file that is registered
+/// after another was unregistered is likely to get the same one.
 struct Fingerprint
 {
     explicit Fingerprint(const QResource &resource)
@@ -36,7 +36,7 @@ struct Fingerprint
     uint hash;
 };
 
-/// A valid file, and the number of the text for which it was last looked at.
+/// A valid file, and the number of the text for which it was last checked.
 struct KnownFile
 {
     QString path;
@@ -58,13 +58,13 @@ Memory &memory()
     return memory;
 }
 
-/// Returns whether \a file has to be looked at before it is used for the current text.
+/// Returns whether \a file must be checked before it is used for the current text.
 bool needsCheck(const KnownFile &file)
 {
     return file.text != memory().text && memory().checksLeft > 0;
 }
 
-/// Returns whether \a file is still what it was.
+/// Checks \a file and returns whether it is unchanged.
 bool isUnchanged(KnownFile &file)
 {
     --memory().checksLeft;
@@ -81,7 +81,7 @@ QImage render(const QResource &resource, int edge)
 {
     QImage image(edge, edge, QImage::Format_ARGB32);
     image.fill(Qt::transparent);
-    // Read by itself: given a path, the renderer would warn about a broken file.
+    // Loaded from the data: given a path, the renderer would warn about a broken file.
     QSvgRenderer renderer(resource.uncompressedData());
     QPainter painter(&image);
     renderer.render(&painter);
@@ -108,7 +108,7 @@ QString EmojiArtwork::pathOf(const QString &stem)
     const QResource resource(path);
     if (!resource.data() || !QSvgRenderer(resource.uncompressedData()).isValid())
         return {};
-    // The stem's characters are copied: the caller's text may hold more memory than it needs.
+    // The stem is copied: the caller's text may hold more memory than it needs.
     memory().files.insert(QString(stem.constData(), stem.size()),
                           { path, Fingerprint(resource), memory().text });
     return path;

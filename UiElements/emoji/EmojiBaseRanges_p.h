@@ -8,8 +8,8 @@ struct CodePointRange
     char32_t last;
 };
 
-/// The emoji among the code points below U+1F000, in order. Unlike the planes above, where nearly
-/// everything is an emoji, these stand between letters and signs.
+/// The emoji among the code points below U+1F000, in order. Above that nearly everything is an
+/// emoji; here they are scattered among letters and signs.
 constexpr CodePointRange emojiBaseRanges[] = {
     // clang-format off
     { 0x00A9, 0x00A9 }, { 0x00AE, 0x00AE }, { 0x203C, 0x203C }, { 0x2049, 0x2049 },

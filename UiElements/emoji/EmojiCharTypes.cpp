@@ -17,7 +17,7 @@ constexpr Table makeTable()
     types[0x20E3] = EmojiCharType::Keycap;
     types[0x2640] = EmojiCharType::GenderSign;
     types[0x2642] = EmojiCharType::GenderSign;
-    // Last: the gender signs are emoji of their own, and that counts.
+    // Last, so that the gender signs become emoji, which they also are by themselves.
     for (const CodePointRange &range : emojiBaseRanges) {
         for (char32_t codePoint = range.first; codePoint <= range.last; ++codePoint)
             types[codePoint] = EmojiCharType::Base;

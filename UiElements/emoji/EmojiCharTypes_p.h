@@ -8,13 +8,13 @@
 /// Classes of code points.
 namespace EmojiCharTypes {
 
-/// The first code point above those that have a table.
+/// The first code point above the table.
 constexpr uint tableEnd = 0x329A;
 
 /// The class of each code point below tableEnd.
 extern const std::array<EmojiCharType, tableEnd> table;
 
-/// Returns the class of \a codePoint, which is not in the table.
+/// Returns the class of \a codePoint, which is above the table.
 EmojiCharType typeOfHigh(uint codePoint);
 
 /// Returns the class of \a codePoint.
@@ -23,7 +23,7 @@ inline EmojiCharType typeOf(uint codePoint)
     return codePoint < tableEnd ? table[codePoint] : typeOfHigh(codePoint);
 }
 
-/// Returns whether the UTF-16 unit \a unit is a character by itself that no sequence holds.
+/// Returns whether the UTF-16 unit \a unit is a complete character that is part of no sequence.
 inline bool isPlain(ushort unit)
 {
     if (unit < tableEnd)

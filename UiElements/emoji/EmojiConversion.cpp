@@ -18,7 +18,7 @@ void appendCodePoint(QString &text, uint codePoint)
     }
 }
 
-/// Adds the name of \a codePoint: its digits, of which a byte has four and all others their own.
+/// Adds the hexadecimal digits of \a codePoint; two digits get "00" in front.
 void appendName(QString &stem, uint codePoint)
 {
     if (codePoint >= 0x10 && codePoint <= 0xFF)
@@ -44,8 +44,8 @@ void appendWithDash(EmojiSequence &sequence, uint codePoint)
 
 bool isKeycapBase(QChar unit) { return EmojiCharTypes::typeOf(unit.unicode()) == Type::KeycapBase; }
 
-/// Returns whether what begins at \a unit is no part of a sequence. That is so of a digit as well
-/// when a letter or another digit follows.
+/// Returns whether the character at \a unit is not part of a sequence. A digit isn't either if a
+/// letter or another digit follows it.
 bool isPlain(const QChar *unit, const QChar *end)
 {
     if (EmojiCharTypes::isPlain(unit->unicode()))
@@ -60,7 +60,7 @@ bool isPlain(const QChar *unit, const QChar *end)
 EmojiConversion::EmojiConversion(const QString &text, const SequenceWriter &writer)
     : m_text(text), m_writer(writer)
 {
-    // Enough for the longest sequences, so that none needs memory of its own.
+    // Room for the longest sequences, so that appending to them does not allocate.
     m_pending.stem.reserve(64);
     m_pending.text.reserve(32);
     m_markup.reserve(text.size());
@@ -103,7 +103,7 @@ void EmojiConversion::step()
     m_previous = current.value;
 }
 
-/// Starts a sequence with an emoji. What was pending is complete; a lone digit is a digit.
+/// Starts a sequence with an emoji. What was pending is complete; a lone digit is plain text.
 void EmojiConversion::start(uint codePoint)
 {
     if (m_previousType == Type::KeycapBase)
@@ -131,7 +131,7 @@ void EmojiConversion::takeKeycap(uint codePoint)
     }
 }
 
-/// Takes a flag. A single indicator disappears with whatever follows it: meant so.
+/// Takes a flag by reading two code points: a single indicator disappears with the second one.
 void EmojiConversion::takeRegionalIndicator(uint codePoint)
 {
     flushAndClear();
@@ -146,8 +146,8 @@ void EmojiConversion::takeRegionalIndicator(uint codePoint)
     }
 }
 
-/// Takes a black flag, which stands by itself unless tags follow it. Tags that something else
-/// interrupts disappear, and at the end of the text so does their flag: meant so.
+/// Takes a black flag, which is an emoji by itself unless tags follow it. Tags without an end
+/// disappear, and at the end of the text so does their flag.
 void EmojiConversion::takeFlag(uint codePoint)
 {
     flushAndClear();
@@ -155,8 +155,8 @@ void EmojiConversion::takeFlag(uint codePoint)
         append(m_pending, codePoint);
 }
 
-/// Takes the tags behind \a flag and writes their sequence once it is complete. Returns whether the
-/// flag still stands by itself then.
+/// Takes the tags after \a flag and writes their sequence once it is complete. Returns whether the
+/// flag is then still an emoji by itself.
 bool EmojiConversion::takeTags(uint flag)
 {
     EmojiSequence gathered;
@@ -189,8 +189,8 @@ void EmojiConversion::takeSelector(uint codePoint)
     if (next == Type::Joiner || next == Type::Keycap)
         return;
     flush();
-    // Its text stays: a skin tone or hair that comes too late, right behind the selector, shows
-    // together with it. Meant so; anything else clears it.
+    // The text is kept: a skin tone or hair right after the selector comes too late and shows it
+    // again. Anything else clears it.
     m_pending.stem.resize(0);
 }
 
@@ -208,7 +208,7 @@ void EmojiConversion::takePlain(uint codePoint)
     copyPlainRun();
 }
 
-/// Copies the plain characters that follow, which are most of any text, in one go.
+/// Copies the plain characters that follow, which are most of any text, at once.
 void EmojiConversion::copyPlainRun()
 {
     const QChar *const begin = m_text.constData() + m_next;

@@ -5,10 +5,10 @@
 
 #include <functional>
 
-/// Reads a text once, code point by code point, and hands each emoji sequence to a function that
+/// Reads a text once, code point by code point, and passes each emoji sequence to a function that
 /// writes it.
 ///
-/// A sequence is pending until a code point shows that it is complete. What is not part of any is
+/// A sequence is pending until a code point shows that it is complete. Text outside of sequences is
 /// copied.
 class EmojiConversion
 {
@@ -18,11 +18,11 @@ public:
     /// Adds what stands for `sequence` to `markup`.
     using SequenceWriter = std::function<void(const EmojiSequence &sequence, QString &markup)>;
 
-    /// Converts \a text by \a writer. Both must outlive the conversion.
+    /// Converts \a text with \a writer. Both must outlive the conversion.
     EmojiConversion(const QString &text, const SequenceWriter &writer);
     ~EmojiConversion() = default;
 
-    /// Returns the markup. To be called once.
+    /// Returns the markup. Call it once.
     QString run();
 
     /// Returns whether run() copied anything that is not part of a sequence.

@@ -52,7 +52,7 @@ QString textOf(const QString &tag)
     return textEnd < 0 ? tag : tag.mid(textStart, textEnd - textStart);
 }
 
-/// Returns where the tag ends that begins at \a start, or where its line or the markup does.
+/// Returns the end of the tag that begins at \a start, at most the end of its line.
 int endOfTag(const QString &markup, int start)
 {
     const auto isEnd = [](QChar character) {
@@ -62,7 +62,7 @@ int endOfTag(const QString &markup, int start)
     return int(end - markup.cbegin());
 }
 
-/// Returns where the tag that begins at \a start is over, lines or not.
+/// Returns the end of the tag that begins at \a start, which may span lines.
 int behindTag(const QString &markup, int start)
 {
     const int end = markup.indexOf(QLatin1Char('>'), start);

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// Characters of a document that stand for an emoji: a placeholder, which is one, or a mark.
+/// Characters of a document that stand for an emoji: a mark, or the one of a placeholder.
 struct Placeholder
 {
     int position;
@@ -75,7 +75,7 @@ std::vector<Placeholder> marksIn(QTextDocument *document,
         for (int i = text.indexOf(start); i >= 0; i = text.indexOf(start, i + 1)) {
             const std::size_t number = EmojiMarkup::markNumber(text, i);
             cursor.setPosition(block.position() + i + 1);
-            // Images are the same character.
+            // Images have the same character.
             if (number < sources.size() && !cursor.charFormat().isImageFormat())
                 found.push_back({ block.position() + i, EmojiMarkup::markLength, sources[number] });
         }
@@ -83,7 +83,7 @@ std::vector<Placeholder> marksIn(QTextDocument *document,
     return found;
 }
 
-/// Puts a picture of \a size in place of each of \a placeholders.
+/// Replaces each of \a placeholders with a picture of \a size.
 void insertPictures(QTextCursor cursor, const std::vector<Placeholder> &placeholders, int size,
                     int edge)
 {
@@ -117,7 +117,7 @@ void EmojiTextConverter::insertImages(QTextDocument *document) const
     if (placeholders.empty())
         return;
     QTextCursor cursor(document);
-    // The document is laid out once, and not for each picture.
+    // Lays the document out once, and not for each picture.
     cursor.beginEditBlock();
     insertPictures(cursor, placeholders, m_emojiSize, int(m_emojiSize * m_pixelRatio));
     cursor.endEditBlock();
@@ -126,7 +126,7 @@ void EmojiTextConverter::insertImages(QTextDocument *document) const
 void EmojiTextConverter::setHtml(QTextDocument *document, const QString &attributes,
                                  const QString &body) const
 {
-    // An image behind a block is added to it, where text starts a new one: no marks there.
+    // An image after a block is added to it, but text starts a new one: no marks there.
     std::vector<EmojiMarkup::Source> sources;
     const QString marked = EmojiMarkup::hasBlocks(body) ? body : EmojiMarkup::marked(body, sources);
     QTextCursor cursor(document);

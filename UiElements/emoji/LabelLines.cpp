@@ -73,7 +73,7 @@ QString LabelLines::endingInEllipsis(QString line, const QFont &font, int width)
     const QString ending = QString(QChar::Nbsp) + ellipsis;
     const int endingWidth = metrics.horizontalAdvance(ending);
     const int ellipsisWidth = metrics.horizontalAdvance(ellipsis);
-    // By halves: a line may be of many characters without a width, or of tags.
+    // A binary search: a line may have many characters without a width, or tags.
     const auto lengthWithin = [&](int available) {
         int longest = 0;
         for (int tooLong = line.size() + 1; tooLong - longest > 1;) {
@@ -82,7 +82,7 @@ QString LabelLines::endingInEllipsis(QString line, const QFont &font, int width)
         }
         return longest;
     };
-    // What fits only without the space has to bring its own.
+    // A line that fits only without the added space must itself end in one.
     const int shortest = lengthWithin(width - endingWidth);
     int length = lengthWithin(width - ellipsisWidth);
     while (length > shortest && line.at(length - 1) != QLatin1Char(' '))

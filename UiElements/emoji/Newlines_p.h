@@ -8,7 +8,7 @@
 /// What ends a line in texts that users write.
 namespace Newlines {
 
-/// Returns the six characters. The vertical tab is not one of them, while U+000F is: meant so.
+/// Returns the six characters. U+000F is one of them; the vertical tab, U+000B, is not.
 QSet<QChar> characters();
 
 /// Returns an expression that matches one of them.

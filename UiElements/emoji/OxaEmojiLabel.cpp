@@ -161,7 +161,7 @@ bool OxaEmojiLabel::event(QEvent *event)
     return OxaLabel::event(event);
 }
 
-/// Shows in the text's colour whether the label is hovered.
+/// Sets the text's colour for the hovered or normal state.
 void OxaEmojiLabel::showState()
 {
     QStyleOptionFrame option;

@@ -8,24 +8,24 @@
 class QRegularExpression;
 class QTextDocument;
 
-/// A label for text that users write, such as names and messages, which draws emoji from the
-/// application's own artwork. EmojiTextConverter tells how that is named.
+/// A label for text that users write, such as names and messages. It draws emoji from the
+/// application's own artwork; EmojiTextConverter describes how the files are named.
 ///
-/// A text goes out in the font, emoji included, where it can be selected, where it is centred and
-/// has more than one line, and where it has a "\n" and is centred vertically. That is how a label
-/// starts: align a text of several lines to the top.
+/// Emoji are drawn from the font instead if the text can be selected, if it is centred and has more
+/// than one line, or if it has a "\n" and is centred vertically. A new label is centred vertically:
+/// align a text of several lines to the top.
 ///
-/// The text is laid out anew when it, the size, the font, the style text or the layout direction
+/// The text is laid out again when it, the size, the font, the style text or the layout direction
 /// changes, and at each change of hover and focus. Alignment, indent, word wrap and elide mode are
-/// read then: set them before the text. Whatever the text, no more than 20 lines are made.
+/// read then: set them before the text. No text makes more than 20 lines.
 ///
-/// Only Qt::PlainText, the default, may carry what users wrote. Qt::RichText is laid out as a
-/// whole, and nested tables in a short text can keep Qt at that for minutes; a text in another
-/// format is escaped before it is shown, but QLabel takes it for markup when it is measured. Plain
-/// text takes time by its length; of rich text, 64 kB of elements that are never closed take Qt 4 s
-/// and of image tags 2 s.
+/// Use only Qt::PlainText, the default, for what users wrote. Qt lays Qt::RichText out as a whole,
+/// and nested tables in a short text can keep it busy for minutes; a text in another format is
+/// escaped before it is shown, but QLabel measures it as markup. The time for plain text grows with
+/// its length; of rich text, 64 kB of elements that are never closed take Qt 4 s and of image tags
+/// 2 s.
 ///
-/// While text is selected the label paints as before: a selection does not show.
+/// Selected text is painted like any other: a selection does not show.
 class UIELEMENTS_EXPORT OxaEmojiLabel : public OxaLabel
 {
     Q_OBJECT
@@ -50,8 +50,8 @@ public:
     /// Returns the space in pixels to the left of the text, 0 by default.
     int getTextLeftPadding() const;
 
-    /// Sets the space to the left of the text, to the right of it in a right-to-left application.
-    /// Repaints, but doesn't lay the text out.
+    /// Sets the space to the left of the text, or to the right of it in a right-to-left
+    /// application. Repaints, but doesn't lay the text out.
     void setTextLeftPadding(int padding);
 
     /// Returns the space in pixels to the right of the text, 0 by default.
@@ -62,23 +62,23 @@ public:
 
     using OxaLabel::getElidedText;
 
-    /// Returns what the label shows, elided and escaped, with its emoji as text.
+    /// Returns the text that the label shows, elided and escaped, with its emoji as characters.
     QString getElidedText() const;
 
-    /// Returns whether the text has more than one line: by a newline, or because it is wrapped.
+    /// Returns whether the text has more than one line, by a newline or by wrapping.
     bool isTextMoreThanOneLine() const;
 
-    /// Sets whether the label leaves its text colour alone when it is hovered or focused, because
-    /// it shows the state of its parent. False by default.
+    /// Sets whether the label keeps its text colour when it is hovered or focused, because it shows
+    /// the state of its parent. False by default.
     void setMirrorParentFocus(bool mirrors);
 
     void setTextInteractionFlags(Qt::TextInteractionFlags flags) override;
 
-    /// The size of the text as it is laid out, and three pixels of width more for each emoji.
+    /// Returns the size of the text as laid out, with three more pixels of width for each emoji.
     QSize sizeHint() const override;
 
-    /// Returns where the text is painted. The horizontal place is that of a centred text, else the
-    /// side where lines of the application's layout begin; a text is at the top unless it is
+    /// Returns where the text is painted. Horizontally a text is centred, or else at the side where
+    /// lines begin in the application's layout direction; vertically it is at the top unless it is
     /// centred.
     QPointF getTextOffset() const override;
 
@@ -107,18 +107,18 @@ protected:
     /// Sets the colour of the text in the palette.
     void updateTextColor(const QColor &color);
 
-    /// Returns \a text as markup, elided before where \a elide is true, with \a separator in the
-    /// place of each newline.
+    /// Returns \a text as markup, elided first if \a elide is true, with \a separator in place of
+    /// each newline.
     QString createElidedLine(const QString &text, bool elide, const QString &separator);
 
-    /// Returns \a text as markup, broken into lines with \a separator between them. What there is
-    /// no room for below the maximum height is elided.
+    /// Returns \a text as markup, broken into lines with \a separator between them. Text that
+    /// doesn't fit into the maximum height is elided.
     QString createElidedLines(const QString &text, const QString &separator);
 
     /// Returns the style attribute of the text: colour, font families and margins.
     QString createStyle();
 
-    /// Returns the margins that indent and paddings make, or an empty text.
+    /// Returns the margins for indent and paddings, or an empty text.
     QString createIndentStyle();
 
     bool event(QEvent *event) override;

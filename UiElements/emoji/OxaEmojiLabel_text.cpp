@@ -20,12 +20,12 @@ void OxaEmojiLabel::updateText()
     m_moreThanOneLine = false;
     QString shownText = text();
     const bool hasArtwork = shouldDrawSvgEmojis();
-    // A text may come with image tags, from another label or a document: they are emoji as well.
+    // A text from another label or a document may have image tags: they are emoji as well.
     if (hasArtwork)
         shownText = EmojiTextConverter::restore(shownText);
     m_moreThanOneLine = containsNewline(shownText);
     m_elidedHtml = createBody(shownText);
-    // Only when it is wrapped does a centred text turn out to have several lines.
+    // Only wrapping shows whether a centred text has several lines.
     if (hasArtwork && !shouldDrawSvgEmojis())
         m_elidedHtml = EmojiTextConverter::restore(m_elidedHtml);
     fillDocument(isLaidOutByQt(shownText) ? width() : -1.0);
@@ -39,7 +39,7 @@ QString OxaEmojiLabel::createBody(const QString &text)
                       : createElidedLine(text, true, lineSeparator);
 }
 
-/// Returns whether \a text is a document of its own, whose lines are not broken here.
+/// Returns whether Qt lays out \a text as a document, so that its lines are not broken here.
 bool OxaEmojiLabel::isLaidOutByQt(const QString &text) const
 {
     return wordWrap() && textFormat() == Qt::RichText
@@ -48,7 +48,7 @@ bool OxaEmojiLabel::isLaidOutByQt(const QString &text) const
 
 void OxaEmojiLabel::fillDocument(qreal textWidth)
 {
-    m_document->clear(); // The pictures too, which setHtml() would keep.
+    m_document->clear(); // Also the pictures, which setHtml() would keep.
     m_document->setDefaultFont(font());
     m_document->setDocumentMargin(0.0);
     m_document->setTextWidth(textWidth);
@@ -61,7 +61,7 @@ void OxaEmojiLabel::fillDocument(qreal textWidth)
     else
         m_document->setHtml(QLatin1String("<div ") + createStyle() + QLatin1Char('>') + m_elidedHtml
                             + QLatin1String("</div>"));
-    // A parsed sheet takes as much as an empty document, and does nothing for it any more.
+    // A parsed sheet takes as much memory as an empty document, which does not need it.
     if (m_document->isEmpty())
         m_document->setDefaultStyleSheet(QString());
 }

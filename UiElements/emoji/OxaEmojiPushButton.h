@@ -3,10 +3,11 @@
 
 #include <UiElements/emoji/OxaEmojiLabel.h>
 
-/// An OxaEmojiLabel that is a button: it is clicked by the left button, Space, Return and Enter,
-/// whatever its text interaction flags are.
+/// An OxaEmojiLabel that is a button: the left mouse button, Space, Return and Enter click it, with
+/// any text interaction flags.
 ///
-/// All other keys end here: they reach no parent. It takes focus only if the focus policy is set.
+/// All other keys are consumed: they reach no parent. It takes focus only if the focus policy is
+/// set.
 class UIELEMENTS_EXPORT OxaEmojiPushButton : public OxaEmojiLabel
 {
     Q_OBJECT

@@ -19,7 +19,7 @@ public:
     };
     Q_ENUM(FontType)
 
-    /// How far a view is enlarged.
+    /// How much a view is enlarged.
     enum class FontScalingFactor {
         Small = -1,  ///< Body text of 14 pixels.
         Regular = 0, ///< Body text of 16 pixels, times the application's font scale factor.

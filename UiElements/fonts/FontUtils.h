@@ -10,7 +10,7 @@
 /// Font families by purpose, and small calculations with fonts.
 namespace FontUtils {
 
-/// A list of families, the wanted one first. Any other value stands for Interface.
+/// A list of families, the preferred one first. Any other value means Interface.
 enum class SupportedFontFamily {
     Brand = 0,              ///< The brand's own family, which the outer application loads.
     Monospace = 1,          ///< Code.
@@ -20,8 +20,8 @@ enum class SupportedFontFamily {
     Ethiopic = 5,           ///< Scripts of the Horn of Africa and their neighbours.
 };
 
-/// Returns \a text, escaped, as an HTML paragraph in \a family. With \a wrap lines may break; else
-/// white space is kept. An empty text gives an empty string.
+/// Returns \a text, escaped, as an HTML paragraph in \a family. With \a wrap lines may break;
+/// without it white space is kept. An empty text gives an empty string.
 UIELEMENTS_EXPORT QString toHtml(const QString &text, SupportedFontFamily family, bool wrap);
 
 /// Returns a font of \a pixelSize pixels in \a family.

@@ -56,7 +56,7 @@ TokenStyle styleOf(OxaFont::Token token)
     return unknownTokenStyle;
 }
 
-/// Returns \a pixelSize times \a factor. The application stores a NaN as well: it scales nothing.
+/// Returns \a pixelSize times \a factor. A NaN, which the application may store, does not scale.
 int scaled(int pixelSize, float factor)
 {
     return std::isnan(factor) ? pixelSize : qRound(float(pixelSize) * factor);
@@ -97,7 +97,7 @@ OxaFont::OxaFont(Token token, bool useFallbackFamilies)
 
     if (const auto *app = ApplicationObject::find<OxaApplication>()) {
         setPixelSize(scaled(style.pixelSize, app->getFontScaleFactor()));
-        // The list comes last and wins over the monospace family: meant so.
+        // Set last, so that the list replaces the monospace family, as the header says.
         if (useFallbackFamilies)
             setFamilies(QStringList(QStringLiteral("Segoe UI")) + scriptFamilies());
         return;

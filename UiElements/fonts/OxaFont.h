@@ -6,11 +6,11 @@
 #include <QFont>
 #include <QMetaType>
 
-/// A QFont that can be made from a token: type sizes are named, not numbered, in widget code.
+/// A QFont that can be made from a token, so that widget code names type sizes instead of numbers.
 ///
-/// The token fixes weight, pixel size and underline. In a process with an OxaApplication the size
-/// is multiplied by the application's font scale factor, once, when the font is made; a factor that
-/// is not a number leaves it as it is.
+/// The token determines weight, pixel size and underline. In a process with an OxaApplication the
+/// size is multiplied by the application's font scale factor, once, when the font is made; a NaN
+/// leaves it as it is.
 class UIELEMENTS_EXPORT OxaFont : public QFont
 {
     Q_GADGET
@@ -48,7 +48,7 @@ public:
     /// Makes an upright font of one family; \a pointSize and \a weight as in QFont.
     OxaFont(const QString &family, int pointSize, int weight);
 
-    /// Makes a default font and changes what is given: a \a pointSize above 0, a \a weight of 0 or
+    /// Makes a default font and applies what is given: a \a pointSize above 0, a \a weight of 0 or
     /// more, a list of \a families that isn't empty.
     OxaFont(const QStringList &families, int pointSize, int weight);
 
@@ -56,9 +56,9 @@ public:
     OxaFont(const QFont
                     &font); // NOLINT(google-explicit-constructor): a QFont is an OxaFont's whole
 
-    /// Makes the font of \a token. With \a useFallbackFamilies it names the families for scripts
-    /// that the first one lacks; a CodeBlocks font then loses its monospace family to that list,
-    /// and so it does in a process without an OxaApplication. A value outside the enumeration logs
-    /// a warning and gives a plain font of 16 pixels.
+    /// Makes the font of \a token. With \a useFallbackFamilies it also names families for scripts
+    /// that the first one lacks. That list replaces the monospace family of CodeBlocks, and so does
+    /// the list of a process without an OxaApplication. A value outside of the enumeration logs a
+    /// warning and gives a plain font of 16 pixels.
     explicit OxaFont(Token token, bool useFallbackFamilies = false);
 };

@@ -17,7 +17,7 @@ void OxaFontBlock::setToken(OxaFont::Token token, bool useFallbackFamilies)
     m_token = token;
     const QPointer<QWidget> widget = m_widget;
     m_widget->setFont(OxaFont(token, useFallbackFamilies));
-    // Who hears of the new font may delete the widget, and this block with it.
+    // Code that handles the change may delete the widget, and this block with it.
     if (widget)
         update();
 }

@@ -11,8 +11,8 @@
 
 class OxaScaledFonts;
 
-/// Keeps the scaled fonts of each view that the user can enlarge. OxaApplication makes the one of
-/// the process.
+/// Keeps the scaled fonts of each view that the user can enlarge. OxaApplication makes the only
+/// instance of the process.
 class UIELEMENTS_EXPORT OxaFontManager : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     /// null.
     static OxaFontManager *get();
 
-    /// Returns the fonts of \a type, made at the first request, and anew where somebody deleted
+    /// Returns the fonts of \a type, made at the first request, and again if other code deleted
     /// them. The manager owns them.
     OxaScaledFonts *getFont(FontManagerEnum::FontType type);
 

@@ -8,7 +8,7 @@ using FontScalingFactor = FontManagerEnum::FontScalingFactor;
 
 namespace {
 
-/// Pixel sizes at the factors other than Regular; 0 leaves a font as it is.
+/// Pixel sizes at the factors other than Regular; 0 leaves a font unchanged.
 struct ScaledSizes
 {
     int small = 0;
@@ -98,7 +98,7 @@ QFont OxaScaledFonts::*const OxaScaledFonts::tokenFonts[] = {
     &OxaScaledFonts::m_subheaderSecondary, // TagLabelPrimary
     &OxaScaledFonts::m_labelCompact,       // TagLabelSecondary
     &OxaScaledFonts::m_codeBlocks,         // CodeBlocks
-    &OxaScaledFonts::m_default,            // RadioButtonLabelSecondary: none of its own, meant so
+    &OxaScaledFonts::m_default,            // RadioButtonLabelSecondary: has no font of its own
     &OxaScaledFonts::m_display,            // Display
 };
 

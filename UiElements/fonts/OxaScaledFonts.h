@@ -10,8 +10,8 @@
 /// The fonts of one view that the user can enlarge, such as the messaging view.
 ///
 /// C++ asks for a token's font with getFont(); QML binds to the properties. The application's font
-/// scale factor is baked in when the table is made and whenever the factor becomes Regular again; a
-/// later change of it leaves the table alone. Made and owned by OxaFontManager.
+/// scale factor is applied when the table is made and whenever the scaling factor is set to
+/// Regular; other changes of it leave the table unchanged. OxaFontManager makes and owns it.
 class UIELEMENTS_EXPORT OxaScaledFonts : public QObject
 {
     Q_OBJECT
@@ -51,8 +51,8 @@ public:
     QFont getFont(OxaFont::Token token) const;
 
     /// Gives twelve of the fonts the pixel sizes of \a factor; Regular rebuilds the whole table.
-    /// The sizes are absolute: the application's factor does not enter. Emits fontTokenChanged()
-    /// once, also when nothing differs.
+    /// The sizes are absolute: the application's factor does not change them. Emits
+    /// fontTokenChanged() once, also when nothing differs.
     void setScalingFactor(FontManagerEnum::FontScalingFactor factor);
 
 Q_SIGNALS:

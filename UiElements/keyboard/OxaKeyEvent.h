@@ -7,14 +7,14 @@
 
 class QKeyEvent;
 
-/// Shows QML the modifiers of a key event.
+/// Gives QML access to the modifiers of a key event.
 class UIELEMENTS_EXPORT OxaKeyEvent : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(Qt::KeyboardModifiers modifiers READ modifiers NOTIFY modifiersChanged)
 
 public:
-    /// Makes one without modifiers and without an event.
+    /// Makes an object without modifiers and without an event.
     explicit OxaKeyEvent(QObject *parent = nullptr);
 
     /// Returns the modifiers. None by default.
@@ -23,16 +23,16 @@ public:
     /// Stores \a modifiers, and emits modifiersChanged() when they differ.
     void setModifiers(Qt::KeyboardModifiers modifiers);
 
-    /// Returns the event last given, or null. It belongs to who gave it, and is valid only as long
-    /// as that event lives.
+    /// Returns the event last set, or null. It belongs to the code that set it, and the pointer is
+    /// valid only as long as that event exists.
     QKeyEvent *keyEvent() const;
 
-    /// Keeps \a event and takes its modifiers; modifiersChanged() follows when they differ. Null
-    /// forgets the event and leaves the modifiers.
+    /// Stores \a event and takes its modifiers; modifiersChanged() follows when they differ. Null
+    /// forgets the event and keeps the modifiers.
     void setKeyEvent(QKeyEvent *event);
 
 Q_SIGNALS:
-    /// modifiers() is new.
+    /// modifiers() has changed.
     void modifiersChanged();
 
 private:

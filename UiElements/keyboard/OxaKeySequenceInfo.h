@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-/// What a screen knows of a shortcut: its key as text, and two flags. QML only reads it.
+/// What a screen shows of a shortcut: its key as text, and two flags. Read-only in QML.
 class UIELEMENTS_EXPORT OxaKeySequenceInfo : public OxaObject
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ class UIELEMENTS_EXPORT OxaKeySequenceInfo : public OxaObject
     Q_PROPERTY(bool enabled READ enabled NOTIFY enabledChanged)
 
 public:
-    /// Makes an enabled one without a key.
+    /// Makes an enabled object without a key.
     explicit OxaKeySequenceInfo(QObject *parent = nullptr);
 
     /// Returns the keys as text, such as "Ctrl+F". Empty by default.
@@ -27,10 +27,10 @@ public:
     /// Stores \a keySequence, and emits keySequenceChanged() when it differs.
     void setKeySequence(const QString &keySequence);
 
-    /// The same with UTF-8.
+    /// Does the same with a UTF-8 text.
     void setKeySequence(const std::string &keySequence);
 
-    /// The same with UTF-8; null is an empty text.
+    /// Does the same with a UTF-8 text; null is an empty text.
     void setKeySequence(const char *keySequence);
 
     /// True when the keys work while another application is in front. Off by default.
@@ -50,13 +50,13 @@ public:
     std::pair<Qt::KeyboardModifiers, Qt::Key> extractKeysFromSequence(const QString &text) const;
 
 Q_SIGNALS:
-    /// keySequence() is new.
+    /// keySequence() has changed.
     void keySequenceChanged();
 
-    /// isGlobal() is new.
+    /// isGlobal() has changed.
     void isGlobalChanged();
 
-    /// enabled() is new.
+    /// enabled() has changed.
     void enabledChanged();
 
 private:

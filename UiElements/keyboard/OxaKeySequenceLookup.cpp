@@ -32,9 +32,9 @@ bool isGlobal(Shortcut shortcutType)
             != globalShortcuts.end();
 }
 
-/// Keeps QML's garbage collector from deleting \a info, which it does to an object that a method
-/// returned to it and that has no parent. This parent lives as long as the process: the object
-/// stays its maker's to delete.
+/// Keeps QML's garbage collector from deleting \a info, as it does with an object that a method
+/// returned and that has no parent. This parent lives as long as the process; whoever made the
+/// object still has to delete it.
 void keepFromCollector(OxaKeySequenceInfo *info)
 {
     static auto *const keeper = new QObject;
@@ -46,7 +46,7 @@ void keepFromCollector(OxaKeySequenceInfo *info)
 
 OxaKeySequenceLookup::OxaKeySequenceLookup(QObject *parent) : OxaObject(parent)
 {
-    // Moc registers the types of parameters, but not what a method returns.
+    // Moc registers the types of parameters, but not those of return values.
     qRegisterMetaType<OxaKeySequenceInfo *>();
     qRegisterMetaType<OxaKeySequenceLookup::Shortcut>("OxaKeySequenceLookup::Shortcut");
 }
@@ -54,7 +54,7 @@ OxaKeySequenceLookup::OxaKeySequenceLookup(QObject *parent) : OxaObject(parent)
 OxaKeySequenceInfo *OxaKeySequenceLookup::getKeySequence(
         OxaKeySequenceLookup::Shortcut shortcutType, const QString &fallbackKeySequence)
 {
-    // Made before it is known to be needed: each call leaves one object behind.
+    // Made even if it is not needed: each call makes one object, as the header says.
     auto *info = new OxaKeySequenceInfo(this);
     if (m_managerEnabled) {
         const auto entry = m_keySequenceMap.constFind(shortcutType);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// Longer than headers are here: the names are a table, and moc wants it inside the class.
+// Longer than other headers: the names are a table, and moc needs it inside the class.
 
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/app/OxaObject.h>
@@ -13,14 +13,14 @@
 #include <utility>
 #include <vector>
 
-/// Tells QML screens the key text of a shortcut by the shortcut's name.
+/// Gives QML screens the key text of a shortcut by the shortcut's name.
 ///
-/// The keys come from the client's shortcut service, which hands them in with
-/// updateKeySequenceMap() and setManagerEnabled(). As long as it is off, the asker's own text is
-/// the answer.
+/// The keys come from the client's shortcut service, which supplies them with
+/// updateKeySequenceMap() and setManagerEnabled(). As long as it is off, the caller's own text is
+/// returned.
 ///
-/// The names here are all that the client knows; those that the library registers itself are
-/// OxaAppSignals::Shortcut.
+/// These are the names of all shortcuts of the client; OxaAppSignals::Shortcut has those that the
+/// library registers itself.
 class UIELEMENTS_EXPORT OxaKeySequenceLookup : public OxaObject
 {
     Q_OBJECT
@@ -226,23 +226,23 @@ public:
     /// With the service off that is a new object with the text \a fallbackKeySequence, which is
     /// global for the shortcuts that work while another application is in front. With the service
     /// on it is the service's object, which is null once the service has deleted it, or a new
-    /// object without text where the service named none; the fallback is not used then.
+    /// object without text if the service named none; the fallback is not used then.
     ///
-    /// Each call makes one object, used or not, and the lookup owns it: ask once and keep it. The
-    /// service's objects stay the service's to delete. QML owns none of them: where one that is
-    /// handed out has no parent, it gets an internal one, so that the garbage collector leaves it.
+    /// Each call makes one object, used or not, and the lookup owns it: ask once and keep it. Only
+    /// the service deletes its objects. QML owns none of them: a returned object without a parent
+    /// gets an internal one, so that the garbage collector leaves it alone.
     Q_INVOKABLE OxaKeySequenceInfo *getKeySequence(OxaKeySequenceLookup::Shortcut shortcutType,
                                                    const QString &fallbackKeySequence = QString());
 
-    /// Says whether the client's shortcut service is in use. Off by default.
+    /// Sets whether the client's shortcut service is in use. Off by default.
     void setManagerEnabled(bool enabled);
 
-    /// Adds each of \a entries, in order, and replaces what was there under its name. The objects
+    /// Adds each of \a entries, in order, replacing an earlier one of the same name. The objects
     /// stay the caller's. Entries are never removed.
     void updateKeySequenceMap(
             const std::vector<std::pair<Shortcut, QPointer<OxaKeySequenceInfo>>> &entries);
 
-    /// True when the service named \a shortcutType, also when its object is gone.
+    /// True when the service named \a shortcutType, also when its object was deleted.
     bool shortcutExists(OxaKeySequenceLookup::Shortcut shortcutType) const;
 
 private:

@@ -12,7 +12,7 @@
 
 class OxaShortcut;
 
-/// The place of a client's own service for shortcuts. The library makes none and puts nothing in.
+/// A place for a client's own shortcut service. The library neither makes nor fills one.
 class UIELEMENTS_EXPORT OxaKeyboardShortcutsManager : public OxaObject
 {
     Q_OBJECT

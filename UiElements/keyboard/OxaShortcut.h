@@ -5,13 +5,13 @@
 
 #include <QShortcut>
 
-/// A keyboard shortcut that knows what a list of shortcuts says of it.
+/// A keyboard shortcut with the description and the group that a list of shortcuts shows.
 class UIELEMENTS_EXPORT OxaShortcut : public QShortcut
 {
     Q_OBJECT
 
 public:
-    /// What a shortcut is about. The values are bits, and several may be asked for at once.
+    /// What a shortcut is about. The values are bits, so that several can be combined.
     enum ShortcutGroup {
         General = 1,
         Messaging = 2,
@@ -33,7 +33,7 @@ public:
     OxaShortcut(const QKeySequence &key, QWidget *parent, const QString &description,
                 OxaShortcut::ShortcutGroup group);
 
-    /// Sets the key. Returns this object, for a chain of calls.
+    /// Sets the key. Returns this object, so that calls can be chained.
     OxaShortcut *setShortcutKey(const QKeySequence &key);
 
     /// Sets the translated text for the list of shortcuts. Returns this object.
@@ -48,11 +48,11 @@ public:
     /// Returns the group. All by default.
     OxaShortcut::ShortcutGroup getShortcutGroup() const;
 
-    /// Returns the translated name of the group; empty for Tool, All and what is no single group.
+    /// Returns the translated name of the group; empty for Tool, All and combined groups.
     QString getShortcutGroupName() const;
 
-    /// With \a disable, remembers whether the shortcut is enabled, and disables it; without, takes
-    /// it back to what was remembered, which is disabled at first.
+    /// With \a disable, remembers whether the shortcut is enabled, and disables it; without,
+    /// restores the remembered state, which is disabled at first.
     ///
     /// Calls come in pairs: a second call with \a disable remembers that the shortcut is disabled.
     void temporarilyDisable(bool disable);
@@ -63,7 +63,7 @@ private:
     bool m_wasEnabled = false;
 };
 
-/// Returns the groups of both.
+/// Returns the bits of both groups.
 constexpr OxaShortcut::ShortcutGroup operator|(OxaShortcut::ShortcutGroup left,
                                                OxaShortcut::ShortcutGroup right)
 {

@@ -23,7 +23,7 @@ QWidget *widgetAt(const QLayout &layout, int index)
     return item ? item->widget() : nullptr;
 }
 
-/// Chains \a first and the widgets of \a layout, and returns the last of them.
+/// Puts the widgets of \a layout after \a first in the tab order, and returns the last of them.
 QWidget *chain(QWidget *first, const QLayout &layout)
 {
     QWidget *previous = first;
@@ -55,15 +55,15 @@ bool isArrow(int key)
 
 bool usesArrowsItself(const QObject *object)
 {
-    // A QML view is known by its name, which needs no QML in this library.
+    // A QML view is recognised by its class name, which needs no QML in this library.
     return qobject_cast<const QListView *>(object) || qobject_cast<const QComboBox *>(object)
             || qobject_cast<const QRadioButton *>(object) || qobject_cast<const QLineEdit *>(object)
             || qobject_cast<const QSlider *>(object) || (object && object->inherits("QQuickWidget"))
             || qobject_cast<const QTreeWidget *>(object);
 }
 
-/// True when a button of accelerator type \a type does not keep the arrow \a key. What the types
-/// mean is for the outer application to know.
+/// True when a button of accelerator type \a type does not keep the arrow \a key. The outer
+/// application defines what the types mean.
 bool isTakenFromButton(int type, int key)
 {
     const bool isVertical = key == Qt::Key_Up || key == Qt::Key_Down;

@@ -83,7 +83,7 @@ int AutoGridLayout::doLayout(const QRect &rect, bool apply) const
             table.startRow();
             position.setX(effective.left());
         }
-        // Without a cell above, an item stays as high up as the one before it.
+        // Without a cell above, an item is placed as high as the one before it.
         if (const Cell *above = table.above())
             position.setY(held(above->rect.bottom() + 1 + spacing.y()));
         table.add(QRect(position, size), item);

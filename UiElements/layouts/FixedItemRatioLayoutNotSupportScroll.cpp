@@ -11,8 +11,8 @@ using LayoutPass::held;
 
 namespace {
 
-/// Cuts the fraction off. What is too large, as with a ratio of zero, comes to the largest length;
-/// what is no number comes to 0.
+/// Truncates \a value. A value that is too large, as with a ratio of zero, becomes the largest
+/// length; NaN becomes 0.
 int truncated(double value)
 {
     constexpr double highest = std::numeric_limits<int>::max();
@@ -82,13 +82,13 @@ int FixedItemRatioLayoutNotSupportScroll::doLayout(const QRect &rect, bool apply
     return 0;
 }
 
-/// Returns the height of \a count items of the smallest width, margins included, where the layout
-/// has \a width inside of its margins; 0 where not even one fits.
+/// Returns the height of \a count items of the smallest width, margins included, if the layout has
+/// \a width inside its margins; 0 if not even one item fits.
 int FixedItemRatioLayoutNotSupportScroll::heightFor(int width, int count) const
 {
     const int spacing = m_itemData.spacing;
     const int itemWidth = m_itemData.minimumWidth;
-    // Neither a width nor a spacing: there is no telling how many fit.
+    // Without a width and a spacing the number of columns is undefined.
     const int columns = itemWidth + spacing == 0 ? 0 : (width + spacing) / (itemWidth + spacing);
     if (columns == 0)
         return 0;
@@ -101,7 +101,7 @@ int FixedItemRatioLayoutNotSupportScroll::heightFor(int width, int count) const
 void FixedItemRatioLayoutNotSupportScroll::place(const std::vector<QLayoutItem *> &visible,
                                                  const QRect &effective) const
 {
-    // Copies: the layout may go with an item that moves.
+    // Copied: an item that moves may delete the layout.
     const auto [itemWidth, itemHeight, rows, columns] = m_calculatedItemData;
     const int spacing = m_itemData.spacing;
     const auto startOfRow = [&, itemWidth = itemWidth](int items) {
@@ -127,7 +127,7 @@ void FixedItemRatioLayoutNotSupportScroll::place(const std::vector<QLayoutItem *
         if (++column <= columns)
             continue;
         column = 1;
-        // Where rows stay empty, this never is the last one: a partial row is not centred then.
+        // If rows stay empty, this is never the last one: a partial row is then not centred.
         position = { ++row == rows ? lastRowStart : rowStart,
                      held(position.y() + itemHeight + spacing) };
     }
@@ -142,7 +142,7 @@ std::vector<QLayoutItem *> FixedItemRatioLayoutNotSupportScroll::getVisibleItems
     return visible;
 }
 
-/// Returns how many rows \a count items fill by \a other columns, or the other way round.
+/// Returns how many rows \a count items fill with \a other columns, or the reverse.
 int FixedItemRatioLayoutNotSupportScroll::getRowsOrColumns(int count, int other) const
 {
     return (count - 1 + other) / other;
@@ -154,7 +154,7 @@ FixedItemRatioLayoutNotSupportScroll::getMaxLayout(int width, int height, const 
 {
     int bestWidth = 0;
     int bestRows = 1;
-    // More rows of as many columns only make items narrower, unless there is less than no height.
+    // More rows of as many columns only make items narrower, unless the height is negative.
     const bool onlyFewest = height + data.spacing >= 0 && data.heightToWidthRatio > 0;
     int rows = 1;
     while (rows <= count) {
@@ -174,7 +174,7 @@ FixedItemRatioLayoutNotSupportScroll::getMaxLayout(int width, int height, const 
 }
 
 /// Returns the width of items that fill \a width or \a height, whichever makes them smaller. The
-/// spacing is added once, and not taken off per item.
+/// spacing is added once, and not subtracted for each item.
 int FixedItemRatioLayoutNotSupportScroll::getItemWidth(int width, int height, const ItemData &data,
                                                        int rows, int columns) const
 {
@@ -198,8 +198,7 @@ int FixedItemRatioLayoutNotSupportScroll::getItemHeightFromWidth(int width, Item
     return truncated(double(inner) + 0.5 + borders);
 }
 
-/// Returns the free room before \a count items, so that they stand in the middle of \a total; 0
-/// where they have no room.
+/// Returns the free space before \a count items that centres them in \a total; 0 if they don't fit.
 int FixedItemRatioLayoutNotSupportScroll::getBeginSpacing_CenterItems(int total, int itemSize,
                                                                       int count, int spacing) const
 {

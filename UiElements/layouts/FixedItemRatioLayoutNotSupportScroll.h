@@ -3,23 +3,23 @@
 
 #include <UiElements/layouts/FlowLayout.h>
 
-/// A layout that gives all visible items one size of a fixed proportion, as large as the rectangle
+/// A layout that gives all visible items one size with a fixed ratio, as large as the rectangle
 /// allows, and centres the grid of them.
 ///
-/// For tiles that fill what there is, as in a meeting: the layout has no height for a width. Do not
-/// put it into a scroll area; its height would be that of one item.
+/// It is made for tiles that fill the available space, as in a meeting, and has no height for
+/// width. Don't put it into a scroll area: its height would be that of one item.
 ///
-/// - The number of rows is the one that makes items widest, and the smallest of those that do.
-/// - The room between items is not taken off their size, so that a row may be too wide; it starts
-///   at the left edge then.
-/// - It may leave rows empty. The grid is centred as if they were there, and the last row of items
+/// - The number of rows is the smallest one that makes items widest.
+/// - The spacing between items is not subtracted from their size, so that a row may be too wide; it
+///   then starts at the left edge.
+/// - Rows may stay empty. The grid is centred as if they were filled, and the last row of items
 ///   stays at the left.
 class UIELEMENTS_EXPORT FixedItemRatioLayoutNotSupportScroll : public FlowLayout
 {
     Q_OBJECT
 
 public:
-    /// What items look like. Lengths are in pixels.
+    /// The size and the spacing of items. Lengths are in pixels.
     struct ItemData
     {
         float heightToWidthRatio = 0.5625F; ///< Height over width inside of the border.
@@ -28,7 +28,7 @@ public:
         int spacing = 0;                    ///< Between items, both ways.
     };
 
-    /// How a layout pass came out.
+    /// The result of a layout pass.
     struct CalculatedItemData
     {
         int itemWidth = 0;
@@ -37,7 +37,7 @@ public:
         int columns = 0;
     };
 
-    /// Makes the layout of \a parent. The spacings are kept, but not used: see ItemData.
+    /// Makes the layout of \a parent. The spacings are stored but not used: see ItemData.
     FixedItemRatioLayoutNotSupportScroll(QWidget *parent, QMargins margins, int hSpacing,
                                          int vSpacing);
 
@@ -45,16 +45,16 @@ public:
     FixedItemRatioLayoutNotSupportScroll(QMargins margins, int hSpacing, int vSpacing);
     ~FixedItemRatioLayoutNotSupportScroll() override;
 
-    /// Sets what items look like. Does not invalidate: it counts from the next layout pass.
+    /// Sets the size and the spacing of items from the next layout pass on. Does not invalidate.
     void setItemData(const ItemData &data);
 
-    /// Returns how the last pass came out that moved items; zeros before the first one.
+    /// Returns the result of the last pass that moved items; zeros before the first one.
     CalculatedItemData getCalculatedItemData() const;
 
-    /// Returns how a pass would come out with \a size for the items, margins excluded.
+    /// Returns the result of a pass with \a size for the items, margins excluded.
     CalculatedItemData getCalculatedItemData(const QSize &size) const;
 
-    /// Returns the size of one item of the minimum width plus the margins, however many there are.
+    /// Returns the size of one item of the minimum width plus the margins, for any number of items.
     QSize minimumSize() const override;
 
     /// Returns false.
@@ -73,6 +73,6 @@ private:
     int getBeginSpacing_CenterItems(int total, int itemSize, int count, int spacing) const;
 
     ItemData m_itemData;
-    /// What a pass, which is a const operation, leaves for its clients.
+    /// Stored by a pass, which is a const operation.
     mutable CalculatedItemData m_calculatedItemData;
 };

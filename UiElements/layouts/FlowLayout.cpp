@@ -31,7 +31,7 @@ int verticalSteps(Qt::Key key)
     }
 }
 
-/// Wider than a coordinate, so that widgets far away from each other do not seem near.
+/// 64 bits, so that the square of a large distance does not overflow.
 qint64 squaredDistance(const QPoint &a, const QPoint &b)
 {
     const qint64 dx = qint64(a.x()) - b.x();
@@ -66,7 +66,7 @@ void FlowLayout::addItem(QLayoutItem *item) { m_items.push_back(item); }
 void FlowLayout::prependWidget(QWidget *widget)
 {
     addWidget(widget);
-    // An exchange, and no shift of the whole list: the former first item is to become the last.
+    // Swapped, instead of moving the whole list: the former first item becomes the last.
     std::swap(m_items.front(), m_items.back());
     invalidate();
 }
@@ -117,10 +117,10 @@ int FlowLayout::verticalSpacing() const
 
 void FlowLayout::sort(std::function<bool(QLayoutItem *, QLayoutItem *)> lessThan)
 {
-    // The algorithm copies what it is given many times over: not the function itself, then.
+    // The algorithm copies its argument many times: a small lambda, and not the function itself.
     std::sort(m_items.begin(), m_items.end(),
               [&lessThan](QLayoutItem *a, QLayoutItem *b) { return lessThan(a, b); });
-    // A widget that stands in the list more than once is followed by what follows its first item.
+    // A widget that is in the list twice is followed by the widget after its first item.
     std::unordered_map<const QWidget *, std::size_t> positions;
     for (std::size_t i = 0; i < m_items.size(); ++i)
         positions.emplace(m_items[i]->widget(), i);
@@ -144,7 +144,7 @@ QWidget *FlowLayout::nextWidget(QWidget *current, Qt::Key key) const
 
     const bool upwards = key == Qt::Key_Up || key == Qt::Key_PageUp;
     QWidget *result = nullptr;
-    // An item without a widget can be found by a null widget, but leads nowhere.
+    // A null widget may find an item without a widget, but leads nowhere.
     for (int steps = verticalSteps(key); steps > 0 && current; --steps) {
         current = nearestWidget(*current, upwards);
         if (current)
@@ -172,7 +172,7 @@ QSize FlowLayout::sizeHint() const { return minimumSize(); }
 
 QSize FlowLayout::minimumSize() const
 {
-    // Not a size of zero: what an empty layout answers is part of the contract.
+    // QSize(-1, -1): the header promises this size for an empty layout.
     QSize size;
     for (const QLayoutItem *item : m_items)
         size = size.expandedTo(LayoutPass::held(item->minimumSize()));
@@ -208,7 +208,7 @@ void FlowLayout::followLayoutDirection()
 }
 
 /// Returns the widget nearest to \a current of those above it or below it, or null. Of equally near
-/// ones it is the first in the list on the way up, and the last on the way down.
+/// ones it is the first in the list when moving up, and the last when moving down.
 QWidget *FlowLayout::nearestWidget(const QWidget &current, bool upwards) const
 {
     const QRect rect = current.geometry();

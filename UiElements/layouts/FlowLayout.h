@@ -10,20 +10,20 @@
 #include <functional>
 #include <vector>
 
-/// The base of layouts that wrap: it keeps the items in order, says how far apart they stand, and
-/// finds neighbours for the keyboard. Where the items go is for doLayout() of a subclass to say.
+/// The base of layouts that wrap: it keeps the items in order, knows their spacing, and finds
+/// neighbours for the keyboard. Subclasses place the items in doLayout().
 ///
-/// Positions are computed from the left edge in any direction. All that a change of the
-/// application's layout direction does is to exchange the left and the right margin; a layout that
-/// is made while the direction is right to left keeps its margins as they are. An OxaWidget does
-/// the same to its layout: on one, both exchanges together change nothing.
+/// Positions are computed from the left edge in any direction. A change of the application's layout
+/// direction only exchanges the left and the right margin; a layout that is made while the
+/// direction is right to left keeps its margins as they are. An OxaWidget also exchanges the
+/// margins of its layout: on one, both exchanges together change nothing.
 class UIELEMENTS_EXPORT FlowLayout : public QLayout
 {
     Q_OBJECT
 
 public:
-    /// Makes the layout of \a parent. Spacings are in pixels; with a negative one the surroundings
-    /// decide, see horizontalSpacing().
+    /// Makes the layout of \a parent. Spacings are in pixels; a negative one is replaced by that of
+    /// the style or the parent layout, see horizontalSpacing().
     FlowLayout(QWidget *parent, QMargins margins, int hSpacing, int vSpacing);
 
     /// Makes a layout without a parent, to be put on a widget or into another layout.
@@ -48,19 +48,19 @@ public:
     /// Returns the widget of the item at \a index; null when there is no item or no widget.
     QWidget *widgetAt(int index) const;
 
-    /// Takes the item at \a index out and hands it to the caller; null when there is none. Does not
-    /// invalidate.
+    /// Removes the item at \a index and passes its ownership to the caller; null when there is
+    /// none. Does not invalidate.
     QLayoutItem *takeAt(int index) override;
 
     /// Returns the index of the first item of \a widget; -1 when there is none.
     int indexOf(QWidget *widget) const override;
     using QLayout::indexOf;
 
-    /// Returns the pixels between items that stand side by side.
+    /// Returns the pixels between items that are side by side.
     ///
-    /// Where the layout was made with a negative value, it is what the style of the parent widget
-    /// says, or the spacing of the parent layout. Without a parent it is -1. Items whose distance
-    /// comes to -1 are as far apart as the style of each one's widget keeps push buttons.
+    /// If the layout was made with a negative value, it is that of the parent widget's style, or
+    /// the spacing of the parent layout; -1 without a parent. With -1, items are as far apart as
+    /// the style of each item's widget places push buttons.
     int horizontalSpacing() const;
 
     /// Returns the pixels between items above each other, in the same way.
@@ -70,28 +70,28 @@ public:
     /// equal may change places. Invalidates.
     void sort(std::function<bool(QLayoutItem *, QLayoutItem *)> lessThan);
 
-    /// Returns the widget that \a key leads to from \a current; null where there is none, and for
-    /// keys other than these:
+    /// Returns the widget that \a key leads to from \a current; null if there is none, and for keys
+    /// other than these:
     ///
-    /// - Left and Right: the widget before or after it in the list, also where direction or
-    ///   wrapping put that elsewhere on the screen.
+    /// - Left and Right: the widget before or after it in the list, even if direction or wrapping
+    ///   places that elsewhere on the screen.
     /// - Up and Down: the nearest one, from centre to centre, of those whose centre lies more than
     ///   half the height of \a current above or below its own centre.
-    /// - Page up and Page down: the same up to four times over.
+    /// - Page up and Page down: the same up to four times.
     ///
     /// Hidden and disabled widgets count as well.
     QWidget *nextWidget(QWidget *current, Qt::Key key) const;
 
 protected:
-    /// Computes where the items stand in \a rect and returns the height that they need, margins
-    /// included. Items move only with \a apply.
+    /// Computes the positions of the items in \a rect and returns the height that they need,
+    /// margins included. Moves items only if \a apply is true.
     virtual int doLayout(const QRect &rect, bool apply) const = 0;
 
 public:
     /// Returns minimumSize().
     QSize sizeHint() const override;
 
-    /// Returns the size of the largest minimum of the items plus the margins: room for one column.
+    /// Returns the largest minimum size of the items, plus the margins: room for one column.
     /// Without items it is one pixel less than the margins in both directions.
     QSize minimumSize() const override;
 

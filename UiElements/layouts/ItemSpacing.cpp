@@ -27,7 +27,7 @@ ItemSpacing::ItemSpacing(const FlowLayout &layout)
 
 void ItemSpacing::askStyleOf(QLayoutItem &item)
 {
-    // What has no widget is kept apart as the application's style does it.
+    // Items without a widget are spaced by the application's style.
     const QWidget *widget = item.widget();
     const QStyle *style = widget ? widget->style() : QApplication::style();
     if (style == m_style)

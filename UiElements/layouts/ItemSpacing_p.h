@@ -5,26 +5,26 @@
 
 class QStyle;
 
-/// How far from each other the items of a layout stand, worked out for one pass over them.
+/// The spacing between the items of a layout, computed for one pass over them.
 ///
-/// The layout and its parent are asked once, since nothing that they answer by changes during a
-/// pass; where they leave it to the items' own styles, each style is asked once for a run of items.
+/// The layout and its parent are asked once, since their answers don't change during a pass. If
+/// they leave it to the items' own styles, each style is asked once for a run of items.
 class ItemSpacing
 {
 public:
     explicit ItemSpacing(const FlowLayout &layout);
 
-    /// Takes the spacing that holds for \a item.
+    /// Changes to the spacing of \a item.
     void take(QLayoutItem &item)
     {
         if (m_leavesToStyle)
             askStyleOf(item);
     }
 
-    /// Returns the pixels after the item, to the right.
+    /// Returns the pixels after the item, to its right.
     int x() const { return m_x; }
 
-    /// Returns the pixels around the item from the rows above and below.
+    /// Returns the pixels between the item and the rows above and below.
     int y() const { return m_y; }
 
 private:

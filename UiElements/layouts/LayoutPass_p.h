@@ -8,8 +8,8 @@
 /// What the passes of all layouts share.
 namespace LayoutPass {
 
-/// Returns \a value, or the nearest one whose triple is still an int: sums of positions, sizes and
-/// spacings don't overflow, however large the items want to be.
+/// Returns \a value, limited so that its triple is still an int: sums of positions, sizes and
+/// spacings then don't overflow.
 inline int held(qint64 value)
 {
     constexpr qint64 farthest = qint64(1) << 29;
@@ -19,8 +19,8 @@ inline int held(qint64 value)
 /// The same for both lengths of \a size.
 inline QSize held(const QSize &size) { return { held(size.width()), held(size.height()) }; }
 
-/// Tells which items are still there while a pass moves them in their order: a widget that moves
-/// may have others deleted, or the layout.
+/// Tells which items still exist while a pass moves them in their order: moving a widget may delete
+/// others, or the layout.
 class LiveItems
 {
 public:
@@ -31,7 +31,7 @@ public:
     {
         const int count = m_layout ? m_layout->count() : 0;
         for (int tried = 0; tried < count; ++tried) {
-            // The item asked for last is followed by the one asked for now, hidden ones apart.
+            // The item of this call follows that of the last call, apart from hidden ones.
             if (m_next >= count)
                 m_next = 0;
             if (m_layout->itemAt(m_next++) == item)

@@ -19,7 +19,7 @@ struct Placement
     QLayoutItem *item;
 };
 
-/// Where the items of one pass stand before rows are aligned, and the width that each row spares.
+/// The positions of the items of one pass before rows are aligned, and each row's spare width.
 class Placements
 {
 public:
@@ -27,7 +27,7 @@ public:
 
     void startRow() { ++m_row; }
 
-    /// Adds an item to the row, which ends \a spareWidth before the layout does with it.
+    /// Adds an item to the row, which then ends \a spareWidth before the layout's right edge.
     void add(const QRect &rect, QLayoutItem *item, int spareWidth)
     {
         m_placements.push_back({ m_row, rect, item });
@@ -116,7 +116,7 @@ bool SmartLayout::shouldBreakLine(int nextX, int spaceX, int lineHeight, int ite
 {
     if (m_fixedItemsPerRow >= 1)
         return index != 0 && index % m_fixedItemsPerRow == 0;
-    // A row of items without a height never breaks for lack of width.
+    // A row of items without a height never wraps for lack of width.
     if (nextX - spaceX > effectiveRect.right() && lineHeight > 0)
         return true;
     if (m_maximumItemsPerRow == noLimit || index == 0)
@@ -130,19 +130,19 @@ QSize SmartLayout::sizeOf(QLayoutItem &item) const
     return held(widget ? widget->sizeHint() : item.sizeHint());
 }
 
-/// Returns the size that \a item gets where it was measured as \a size.
+/// Returns the size that \a item gets if it was measured as \a size.
 QSize SmartLayout::placedSizeOf(QLayoutItem &item, const QSize &size) const
 {
     const QWidget *widget = m_maximumItemsPerRow == 1 ? item.widget() : nullptr;
     return widget ? held(widget->sizeHint()) : size;
 }
 
-/// Returns how far to the right a row goes that spares \a spareWidth.
+/// Returns how far to the right a row with \a spareWidth is moved.
 int SmartLayout::shiftFor(int spareWidth) const
 {
     if (alignment() == Qt::AlignLeft)
         return 0;
-    // Exactly this value: the horizontal part of it alone goes to the right, as any other does.
+    // Exactly this value: Qt::AlignHCenter alone moves rows to the right, as any other value does.
     return alignment() == Qt::AlignCenter ? spareWidth / 2 : spareWidth;
 }
 

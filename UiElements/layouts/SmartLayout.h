@@ -3,8 +3,8 @@
 
 #include <UiElements/layouts/FlowLayout.h>
 
-/// A layout whose items flow and wrap, with a limit of items per row or a fixed number of them, and
-/// each of whose rows is aligned by itself.
+/// A layout whose items flow and wrap. It limits or fixes the number of items per row, and aligns
+/// each row by itself.
 class UIELEMENTS_EXPORT SmartLayout : public FlowLayout
 {
     Q_OBJECT
@@ -13,25 +13,25 @@ public:
     /// Makes the layout of \a parent. Spacings are those of FlowLayout.
     ///
     /// With Qt::AlignLeft rows stay at the left, with Qt::AlignCenter they are centred, and with
-    /// any other value, Qt::AlignHCenter included, they go to the right; all of that in any layout
-    /// direction. \a maximumItemsPerRow is -1 for no limit, else positive. With \a useWidgetSizing
-    /// sizes are asked of the widgets, and geometry is given to them, past their items: size
-    /// policies, limits of size and the alignment of an item do not count then.
+    /// any other value, Qt::AlignHCenter included, they move to the right, in any layout direction.
+    /// \a maximumItemsPerRow is -1 for no limit, otherwise positive. With \a useWidgetSizing,
+    /// widgets are measured and placed directly and not through their items: size policies, size
+    /// limits and the alignment of an item are ignored.
     SmartLayout(QWidget *parent, QMargins margins, int hSpacing, int vSpacing,
                 Qt::AlignmentFlag alignment, int maximumItemsPerRow, bool useWidgetSizing);
     ~SmartLayout() override;
 
     /// Sets the limit of items per row, -1 for none. A row that wraps early for lack of width
     /// lowers the limit for the rows below it. With a limit of 1, every item gets its widget's size
-    /// hint. Does not invalidate: the value counts from the next layout pass.
+    /// hint. Does not invalidate: takes effect at the next layout pass.
     void setMaximumItemsPerRow(int value);
 
-    /// Sets the number of items in each row, whatever their width and the limit; 0, the default,
-    /// for none. Does not invalidate.
+    /// Sets the number of items in each row, regardless of their width and the limit; 0, the
+    /// default, for none. Does not invalidate.
     void setFixedItemsPerRow(int value);
 
-    /// Takes all items out and has their widgets deleted later. The items themselves stay alive and
-    /// belong to nobody: who keeps pointers to them may go on using and may delete them.
+    /// Removes all items and deletes their widgets later. The items themselves stay alive without
+    /// an owner: code that keeps pointers to them may use and delete them.
     void clear();
 
 protected:

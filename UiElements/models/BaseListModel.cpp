@@ -21,7 +21,7 @@ constexpr char invalidRangeWarning[][50] = { "BaseListModel::removeRows - invali
 
 constexpr std::size_t firstReservedRows = 100;
 
-/// Qt::UserRole itself is refused on purpose.
+/// Usable roles start above Qt::UserRole, which is refused itself.
 bool isUsableRole(int role) { return role > Qt::UserRole; }
 
 } // namespace
@@ -102,7 +102,7 @@ void BaseListModel::appendRows(const std::vector<ModelRow> &rows)
         QMessageLogger().warning() << tooManyRowsWarning;
         return;
     }
-    // Rows skipped below are announced all the same: listeners rely on the range of the whole list.
+    // Skipped rows are announced too: listeners rely on the range of the whole list.
     const int first = int(m_rows.size());
     beginInsertRows(QModelIndex(), first, first + int(rows.size()) - 1);
     reserveFor(rows.size());
@@ -138,8 +138,8 @@ void BaseListModel::appendOrUpdate(const std::vector<ModelRow> &rows)
             return;
         }
         if (position != last + 1) {
-            // Before the row changes: a sorting proxy looks for the reported rows, and relies on
-            // the order of all others.
+            // Reported before the row changes: a sorting proxy looks up the reported rows, and
+            // relies on the order of all others.
             reportRun();
             if (!self)
                 return;
@@ -260,7 +260,7 @@ void BaseListModel::setRoleValueForRow(const QModelIndex &&index, const QMap<int
         Q_EMIT dataChanged(index, index, written);
 }
 
-/// Makes room for \a moreRows. At least doubles what there is, so that many small appends don't
+/// Reserves room for \a moreRows. At least doubles the capacity, so that many small appends don't
 /// move the rows each time.
 void BaseListModel::reserveFor(std::size_t moreRows)
 {
@@ -272,7 +272,7 @@ void BaseListModel::reserveFor(std::size_t moreRows)
     m_idIndex.reserve(capacity);
 }
 
-/// Moves the ids at \a first and behind it by \a distance rows. Goes through the entries, as
+/// Adds \a distance to the positions of the ids from \a first on. Goes through the index, since
 /// looking up the id of each row takes longer.
 void BaseListModel::shiftIndex(std::size_t first, int distance)
 {
@@ -301,7 +301,7 @@ void BaseListModel::eraseRows(std::size_t row, std::size_t count)
     }
 }
 
-/// Emits what follows the insertion of rows.
+/// Finishes an insertion of rows and emits what follows it.
 void BaseListModel::finishInsertion()
 {
     const QPointer<BaseListModel> self = this;
@@ -310,14 +310,14 @@ void BaseListModel::finishInsertion()
         Q_EMIT countChanged(getCount());
 }
 
-/// Enters the ids of \a rows from the position \a first on.
+/// Adds the ids of \a rows to the index, from the position \a first on.
 void BaseListModel::indexRows(const std::vector<ModelRow> &rows, std::size_t first)
 {
     for (std::size_t i = first; i < rows.size(); ++i)
         m_idIndex[rows[i].first] = i;
 }
 
-/// Appends what \a rows has beyond the model's end.
+/// Appends the rows of \a rows that are past the model's end.
 void BaseListModel::appendRest(const std::vector<ModelRow> &rows)
 {
     const std::size_t size = m_rows.size();
@@ -328,7 +328,7 @@ void BaseListModel::appendRest(const std::vector<ModelRow> &rows)
 }
 
 /// Assigns the rows that differ from \a rows and reports each maximal run of them. The index is
-/// made anew only where an id changes its place: filling it costs as much as all the comparing.
+/// rebuilt only if an id changes its place: filling it costs as much as all the comparing.
 void BaseListModel::assignChangedRows(const std::vector<ModelRow> &rows)
 {
     const QPointer<BaseListModel> self = this;
@@ -346,7 +346,7 @@ void BaseListModel::assignChangedRows(const std::vector<ModelRow> &rows)
         const QModelIndex changed = index(int(i), 0, QModelIndex());
         const bool continuesRun = first.isValid() && int(i) == last.row() + 1;
         if (first.isValid() && !continuesRun) {
-            // Before the row changes, as in appendOrUpdate().
+            // Reported before the row changes, as in appendOrUpdate().
             Q_EMIT dataChanged(first, last);
             if (!self)
                 return;

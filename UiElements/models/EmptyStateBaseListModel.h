@@ -7,10 +7,10 @@
 #include <QSize>
 
 /// A BaseListModel with the texts and the image that a view shows while the list is empty. It only
-/// carries them; when to show them is the view's to decide, from count.
+/// stores them; the view decides from count when to show them.
 ///
-/// They are Qt properties without C++ accessors. A property that is given its present value stays
-/// silent; a new value of any of them emits emptyStateDataChanged().
+/// They are Qt properties without C++ accessors. Setting the present value emits nothing; a new
+/// value of any of them emits emptyStateDataChanged().
 class UIELEMENTS_EXPORT EmptyStateBaseListModel : public BaseListModel
 {
     Q_OBJECT

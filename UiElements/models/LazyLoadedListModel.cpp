@@ -81,7 +81,7 @@ void LazyLoadedListModel::setScrolledIndex(int index)
 {
     if (!m_configured)
         return;
-    // One page above the row, or the first.
+    // One page before that of the row, or the first page.
     const int page = indexToPage(qMax(index, m_pageSize) - m_pageSize);
     const int newStart = pageToIndex(page);
     if (newStart < m_startIndex)
@@ -125,7 +125,7 @@ void LazyLoadedListModel::setItemsAtPage(int page, const QVector<QStandardItem *
     const int first = pageToIndex(page);
     const int count = items.size();
     const QPointer<LazyLoadedListModel> self = this;
-    // A slot that deletes the model may take the caller's list with it.
+    // A slot that deletes the model may also delete the caller's list.
     QVector<QStandardItem *> taken = items;
     for (int i = 0; i < count; ++i) {
         setItemAtIndex(first + i, taken.at(i));
@@ -189,7 +189,7 @@ void LazyLoadedListModel::scrollDown(int page)
     requestPages(page + m_storagePages - newPages, newPages);
 }
 
-/// Starts the window at \a page with nothing in it, as nothing of the present one is in reach.
+/// Starts an empty window at \a page, for which nothing of the present window can stay.
 void LazyLoadedListModel::jumpTo(int page)
 {
     eraseStorage();
@@ -212,7 +212,7 @@ void LazyLoadedListModel::deleteItemAtIndex(int index)
 
 void LazyLoadedListModel::clearList() { deleteFromTheEnd(m_storage.size()); }
 
-/// Takes each entry off the storage before its item goes.
+/// Removes each entry from the storage before its item is deleted.
 void LazyLoadedListModel::deleteFromTheEnd(int count)
 {
     for (; count > 0; --count) {

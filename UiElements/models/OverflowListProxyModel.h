@@ -5,15 +5,15 @@
 
 #include <QSortFilterProxyModel>
 
-/// The tail of a source list: the rows behind a given one, as for the menu of what a bar has no
-/// room to show.
+/// The tail of a source list: the rows after a given one, for example for a menu of the entries
+/// that don't fit into a bar.
 ///
-/// The filter looks at a row when it comes, when it changes, and when firstVisibleIndex is set. A
-/// row that stays while others come or go before it keeps its state, as in any
+/// The filter checks a row when it is added, when it changes, and when firstVisibleIndex is set. A
+/// row that stays while others before it are added or removed keeps its state, as in any
 /// QSortFilterProxyModel.
 ///
 /// A slot may delete the proxy in firstVisibleIndexChanged() and headerChanged(), but not in the
-/// signals of Qt's classes, which go on with the proxy afterwards.
+/// signals of Qt's classes, which use the proxy afterwards.
 class UIELEMENTS_EXPORT OverflowListProxyModel : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -25,35 +25,35 @@ public:
     /// Makes a proxy that hides source row 0.
     explicit OverflowListProxyModel(QObject *parent = nullptr);
 
-    /// Makes a proxy of the source rows behind \a firstVisibleIndex.
+    /// Makes a proxy of the source rows after \a firstVisibleIndex.
     OverflowListProxyModel(QObject *parent, int firstVisibleIndex);
     ~OverflowListProxyModel() override;
 
-    /// Returns the last source row that the list in front shows: the proxy has those strictly
-    /// behind it. -1 lets all rows pass. 0 by default.
+    /// Returns the last source row that the list in front shows: the proxy has the rows after it.
+    /// -1 lets all rows pass. 0 by default.
     int firstVisibleIndex() const;
 
-    /// Stores \a index, emits firstVisibleIndexChanged(), and then filters anew; the present value
-    /// does nothing.
+    /// Stores \a index, emits firstVisibleIndexChanged(), and then filters again; does nothing if
+    /// it is the same.
     void setFirstVisibleIndex(int index);
 
     /// Returns the header text. Empty by default.
     QString header() const;
 
-    /// Stores \a text and emits headerChanged(); the present text does nothing.
+    /// Stores \a text and emits headerChanged(); does nothing if it is the same.
     void setHeader(const QString &text);
 
-    /// Takes the source model away. The proxy is empty then, and keeps its properties.
+    /// Removes the source model. The proxy is empty then, and keeps its properties.
     void unsetSourceModel();
 
 Q_SIGNALS:
-    /// Comes before the filter runs: the rows are still the old ones.
+    /// Emitted before the filter runs: the rows are still the old ones.
     void firstVisibleIndexChanged();
     /// The header was set to another value.
     void headerChanged();
 
 protected:
-    /// True when \a sourceRow lies strictly behind firstVisibleIndex, whatever the parent.
+    /// True when \a sourceRow is after firstVisibleIndex, for any parent.
     bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
 
 private:

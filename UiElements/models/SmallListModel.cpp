@@ -21,7 +21,7 @@ int SmallListModel::rowCount(const QModelIndex &parent) const
 
 QVariant SmallListModel::data(const QModelIndex &index, int role) const
 {
-    // Qt::UserRole itself is refused on purpose.
+    // Usable roles start above Qt::UserRole, which is refused itself.
     if (!index.isValid() || role <= Qt::UserRole || index.row() >= int(m_rows.size()))
         return QVariant();
     const Row &values = m_rows[index.row()];

@@ -10,10 +10,10 @@
 #include <vector>
 
 /// A table of role values for short lists whose rows are built by hand, without ids and without a
-/// limit. Where rows are found by id or replaced often, take BaseListModel.
+/// limit. If rows are found by id or replaced often, use BaseListModel.
 ///
 /// A slot may delete the model, but not in rowsAboutToBeInserted() and rowsAboutToBeRemoved(),
-/// after which Qt goes on with it.
+/// because Qt uses the model after them.
 class UIELEMENTS_EXPORT SmallListModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -22,11 +22,11 @@ public:
     /// A row: its values by role. Usable roles are those above Qt::UserRole, from 257 up.
     using Row = std::unordered_map<int, QVariant>;
 
-    /// Makes an empty model with \a roleNames for good, and \a header for headerData().
+    /// Makes an empty model with \a roleNames, which stay, and \a header for headerData().
     SmallListModel(const QHash<int, QByteArray> &roleNames, QObject *parent, QVariant header);
     ~SmallListModel() override;
 
-    /// Returns the number of rows; 0 below a row.
+    /// Returns the number of rows; 0 for a row as \a parent.
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
 
     /// Returns the value of \a role in the row at \a index. It is invalid, without a message, when
@@ -36,7 +36,7 @@ public:
     /// Returns the same for the position \a row.
     QVariant data(int row, int role) const;
 
-    /// Returns the header that the model was made with, whatever the arguments.
+    /// Returns the header that the model was made with, for any arguments.
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
 
@@ -46,8 +46,8 @@ public:
     /// Appends \a rows, which must not be empty: the announced range would run backwards.
     void add(const std::vector<Row> &rows);
 
-    /// Removes, for each of \a rows in order, the first row that has equal values in equal roles.
-    /// One without a match is silently passed over; each removal is told by itself.
+    /// Removes, for each of \a rows in order, the first row that has equal values in equal roles. A
+    /// row without a match is silently skipped; each removal is reported by itself.
     void remove(const std::vector<Row> &rows);
 
     /// Takes over \a rows with a model reset, also when nothing differs.

@@ -28,21 +28,21 @@ struct QSvgExtraStates;
 namespace DrawUtils {
 
 /// Shrinks \a rect in place to \a aspectRatio, its width divided by its height, around the same
-/// centre. Leaves it as it is where the result would not be finite: for an empty rectangle, and for
+/// centre. Leaves it unchanged if the result would not be finite: for an empty rectangle, and for
 /// infinity and NaN in either.
 UIELEMENTS_EXPORT void fitRectangle(QRectF &rect, double aspectRatio);
 
 /// Returns \a pixmap scaled, in its proportions, to fill \a rect at \a devicePixelRatio. Shrinks
-/// \a rect to those proportions. A null pixmap leaves \a rect as it is and gives a null one, as
-/// does a size in device pixels that is empty, is not finite, or exceeds an int.
+/// \a rect to those proportions. A null pixmap leaves \a rect unchanged and gives a null one, and
+/// so does a size in device pixels that is empty, not finite, or too large for an int.
 UIELEMENTS_EXPORT QPixmap adjustPixmapToRect(const QPixmap &pixmap, QRectF &rect,
                                              double devicePixelRatio);
 
 // Icon and text
 
-/// Returns where an icon and a text stand in relation to each other: the icon's offset, the text's
-/// offset, and the size of both together as a point. The icon comes first at the top, and at the
-/// side where a line starts; the left margin of each is on that side as well.
+/// Returns where an icon and a text are placed relative to each other: the icon's offset, the
+/// text's offset, and the size of both together as a point. The icon comes first at the top, and at
+/// the side where a line starts; the left margin of each is on that side as well.
 UIELEMENTS_EXPORT std::tuple<QPointF, QPointF, QPointF> calculateIconTextOffset(
         const QSize &iconSize, const QSize &textSize, const QMargins &textMargins,
         const QMargins &iconMargins, OxaEnum::Alignment alignment);
@@ -54,13 +54,13 @@ UIELEMENTS_EXPORT QRect drawSvgIconText(QPainter *painter, const OxaSvgLabel *la
                                         const std::unique_ptr<OxaSvgIcon> &icon,
                                         const OxaColorSet &textColors);
 
-/// The same for a button, whose text is \a document where it is rich and there is one.
+/// Does the same for a button. Paints \a document instead of a rich text, if it is not null.
 UIELEMENTS_EXPORT QRect drawSvgIconText(QPainter *painter, const OxaSvgPushButton *button,
                                         QTextDocument *document, const QStyleOption &option,
                                         const std::unique_ptr<OxaSvgIcon> &icon,
                                         const OxaColorSet &textColors);
 
-/// The same with \a pixmap as the icon, in the button's icon size.
+/// Does the same with \a pixmap as the icon, in the button's icon size.
 UIELEMENTS_EXPORT QRect drawPixmapIconText(QPainter *painter, const OxaSvgPushButton *button,
                                            QTextDocument *document, const QStyleOption &option,
                                            const QPixmap &pixmap, const OxaColorSet &textColors);
@@ -68,7 +68,7 @@ UIELEMENTS_EXPORT QRect drawPixmapIconText(QPainter *painter, const OxaSvgPushBu
 // SVG
 
 /// Paints \a node into \a rect, as large as its proportions allow and centred, with \a opacity.
-/// Shapes without a fill of their own take \a color, those without a stroke have none.
+/// Shapes without a fill of their own are filled with \a color; those without a stroke have none.
 UIELEMENTS_EXPORT void drawSVG(QPainter *painter, QSvgNode *node, QSvgExtraStates &states,
                                const QRectF &rect, const QColor &color, double opacity);
 
@@ -82,7 +82,7 @@ UIELEMENTS_EXPORT QPixmap renderPixmap(QSvgNode *node, const QRectF &iconRect,
 
 /// Paints a badge on \a pixmap, from \a unreadIndicatorTopLeft to the bottom right corner, in the
 /// colours of the "oxa-unreadCountCircle-" sets: a plain dot for a \a count of 0, else the number,
-/// 99 at most. A point outside of the pixmap logs a warning; the badge starts at the centre then.
+/// 99 at most. A point outside the pixmap logs a warning; the badge then starts at the centre.
 UIELEMENTS_EXPORT void drawUnreadIndicator(QPixmap &pixmap, const QPointF &unreadIndicatorTopLeft,
                                            unsigned int count);
 
@@ -90,18 +90,17 @@ UIELEMENTS_EXPORT void drawUnreadIndicator(QPixmap &pixmap, const QPointF &unrea
 
 /// Draws the frame of keyboard focus for \a widget, which may be null.
 ///
-/// Nothing is drawn unless \a state has both QStyle::State_HasFocus and
-/// QStyle::State_KeyboardFocusChange: focus by mouse shows no frame. Where the application's
-/// property "useGlobalFocusBorders" is true and there is a widget, the application's style draws
-/// the frame, around \a rect unless that is null; a chosen rectangle is told to the style by the
-/// property "hasCustomRect" of the widget. Otherwise the frame is the dotted one of
-/// drawLegacyFocusRect().
+/// Draws nothing unless \a state has both QStyle::State_HasFocus and
+/// QStyle::State_KeyboardFocusChange: focus by mouse shows no frame. If the application's property
+/// "useGlobalFocusBorders" is true and there is a widget, the application's style draws the frame,
+/// around \a rect or, if that is null, around the widget; the widget's property "hasCustomRect"
+/// tells the style which. Otherwise the frame is the dotted one of drawLegacyFocusRect().
 UIELEMENTS_EXPORT void drawFocusRect(QPainter *painter, const QFlags<QStyle::StateFlag> &state,
                                      const QRect &rect, const QColor &color, const QWidget *widget);
 
 /// Draws a dotted frame, one pixel wide, inside \a rect, in the inverse of \a color.
 ///
-/// Nothing is drawn unless \a state has both flags of drawFocusRect(), and nothing where the
+/// Draws nothing unless \a state has both flags of drawFocusRect(), and nothing if the
 /// application's property "useGlobalFocusBorders" is true.
 UIELEMENTS_EXPORT void drawLegacyFocusRect(QPainter *painter,
                                            const QFlags<QStyle::StateFlag> &state,

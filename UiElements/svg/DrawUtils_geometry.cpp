@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Returns \a size in whole pixels; an empty one where no int can hold it.
+/// Returns \a size in whole pixels; an empty size if an int is too small for it.
 QSize truncated(const QSizeF &size)
 {
     const auto fits = [](double length) {

@@ -18,15 +18,15 @@
 
 namespace {
 
-/// What is painted beside a text, and how large it is. Nothing has the size (-1, -1), which makes
-/// the block a pixel narrower than a picture of no size would: meant so.
+/// What is painted beside a text, and its size. Without a picture the size is (-1, -1), which makes
+/// the block one pixel narrower than a picture of size 0 would.
 struct Picture
 {
     QSize size;
     std::function<void(QPainter &painter, const QPointF &offset)> draw;
 };
 
-/// What a widget says of its icon and text.
+/// The properties of a widget's icon and text.
 struct Block
 {
     template <typename Widget>
@@ -60,7 +60,7 @@ struct Block
     const QTextDocument *richText; ///< Painted instead of the text where there is one.
 };
 
-/// Left and right stand for the text's start and end. An ellipsis belongs at its end.
+/// Returns \a mode with left and right both turned into the side where the text ends.
 Qt::TextElideMode directedElideMode(Qt::TextElideMode mode)
 {
     if (mode == Qt::ElideLeft && QGuiApplication::isLeftToRight())
@@ -70,7 +70,7 @@ Qt::TextElideMode directedElideMode(Qt::TextElideMode mode)
     return mode;
 }
 
-/// A text as it is painted, and the room that it takes.
+/// A text as it is painted, and the space that it takes.
 struct Line
 {
     QString text;
@@ -83,8 +83,8 @@ Line lineOf(const Block &block, int available)
         return { QString(), block.richText->size().toSize() };
     const QFontMetrics &metrics = block.fontMetrics;
     const int width = metrics.horizontalAdvance(block.text);
-    // Eliding measures as well, and measuring is dear. The width is rounded: one that just fits may
-    // be too large.
+    // Eliding measures as well, and measuring is expensive. The width is rounded: a text that just
+    // fits may be too wide.
     if (width < available)
         return { block.text, QSize(width, metrics.height()) };
     const QString elided = metrics.elidedText(block.text, directedElideMode(block.elideMode),

@@ -20,8 +20,8 @@ QRectF sourceOf(const QSvgNode &node)
 
 bool isZeroSized(const QRectF &rect) { return rect.width() == 0.0 && rect.height() == 0.0; }
 
-/// The rectangle to paint into: \a target, else the whole paint device, else the picture's own
-/// size.
+/// Returns the rectangle to paint into: \a target, or else the whole paint device, or else the
+/// picture's own size.
 QRectF paintableTarget(const QPainter &painter, const QRectF &target, const QRectF &source)
 {
     if (!isZeroSized(target))
@@ -43,14 +43,14 @@ void mapSourceToTarget(QPainter &painter, const QRectF &source, const QRectF &wa
         return;
     const double sx = target.width() / source.width();
     const double sy = target.height() / source.height();
-    // One step: each change of the matrix makes the paint engine look at it anew.
+    // In one step: each change of the matrix makes the paint engine process it again.
     painter.setTransform({ sx, 0.0, 0.0, sy, target.x() - source.x() * sx,
                            target.y() - source.y() * sy },
                          true);
 }
 
-/// Returns the pen that a file starts with, under which a shape without a stroke of its own has
-/// none. The same for all files, and dearer to make than to use.
+/// Returns the pen that a file starts with: a shape without a stroke of its own has none. It is the
+/// same for all files, and more expensive to make than to use.
 const QPen &initialPen()
 {
     static const QPen pen = [] {
@@ -66,7 +66,7 @@ const QPen &initialPen()
 void DrawUtils::drawSVG(QPainter *painter, QSvgNode *node, QSvgExtraStates &states,
                         const QRectF &rect, const QColor &color, double opacity)
 {
-    // A rectangle without any size has no proportions to fit, so that nothing is painted.
+    // A rectangle of size 0 has no proportions to fit: nothing is painted.
     if (!painter || !node || node->displayMode() == QSvgNode::NoneMode || isZeroSized(rect))
         return;
 

@@ -18,8 +18,8 @@ QColor normalColor(const char *colorSetName)
     return OxaThemeUtils::getColorSet(colorSetName, OxaThemeUtils::AppThemeType::Global).normal;
 }
 
-/// The badge reaches from \a topLeft to the pixmap's corner; from outside of it, it hangs over from
-/// the pixmap's centre.
+/// Returns the rectangle from \a topLeft to the pixmap's corner. If \a topLeft is outside the
+/// pixmap, the rectangle starts at the pixmap's centre and extends beyond the pixmap.
 QRectF badgeRect(const QPixmap &pixmap, const QPointF &topLeft)
 {
     QRectF rect(pixmap.rect());
@@ -50,6 +50,6 @@ void DrawUtils::drawUnreadIndicator(QPixmap &pixmap, const QPointF &unreadIndica
     painter.setFont(FontUtils::getFontByPixelSize(static_cast<int>(pixmap.width() / 1.6),
                                                   FontUtils::SupportedFontFamily::Interface));
     painter.setPen(normalColor("oxa-unreadCountCircle-text"));
-    // Centred across and not down: meant so.
+    // Centred horizontally only: the number is at the top of the badge.
     painter.drawText(rect, Qt::AlignHCenter, QString::number(qMin(count, maximumCount)));
 }

@@ -10,7 +10,7 @@ namespace {
 
 constexpr char unsupportedAlignWarning[] = "Unsupported OxaEnum::HorAlign!";
 
-/// Returns where a block of size \a total stands in \a rect.
+/// Returns where a block of size \a total is placed in \a rect.
 QPoint blockIn(const QRect &rect, OxaEnum::HorAlign align, const QPointF &total)
 {
     const double left = rect.x();

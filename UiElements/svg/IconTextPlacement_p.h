@@ -8,7 +8,7 @@
 #include <QRect>
 #include <QSize>
 
-/// An icon and a text that stand together, as a widget describes them.
+/// An icon and a text that are placed together, as a widget describes them.
 struct IconAndText
 {
     QSize iconSize;
@@ -19,15 +19,15 @@ struct IconAndText
     OxaEnum::HorAlign horAlign = OxaEnum::HorAlign::CenterAlign; ///< Of both, in the widget.
 };
 
-/// Where an icon and a text stand. A widget asks for it, moves its painter by `block`, and from
-/// there by `icon` or by `text`.
+/// Where an icon and a text are placed. A widget moves its painter by `block`, and from there by
+/// `icon` or by `text`.
 struct IconTextPlacement
 {
     /// Places \a parts in \a rect, in the application's layout direction. An alignment outside of
     /// OxaEnum::HorAlign logs a warning and leaves the block at (0, 0).
     static IconTextPlacement in(const QRect &rect, const IconAndText &parts);
 
-    /// Returns the rectangle of both, its size without fractions.
+    /// Returns the rectangle of both, with its size truncated to whole pixels.
     QRect blockRect() const { return { block, QSize(int(total.x()), int(total.y())) }; }
 
     QPoint block;  ///< The top left corner of both.

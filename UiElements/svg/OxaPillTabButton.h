@@ -4,9 +4,9 @@
 #include <UiElements/svg/OxaSvgPushButton.h>
 
 /// A checkable pill: fully round at any height, with one set of colours while it is checked and
-/// another while it is not. It writes its own style text whenever it is toggled or resized.
+/// another while it is not. It sets its own style text whenever it is toggled or resized.
 ///
-/// It never grows past its content; the width is worked out when the icon changes, not when the
+/// It never grows beyond its content. The width is computed when the icon changes, not when the
 /// text does.
 class UIELEMENTS_EXPORT OxaPillTabButton : public OxaSvgPushButton
 {
@@ -47,7 +47,7 @@ public:
     /// Returns the name of the checked pill's fill. Empty by default.
     QString getBackgroundColorSetChecked() const;
 
-    /// Sets the checked pill's fill, which is its border's colour too.
+    /// Sets the fill of the checked pill, and its border to the same set.
     void setBackgroundColorSetChecked(const QString &name);
 
     /// Returns the name of the checked pill's text colours.

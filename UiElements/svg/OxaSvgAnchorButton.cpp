@@ -118,7 +118,7 @@ QPoint OxaSvgAnchorButton::adjustRect(QRect &rect) const
             + m_anchorOffset.y();
     if (isLeading()) {
         const int x = rect.left() + getAnchorPadding();
-        // Not from the rectangle's own left: meant so.
+        // Ignores the rectangle's own left edge: a rectangle that starts further right is widened.
         rect.setLeft(getAnchorPadding() + size.width());
         return { x, y };
     }

@@ -42,21 +42,21 @@ public:
     /// anchorSvgOffChanged(). Repaints.
     void setAnchorSvgOff(const QString &path);
 
-    /// Returns the size of the anchor's pictures; (-1, -1) before anything of them was set, and
-    /// while they are hidden.
+    /// Returns the size of the anchor's pictures; (-1, -1) before any of their properties was set,
+    /// and while they are hidden.
     QSize getAnchorIconSize() const;
 
     /// Sets the size of the anchor's pictures. Repaints.
     void setAnchorIconSize(const QSize &size);
 
-    /// Shows or hides the anchor's pictures, each where anything of it was set. Repaints.
+    /// Shows or hides each of the anchor's pictures of which a property was set. Repaints.
     void setAnchorIconVisible(bool visible);
 
     /// Returns the name of the anchor's colour set. Empty by default: it takes the text's colours.
     QString getAnchorSvgColorSet() const;
 
-    /// Gives the anchor the colours of the set called \a name, or the text's where the theme lacks
-    /// it. Repaints.
+    /// Gives the anchor the colours of the set called \a name, or the text's if the theme lacks
+    /// that. Repaints.
     void setAnchorSvgColorSet(const QString &name);
 
     /// Returns the anchor's distance from its side in pixels: the x of its offset.
@@ -71,20 +71,20 @@ public:
     /// Sets the anchor's distance from its side and from the middle. Repaints.
     void setAnchorSvgOffset(const QPoint &offset);
 
-    /// True when the anchor stands at the side where a left-to-right line starts. Off by default.
+    /// True when the anchor is at the left in a left-to-right application. Off by default.
     bool getIsLeftAnchor() const;
 
-    /// Sets the anchor's side. It changes over in a right-to-left application. Repaints.
+    /// Sets the anchor's side. It is mirrored in a right-to-left application. Repaints.
     void setIsLeftAnchor(bool isLeft);
 
-    /// True when the anchor stands beside the icon and text instead of at the button's side. Off by
+    /// True when the anchor is beside the icon and text instead of at the button's side. Off by
     /// default.
     bool getAlignAnchorIconToText() const;
 
-    /// Sets what the anchor stands beside. Repaints.
+    /// Sets what the anchor is placed beside. Repaints.
     void setAlignAnchorIconToText(bool align);
 
-    /// The base class's, and with a picture its size and offset too.
+    /// Returns the base class's hint plus, with a picture, the anchor's size and offset.
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -95,18 +95,18 @@ Q_SIGNALS:
     void anchorSvgOffChanged(const QString &path);
 
 protected:
-    /// True when the anchor stands at the left side on screen.
+    /// True when the anchor is at the left side on screen.
     bool isLeading() const;
 
-    /// Takes the anchor's room off \a rect and returns where the anchor stands. Without a picture
-    /// it returns (0, 0) and leaves \a rect alone.
+    /// Takes the anchor's space off \a rect and returns where the anchor is placed. Without a
+    /// picture it returns (0, 0) and leaves \a rect unchanged.
     QPoint adjustRect(QRect &rect) const;
 
     void onCSSChanged() override;
     void paintEvent(QPaintEvent *event) override;
 
 protected Q_SLOTS:
-    /// The base class's; then looks the anchor's colours up anew where they have a set.
+    /// Calls the base class; then looks the anchor's colours up again if they have a set.
     void onThemeChanged() override;
 
 private:

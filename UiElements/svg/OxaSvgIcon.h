@@ -15,7 +15,7 @@ class QPainter;
 /// An outer picture and an optional inner one, each an SVG file with a size and a colour set,
 /// painted in the colours of a style state.
 ///
-/// The setters ask nobody to repaint: the widget that owns the icon does. GUI thread only.
+/// The setters don't repaint: the widget that owns the icon does. GUI thread only.
 class UIELEMENTS_EXPORT OxaSvgIcon : public QObject
 {
     Q_OBJECT
@@ -24,18 +24,18 @@ public:
     /// Makes an icon without pictures.
     OxaSvgIcon();
 
-    /// Makes an icon whose outer picture is the file at \a filePath. A file that fails to load
-    /// leaves the icon valid, and it warns at each paint.
+    /// Makes an icon whose outer picture is the file at \a filePath. If the file fails to load, the
+    /// icon is still valid, and each paint logs a warning.
     explicit OxaSvgIcon(const QString &filePath);
     ~OxaSvgIcon() override;
 
     /// True when there is an outer picture. One whose file failed in setFilePath() does not count.
     bool isValid() const;
 
-    /// True when the icon is painted. False before anything of the outer picture was set.
+    /// True when the icon is painted. False before any property of the outer picture was set.
     bool isVisible() const;
 
-    /// Shows or hides both pictures. Does nothing before anything of the outer picture was set.
+    /// Shows or hides both pictures. Does nothing before any property of the outer picture was set.
     void setVisible(bool visible);
 
     /// Returns the path of the outer picture as it was given, also when it failed to load.
@@ -46,7 +46,7 @@ public:
     void setFilePath(const QString &filePath);
 
     /// Returns the size of the outer picture, 16 by 16 at first; (-1, -1) for an icon that is not
-    /// visible or of which nothing was set.
+    /// visible or of which no property was set.
     QSize getIconSize() const;
 
     /// Sets the size of the outer picture in pixels.
@@ -65,8 +65,8 @@ public:
     /// removes it.
     void setInnerFilePath(const QString &filePath);
 
-    /// Returns the size of the inner picture, 16 by 16 at first; (-1, -1) before anything of it was
-    /// set.
+    /// Returns the size of the inner picture, 16 by 16 at first; (-1, -1) before any of its
+    /// properties was set.
     QSize getInnerIconSize() const;
 
     /// Sets the size of the inner picture in pixels. It may exceed the outer one's.
@@ -83,7 +83,7 @@ public:
     void draw(QPainter *painter, const QFlags<QStyle::StateFlag> &state) const;
 
 Q_SIGNALS:
-    /// A picture is animated and shows its next frame.
+    /// An animated picture shows its next frame.
     void repaintNeeded();
 
 private:

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// Longer than headers are here: the macro at its end declares for moc, once more, what the class
-// does.
+// Longer than other headers: the macro at its end declares for moc what the class does.
 
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/svg/OxaSvgIcon.h>
@@ -16,12 +15,12 @@
 
 #include <memory>
 
-/// Keeps an icon beside a widget's text, and where the two stand: the behaviour behind
+/// Keeps an icon beside a widget's text, and the places of both: the behaviour behind
 /// UIELEMENTS_SVG_ICON_BLOCK.
 ///
-/// A member of the widget that it serves. The icon is made when it is first needed. Where it has no
-/// colour set of its own, or one that the theme lacks, it takes the colours to fall back on. What
-/// differs from class to class, the signals, stands in one constant for each class.
+/// A member of the widget that it serves. The icon is made when it is first needed. Without a
+/// colour set of its own, or with one that the theme lacks, it takes the fallback colours. One
+/// constant for each class holds the signals, in which the classes differ.
 class UIELEMENTS_EXPORT OxaSvgIconBlock
 {
     Q_DISABLE_COPY_MOVE(OxaSvgIconBlock)
@@ -37,9 +36,9 @@ public:
     }
     ~OxaSvgIconBlock();
 
-    /// Has the event loop's next turn after each \a changed look at \a icon, a member of \a widget,
-    /// once more: it loads the path unless the icon shows that already, and repaints. So a path
-    /// that fails to load is tried twice.
+    /// After each \a changed, checks \a icon, a member of \a widget, once more when the event loop
+    /// runs: loads the path unless the icon shows it already, and repaints. So a path that fails to
+    /// load is tried twice.
     template <typename Widget, typename Class>
     static void lookAgainAfter(Widget *widget, void (Class::*changed)(const QString &),
                                const std::unique_ptr<OxaSvgIcon> &icon)
@@ -57,9 +56,9 @@ public:
     /// \name The icon, and the properties of its outer picture
     /// \{
 
-    /// What the widget's properties of the same names, which begin with "svgIcon", show and set.
-    /// The icon itself is null until it is needed. The setters emit the widget's signals, and those
-    /// of size and colours repaint it before.
+    /// Implements the widget's properties of the same names, which begin with "svgIcon". The icon
+    /// itself is null until it is needed. The setters emit the widget's signals; those of size and
+    /// colours repaint it first.
     const std::unique_ptr<OxaSvgIcon> &icon() const { return m_icon; }
     std::unique_ptr<OxaSvgIcon> &icon() { return m_icon; }
     QString path() const;
@@ -73,8 +72,8 @@ public:
     /// \name The properties of its inner picture
     /// \{
 
-    /// What the widget's properties that begin with "innerSvgIcon" show and set. The setters of
-    /// size and colours repaint the widget.
+    /// Implements the widget's properties that begin with "innerSvgIcon". The setters of size and
+    /// colours repaint the widget.
     QString innerPath() const;
     void setInnerPath(const QString &path);
     QSize innerSize() const;
@@ -86,8 +85,8 @@ public:
     /// \name The places of icon and text
     /// \{
 
-    /// What the widget's properties of the same names show and set. All setters but setPadding()
-    /// repaint the widget.
+    /// Implements the widget's properties of the same names. All setters but setPadding() repaint
+    /// the widget.
     OxaEnum::Alignment alignment() const { return m_alignment; }
     void setAlignment(OxaEnum::Alignment alignment);
     OxaEnum::HorAlign textHorAlign() const { return m_textHorAlign; }
@@ -105,12 +104,12 @@ public:
     void setBottomRightPadding(const QPoint &padding);
     /// \}
 
-    /// Sets the colour sets of both pictures again, where they have names. A slot may delete the
+    /// Sets the colour sets of both pictures again if they have names. A slot may delete the
     /// widget, and the block with it.
     void refreshColorSets();
 
-    /// Returns the set called \a name in the widget's theme, or the colours to fall back on where
-    /// that is not valid.
+    /// Returns the set called \a name in the widget's theme, or the fallback colours if that is not
+    /// valid.
     OxaColorSet colorSetOrFallback(const QString &name) const;
 
 private:
@@ -152,23 +151,23 @@ const OxaSvgIconBlock::WidgetClass OxaSvgIconBlock::classOf = {
     },
 };
 
-/// Declares the icon members of a themed widget class. Stands after the theme and font blocks,
-/// without a semicolon, and leaves the access at private. The class initialises `m_iconBlock` in
-/// its constructor.
+/// Declares the icon members of a themed widget class. Place it after the theme and font blocks,
+/// without a semicolon; it leaves the access at private. The class initialises `m_iconBlock` in its
+/// constructor.
 ///
-/// Properties, in pixels and in reading direction where they have sides: `svgIcon`, the icon's
-/// path, such as OxaSvgRenderer::resourcePath() gives it, with `svgIconSize` (16 by 16) and
-/// `svgIconColorSet` (the colours to fall back on); the same of a second picture on its centre,
-/// which begin with "inner"; `svgIconAlignment`, the side of the text on which the icon stands
-/// (Left); `textHorAlign`, where the two stand in the widget (CenterAlign); `textLeftPadding` and
+/// Properties, in pixels and, if they have sides, in reading direction: `svgIcon`, the icon's path,
+/// for example from OxaSvgRenderer::resourcePath(), with `svgIconSize` (16 by 16) and
+/// `svgIconColorSet` (the fallback colours); the same of a second picture on its centre, which
+/// begin with "inner"; `svgIconAlignment`, the side of the text on which the icon is placed (Left);
+/// `textHorAlign`, where the two are placed in the widget (CenterAlign); `textLeftPadding` and
 /// `textRightPadding` around the text (0); and `svgIconTopLeftPadding` and
 /// `svgIconBottomRightPadding` around the icon (0), as points of left and top, right and bottom.
 ///
-/// setSvgIcon() loads the file at a path and emits svgIconChanged(); the widget looks at the path
-/// once more, and repaints, when the event loop turns. setSvgIconColorSet() keeps the name, so that
+/// setSvgIcon() loads the file at a path and emits svgIconChanged(); the widget checks the path
+/// once more, and repaints, when the event loop runs. setSvgIconColorSet() keeps the name, so that
 /// a theme change can look it up again, and emits svgIconColorSetChanged(); setSvgIconSize() emits
-/// svgIconSizeChanged(). The inner icon's setters emit nothing. setSvgIconPadding() alone does not
-/// repaint. Without an icon paths are empty and sizes (-1, -1).
+/// svgIconSizeChanged(). The inner icon's setters emit nothing. Only setSvgIconPadding() does not
+/// repaint. Without an icon, paths are empty and sizes (-1, -1).
 #define UIELEMENTS_SVG_ICON_BLOCK                                                                  \
     Q_PROPERTY(QString svgIcon READ getSvgIcon WRITE setSvgIcon NOTIFY svgIconChanged)             \
     Q_PROPERTY(QString svgIconColorSet READ getSvgIconColorSet WRITE setSvgIconColorSet NOTIFY     \

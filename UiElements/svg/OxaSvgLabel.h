@@ -6,8 +6,8 @@
 
 /// A label with an icon beside its text, both in the theme's colours.
 ///
-/// The text is one line and always plain; it is elided by the label's elide mode. The style sheet's
-/// frame and background are Qt's.
+/// The text is one line and always plain; it is elided by the label's elide mode. Qt paints the
+/// frame and background of the style sheet.
 class UIELEMENTS_EXPORT OxaSvgLabel : public OxaLabel
 {
     Q_OBJECT
@@ -22,15 +22,15 @@ public:
     explicit OxaSvgLabel(const QString &text, QWidget *parent = nullptr,
                          QAccessible::Role role = QAccessible::NoRole, Qt::WindowFlags flags = {});
 
-    /// The text's size and the paddings, and with an icon its size and padding too, side by side
-    /// and one above the other at once.
+    /// Returns the size of the text and the paddings. An icon adds its size and padding to the
+    /// width and also to the height.
     QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 protected Q_SLOTS:
-    /// The base class's; then looks the icon's colours up anew where they have a set.
+    /// Calls the base class; then looks the icon's colours up again if they have a set.
     void onThemeChanged() override;
 
 private:

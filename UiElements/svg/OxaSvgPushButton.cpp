@@ -75,7 +75,7 @@ void OxaSvgPushButton::setTextFormat(Qt::TextFormat format)
         m_textDocument->setUndoRedoEnabled(false);
         m_textDocument->setDocumentMargin(0.0);
         m_textDocument->setDefaultFont(font());
-        // The alignment's number, not its meaning: CenterAlign reads as Qt::AlignLeft, and the
+        // The alignment's number, not its meaning: CenterAlign reads as Qt::AlignLeft, since the
         // block of icon and text is centred as a whole.
         QTextOption option(Qt::Alignment(int(getTextHorAlign())) | Qt::AlignVCenter);
         option.setTextDirection(layoutDirection());
@@ -148,8 +148,8 @@ void OxaSvgPushButton::updateIconPath(const std::unique_ptr<OxaSvgIcon> &icon, c
 
 void OxaSvgPushButton::initButtonStyleOption(QStyleOptionButton *option) const
 {
-    // The style draws the frame only: the text stands beside the icon. Without the base class,
-    // which would elide it first.
+    // The style draws the frame only: the text is painted beside the icon. Skips the base class,
+    // which would elide the text first.
     QPushButton::initStyleOption(option);
     option->text.clear();
 }
@@ -182,7 +182,7 @@ void OxaSvgPushButton::onSvgIconSizeChanged(const QSize &size)
         m_checkedIcon->setIconSize(size);
 }
 
-/// Gives \a icon the look of the plain icon, or the text's colours where there is none.
+/// Gives \a icon the look of the plain icon, or the text's colours if there is none.
 void OxaSvgPushButton::matchPlainIcon(OxaSvgIcon &icon) const
 {
     if (const auto &plain = m_iconBlock.icon()) {

@@ -8,8 +8,8 @@
 
 class QTextDocument;
 
-/// A button with an icon beside its text, both in the theme's colours, and another icon while it is
-/// checked if wanted. Its text is elided at its end, or rich.
+/// A button with an icon beside its text, both in the theme's colours, and optionally another icon
+/// while it is checked. Its text is elided at its end, or rich.
 class UIELEMENTS_EXPORT OxaSvgPushButton : public OxaPushButton
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ class UIELEMENTS_EXPORT OxaSvgPushButton : public OxaPushButton
     Q_PROPERTY(QString svgIconChecked READ getSvgIconChecked WRITE setSvgIconChecked NOTIFY
                        svgIconCheckedChanged)
     Q_PROPERTY(Qt::TextFormat textFormat READ getTextFormat WRITE setTextFormat)
-    // Qt's, once more, so that the property system calls the setters below.
+    // QAbstractButton's, declared again so that the property system calls the setters below.
     Q_PROPERTY(QString text READ text WRITE setText)
     Q_PROPERTY(QFont font READ font WRITE setFont)
 
@@ -35,27 +35,27 @@ public:
     QString getSvgIconChecked() const;
 
     /// Loads the icon of the checked button from \a path, in the size and colours of the plain icon
-    /// where there is one, and emits svgIconCheckedChanged(). An empty path removes it, without the
+    /// if there is one, and emits svgIconCheckedChanged(). An empty path removes it, without the
     /// signal.
     void setSvgIconChecked(const QString &path);
 
     /// Shows or hides the icons. Repaints.
     void setSvgIconVisible(bool visible);
 
-    /// Returns how the text is read. Qt::PlainText by default.
+    /// Returns the format of the text. Qt::PlainText by default.
     Qt::TextFormat getTextFormat() const;
 
-    /// Sets how the text is read: Qt::PlainText or Qt::RichText; any other value changes nothing.
+    /// Sets the format of the text: Qt::PlainText or Qt::RichText; other values change nothing.
     void setTextFormat(Qt::TextFormat format);
 
-    /// Sets the text. Hides QAbstractButton::setText(), which does not reach a rich text.
+    /// Sets the text. Hides QAbstractButton::setText(), which does not update a rich text.
     void setText(const QString &text);
 
-    /// Sets the font. Hides QWidget::setFont(), which does not reach a rich text.
+    /// Sets the font. Hides QWidget::setFont(), which does not update a rich text.
     void setFont(const QFont &font);
 
-    /// The text's size and the paddings, and with an icon its size and padding too, side by side
-    /// and one above the other at once.
+    /// Returns the size of the text and the paddings. An icon adds its size and padding to the
+    /// width and also to the height.
     QSize sizeHint() const override;
 
 Q_SIGNALS:
@@ -63,18 +63,18 @@ Q_SIGNALS:
     void svgIconCheckedChanged(const QString &path);
 
 protected:
-    /// Gives the icons their colours after the style text was set: those of the icons' set, else
+    /// Gives the icons their colours after the style text was set: those of the icons' set, or else
     /// those of the text.
     virtual void onCSSChanged();
 
-    /// Returns the icon that the button shows: the checked one while it is checked, where it has
-    /// one.
+    /// Returns the icon that the button shows: the checked one, if there is one, while it is
+    /// checked.
     const std::unique_ptr<OxaSvgIcon> &currentSvgIcon() const;
 
     /// Returns the document of a rich text, or null.
     QTextDocument *textDocument() const;
 
-    /// Returns the set called \a name in the button's theme, or its text colours.
+    /// Returns the set called \a name in the button's theme, or else its text colours.
     OxaColorSet colorSetOrText(const QString &name) const;
 
     /// Loads \a icon from \a path unless it shows that already, and repaints.
@@ -84,7 +84,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 protected Q_SLOTS:
-    /// The base class's; then looks the icon's colours up anew where they have a set.
+    /// Calls the base class; then looks the icon's colours up again if they have a set.
     void onThemeChanged() override;
 
 private Q_SLOTS:

@@ -17,8 +17,8 @@ constexpr char invalidFileWarning[] = "Invalid svg file: ";
 constexpr char noNodeWarning[] = "SVG node does not exist!";
 constexpr char largeIconWarning[] = "Icon size should be less or equal than the pixmap size";
 
-/// What nodes hand on to each other while they paint. Painting leaves it as it was, so that one
-/// does for all renderers.
+/// The state that nodes pass on to each other while they paint. Painting restores it, so that one
+/// object serves all renderers.
 QSvgExtraStates &sharedStates()
 {
     static QSvgExtraStates states;
@@ -98,7 +98,7 @@ void OxaSvgRenderer::drawScalingHeight(QPainter *painter, const QRectF &rect) co
 {
     if (!m_renderer)
         return;
-    // The height is the view box's, and only the width follows the rectangle: meant so.
+    // Only the width follows the rectangle; the height is the view box's, as the header says.
     const QRectF viewBox = m_renderer->viewBoxF();
     m_renderer->render(painter,
                        QRectF(0.0, 0.0, rect.height() / viewBox.height() * viewBox.width(),

@@ -17,11 +17,11 @@ class QSvgTinyDocument;
 /// One SVG file, painted in any colour.
 ///
 /// A file whose document has exactly one top-level node is painted directly: the painter's brush is
-/// set to the wanted colour, and a shape without a fill of its own takes it. A file of any other
-/// shape is left to QSvgRenderer and keeps its own colours; only such a file can be animated.
+/// set to the wanted colour, and a shape without a fill of its own takes it. QSvgRenderer paints
+/// any other file in its own colours; only such a file can be animated.
 ///
-/// Nothing that was painted is cached, and files are read once: a file that changes on disk is not
-/// read again. GUI thread only.
+/// Nothing that was painted is cached, and files are read once: changes on disk are not noticed.
+/// GUI thread only.
 class UIELEMENTS_EXPORT OxaSvgRenderer : public QObject
 {
     Q_OBJECT
@@ -37,13 +37,13 @@ public:
     /// Returns the resource path of the icon called \a name: ":/Resources/NAME.svg".
     static QString resourcePath(const QString &name);
 
-    /// Makes a renderer that \a parent owns, loaded with the icon resource called \a name where
-    /// that is not empty. A null \a parent logs a warning; the caller owns the renderer then.
+    /// Makes a renderer that \a parent owns, loaded with the icon resource called \a name if that
+    /// is not empty. A null \a parent logs a warning; the caller then owns the renderer.
     static OxaSvgRenderer *loadIconResource(const QString &name, QObject *parent);
 
     /// Loads the file at \a path, which may begin with "qrc:/". Returns false, logs a warning and
-    /// leaves the renderer empty when there is no such file, or no SVG in it. The path that is
-    /// loaded already is not read again.
+    /// leaves the renderer empty when there is no such file, or no SVG in it. A path that is
+    /// already loaded is not read again.
     bool load(const QString &path);
 
     /// Loads the icon resource called \a name. An empty name returns false and changes nothing.
@@ -67,7 +67,7 @@ public:
     /// not count, and a file that takes a colour is not painted at all.
     void drawScalingHeight(QPainter *painter, const QRectF &rect) const;
 
-    /// Returns a pixmap of \a size device pixels with the picture in \a color on nothing.
+    /// Returns a transparent pixmap of \a size device pixels with the picture in \a color.
     QPixmap renderPixmap(const QSize &size, double devicePixelRatio, const QColor &color) const;
 
     /// Returns a pixmap of \a pixmapSize device pixels, filled with \a backgroundColor, with the
@@ -82,8 +82,8 @@ public:
                          const QColor &color, const QColor &backgroundColor) const;
 
     /// Returns an icon with the resource \a onName for QIcon::On and \a offName for QIcon::Off,
-    /// both for \a mode. A name that is empty or fails to load shows whatever is loaded then; the
-    /// renderer is left with \a offName.
+    /// both for \a mode. A name that is empty or fails to load shows whatever is loaded at that
+    /// moment; afterwards \a offName is loaded.
     QIcon renderIcon(const QString &onName, const QString &offName, const QSize &size,
                      double devicePixelRatio, const QColor &color, QIcon::Mode mode);
 
@@ -98,7 +98,7 @@ private:
     QSvgNode *getSvgNode() const;
 
     std::unique_ptr<QSvgTinyDocument> m_document;
-    QSvgNode *m_node = nullptr; ///< The one of the document.
+    QSvgNode *m_node = nullptr; ///< The only one of the document.
     QPointer<QSvgRenderer> m_renderer;
     QString m_loadedPath;
 };

@@ -10,7 +10,7 @@ using VisualUtils::EventFilter;
 
 namespace {
 
-/// AltGr arrives as Ctrl+Alt; what it types is one printable character.
+/// AltGr arrives as Ctrl+Alt and types one printable character.
 bool isTypedWithAltGr(const QKeyEvent &event)
 {
     const QString text = event.text();
@@ -56,7 +56,7 @@ bool EventFilter::eventFilter(QObject *watched, QEvent *event)
         watched->removeEventFilter(this);
         deleteLater();
     }
-    // The handler may delete the filter, and must not go with it while it runs.
+    // Copied: the handler may delete the filter, and must exist until it returns.
     const Handler handler = m_handler;
     return handler(event);
 }

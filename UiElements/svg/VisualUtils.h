@@ -9,31 +9,31 @@
 #include <functional>
 #include <vector>
 
-/// Small helpers for what widgets do on screen.
+/// Small helpers for widgets on screen.
 namespace VisualUtils {
 
-/// Hands the events of one object to a function.
+/// Passes the events of one object to a function.
 ///
 /// The filter is a child of the object that it watches and installs itself on it. Events of other
-/// objects pass, also when the filter was installed on them by hand.
+/// objects are ignored, also when the filter was installed on them directly.
 class UIELEMENTS_EXPORT EventFilter : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What is done with an event; true keeps it from the watched object.
+    /// Handles an event; returns true to keep it from the watched object.
     using Handler = std::function<bool(QEvent *)>;
 
-    /// Makes a filter that \a parent owns and hands its events of the types \a eventTypes to
-    /// \a handler. No types at all means all of them.
+    /// Makes a filter that \a parent owns and that passes its events of the types \a eventTypes to
+    /// \a handler. An empty list means all events.
     EventFilter(QObject *parent, std::vector<QEvent::Type> eventTypes, Handler handler);
     ~EventFilter() override;
 
-    /// With \a remove the filter deletes itself once the handler has had one event. Off by default.
+    /// With \a remove the filter deletes itself after the handler's first event. Off by default.
     void setRemoveAfterFirstUse(bool remove);
 
-    /// Keeps what AltGr types away from shortcuts: on \a target, a Ctrl+Alt chord that gives one
-    /// printable character is text, every other one stays a candidate for a shortcut. Returns the
+    /// Keeps characters typed with AltGr from shortcuts: on \a target, a Ctrl+Alt chord that types
+    /// one printable character is text; any other chord may still be a shortcut. Returns the
     /// filter, which \a target owns.
     static QObject *overrideShortcutOverride(QObject *target);
 

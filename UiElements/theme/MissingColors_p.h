@@ -5,15 +5,14 @@
 
 class QWidget;
 
-/// Tells which widget lacks colours. The warnings of the same matter don't say: they come from
-/// functions that know no widgets. The category "uielements.theme" is off unless somebody asks for
-/// it.
+/// Logs which widget lacks colours. The warnings about missing colours don't say: they come from
+/// functions that don't know the widget. The category "uielements.theme" is off by default.
 namespace MissingColors {
 
-/// Tells that the set called \a name does not exist for \a widget.
+/// Logs that the set called \a name does not exist for \a widget.
 void tell(const QString &name, const QWidget *widget);
 
-/// Tells of what is left of \a widget's style text in its \a sheet because it can't be expanded.
+/// Logs what is left of \a widget's style text in its \a sheet because it can't be expanded.
 void tellOfLeftovers(const QString &sheet, const QWidget *widget);
 
 } // namespace MissingColors

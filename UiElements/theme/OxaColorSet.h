@@ -12,9 +12,8 @@
 
 /// A named set of six colours, one for each interaction state of a control.
 ///
-/// A plain value: copy it freely. A set that a look-up could not find is default-made, and a
-/// default-made set is not valid; its invalid colours simply don't paint. QML sees the fields as
-/// properties.
+/// A plain value: copy it freely. A look-up that finds no set returns a default-made set, which is
+/// not valid; its invalid colours don't paint. QML sees the fields as properties.
 class UIELEMENTS_EXPORT OxaColorSet
 {
     Q_GADGET

@@ -9,7 +9,7 @@
 namespace OxaEnum {
 Q_NAMESPACE_EXPORT(UIELEMENTS_EXPORT)
 
-/// The side on which one thing stands in relation to another, such as an icon beside its text.
+/// The side on which one thing is placed relative to another, such as an icon beside its text.
 enum class Alignment {
     Left = 0,
     Right = 1,
@@ -18,7 +18,7 @@ enum class Alignment {
 };
 Q_ENUM_NS(Alignment)
 
-/// Where a block stands across a widget.
+/// Where a block is placed horizontally in a widget.
 enum class HorAlign {
     LeftAlign = 0,
     CenterAlign = 1,

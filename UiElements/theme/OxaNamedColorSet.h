@@ -3,18 +3,18 @@
 
 #include <UiElements/theme/OxaThemeUtils.h>
 
-/// A colour set that a widget paints with, kept by its name and fetched again at each change of the
-/// theme.
+/// A colour set that a widget paints with, kept by its name and looked up again at each change of
+/// the theme.
 ///
-/// The name stays where the theme lacks the set, for the next fetch(); the colours are not valid
+/// The name is kept if the theme lacks the set, for the next fetch(); the colours are not valid
 /// then.
 class UIELEMENTS_EXPORT OxaNamedColorSet
 {
 public:
-    /// Has no name, and colours that are not valid.
+    /// Makes a set without a name, with colours that are not valid.
     OxaNamedColorSet() = default;
 
-    /// Has the name \a name, and colours that are not valid before the first fetch().
+    /// Makes a set called \a name, with colours that are not valid before the first fetch().
     explicit OxaNamedColorSet(const QString &name) : m_name(name) { }
 
     /// Returns the name as it was given.
@@ -29,7 +29,7 @@ public:
         m_colors = OxaThemeUtils::getColorSet(m_name.toStdString(), widget);
     }
 
-    /// The same for the set called \a name from now on.
+    /// Does the same with the set called \a name from now on.
     void fetch(const QString &name, const QWidget *widget)
     {
         m_name = name;

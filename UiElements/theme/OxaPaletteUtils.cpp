@@ -19,7 +19,7 @@ Colors colorsOf(const std::vector<OxaPaletteUtils::RoleSource> &sources,
     return colors;
 }
 
-/// The roles that have no source: Qt works them out from the window's colour.
+/// Returns the roles without a source: Qt computes them from the window's colour.
 QPalette startingPalette(const Colors &colors)
 {
     const auto window = std::find_if(colors.crbegin(), colors.crend(), [](const auto &color) {

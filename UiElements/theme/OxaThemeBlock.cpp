@@ -39,18 +39,17 @@ void OxaThemeBlock::setCSS(const QString &styleText)
     keep(m_keptSets.background, result.backgroundColorSet);
 
     const QString &sheet = result.expandedStyleSheet;
-    // Switched on only: who has a use for it besides, as rules of a parent's sheet, keeps it.
+    // Never switched off: a rule in a parent's style sheet may need the attribute too.
     if (m_form == Form::StyledBackground && !sheet.isEmpty())
         m_widget->setAttribute(Qt::WA_StyledBackground);
     const bool hasSheet = !m_widget->styleSheet().isEmpty();
-    // Qt overlooks another sheet of a widget that is not polished, if a child has read the first.
+    // Qt ignores a second sheet of a widget that is not polished, if a child has read the first.
     if (hasSheet)
         m_widget->ensurePolished();
-    // Taking an empty sheet from a widget that has none would still make Qt work out its style
-    // anew.
+    // Setting an empty sheet on a widget that has none would still make Qt compute its style again.
     if (!sheet.isEmpty() || hasSheet)
         m_widget->QWidget::setStyleSheet(sheet);
-    // Who hears of it may delete the widget, and the block with it.
+    // A slot may delete the widget, and the block with it.
     const QPointer<QWidget> widget(m_widget);
     m_class.emitCssChanged(m_widget);
     if (widget && m_form == Form::Full)
@@ -89,7 +88,7 @@ void OxaThemeBlock::changeEvent(const QEvent *event)
 void OxaThemeBlock::onParentThemeTypeChanged()
 {
     if (ThemeChange::depth() == 0) {
-        // The parent is not one of the library's, which would have begun the change.
+        // The parent is not a themed widget, which would have begun the change.
         const ThemeChange change;
         takeThemeTypeFromAbove();
     } else if (ThemeChange::reachesChildren() && m_change != ThemeChange::depth()) {
@@ -104,8 +103,8 @@ void OxaThemeBlock::takeThemeTypeFromAbove()
         takeThemeTypeOf(m_widget->window());
 }
 
-/// Puts \a themeType in force. Widgets that stay connected to earlier parents may make a circle: a
-/// change that comes back to a widget ends there.
+/// Makes \a themeType the widget's own. Widgets that stay connected to earlier parents may form a
+/// circle: a change that comes back to a widget ends there.
 void OxaThemeBlock::applyThemeType(const QString &themeType)
 {
     const int outerChange = std::exchange(m_change, ThemeChange::depth());
@@ -134,8 +133,8 @@ void OxaThemeBlock::followParent(Qt::ConnectionType connectionType)
                      connectionType);
 }
 
-/// Takes over the theme type of \a other where it differs from the widget's. Words are compared by
-/// what they mean: an unknown word is as good as "global".
+/// Takes over the theme type of \a other if it differs from the widget's. Words are compared by
+/// meaning: an unknown word is the same as "global".
 bool OxaThemeBlock::takeThemeTypeOf(const QWidget *other)
 {
     const QVariant otherType = other->property("themeType");

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// Longer than headers are here: the block is a class and the declarations that forward to it, and
-// each is read with the other.
+// Longer than other headers: the class and the declarations that forward to it are read together.
 
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/theme/OxaThemeUtils.h>
@@ -11,8 +10,8 @@
 #include <QObject>
 #include <QWidget>
 
-/// Where a widget keeps the colour sets of its style text that it paints with by itself; null where
-/// it has no use for a set.
+/// The places where a widget keeps colour sets of its style text, to paint with them; null for a
+/// set that it does not use.
 struct OxaKeptColorSets
 {
     OxaColorSet *text = nullptr;
@@ -21,21 +20,21 @@ struct OxaKeptColorSets
 
 /// Binds a widget to the theme: the behaviour behind UIELEMENTS_THEME_BLOCK.
 ///
-/// A member of the widget that it serves. It holds the style text, expands it for the widget, and
-/// hands theme types down the parent chain. What differs from class to class, the signals and slots
-/// that it reaches, stands in one constant for each class.
+/// A member of the widget that it serves. It stores the style text, expands it for the widget, and
+/// passes theme types from parents to children. One constant for each class holds the signals and
+/// slots, in which the classes differ.
 class UIELEMENTS_EXPORT OxaThemeBlock
 {
     Q_DISABLE_COPY_MOVE(OxaThemeBlock)
 
 public:
-    /// How a style text takes hold of the widget.
+    /// How a style text is applied to the widget.
     enum class Form {
         Full,             ///< Follows the object name from the first style text on.
-        StyledBackground, ///< Has a plain QWidget paint its sheet's background; follows no name.
+        StyledBackground, ///< Makes a plain QWidget paint its sheet's background; follows no name.
     };
 
-    /// Serves \a widget, which must outlive the block. Each setCSS() leaves the sets of the style
+    /// Serves \a widget, which must outlive the block. Each setCSS() stores the sets of the style
     /// text where \a keptSets points.
     template <typename Widget>
     explicit OxaThemeBlock(Widget *widget, Form form = Form::Full,
@@ -45,45 +44,45 @@ public:
     }
     ~OxaThemeBlock() = default;
 
-    /// The part of construction that all classes share, to be called from the constructor's body:
-    /// runs the widget's onThemeChanged(), connects it to the widget's theme type, and connects the
+    /// Does the part of construction that all classes share; called in the constructor's body: runs
+    /// the widget's onThemeChanged(), connects it to the widget's theme type, and connects the
     /// widget to its parent's.
     void followTheme();
 
-    /// Connects the widget's object name to refreshCSS(), once however often it is called.
+    /// Connects the widget's object name to refreshCSS(), at the first call only.
     void followObjectName() { m_class.followObjectName(m_widget); }
 
-    /// Returns the style text as it was last given.
+    /// Returns the style text as it was last set.
     QString styleText() const { return m_styleText; }
 
-    /// Returns what the style text was last read as.
+    /// Returns the structured form of the style text.
     const OxaCSSData &cssData() const { return m_cssData; }
 
     /// Stores \a styleText, expands it for the widget, gives the sheet to Qt and emits
-    /// cssChanged(), also when nothing differs. An empty sheet is kept from a widget that has none.
+    /// cssChanged(), also when nothing differs. Skips an empty sheet for a widget that has none.
     void setCSS(const QString &styleText);
 
-    /// Expands the style text anew, in the colours of this moment; otherwise as setCSS().
+    /// Expands the style text again, in the current colours; otherwise like setCSS().
     void refreshCSS() { setCSS(m_styleText); }
 
-    /// Gives \a styleSheet to Qt as it is. Without a style text it becomes that, too.
+    /// Gives \a styleSheet to Qt as it is. It becomes the style text if there is none.
     void setStyleSheet(const QString &styleSheet);
 
-    /// Returns the theme type's word as it was last given; "global" at first.
+    /// Returns the theme type's word as it was last set; "global" at first.
     QString themeType() const { return m_themeType; }
 
-    /// Returns the theme type that counts: the widget's own, or its window's where that is global.
+    /// Returns the effective theme type: the widget's own, or its window's if that is global.
     OxaThemeUtils::AppThemeType effectiveThemeType() const;
 
-    /// Stores \a themeType, does what refreshCSS() does, and emits themeTypeChanged(), also when
-    /// the word is the same.
+    /// Stores \a themeType, calls refreshCSS(), and emits themeTypeChanged(), also when the word is
+    /// the same.
     void setThemeType(const QString &themeType);
 
-    /// Follows a new parent, and takes over its theme type. For the widget's changeEvent().
+    /// Follows a new parent and takes over its theme type. For the widget's changeEvent().
     void changeEvent(const QEvent *event);
 
-    /// Takes over the theme type of the widget's parent, or else of its window, where that differs;
-    /// once in each change, however often it is called.
+    /// Takes over the theme type of the widget's parent, or else of its window, if that differs;
+    /// once in each change, for any number of calls.
     void onParentThemeTypeChanged();
 
 private:
@@ -106,7 +105,7 @@ private:
     QWidget *const m_widget;
     const WidgetClass &m_class;
     const Form m_form;
-    int m_change = 0; ///< The change that the widget is handing down.
+    int m_change = 0; ///< The change that the widget is passing on.
     const OxaKeptColorSets m_keptSets;
     QString m_styleText;
     OxaCSSData m_cssData;
@@ -129,27 +128,27 @@ const OxaThemeBlock::WidgetClass OxaThemeBlock::classOf = {
     },
 };
 
-/// Declares the theme members of a themed widget class. Stands right after Q_OBJECT, without a
-/// semicolon, with the Qt class that the widget derives from as its argument, and leaves the access
-/// at private. Derived widgets inherit it all and override onThemeChanged().
+/// Declares the theme members of a themed widget class. Place it right after Q_OBJECT, without a
+/// semicolon, with the Qt class that the widget derives from as its argument; it leaves the access
+/// at private. Derived widgets inherit all of it and override onThemeChanged().
 ///
-/// The class declares and defines what the macro leaves to it, because its place among the virtual
+/// The class itself declares and defines this function, because its place among the virtual
 /// functions of a class is part of the binary interface:
 ///
 ///     protected Q_SLOTS:
 ///         virtual void onThemeChanged();
 ///
-/// and calls m_themeBlock.followTheme() in its constructor, where it may also initialise
+/// It calls m_themeBlock.followTheme() in its constructor, where it may also initialise
 /// m_themeBlock with a form of its own or a place for its colour sets.
 ///
 /// Properties: `css`, the style text as UTF-8; `themeType`, the stored word of the theme type;
-/// `styleSheet`, Qt's, where a sheet given to a widget without a style text becomes that text.
-/// getThemeType() tells the effective type, which may be the window's.
+/// `styleSheet`, Qt's, which also becomes the style text of a widget without one. getThemeType()
+/// returns the effective type, which may be the window's.
 /// setCSS() expands and applies the style text and emits cssChanged(). setThemeType() stores the
 /// word, applies the style text again, and emits cssChanged() and themeTypeChanged(), also when the
-/// word is the same. Children whose parent has a themeTypeChanged() signal follow it where its type
-/// is another one than theirs; a plain QWidget in between stops it.
-/// onThemeChanged() runs at each change of the type, to fetch what a class paints with by itself.
+/// word is the same. Children of a parent with a themeTypeChanged() signal take over its type if
+/// theirs differs; a plain QWidget in between stops it.
+/// onThemeChanged() runs at each change of the type, to look up what a class paints with.
 #define UIELEMENTS_THEME_BLOCK(QtClass)                                                            \
     Q_PROPERTY(QString styleSheet READ styleSheet WRITE setStyleSheet)                             \
     Q_PROPERTY(QByteArray css READ _getCSS WRITE _setCSS NOTIFY cssChanged)                        \

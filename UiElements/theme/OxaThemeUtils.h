@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// Longer than headers are here: one namespace for all that is asked about colours.
+// Longer than other headers: one namespace for everything about colours.
 
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/theme/OxaCSSData.h>
@@ -15,8 +15,8 @@ class QWidget;
 /// Colours by name: documents, the application's stores, and the style language.
 ///
 /// The readers of documents and the style language are pure functions on values and need no
-/// application object. What reads or writes a store finds it through the IOxaApplication of the
-/// process; without one, stores are empty and setters do nothing. GUI thread only.
+/// application object. Functions that read or write a store find it through the IOxaApplication of
+/// the process; without one, stores are empty and setters do nothing. GUI thread only.
 namespace OxaThemeUtils {
 
 /// How a widget relates to the application's theme.
@@ -34,7 +34,7 @@ enum class ColorSetType {
     Text = 2,       ///< "$textColors:"
 };
 
-/// What the expansion of a style text yields.
+/// The result of expanding a style text.
 struct CSSParserResult
 {
     OxaColorSet backgroundColorSet; ///< The background set; not valid when there is none.
@@ -53,26 +53,26 @@ UIELEMENTS_EXPORT QString themeTypeToString(AppThemeType themeType);
 /// text, the empty one included, gives AppThemeType::Global.
 UIELEMENTS_EXPORT AppThemeType stringToThemeType(const QString &text);
 
-/// Returns the effective theme type of \a widget: its own "themeType" property where that names a
-/// type other than global, else the one of its window. Null gives AppThemeType::Global.
+/// Returns the effective theme type of \a widget: its own "themeType" property if that names a type
+/// other than global, otherwise that of its window. Null gives AppThemeType::Global.
 UIELEMENTS_EXPORT AppThemeType getThemeTypeOfWidget(const QWidget *widget);
 
-/// Has all themed widgets below \a root and \a root itself, or those of the whole process, take the
-/// colours of this moment. To be called once the stores or the application's flags changed.
+/// Makes \a root and all themed widgets below it, or with null those of the whole process, take the
+/// current colours. Call it after the stores or the application's flags have changed.
 ///
 /// Parents come before their children. Each widget expands its style text and emits cssChanged()
-/// and themeTypeChanged(), but its type stays, and no child takes another one. A widget of another
-/// kind that has a "themeType" is written that property anew. Slots may delete and make widgets.
+/// and themeTypeChanged(), but its type stays, and no child takes over another one. Any other
+/// widget with a "themeType" property has it set again. Slots may delete and make widgets.
 UIELEMENTS_EXPORT void refreshThemedWidgets(QWidget *root = nullptr);
 
 // Documents
 
-/// Reads the JSON object in the file at \a path. A file that won't open, or that holds no JSON
+/// Reads the JSON object in the file at \a path. A file that can't be opened, or that holds no JSON
 /// object, gives an empty object and no warning.
 UIELEMENTS_EXPORT QJsonObject readJsonObject(const QString &path);
 
 /// Reads a colour document. All or nothing: a colour without a name (silently), a colour with a
-/// value out of range or an alias of a colour that isn't there yet (each with a warning) gives an
+/// value out of range or an alias of a colour that isn't defined yet (each with a warning) gives an
 /// empty palette.
 UIELEMENTS_EXPORT OxaColorPalette parseOxaColorsFromJson(const QJsonObject &document);
 
@@ -81,8 +81,8 @@ UIELEMENTS_EXPORT OxaColorPalette parseOxaColorsFromJson(const QString &path);
 
 /// Reads a colour-set document whose states name colours of \a palette; with an empty palette the
 /// states hold their "rgba" themselves. All or nothing: without a "tokens" object, or with a set
-/// that has no usable "normal", the result is empty and a warning tells why. A state that is
-/// missing or unusable silently takes the set's normal colour.
+/// that has no usable "normal", the result is empty and a warning says why. A state that is missing
+/// or unusable silently takes the set's normal colour.
 UIELEMENTS_EXPORT OxaColorSetMap parseOxaColorSetsFromJson(const QJsonObject &document,
                                                            const OxaColorPalette &palette);
 
@@ -90,7 +90,7 @@ UIELEMENTS_EXPORT OxaColorSetMap parseOxaColorSetsFromJson(const QJsonObject &do
 UIELEMENTS_EXPORT OxaColorSetMap parseOxaColorSetsFromJson(const QString &path,
                                                            const OxaColorPalette &palette);
 
-// Stores. A reference holds until the store is next replaced: keep it for one call only.
+// Stores. A reference is valid until the store is replaced: keep it for one call only.
 
 /// Returns the application's ordinary store, which shows its current theme.
 UIELEMENTS_EXPORT const OxaColorSetMap &getAppOxaColorSets();
@@ -101,27 +101,27 @@ UIELEMENTS_EXPORT const OxaColorSetMap &getAppInvertedOxaColorSets();
 /// Returns the application's token map.
 UIELEMENTS_EXPORT const OxaColorTokenMap &getAppOxaColorTokens();
 
-/// Replaces the ordinary store by a copy of \a colorSets; IOxaApplication::colorSetsChanged
-/// follows, whether or not anything differs.
+/// Replaces the ordinary store with a copy of \a colorSets; IOxaApplication::colorSetsChanged
+/// follows, also when nothing differs.
 UIELEMENTS_EXPORT void setAppOxaColorSets(const OxaColorSetMap &colorSets);
 
-/// Replaces the inverted store by a copy of \a colorSets; IOxaApplication::colorSetsChanged
-/// follows, whether or not anything differs.
+/// Replaces the inverted store with a copy of \a colorSets; IOxaApplication::colorSetsChanged
+/// follows, also when nothing differs.
 UIELEMENTS_EXPORT void setAppInvertedOxaColorSets(const OxaColorSetMap &colorSets);
 
-/// Replaces the token map by a copy of \a colorTokens. No signal follows.
+/// Replaces the token map with a copy of \a colorTokens. No signal follows.
 UIELEMENTS_EXPORT void setAppOxaColorTokens(const OxaColorTokenMap &colorTokens);
 
-/// Returns the store that shows \a themeType under the application's flags of this moment. In high
-/// contrast that is always the ordinary one.
+/// Returns the store for \a themeType under the application's current flags. In high contrast that
+/// is always the ordinary one.
 UIELEMENTS_EXPORT const OxaColorSetMap &getOxaColorSetsByThemeType(AppThemeType themeType);
 
 /// Returns the set called \a name (UTF-8) in the store for \a themeType. A name that the store
-/// lacks logs a warning and gives a default set; so does an empty name, without the warning.
+/// lacks logs a warning and gives a default set; an empty name does so without the warning.
 UIELEMENTS_EXPORT OxaColorSet getColorSet(const std::string &name, AppThemeType themeType);
 
-/// Returns the set called \a name in the theme of \a widget. Where the store lacks it, a message of
-/// the logging category "uielements.theme", which is off by default, names the widget besides.
+/// Returns the set called \a name in the theme of \a widget. If the store lacks it, a message in
+/// the logging category "uielements.theme", which is off by default, also names the widget.
 UIELEMENTS_EXPORT OxaColorSet getColorSet(const std::string &name, const QWidget *widget);
 
 /// Returns the set "transparent", with Qt::transparent in all six states. It is valid.
@@ -132,21 +132,21 @@ UIELEMENTS_EXPORT bool isHighContrastEnabled();
 
 // The style language
 
-/// Expands \a styleText into a Qt style sheet whose rules bear \a selector, with the colours of
-/// \a colorSets. An empty style text, selector or store returns the text as it is. A directive
-/// that can't be expanded stays in the sheet; a colour reference that can't, too, with a warning.
+/// Expands \a styleText into a Qt style sheet whose rules have \a selector, with the colours of
+/// \a colorSets. An empty style text, selector or store returns the text as it is. A directive that
+/// can't be expanded stays in the sheet, and so does a colour reference, with a warning.
 UIELEMENTS_EXPORT CSSParserResult parseCSS(const QString &selector, const QString &styleText,
                                            const OxaColorSetMap &colorSets);
 
-/// Expands \a styleText for \a widget, which must not be null: the selector is its object name,
-/// else its class. The store is the one of the widget's theme type, and \a colorSets only where
-/// that type is global. Sets the widget's dynamic property "rectangularCornerMask", and
-/// "focusBorderRadius" where the text has a radius.
+/// Expands \a styleText for \a widget, which must not be null: the selector is its object name, or
+/// else its class. The store is that of the widget's theme type; \a colorSets is used only if that
+/// type is global. Sets the widget's dynamic property "rectangularCornerMask", and
+/// "focusBorderRadius" if the text has a radius.
 UIELEMENTS_EXPORT CSSParserResult parseCSS(QWidget *widget, const QString &styleText,
                                            const OxaColorSetMap &colorSets);
 
-/// Writes \a data as a style text: the directives first, the plain style sheet after them.
-/// OxaCSSData::noBorder is worked out afresh from the sides and the radius.
+/// Returns \a data as a style text: the directives first, the plain style sheet after them.
+/// OxaCSSData::noBorder is computed again from the sides and the radius.
 UIELEMENTS_EXPORT QString convertToOxaCSS(OxaCSSData data);
 
 /// Removes the first directive of each kind from \a styleText and trims what is left.
@@ -157,7 +157,7 @@ UIELEMENTS_EXPORT void removeOxaCSSFromStyleSheet(QString &styleText);
 UIELEMENTS_EXPORT QString getColorSetNameFromString(ColorSetType type, const QString &styleText);
 
 /// Returns an HTML style element that gives links the colours of the set "button-hyperlink-text"
-/// under \a themeType: normal for links and visited links, hovered under the pointer.
+/// for \a themeType: normal for links and visited links, hovered under the pointer.
 UIELEMENTS_EXPORT QString getHyperlinkCSS(AppThemeType themeType);
 
 } // namespace OxaThemeUtils

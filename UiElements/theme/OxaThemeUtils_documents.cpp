@@ -23,8 +23,8 @@ constexpr char invalidColorSetWarning[] = "Unable to parse ColorSet:";
 /// Pairs of a colour's name and the name of the colour that it stands for, in file order.
 using Aliases = std::vector<std::pair<QString, QString>>;
 
-/// Reads an "rgba" object. Channels are whole numbers, alpha is a fraction and is truncated; what
-/// is missing or out of range makes the colour invalid.
+/// Reads an "rgba" object. Channels are whole numbers, alpha is a fraction and is truncated; a
+/// channel that is missing or out of range makes the colour invalid.
 QColor colorFromRgba(const QJsonObject &rgba)
 {
     const double alpha = std::trunc(rgba[QLatin1String("a")].toDouble(-1.0) * 255.0);
@@ -70,7 +70,7 @@ bool resolveAliases(const Aliases &aliases, OxaColorPalette &palette)
     return true;
 }
 
-/// Reads the colour of one state of \a token, or \a fallback where it is missing or unusable.
+/// Reads the colour of one state of \a token, or \a fallback if it is missing or unusable.
 QColor stateColor(const QJsonObject &token, QLatin1String state, const OxaColorPalette &palette,
                   const QColor &fallback)
 {
@@ -104,7 +104,7 @@ std::optional<OxaColorSet> readColorSet(const QString &name, const QJsonObject &
 QJsonObject OxaThemeUtils::readJsonObject(const QString &path)
 {
     QFile file(path);
-    // Qt itself would warn of a file without a name.
+    // Qt itself would warn about a file without a name.
     if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return {};
     return QJsonDocument::fromJson(file.readAll()).object();

@@ -48,7 +48,7 @@ OxaThemeUtils::CSSParserResult OxaThemeUtils::parseCSS(const QString &selector,
     data.plainStyleSheet = styleText;
     removeOxaCSSFromStyleSheet(data.plainStyleSheet);
 
-    sheet.squeeze(); // A widget keeps it, and not the room that it has grown by.
+    sheet.squeeze(); // Widgets keep it: frees the spare capacity.
     result.expandedStyleSheet = sheet;
     return result;
 }
@@ -82,7 +82,7 @@ QString OxaThemeUtils::getColorSetNameFromString(ColorSetType type, const QStrin
 
 QString OxaThemeUtils::getHyperlinkCSS(AppThemeType themeType)
 {
-    // There is no %1: arg() fills the lowest markers, whatever their numbers.
+    // Starts at %2: arg() replaces the lowest markers, whatever their numbers.
     const OxaColorSet links = getColorSet("button-hyperlink-text", themeType);
     return QStringLiteral("<style type = \"text/css\">a:link{text-decoration: underline; "
                           "color:%2;} a:visited{color:%2;} a:hover{ color:%3;}</style>")

@@ -40,7 +40,7 @@ QWidgetList allWidgets()
     return all;
 }
 
-/// Has \a widget take the colours of this moment, and no other with it.
+/// Makes \a widget, and no other with it, take the current colours.
 void refresh(QWidget *widget)
 {
     const ThemeChange change(ThemeChange::Reach::OneWidget);

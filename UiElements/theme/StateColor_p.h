@@ -5,8 +5,8 @@
 
 #include <QStyle>
 
-/// Returns the colour of \a set for a widget in \a state. What is stronger comes first: disabled
-/// before pressed, hovered, focused and checked.
+/// Returns the colour of \a set for a widget in \a state. The strongest state wins: disabled before
+/// pressed, hovered, focused and checked.
 inline QColor colorForStyleState(const OxaColorSet &set, QStyle::State state)
 {
     if (!state.testFlag(QStyle::State_Enabled))

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The corners that OxaCSSData::radiusCorner numbers from 1 and whose squareness is a bit each.
+/// The corners in the order of OxaCSSData::radiusCorner, from 1, and of the mask's bits.
 constexpr std::array<QStringView, 4> corners = { u"top-left", u"top-right", u"bottom-left",
                                                  u"bottom-right" };
 constexpr int allCorners = 0;
@@ -42,7 +42,7 @@ bool hasAnySide(const OxaCSSData &data)
     return data.borderTop || data.borderRight || data.borderBottom || data.borderLeft;
 }
 
-/// Four sides of no width are no border at all, and a radius is dropped with them.
+/// Four sides of width 0 are no border at all, and a radius is dropped with them.
 bool hasNothing(const OxaCSSData &data)
 {
     return (hasAllSides(data) && data.borderWidth == 0) || (!hasAnySide(data) && !data.noBorder);
@@ -63,7 +63,7 @@ void readSides(const QString &value, OxaCSSData &data)
 }
 
 /// Returns a bit for each corner that \a sheet does not round. Plain declarations that round some
-/// corners leave the others square; the capital R of a radius directive rounds all of them.
+/// corners leave the others square; a radius directive, known by its capital R, rounds all.
 quint8 squareCorners(const QString &sheet)
 {
     constexpr QStringView radius = u"-radius";
@@ -100,7 +100,7 @@ void readRadius(const QString &value, OxaCSSData &data)
 }
 
 /// Removes the first directive of \a tag at \a from or later from \a sheet and returns its value.
-/// Unless that is empty, \a position becomes the directive's.
+/// If the value is not empty, \a position becomes the directive's.
 QString takeDirective(QString &sheet, QStringView tag, int from, int &position)
 {
     const auto directive = StyleDirective::find(sheet, tag, from);
@@ -113,7 +113,7 @@ QString takeDirective(QString &sheet, QStringView tag, int from, int &position)
     return value;
 }
 
-/// Takes the border directives out of \a sheet and fills the border fields of \a data. Returns
+/// Removes the border directives from \a sheet and fills the border fields of \a data. Returns
 /// where the border rule belongs, or -1 for no rule.
 int takeDirectives(QString &sheet, OxaCSSData &data)
 {

@@ -14,7 +14,7 @@ using OxaThemeUtils::ColorSetType;
 
 namespace {
 
-/// What a colour directive expands to. Without rules it stays in the sheet.
+/// What a colour directive expands to. Without rules the directive stays in the sheet.
 struct Expansion
 {
     OxaColorSet set;
@@ -28,15 +28,15 @@ constexpr std::array<QStringView, 3> properties = { u"background-color:", u"bord
 /// Enough for six rules of a selector of usual length. Longer ones take more memory as they grow.
 constexpr int expectedRulesLength = 450;
 
-/// A state that has a rule of its own where its colour is not the normal one.
+/// A state that has a rule of its own if its colour is not the normal one.
 struct State
 {
     QStringView pseudoState;
     QColor OxaColorSet::*color;
 };
 
-/// The states in order of rising strength. The last rule that matches wins: disabled beats pressed,
-/// pressed beats hover, and hover beats focus and checked.
+/// The states from weak to strong. The last rule that matches wins: disabled beats pressed, pressed
+/// beats hover, and hover beats focus and checked.
 constexpr std::array<State, 5> states = { {
         { u":checked", &OxaColorSet::checked },
         { u":focus", &OxaColorSet::focused },
@@ -51,8 +51,8 @@ const OxaColorSet *findSet(const OxaColorSetMap &colorSets, QStringView name)
     return found == colorSets.cend() ? nullptr : &found->second;
 }
 
-/// Returns "#aarrggbb", the name of \a color with its alpha first. In a style text's twenty rules,
-/// QColor::name() would take a third of the time of the expansion, most of it to allocate.
+/// Returns "#aarrggbb", the name of \a color with its alpha first. For the twenty rules of a style
+/// text, QColor::name() would take a third of the time of the expansion, mostly to allocate.
 std::array<QChar, 9> nameForRule(const QColor &color)
 {
     std::array<QChar, 9> name = { QLatin1Char('#') };
@@ -62,8 +62,8 @@ std::array<QChar, 9> nameForRule(const QColor &color)
     return name;
 }
 
-/// Returns where the reference whose inside begins at \a position ends: at its ")", or where the
-/// line or the text ends before one.
+/// Returns the end of the reference whose content begins at \a position: its ")", or the end of the
+/// line or of the text if that comes first.
 int endOfReference(const QString &text, int position)
 {
     const auto isEnd = [](QChar character) {
@@ -72,7 +72,7 @@ int endOfReference(const QString &text, int position)
     return int(std::find_if(text.begin() + position, text.end(), isEnd) - text.begin());
 }
 
-/// Returns the colour that a reference names by \a inside, or an invalid one and a warning.
+/// Returns the colour that the reference \a inside names, or an invalid one with a warning.
 QColor referencedColor(QStringView inside, const OxaColorSetMap &colorSets)
 {
     const auto dot = inside.indexOf(QLatin1Char('.'));
@@ -94,7 +94,7 @@ void appendRule(QString &rules, ColorSetType type, const QString &selector, QStr
             % QStringView(name.data(), qsizetype(name.size())) % u";}";
 }
 
-/// Returns the rule of a directive that has no states.
+/// Returns the only rule of a directive without states.
 QString onlyRule(ColorSetType type, const QString &selector, const QColor &color)
 {
     QString rule;
@@ -142,7 +142,7 @@ Expansion expandGradient(QStringView kind, const QString &selector, const OxaCol
                                     end->normal.name(QColor::HexArgb)) };
 }
 
-/// Expands a background that is no set: "none" or a gradient.
+/// Expands a background that is not a colour set: "none" or a gradient.
 Expansion expandBackgroundWord(const QString &value, const QString &selector,
                                const OxaColorSetMap &colorSets)
 {
@@ -158,8 +158,8 @@ Expansion expandBackgroundWord(const QString &value, const QString &selector,
     return expandGradient(gradientKind(value, word), selector, colorSets);
 }
 
-/// Expands a literal colour, which only a text may have. The directive of a border stays in any
-/// case, so that a border without a set keeps no name in the record and draws no line.
+/// Expands a literal colour, which only a text may have. A border's directive always stays, so that
+/// a border without a set has no name in the record and draws no line.
 Expansion expandLiteralColor(const QString &value, ColorSetType type, const QString &selector)
 {
     const QColor color = type == ColorSetType::Text ? QColor(value) : QColor();
@@ -183,11 +183,11 @@ QString StyleColors::substituteReferences(const QString &styleText, const OxaCol
 {
     const QStringView source(styleText);
     QString text;
-    int copied = 0; // How much of the source is in the text.
+    int copied = 0; // How much of the source has been copied.
     int end = 0;
     for (int begin = 0; (begin = positionOf(StyleTag::reference, styleText, end)) >= 0;) {
         const int inside = begin + int(StyleTag::reference.size());
-        // Where the line has no ")", no other reference in it has one: the search goes on behind
+        // Without a ")" the rest of the line has no complete reference: the search continues after
         // it.
         end = endOfReference(styleText, inside);
         if (end == source.size() || source[end] != QLatin1Char(')'))

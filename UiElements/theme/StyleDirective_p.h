@@ -30,14 +30,14 @@ constexpr QStringView of(OxaThemeUtils::ColorSetType type)
 
 } // namespace StyleTag
 
-/// Where a directive stands in a text: a tag, a value and the first ";" after the tag.
+/// The position of a directive in a text: a tag, a value and the first ";" after the tag.
 struct StyleDirective
 {
     int position = 0;      ///< Where the tag begins.
     int length = 0;        ///< From the first character of the tag through the ";".
     int valuePosition = 0; ///< Where the tag ends.
 
-    /// Finds the first \a tag in \a text at \a from or later. Without a ";" after it, it is no
+    /// Finds the first \a tag in \a text at \a from or later. Without a ";" after it, a tag is no
     /// directive.
     static std::optional<StyleDirective> find(const QString &text, QStringView tag, int from = 0);
 
@@ -45,6 +45,6 @@ struct StyleDirective
     QString valueIn(const QString &text) const;
 };
 
-/// Returns where \a word stands first in \a text, at \a from or later, or -1. Faster than
+/// Returns the first position of \a word in \a text, at \a from or later, or -1. Faster than
 /// QString::indexOf() for a word that begins with a rare character, such as "$".
 int positionOf(QStringView word, const QString &text, int from = 0);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-/// A change of a theme type, as long as it is on its way from parents to children. Changes nest: a
-/// slot may begin another one.
+/// A change of a theme type on its way from parents to children. Changes nest: a slot may begin
+/// another one.
 class ThemeChange
 {
 public:
@@ -17,7 +17,7 @@ public:
     ThemeChange(const ThemeChange &) = delete;
     ThemeChange &operator=(const ThemeChange &) = delete;
 
-    /// Returns how many changes are under way: a number of its own for each of them.
+    /// Returns how many changes are in progress: a number of its own for each of them.
     static int depth() { return s_current.depth; }
 
     /// True when children follow in the innermost change.

@@ -4,8 +4,8 @@
 #include <QAccessible>
 #include <QString>
 
-/// Declares the stable id by which automation finds a widget, as `m_uniqueElementId`. Stands after
-/// the other blocks, without a semicolon, and leaves the access at private.
+/// Declares the stable id by which automation finds a widget, as `m_uniqueElementId`. Place it
+/// after the other blocks, without a semicolon; it leaves the access at private.
 ///
 /// Property: `elementUniqueId` (empty). It is stored, and nothing in the library reads it.
 #define UIELEMENTS_ELEMENT_ID_BLOCK                                                                \
@@ -18,11 +18,11 @@ public:                                                                         
 private:                                                                                           \
     QString m_uniqueElementId;
 
-/// Declares the accessible role that a widget stores, as `m_accessibleRole`. Stands after the other
-/// blocks, without a semicolon, and leaves the access at private.
+/// Declares the accessible role that a widget stores, as `m_accessibleRole`. Place it after the
+/// other blocks, without a semicolon; it leaves the access at private.
 ///
 /// Property: `accessibleRole` (QAccessible::NoRole, unless the class's constructor sets it). It is
-/// stored, and not told to assistive technology.
+/// stored, but not reported to assistive technology.
 #define UIELEMENTS_ACCESSIBLE_ROLE_BLOCK                                                           \
     Q_PROPERTY(QAccessible::Role accessibleRole READ getAccessibleRole WRITE setAccessibleRole)    \
                                                                                                    \

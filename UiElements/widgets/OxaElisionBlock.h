@@ -25,16 +25,16 @@ public:
     /// Sets where the text is elided. Repaints the widget.
     void setMode(Qt::TextElideMode mode);
 
-    /// Returns the width in pixels that an elided text keeps free. 0 by default.
+    /// Returns the width in pixels that an elided text leaves free. 0 by default.
     int padding() const { return m_padding; }
 
-    /// Sets the width in pixels that an elided text keeps free. Repaints the widget.
+    /// Sets the width in pixels that an elided text leaves free. Repaints the widget.
     void setPadding(int padding);
 
-    /// Returns the widget's width less the padding, in pixels.
+    /// Returns the widget's width minus the padding, in pixels.
     int lineWidth() const;
 
-    /// Returns \a text elided to the line width less \a usedWidth; with Qt::ElideNone, \a text
+    /// Returns \a text elided to the line width minus \a usedWidth; with Qt::ElideNone, \a text
     /// itself.
     QString elidedText(const QString &text, int usedWidth) const;
 
@@ -44,11 +44,11 @@ private:
     int m_padding = 0;
 };
 
-/// Declares the elision members of a widget class, as `m_elision`. Stands after
-/// UIELEMENTS_FONT_BLOCK, without a semicolon, and leaves the access at private.
+/// Declares the elision members of a widget class, as `m_elision`. Place it after
+/// UIELEMENTS_FONT_BLOCK, without a semicolon; it leaves the access at private.
 ///
 /// Properties: `elideMode`, where the text is elided (Qt::ElideNone), and `elidePadding`, the width
-/// in pixels that an elided text keeps free (0). The setters repaint.
+/// in pixels that an elided text leaves free (0). The setters repaint.
 #define UIELEMENTS_ELISION_BLOCK                                                                   \
     Q_PROPERTY(Qt::TextElideMode elideMode READ getElideMode WRITE setElideMode)                   \
     Q_PROPERTY(int elidePadding READ getElidePadding WRITE setElidePadding)                        \

@@ -14,7 +14,7 @@ constexpr int focusFrameRadius = 4;
 
 QString withLinkColors(const QString &text, const OxaColorSet &colors)
 {
-    // Visited links take the focused colour: meant so.
+    // A colour set has no colour for visited links: they take the focused one.
     static const QString html = QStringLiteral(
             "<style type = \"text/css\">a:link{text-decoration: underline; color:%1;} "
             "a:visited{color:%2;} a:hover{color:%3;}</style>%4");
@@ -93,7 +93,7 @@ void OxaLabel::setText(const QString &text)
     const bool hasLinks = textFormat() == Qt::RichText && text.contains(QLatin1String("<a"));
     m_shownText = hasLinks ? withLinkColors(text, m_linkColors.colors()) : text;
     QLabel::setText(m_shownText);
-    // QLabel leaves its margins out, into which an elided text reaches.
+    // QLabel does not repaint its margins, but an elided text reaches into them.
     if (getElideMode() != Qt::ElideNone)
         update();
 }
@@ -103,7 +103,7 @@ void OxaLabel::onThemeChanged()
     m_linkColors.fetch(this);
     if (textFormat() != Qt::RichText || !showsItsText())
         return;
-    // QLabel keeps the selection of a text that is the same, and of others until it lays them out.
+    // QLabel keeps the selection of an equal text, and of another one until it is laid out.
     if (hasSelectedText())
         setSelection(0, 0);
     setText(m_rawText);
@@ -145,7 +145,7 @@ void OxaLabel::onLayoutDirectionChanged()
 {
     setContentsMargins(WidgetParts::mirrored(contentsMargins()));
 
-    // "TextDirection" tells the direction of the interface's language, which may differ from that
+    // "TextDirection" gives the direction of the interface's language, which may differ from that
     // of its layout.
     const auto textDirection = static_cast<Qt::LayoutDirection>(
             qApp->property("TextDirection").toInt());
@@ -156,8 +156,7 @@ void OxaLabel::onLayoutDirectionChanged()
 
 bool OxaLabel::isInteractive() const { return textInteractionFlags() != Qt::NoTextInteraction; }
 
-/// Whether the label shows what setText() has set, and not what took its place since: a number, a
-/// picture, or nothing at all.
+/// Whether the label shows what setText() set, and not a number, a picture or nothing set since.
 bool OxaLabel::showsItsText() const { return text() == m_shownText; }
 
 /// Emits clicked() and returns whether the label is still there: a slot may delete it.
@@ -168,14 +167,14 @@ bool OxaLabel::emitClicked()
     return !self.isNull();
 }
 
-/// Selects what the label shows, which for rich text is shorter than text().
+/// Selects all that the label shows, which for rich text is shorter than text().
 void OxaLabel::selectAllText()
 {
-    // A selection makes QLabel fill its document, which is filled late otherwise.
+    // A selection makes QLabel fill its document, which it otherwise does late.
     setSelection(0, 0);
     const auto documents = findChildren<QTextDocument *>();
     for (const QTextDocument *document : documents) {
-        // One whose parent is the label is a subclass's, and may show less than all.
+        // A document whose parent is the label belongs to a subclass, and may show only a part.
         if (document->parent() != this)
             setSelection(0, document->characterCount() - 1);
     }

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// Longer than headers are here: its virtual functions keep the places of their slots.
-
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/fonts/OxaFontBlock.h>
 #include <UiElements/theme/OxaNamedColorSet.h>
@@ -17,13 +15,13 @@
 ///
 /// Texts are plain unless setTextFormat() says otherwise. With an elide mode the label paints its
 /// text itself: one elided line, or with word wrap, in any mode but Qt::ElideNone, as many lines as
-/// there is room for, the last of them elided at its end. While text is selected it paints as
-/// QLabel does, without an ellipsis. The size hints stay those of the whole text, so that a layout
-/// makes the label narrower only where it has a minimum width. Such a text keeps off the edges by
-/// margin(), not by a padding of the style text.
+/// fit, the last of them elided at its end. While text is selected it paints as QLabel does,
+/// without an ellipsis. The size hints are those of the whole text, so that a layout makes the
+/// label narrower only if it has a minimum width. Use margin() to keep such a text off the edges,
+/// not a padding of the style text.
 ///
-/// The horizontal alignment follows the layout direction of the application, and is set anew at
-/// each change of it: one that was set before, centring included, is lost then. Set it after
+/// The horizontal alignment follows the layout direction of the application, and each change of
+/// that sets it again: an alignment set before, centring included, is then lost. Set it after
 /// construction. The order of the virtual functions is part of the binary interface.
 class UIELEMENTS_EXPORT OxaLabel : public QLabel
 {
@@ -33,7 +31,7 @@ class UIELEMENTS_EXPORT OxaLabel : public QLabel
     UIELEMENTS_ELISION_BLOCK
     UIELEMENTS_ELEMENT_ID_BLOCK
     UIELEMENTS_ACCESSIBLE_ROLE_BLOCK
-    // QLabel's, once more, so that the property system calls the setters below.
+    // QLabel's, declared again so that the property system calls the setters below.
     Q_PROPERTY(QString text READ text WRITE setText)
     Q_PROPERTY(Qt::TextFormat textFormat READ textFormat WRITE setTextFormat)
     Q_PROPERTY(Qt::TextInteractionFlags textInteractionFlags READ textInteractionFlags WRITE
@@ -54,7 +52,7 @@ public:
     /// after clear(), setNum() or setPixmap().
     virtual void setTextFormat(Qt::TextFormat format);
 
-    /// Sets what the user can do with the text, QLabel's default at first. Repaints where the text
+    /// Sets what the user can do with the text, QLabel's default at first. Repaints if the text
     /// becomes selectable.
     virtual void setTextInteractionFlags(Qt::TextInteractionFlags flags);
 
@@ -62,25 +60,25 @@ public:
     /// first. Repaints.
     void updateWrapMode(QTextOption::WrapMode mode);
 
-    /// Paints the label's pixmap, if it has one, over with \a color, keeping its shape.
+    /// Paints \a color over the label's pixmap, if it has one, keeping its shape.
     void setPixmapColor(const QColor &color);
 
-    /// Returns the label's width less the elide padding, in pixels.
+    /// Returns the label's width minus the elide padding, in pixels.
     int getLineWidth() const;
 
-    /// Returns \a text elided to the label's width less \a indent, twice \a margin and the elide
+    /// Returns \a text elided to the label's width minus \a indent, twice \a margin and the elide
     /// padding; with Qt::ElideNone, \a text itself.
     QString getElidedText(const QString &text, int indent, int margin) const;
 
 public Q_SLOTS:
     /// Sets the text. Rich text with links gets a style element in the colours of the set
     /// "button-hyperlink-text", so that text() returns more than was set. Rich text is set again at
-    /// each change of the theme type, and loses its selection then. That ends with clear(),
-    /// setNum() and setPixmap().
+    /// each change of the theme type, and loses its selection then. Calling clear(), setNum() or
+    /// setPixmap() ends that.
     virtual void setText(const QString &text);
 
 protected Q_SLOTS:
-    /// Colours the links of a rich text anew. Runs at each change of the theme type.
+    /// Colours the links of a rich text again. Runs at each change of the theme type.
     virtual void onThemeChanged();
 
 public:
@@ -88,13 +86,13 @@ public:
     virtual QPointF getTextOffset() const;
 
 Q_SIGNALS:
-    /// The label was clicked with the left button, or Space, Return or Enter was pressed on it.
-    /// Does not fire for a label without text interaction, nor for the mouse while text is
-    /// selected. A slot may delete the label.
+    /// The label was clicked with the left button, or Space, Return or Enter was pressed on it. Not
+    /// emitted for a label without text interaction, nor for the mouse while text is selected. A
+    /// slot may delete the label.
     void clicked();
 
-    /// The label was shown or hidden. Here, and on linkHovered(), a slot calls deleteLater() rather
-    /// than to delete the label: Qt goes on with it.
+    /// The label was shown or hidden. A slot of this signal or of linkHovered() calls deleteLater()
+    /// instead of deleting the label: Qt uses the label afterwards.
     void onVisibilityChanged(bool isVisible);
 
 protected:

@@ -36,7 +36,7 @@ void OxaLabel::paintEvent(QPaintEvent *event)
 
 void OxaLabel::paintText(QPainter &painter, const QStyleOptionFrame &option) const
 {
-    // Once is enough: a second coat would show through a translucent background.
+    // Painted only once: a second time would show through a translucent background.
     if (!isFramePainted(*this))
         style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
     if (m_textColors.isValid())
@@ -69,7 +69,7 @@ int OxaLabel::paintParagraph(QPainter &painter, const QString &paragraph, int y)
 {
     const int spacing = painter.fontMetrics().lineSpacing();
     const int lineWidth = width() - 2 * margin() - indent();
-    // Not mirrored in a right-to-left label: Latin text stands where it would in a single line.
+    // Not mirrored in a right-to-left label: Latin text is placed as in a single line.
     QTextOption option(alignment());
     option.setWrapMode(m_wrapMode);
 
@@ -97,8 +97,8 @@ int OxaLabel::paintParagraph(QPainter &painter, const QString &paragraph, int y)
     return y;
 }
 
-/// The colour that the focus frame lies on, whose inverse it takes. A label without a background
-/// shows what lies behind it; a style sheet makes its palette transparent then.
+/// Returns the background of the focus frame, which is drawn in the inverse colour. A label without
+/// one shows what is behind it; a style sheet then makes its palette transparent.
 QColor OxaLabel::frameGround() const
 {
     const auto isSeen = [](const QColor &color) { return color.isValid() && color.alpha() > 0; };

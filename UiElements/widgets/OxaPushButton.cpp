@@ -123,7 +123,7 @@ const QPixmap &OxaPushButton::getPixmap() const { return m_pixmap; }
 
 void OxaPushButton::onThemeChanged()
 {
-    // A set that the theme lacks is not tried again.
+    // A set that the theme lacks is not looked up again.
     if (m_focusRectColorSet.colors().isValid())
         m_focusRectColorSet.fetch(this);
 }
@@ -132,14 +132,14 @@ void OxaPushButton::onButtonDownTimeout()
 {
     if (!isDown())
         return;
-    // A button that is no longer down makes no click when it is released.
+    // A button that is no longer down does not click when it is released.
     setDown(false);
     Q_EMIT longPressed();
 }
 
 void OxaPushButton::mousePressEvent(QMouseEvent *event)
 {
-    // A slot may delete the button: that of a menu which it opens, for one.
+    // A slot may delete the button, for example one of a menu that the button opens.
     const QPointer<OxaPushButton> self(this);
     if (event->button() == Qt::RightButton)
         Q_EMIT rightClick();
@@ -149,7 +149,7 @@ void OxaPushButton::mousePressEvent(QMouseEvent *event)
         if (!m_longPressTimer) {
             m_longPressTimer = new QTimer(this);
             m_longPressTimer->setSingleShot(true);
-            // A coarse one may be early, and take a click for a long press.
+            // A coarse timer may fire early, and turn a click into a long press.
             m_longPressTimer->setTimerType(Qt::PreciseTimer);
             connect(m_longPressTimer, &QTimer::timeout, this, &OxaPushButton::onButtonDownTimeout);
         }

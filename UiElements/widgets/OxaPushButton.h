@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// Longer than headers are here: beside its properties it opens what its subclasses paint with.
+// Longer than other headers: subclasses also find here what they paint with.
 
 #include <UiElements/UiElementsExport.h>
 #include <UiElements/fonts/OxaFontBlock.h>
@@ -18,15 +18,15 @@
 class QStyleOptionButton;
 class QTimer;
 
-/// The library's button: a QPushButton that takes part in theming, elides its text, and tells of
-/// long presses, right clicks, hover and focus. It can carry a badge and a pixmap under its frame.
-/// Its size hint is that of the whole text: a layout elides it only where it has a minimum width.
+/// The library's button: a QPushButton that takes part in theming, elides its text, and reports
+/// long presses, right clicks, hover and focus. It can have a badge and a pixmap under its frame.
+/// Its size hint is that of the whole text: a layout elides it only if it has a minimum width.
 ///
-/// Every button starts as an auto-default one. The order of the virtual functions is part of the
-/// binary interface.
+/// Every button is auto-default at first. The order of the virtual functions is part of the binary
+/// interface.
 ///
 /// A slot may delete the button, but not a slot of toggled(), nor of a signal that follows from it:
-/// QAbstractButton goes on with the button after that. Such a slot calls deleteLater().
+/// QAbstractButton uses the button after that. Such a slot calls deleteLater().
 class UIELEMENTS_EXPORT OxaPushButton : public QPushButton
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ class UIELEMENTS_EXPORT OxaPushButton : public QPushButton
     Q_PROPERTY(QString focusRectColorSet READ getFocusRectColorSet WRITE setFocusRectColorSet)
     Q_PROPERTY(bool longPressEnabled READ isLongPressEnabled WRITE setLongPressEnabled)
     Q_PROPERTY(bool badgeVisible READ isBadgeVisible WRITE setBadgeVisible)
-    // QAbstractButton's, once more, so that the property system calls the setter below.
+    // QAbstractButton's, declared again so that the property system calls the setter below.
     Q_PROPERTY(QIcon icon READ icon WRITE setIcon)
 
 public:
@@ -54,8 +54,8 @@ public:
     OxaPushButton(const QIcon &icon, const QString &text, QWidget *parent = nullptr,
                   const QAccessible::Role &role = QAccessible::PushButton);
 
-    /// Returns the name of the set whose normal colour lies under the focus frame. Empty by
-    /// default: the button draws no frame of its own then.
+    /// Returns the name of the set whose normal colour the focus frame inverts. Empty by default:
+    /// the button then draws no frame of its own.
     QString getFocusRectColorSet() const;
 
     /// Looks the set called \a name up in the button's theme and stores it. Does not repaint.
@@ -71,18 +71,18 @@ public:
     bool isBadgeVisible() const;
 
     /// Shows or hides the badge, a dot at the top right in the colour of the set
-    /// "badge-background", which is the application's own also where the button has another theme.
-    /// Repaints at once.
+    /// "badge-background". The colour is that of the application's theme, even if the button has
+    /// another one. Repaints at once.
     void setBadgeVisible(bool visible);
 
     /// Sets the icon, as QAbstractButton does.
     void setIcon(const QIcon &icon);
 
-    /// Paints the pixmaps of the icon for \a mode over with \a color, keeping their shape.
+    /// Paints \a color over the pixmaps of the icon for \a mode, keeping their shape.
     void setIconColor(const QColor &color, QIcon::Mode mode);
 
-    /// Paints the pixmap of the icon for \a mode and \a state over with \a color, keeping its
-    /// shape. Does nothing without an icon.
+    /// Paints \a color over the pixmap of the icon for \a mode and \a state, keeping its shape.
+    /// Does nothing without an icon.
     void setIconColor(const QColor &color, QIcon::Mode mode, QIcon::State state);
 
     /// Sets the pixmap that is painted under the frame. Does not repaint.
@@ -91,34 +91,34 @@ public:
     /// Shows or hides the pixmap under the frame, shown at first. Does not repaint.
     void setPixmapIconVisibility(bool visible);
 
-    /// Returns the identity of this button, made with it.
+    /// Returns the id of this button, generated when it is made.
     QUuid getObjectId() const;
 
-    /// Returns the outer application's value. Zero by default.
+    /// Returns the type that the outer application has stored. Zero by default.
     RillsAccessible::AcceleratorType getAcceleratorType() const;
 
     /// Stores \a type for the outer application.
     void setAcceleratorType(const RillsAccessible::AcceleratorType &type);
 
-    /// Returns the outer application's value. Zero by default.
+    /// Returns the mode that the outer application has stored. Zero by default.
     RillsAccessible::AccessibleMode getAccessibleMode() const;
 
     /// Stores \a mode for the outer application.
     void setAccessibleMode(const RillsAccessible::AccessibleMode &mode);
 
 Q_SIGNALS:
-    /// The button gets the focus; Qt has not seen the event yet. A slot calls deleteLater() rather
-    /// than to delete the button: QWidget and QApplication go on with it after this event.
+    /// The button gets the focus; Qt has not handled the event yet. A slot calls deleteLater()
+    /// instead of deleting the button: QWidget and QApplication use it after this event.
     void onFocusIn();
 
-    /// The button loses the focus; Qt has not seen the event yet. As for onFocusIn(), a slot calls
-    /// deleteLater() rather than to delete the button.
+    /// The button loses the focus; Qt has not handled the event yet. As for onFocusIn(), a slot
+    /// calls deleteLater() instead of deleting the button.
     void onFocusOut();
 
     /// The button was held down for 500 ms. No click follows.
     void longPressed();
 
-    /// The pointer came onto the button.
+    /// The pointer entered the button.
     void mouseEntered();
 
     /// The pointer left the button.
@@ -128,11 +128,11 @@ Q_SIGNALS:
     void rightClick();
 
 protected:
-    /// Returns \a text elided to the button's width less the elide padding, twice \a sideMargin and
-    /// \a extraWidth; with Qt::ElideNone, \a text itself.
+    /// Returns \a text elided to the button's width minus the elide padding, twice \a sideMargin
+    /// and \a extraWidth; with Qt::ElideNone, \a text itself.
     QString getElidedText(const QString &text, int extraWidth, int sideMargin) const;
 
-    /// Returns the button's width less the elide padding, in pixels.
+    /// Returns the button's width minus the elide padding, in pixels.
     int getLineWidth() const;
 
     /// Returns the set that the style text's "$textColors:" names; not valid when it names none.
@@ -141,11 +141,11 @@ protected:
     /// Returns the pixmap under the frame.
     const QPixmap &getPixmap() const;
 
-    /// Fills \a option with what the style draws of the button.
+    /// Fills \a option with what the style needs to draw the button.
     virtual void initButtonStyleOption(QStyleOptionButton *option) const;
 
 protected Q_SLOTS:
-    /// Runs at each change of the theme type, for subclasses to fetch what they paint with.
+    /// Runs at each change of the theme type, for subclasses to look up what they paint with.
     virtual void onThemeChanged();
 
 protected:
@@ -153,7 +153,7 @@ protected:
     /// badge.
     void paintButton();
 
-    /// Ends a long press.
+    /// Ends a press that was long enough: the button goes up, and longPressed() is emitted.
     void onButtonDownTimeout();
 
     void paintEvent(QPaintEvent *event) override;

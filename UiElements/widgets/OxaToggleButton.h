@@ -6,7 +6,7 @@
 /// A flat checkable button with one tool tip for each of its two states.
 ///
 /// Only setChecked() of this class shows the state's tool tip: a click that toggles the button and
-/// the property `checked` do not go through it and change neither tool tip nor accessible name.
+/// the property `checked` bypass it and change neither tool tip nor accessible name.
 class UIELEMENTS_EXPORT OxaToggleButton : public OxaPushButton
 {
     Q_OBJECT

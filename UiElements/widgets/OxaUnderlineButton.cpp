@@ -99,7 +99,7 @@ void OxaUnderlineButton::setUnderlineColorSet(const QString &name)
 void OxaUnderlineButton::onThemeChanged()
 {
     OxaPushButton::onThemeChanged();
-    // A set that the theme lacks is not tried again.
+    // A set that the theme lacks is not looked up again.
     if (m_backgroundColorSet.colors().isValid())
         setBackgroundColorSet(m_backgroundColorSet.name());
     if (m_textColorSet.colors().isValid())
@@ -140,7 +140,7 @@ QPen OxaUnderlineButton::penOf(const QColor &color) const
     return { QBrush(color), qreal(m_borderWidth), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin };
 }
 
-/// Paints the fill and the underline of the option's state, and returns the colour of its text.
+/// Paints the fill and the underline for the option's state, and returns the colour of its text.
 QColor OxaUnderlineButton::paintGround(QPainter &painter, const QStyleOptionButton &option) const
 {
     const QRect rect = option.rect;

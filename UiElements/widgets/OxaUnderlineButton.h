@@ -30,13 +30,13 @@ public:
     /// Returns the width of the underline in pixels. 2 by default.
     int getBorderWidth() const;
 
-    /// Sets the width of the underline in pixels, from the next setter of a colour set on.
+    /// Sets the width of the underline in pixels, which takes effect with the next colour set.
     void setBorderWidth(int width);
 
-    /// Returns the room under the text in pixels. 2 by default.
+    /// Returns the space under the text in pixels. 2 by default.
     int getBottomPadding() const;
 
-    /// Sets the room under the text in pixels. Repaints.
+    /// Sets the space under the text in pixels. Repaints.
     void setBottomPadding(int padding);
 
     /// True when the unread dot shows. Off by default.
@@ -72,7 +72,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 protected Q_SLOTS:
-    /// The base class's; then looks all colours up anew. The underline takes its own set's again.
+    /// Calls the base class; then looks up all colours. The underline takes its own set's again.
     void onThemeChanged() override;
 
 private:

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Turns margins in reading direction into margins on screen.
+/// Returns margins given in reading direction as margins on screen.
 QMargins onScreen(const QMargins &margins)
 {
     return AppUtils::isRTLLayoutDirection() ? WidgetParts::mirrored(margins) : margins;

@@ -11,9 +11,9 @@
 
 /// A plain container that takes part in theming and paints the rules of its style text.
 ///
-/// Contents margins are spoken of in reading direction: "left" means the start of a line, and in a
-/// right-to-left application the two sides are swapped before Qt gets them. A running application
-/// that changes its direction swaps what is in force.
+/// Contents margins are in reading direction: "left" means the start of a line, and in a
+/// right-to-left application the two sides are swapped before Qt gets them. When a running
+/// application changes its direction, the current margins are swapped.
 class UIELEMENTS_EXPORT OxaWidget : public QWidget
 {
     Q_OBJECT
@@ -29,8 +29,8 @@ public:
     /// Returns the path of the background picture. Empty by default.
     QString getPixmapSrc() const;
 
-    /// Loads the picture at \a path, which is painted stretched over the whole widget. A path that
-    /// gives no picture paints none. Does not repaint.
+    /// Loads the picture at \a path, which is painted stretched over the whole widget. A path
+    /// without a picture paints none. Does not repaint.
     void setPixmapSrc(const QString &path);
 
     /// Sets the widget's contents margins, in reading direction.
@@ -55,7 +55,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 protected Q_SLOTS:
-    /// Runs at each change of the theme type, for subclasses to fetch what they paint with.
+    /// Runs at each change of the theme type, for subclasses to look up what they paint with.
     virtual void onThemeChanged();
 
 private:

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-/// Enumerations of the outer application that widgets carry for it. It gives them their meaning;
-/// the library stores a value and hands it back.
+/// Enumerations of the outer application that widgets store for it. The application defines their
+/// meaning; the library stores a value and returns it.
 namespace RillsAccessible {
 
 /// How a control is reached by an accelerator key.

@@ -21,7 +21,7 @@ inline QMargins mirrored(const QMargins &margins)
     return { margins.right(), margins.top(), margins.left(), margins.bottom() };
 }
 
-/// Returns \a pixmap, which is not null, painted over with \a color in its own shape.
+/// Returns \a pixmap, which must not be null, painted over with \a color in its own shape.
 inline QPixmap tinted(QPixmap pixmap, const QColor &color)
 {
     QPainter painter(&pixmap);
