@@ -3,6 +3,7 @@
 
 #include "support/TestMain.h"
 
+#include <looks/TextSettings.h>
 #include <shell/GalleryApplication.h>
 
 /// The gallery's application, with the gallery's own colours.
@@ -14,6 +15,7 @@ public:
         QString problem;
         if (!loadDocuments(DocumentPaths(), problem))
             qFatal("%s", qUtf8Printable(problem));
+        textSettings()->setDirection(Qt::LeftToRight);
     }
 };
 

@@ -70,6 +70,8 @@ class tst_FocusPage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanupTestCase() { m_described.reset(); }
+
     void listsTheTabOrderOfTheWholeWindow();
     void followsTheOrderOfTheCompoundWidget();
     void followsWhatBecomesOfAButton_data();
@@ -82,6 +84,9 @@ private Q_SLOTS:
     void describesWidgets();
     void tellsOnceOfWhatChangesInOneTurn();
     void tellsNothingOfOtherWindows();
+
+private:
+    std::unique_ptr<QWidget> m_described; ///< The parent of the rows' widgets.
 };
 
 void tst_FocusPage::listsTheTabOrderOfTheWholeWindow()
@@ -179,7 +184,8 @@ void tst_FocusPage::describesWidgets_data()
 {
     QTest::addColumn<QWidget *>("widget");
     QTest::addColumn<QString>("text");
-    auto *parent = new QWidget;
+    m_described = std::make_unique<QWidget>();
+    QWidget *parent = m_described.get();
     QTest::newRow("a button, by its text")
             << static_cast<QWidget *>(Buttons::make(QStringLiteral("Send"), parent))
             << QStringLiteral("OxaPushButton “Send”");
