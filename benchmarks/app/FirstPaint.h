@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <ctime>
 
-/// Ends the process once its window stands painted for the first time, and writes what that took:
+/// Ends the process once its window is painted for the first time, and prints what that took:
 /// the nanoseconds of CPU time since the process began, loading its libraries included, and the
 /// resident memory in kilobytes.
 class FirstPaint : public QObject

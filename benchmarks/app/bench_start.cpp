@@ -9,7 +9,7 @@
 
 namespace {
 
-/// What a program took from its start to its first paint.
+/// The cost of a program from its start to its first paint.
 struct Cost
 {
     double nanoseconds = 0; ///< Of CPU time, so that a busy machine changes little.
@@ -17,7 +17,7 @@ struct Cost
     bool isValid = false;
 };
 
-/// Reads what the program writes of itself; see FirstPaint.
+/// Reads what the program prints; see FirstPaint.
 Cost costIn(const char *report)
 {
     char *end = nullptr;
@@ -48,7 +48,7 @@ Cost costOf(const char *program)
     return length > 0 && hasEndedWell ? costIn(report.data()) : Cost();
 }
 
-/// Starts both programs in turn and adds to \a comparison what \a quantity of them differs in.
+/// Starts both programs in turn and adds the \a quantity of each to \a comparison.
 void startBoth(benchmark::State &state, Comparison &comparison, double Cost::*quantity)
 {
     for (auto _ : state) {
@@ -70,7 +70,7 @@ void startTime(benchmark::State &state)
 }
 BENCHMARK(startTime)
         ->Name("start to first paint of 20 widgets/plain Qt")
-        ->Iterations(150) // One start differs from the next by as much as the bound.
+        ->Iterations(150) // Starts vary by as much as the bound.
         ->UseManualTime();
 
 void startMemory(benchmark::State &state)

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// What start_ours' style texts expand to.
+/// The expanded style texts of start_ours.
 const QString groundSheet = QStringLiteral(
         "#ground{background-color:#ff010000;}#ground:checked{background-color:#ff010005;}"
         "#ground:focus{background-color:#ff010004;}#ground:hover{background-color:#ff010001;}"

@@ -16,7 +16,7 @@ namespace {
 constexpr int callsPerRound = 20;
 const QSize labelSize(280, 60);
 
-/// Messages of usual length, which differ so that none is what the label shows already.
+/// Messages of usual length, all different, so that the label never shows the same text again.
 const QStringList messages = {
     QStringLiteral("Great work everyone \U0001F389 the release is out, see you at four \u2615"),
     QStringLiteral("Thanks \U0001F44D\U0001F3FD I'll have a look at the numbers after lunch"),
@@ -70,7 +70,7 @@ public:
     }
 };
 
-/// A document that is given finished markup, with pictures that are there already.
+/// A document that gets finished markup, with existing pictures.
 class Peer
 {
 public:
@@ -79,7 +79,7 @@ public:
         m_document.setUndoRedoEnabled(false);
         m_document.setDefaultFont(label.font());
         m_document.setDocumentMargin(0.0);
-        label.setText(messages[0]); // A label without text would draw no artwork.
+        label.setText(messages[0]); // A label without a text draws no artwork.
         for (const QString &message : messages)
             m_markups += finished(label.markup(message), label.fontMetrics().height());
     }

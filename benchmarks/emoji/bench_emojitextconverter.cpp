@@ -13,7 +13,7 @@ namespace {
 
 constexpr int emojiSize = 20;
 
-/// The whole of emoji-test.txt: its sequences stand in comments, among code points and names.
+/// All of emoji-test.txt: its sequences are in comments, among code points and names.
 const QString &text()
 {
     static const QString content = QString::fromUtf8(EmojiTestFile::content());
@@ -26,8 +26,8 @@ QString converted()
     return converter.convert(text());
 }
 
-/// The floor: a pass over the code points with a byte for each in a table. Where a tag begins was
-/// found out beforehand, as were the tags, so that nothing is left but to decode and to write.
+/// The lower bound: a pass over the code points with a byte for each in a table. The tags and their
+/// positions are found beforehand, so that only decoding and writing remain.
 class TablePass
 {
 public:
@@ -74,7 +74,7 @@ private:
     struct Tag
     {
         QString text;
-        int length; ///< Of what it stands for, in code points.
+        int length; ///< Of the sequence, in code points.
     };
 
     static int nextTag(const QString &markup, int from)
@@ -97,7 +97,7 @@ QByteArray drawing()
     return file.readAll();
 }
 
-/// Artwork for every sequence, all of it found once.
+/// Artwork for every sequence, all found once.
 class KnownArtwork
 {
 public:
@@ -128,7 +128,7 @@ BENCHMARK(againstFloor)
         ->Iterations(200)
         ->UseManualTime();
 
-/// The same work with each file looked for and read where its emoji stands.
+/// The same work, but each file is searched and read for each emoji.
 QString convertedAskingForFiles(const QVector<EmojiSequence> &sequences)
 {
     for (const EmojiSequence &sequence : sequences) {

@@ -14,7 +14,7 @@ constexpr int shortBytes = 4 * 1024;
 constexpr int longBytes = 64 * 1024;
 const QSize labelSize(280, 60);
 
-/// Returns \a unit so often that it makes \a bytes in UTF-8.
+/// Returns \a unit repeated up to \a bytes in UTF-8.
 QString repeated(const QString &unit, int bytes)
 {
     return unit.repeated(bytes / unit.toUtf8().size());

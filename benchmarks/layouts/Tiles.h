@@ -9,10 +9,10 @@
 
 #include <vector>
 
-/// Widgets in the layouts, as benchmarks need them.
+/// Widgets in layouts, for benchmarks.
 namespace Tiles {
 
-/// A label that wants to be of one size.
+/// A label with a size hint.
 class Tile : public QLabel
 {
 public:

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int width = 1200;
 
-/// The floor: what the items want, added up. Items remember it.
+/// The lower bound: adding up the size hints of the items, which cache them.
 int sumOfHints(const std::vector<QLayoutItem *> &items)
 {
     int sum = 0;
@@ -42,7 +42,7 @@ void measure(benchmark::State &state, Tiles::Kind kind, int count)
     comparison.ratioAtMost(4.0);
 }
 
-/// Ten times the items, against ten calls.
+/// Ten times the items, compared with ten calls.
 void measureManyItems(benchmark::State &state, Tiles::Kind kind)
 {
     const Tiles::Window many(kind, 10000);

@@ -9,8 +9,8 @@
 
 namespace {
 
-/// Returns two sizes of a window that shows all of 1,000 tiles, and a good part of more: Qt's cost
-/// of moving what shows grows faster than the number of it.
+/// Returns two sizes of a window that shows all of 1,000 tiles, or many of more: Qt's cost of
+/// moving visible widgets grows faster than their number.
 std::array<QSize, 2> sizesFor(int count)
 {
     if (count <= 1000)
@@ -18,7 +18,7 @@ std::array<QSize, 2> sizesFor(int count)
     return { QSize(2000, 1500), QSize(1700, 1800) };
 }
 
-/// Two windows of the same tiles: one moves them by its layout, the other as that did.
+/// Two windows of the same tiles: one moves them by its layout, the other to the same places.
 class Pair
 {
 public:
@@ -33,7 +33,7 @@ public:
         delete m_peer.layout;
         for (QObject *child : m_peer.children())
             m_peerTiles.push_back(static_cast<QWidget *>(child));
-        // The platform cannot keep a least size.
+        // The platform does not enforce a minimum size.
         m_ours.layout->setSizeConstraint(QLayout::SetNoConstraint);
         for (QWidget *window :
              { static_cast<QWidget *>(&m_ours), static_cast<QWidget *>(&m_peer) }) {
@@ -55,7 +55,7 @@ public:
             m_peerTiles[i]->setGeometry(rects[i]);
     }
 
-    /// Has both look at all of their tiles, which painting has put out of the processor's caches.
+    /// Reads all tiles of both, since painting has evicted them from the processor's caches.
     void touch()
     {
         layOutAgain();
@@ -96,13 +96,13 @@ void moveTiles(benchmark::State &state, Tiles::Kind kind, int count)
     Comparison comparison(state);
     for (auto _ : state) {
         comparison.round([&] { pair.layOut(); }, [&] { pair.move(); });
-        QCoreApplication::processEvents(); // What is to be painted anew grows with each move.
+        QCoreApplication::processEvents(); // The region to repaint grows with each move.
     }
     comparison.ratioAtMost(1.03);
 }
 
-/// A pass that finds everything in its place, against moving all of it. All that such a pass does
-/// is to call the items, and right after a round of painting that is waiting for memory.
+/// A pass that finds everything in its place, compared with moving everything. Such a pass only
+/// calls the items, which right after painting is limited by memory access.
 void moveNothing(benchmark::State &state, Tiles::Kind kind, int count)
 {
     Pair pair(kind, count);
@@ -115,7 +115,7 @@ void moveNothing(benchmark::State &state, Tiles::Kind kind, int count)
     comparison.ratioAtMost(0.1);
 }
 
-/// Ten times the items, against ten passes.
+/// Ten times the items, compared with ten passes.
 void moveNothingOfManyItems(benchmark::State &state, Tiles::Kind kind)
 {
     Pair many(kind, 10000);

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <random>
 
-/// Rows as a list of conversations has them: 8 roles each.
+/// Rows of a list of conversations, with 8 roles each.
 namespace ConversationRows {
 
 constexpr int rowCount = 10000;
@@ -14,7 +14,7 @@ constexpr int firstRole = Qt::UserRole + 1;
 constexpr int roleCount = 8;
 
 /// Returns the row at \a position. Rows of another \a generation differ in the last message and its
-/// number. Nothing is shared with rows made before, as when a client builds its rows anew.
+/// number. Nothing is shared with earlier rows, as when a client builds new rows.
 inline ModelRow make(int position, int generation)
 {
     const auto text = [position](const char *what) {
@@ -31,8 +31,8 @@ inline ModelRow make(int position, int generation)
                { firstRole + 7, position * 0.5 } } };
 }
 
-/// Returns all rows, of which each \a nth has the generation \a generation and the others 0. None
-/// has when \a nth is 0.
+/// Returns all rows. Each \a nth has the generation \a generation, the others 0; all have 0 when
+/// \a nth is 0.
 inline std::vector<ModelRow> makeAll(int nth = 0, int generation = 0)
 {
     std::vector<ModelRow> rows;
@@ -42,7 +42,7 @@ inline std::vector<ModelRow> makeAll(int nth = 0, int generation = 0)
     return rows;
 }
 
-/// Returns the ids of \a rows in an order that has nothing to do with the rows'.
+/// Returns the ids of \a rows in an unrelated order.
 inline std::vector<std::string> shuffledIds(const std::vector<ModelRow> &rows)
 {
     std::vector<std::string> ids;

@@ -54,7 +54,7 @@ struct PlainList
     }
 };
 
-/// The rows in Qt's general model, where each value that differs is set.
+/// The rows in a QStandardItemModel, where each different value is set.
 class StandardList
 {
 public:
@@ -101,7 +101,7 @@ struct Replacements
     std::vector<ModelRow> lists[2];
 };
 
-/// Returns how many runs of changed rows replacing all of \a rows tells of.
+/// Returns how many runs of changed rows are signalled when all of \a rows are replaced.
 int signalsOf(Model &model, const std::vector<ModelRow> &rows)
 {
     int count = 0;
@@ -114,7 +114,7 @@ int signalsOf(Model &model, const std::vector<ModelRow> &rows)
 
 int expectedSignals(int nth) { return nth > 1 ? rowCount / nth : nth; }
 
-/// Readies \a model with the second list, and says what is wrong where something is.
+/// Fills \a model with the second list, and returns what is wrong, if anything is.
 const char *mistakeOf(Model &model, const Replacements &replacements, int nth)
 {
     model.appendRows(makeAll());
@@ -263,10 +263,10 @@ BENCHMARK_CAPTURE(oneByOne, large, rowCount, 1.5)
         ->Iterations(20)
         ->UseManualTime();
 
-/// What is done to a model of so many rows.
+/// An operation on a model with rows.
 using Work = void (*)(Model &, const std::vector<ModelRow> &);
 
-/// Holds \a work on four times the rows against the same on the fewer.
+/// Compares \a work on four times the rows with \a work on a quarter of them.
 void growth(benchmark::State &state, Work work)
 {
     const std::vector<ModelRow> many = firstRows(rowCount);
@@ -277,7 +277,7 @@ void growth(benchmark::State &state, Work work)
         Model small;
         comparison.round([&] { work(large, many); }, [&] { work(small, few); });
     }
-    // Four times the rows, and caches that hold fewer of them.
+    // Four times the rows, of which fewer fit the caches.
     comparison.ratioAtMost(8);
 }
 

@@ -24,7 +24,7 @@ QVector<QStandardItem *> makePage(int page)
     return items;
 }
 
-/// The floor: the window alone, as a ring in which nothing moves and which tells nobody.
+/// The lower bound: only the window, as a ring buffer without signals.
 class Ring
 {
 public:
@@ -98,7 +98,7 @@ public:
     }
 };
 
-/// Each next row lies a page further, forth and back through the list.
+/// Scrolls page by page to the end of the list and back.
 int nextInOrder(int row)
 {
     static int step = pageSize;
@@ -107,7 +107,7 @@ int nextInOrder(int row)
     return row + step;
 }
 
-/// Every fourth row lies out of reach of the window, as when somebody drags the scroll bar.
+/// Every fourth row is out of reach of the window, as when the scroll bar is dragged.
 int nextWithJumps(int row)
 {
     static int count = 0;
@@ -172,7 +172,7 @@ void windowGrowth(benchmark::State &state)
     Comparison comparison(state);
     for (auto _ : state)
         comparison.round([] { fillAndScroll(200); }, [] { fillAndScroll(50); });
-    // Four times the rows, and caches that hold fewer of them.
+    // Four times the rows, of which fewer fit the caches.
     comparison.ratioAtMost(8);
 }
 BENCHMARK(windowGrowth)

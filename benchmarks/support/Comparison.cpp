@@ -48,7 +48,7 @@ double Comparison::cpuNanoseconds()
 template <typename Result>
 double Comparison::medianOf(Result result) const
 {
-    if (m_ours.empty()) // A benchmark that found a mistake skips its rounds.
+    if (m_ours.empty()) // A benchmark that found an error skips its rounds.
         return 0.0;
     std::vector<double> results(m_ours.size());
     std::transform(m_ours.begin(), m_ours.end(), m_peer.begin(), results.begin(), result);
@@ -57,7 +57,7 @@ double Comparison::medianOf(Result result) const
     return *middle;
 }
 
-/// Hands the medians over as counters, which tools/bench-table reads by these names.
+/// Reports the medians as counters, which tools/bench-table reads by these names.
 void Comparison::report(double result, const char *bound, double limit, const char *unit)
 {
     m_state.counters["ours"] = medianOf([](double ours, double) { return ours; });

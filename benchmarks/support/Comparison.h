@@ -13,9 +13,9 @@
 ///     comparison.ratioAtMost(0.6);
 ///
 /// Both take turns in each round, ours first in one round and last in the next, so that a machine
-/// that slows down slows both. Times are the thread's CPU time in nanoseconds. What is reported are
-/// medians over the rounds, so that one disturbed round changes nothing; the last call says of
-/// what, and what must hold of it.
+/// that slows down slows both. Times are the thread's CPU time in nanoseconds. The medians
+/// over the rounds are reported, so that one disturbed round changes nothing. The last call selects
+/// what is compared, and its bound.
 class Comparison
 {
 public:

@@ -3,11 +3,11 @@
 
 #include <UiElements/theme/OxaColorSet.h>
 
-/// Stores of colour sets as benchmarks need them.
+/// Stores of colour sets for benchmarks.
 namespace Stores {
 
 /// Returns \a count sets "set-0", "set-1" and so on, whose states all differ, and the one that
-/// labels ask for by themselves. Stores of different \a shade differ in every colour.
+/// labels ask for themselves. Stores of different \a shade differ in every colour.
 inline OxaColorSetMap make(int count, int shade = 0)
 {
     OxaColorSetMap store;

@@ -39,7 +39,7 @@ void paintOursAnew(QPainter &painter, const IconShape &shape, const QColor &colo
     shape.icon->draw(&painter, QStyle::State_Enabled);
 }
 
-/// The floor: the shape is there, and goes to its place in its colour.
+/// The lower bound: painting the ready shape at its place in its colour.
 void paintPath(QPainter &painter, const IconShape &shape, const QColor &color)
 {
     painter.setTransform(shape.place);
@@ -47,7 +47,7 @@ void paintPath(QPainter &painter, const IconShape &shape, const QColor &color)
     painter.drawPath(shape.path);
 }
 
-/// What a program does that has no picture of an icon in a colour, and can't give it one.
+/// What a program does without the library: it changes the colour in the file's text.
 void paintCopy(QPainter &painter, const IconShape &shape, const QColor &color)
 {
     QByteArray copy = shape.file;
@@ -158,8 +158,8 @@ BENCHMARK_CAPTURE(newAgainstKnown, 48, 48)
         ->Iterations(500)
         ->UseManualTime();
 
-/// Each round paints one icon, so that the result is that of the median icon: what is gained is the
-/// parsing, and the more there is to paint, the less that matters. The icons are those drawn on a
+/// Each round paints one icon, so that the result is that of the median icon: the parsing is saved,
+/// which matters less the more there is to paint. The icons are those drawn on a
 /// grid of 24 by 24 units, as icon packs are.
 void againstCopy(benchmark::State &state)
 {

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int callsPerRound = 1000;
 
-/// Longer than what a std::string keeps in place, as most names are.
+/// Longer than a std::string stores without allocating, as most names are.
 const std::string name = "set-399-with-a-name-of-usual-length";
 
 OxaColorSetMap store()

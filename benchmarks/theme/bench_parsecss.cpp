@@ -51,8 +51,8 @@ void writeRules(QString &sheet, QLatin1String property, const OxaColorSet &set)
     }
 }
 
-/// The floor: a program that reads nothing and knows all that the style text says writes the same
-/// sheet in a single pass, with one QColor::name() per colour.
+/// The lower bound: without parsing, the same sheet is written in a single pass, with one
+/// QColor::name() per colour.
 QString writtenByHand()
 {
     QString sheet;
@@ -92,8 +92,8 @@ BENCHMARK(againstFloor)
         ->Iterations(2000)
         ->UseManualTime();
 
-/// Expands a text of 16,000 times \a piece, and one of 1,000 times \a piece as often. What grows
-/// with the square of the length takes 16 times as long.
+/// Expands a text of 16,000 times \a piece, and one of 1,000 times \a piece 16 times. Quadratic
+/// growth would make the first 16 times as slow.
 void growth(benchmark::State &state, const char *piece)
 {
     constexpr int factor = 16;

@@ -48,7 +48,7 @@ public:
         m_window.setThemeType(isDark ? QStringLiteral("dark") : QStringLiteral("light"));
     }
 
-    /// Does to Qt what a switch of the theme type does, and nothing else.
+    /// Makes the calls to Qt that a switch of the theme type makes, and nothing else.
     void setStyleSheets(bool isDark)
     {
         const std::vector<QString> &sheets = isDark ? m_darkSheets : m_lightSheets;
@@ -58,14 +58,14 @@ public:
         }
     }
 
-    /// Fills the stores anew and has all widgets take the colours, by the library's function.
+    /// Fills the stores and refreshes all widgets by the library's function.
     void refresh(bool isDark)
     {
         fillStores(isDark);
         OxaThemeUtils::refreshThemedWidgets();
     }
 
-    /// The same by writing each widget's theme type anew.
+    /// The same, by setting each widget's theme type again.
     void rewriteThemeTypes(bool isDark)
     {
         fillStores(isDark);
@@ -77,7 +77,7 @@ public:
         }
     }
 
-    /// True when switching has brought about the sheets that the peer sets.
+    /// True when switching sets the same sheets as the peer.
     bool agrees()
     {
         setThemeType(true);
@@ -141,7 +141,7 @@ void switchTheme(benchmark::State &state, StyledWidgets styled, double limit)
     if (!window.agrees())
         state.SkipWithError("a switch sets other sheets than its peer");
 
-    // Each side turns the colours over, so that neither sets what is there already.
+    // Each side switches the colours, so that neither sets the same sheets again.
     bool isDark = true;
     Comparison comparison(state);
     for (auto _ : state)
@@ -177,7 +177,7 @@ BENCHMARK(refresh)
         ->Iterations(15)
         ->UseManualTime();
 
-/// An empty style text under a styled parent, against Qt's own setter in the same place.
+/// An empty style text under a styled parent, compared with Qt's own setter in the same place.
 void emptyStyleText(benchmark::State &state)
 {
     OxaThemeUtils::setAppOxaColorSets(Stores::make(600));

@@ -11,14 +11,14 @@
 
 constexpr QSize buttonSize(96, 28);
 
-/// A shown window full of buttons of one class, for its repainting to be measured.
+/// A shown window full of buttons of one class, to measure its repainting.
 template <typename ButtonClass>
 class ButtonWindow
 {
     Q_DISABLE_COPY_MOVE(ButtonWindow)
 
 public:
-    /// Shows \a count buttons, each of which \a prepare got ready.
+    /// Shows \a count buttons, each set up by \a prepare.
     template <typename Prepare>
     ButtonWindow(int count, Prepare prepare)
     {

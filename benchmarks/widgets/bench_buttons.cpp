@@ -16,7 +16,7 @@ const QString caption = QStringLiteral("Answer");
 const QString styleText = QStringLiteral("$backgroundColors: set-1; $borderColors: set-2; "
                                          "$textColors: set-3; $borderRadius: 6;");
 
-/// The finished sheets know a button by its object name, so that they suit any class.
+/// The finished sheets select a button by its object name, so that they fit any class.
 void name(QPushButton &button) { button.setObjectName(QStringLiteral("answer")); }
 
 void prepareThemed(OxaPushButton &button)
@@ -32,7 +32,7 @@ void prepareSvg(OxaSvgPushButton &button)
     button.setSvgIcon(QStringLiteral(ICON_FILE));
 }
 
-/// Makes a button of Qt's like \a other.
+/// Makes a QPushButton like \a other.
 auto preparePlainLike(const OxaPushButton &other, const QString &buttonText)
 {
     return [sheet = other.styleSheet(), buttonText](QPushButton &button) {
@@ -61,7 +61,7 @@ BENCHMARK(themedButtons)
         ->Iterations(200)
         ->UseManualTime();
 
-/// A button of Qt's that paints an icon and a text of its own, at places that it knows beforehand.
+/// A QPushButton that paints its own icon and text at fixed positions.
 class IconAndTextButton : public QPushButton
 {
 public:

@@ -39,7 +39,7 @@ double heapOf(Make make)
     return (double(mallinfo2().uordblks) - before) / widgetCount;
 }
 
-/// What comes with a peer that is given a sheet, where a class of ours has it by its nature.
+/// Adds to a peer with a sheet what our class always has.
 const auto nothing = [](const QString &) { return std::unique_ptr<QObject>(); };
 const auto emptyDocument = [](const QString &) { return std::make_unique<QTextDocument>(); };
 const auto filledDocument = [](const QString &sheet) {
@@ -49,7 +49,7 @@ const auto filledDocument = [](const QString &sheet) {
     return document;
 };
 
-/// A widget with a style text, in bytes of heap, against the Qt class with the finished sheet.
+/// The heap use of a widget with a style text, compared with the Qt class with the finished sheet.
 template <typename Widget, typename QtClass, typename Use, typename Besides>
 void heap(benchmark::State &state, Use use, Besides besides)
 {
@@ -73,7 +73,7 @@ void heap(benchmark::State &state, Use use, Besides besides)
         objects.push_back(std::move(widget));
         objects.push_back(besides(sheet));
     };
-    // What both share is made before it is counted.
+    // Shared data is made before counting.
     heapOf(makeOurs);
     heapOf(makePeer);
 

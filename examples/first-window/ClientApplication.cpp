@@ -8,7 +8,7 @@
 
 namespace {
 
-/// What Qt's own widgets are painted in: the list's selection, say.
+/// The palette of Qt's own widgets, such as the list's selection.
 const std::vector<OxaPaletteUtils::RoleSource> paletteSources = {
     { QPalette::Window, "window-background" },
     { QPalette::WindowText, "text-primary" },
@@ -58,7 +58,7 @@ void ClientApplication::showColors()
     OxaThemeUtils::setAppOxaColorSets(m_isHighContrast ? m_highContrast : shown);
     OxaThemeUtils::setAppInvertedOxaColorSets(isDark ? m_light : m_dark);
 
-    // Nothing listens to the stores: Qt's widgets take the palette, ours are told to look again.
+    // Widgets do not notice new stores: Qt's take the palette, ours are refreshed.
     setPalette(OxaPaletteUtils::makePalette(paletteSources));
     OxaThemeUtils::refreshThemedWidgets();
 }

@@ -17,7 +17,7 @@ public:
     /// Shows all windows in high contrast, or in the colours that setDark() chose.
     void setHighContrast(bool highContrast);
 
-    // What the library may ask of its client. This one has no QML, and nothing to start anew.
+    // What the library may ask of its client. This one has no QML, and cannot restart.
     void onQmlEngineCreated(OxaQmlEngine *) override { }
     void restart() override { }
     void registerMainWindowShortcuts(OxaMainWindow *) override { }

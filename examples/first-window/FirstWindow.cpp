@@ -15,8 +15,8 @@
 
 namespace {
 
-/// A checked button has sets of its own: under the pointer it would look as if it were unchecked,
-/// since the hovered colour wins over the checked one.
+/// A checked button has sets of its own: under the pointer it would look unchecked, since the
+/// hovered colour wins over the checked one.
 QString buttonStyle(bool checked)
 {
     return QStringLiteral("$backgroundColors: %1-button; $borderColors: %1-button-border; "

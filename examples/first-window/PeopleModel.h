@@ -3,7 +3,7 @@
 
 #include <UiElements/models/BaseListModel.h>
 
-/// People by name.
+/// A list of people by name.
 class PeopleModel : public BaseListModel
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 int main(int argc, char **argv)
 {
-    // These come too late once there is an application object.
+    // These must be set before the application object is made.
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication::setHighDpiScaleFactorRoundingPolicy(

@@ -32,7 +32,7 @@ QString reasonForEmpty(const QString &path, const QJsonObject &document,
     return warnings.texts().join(QStringLiteral("; "));
 }
 
-/// Reads the document at \a path with \a parse; where that yields nothing, \a problem tells why.
+/// Reads the document at \a path with \a parse. If that yields nothing, \a problem says why.
 template <typename Parse>
 auto readDocument(const QString &path, QString &problem, Parse parse)
 {

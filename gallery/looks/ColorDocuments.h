@@ -15,8 +15,8 @@ struct DocumentPaths
     QString dark = QStringLiteral(":/documents/dark.json");
     QString highContrast = QStringLiteral(":/documents/high-contrast.json");
 
-    /// Returns the paths of a user's documents. They know no high contrast, and show the sets of
-    /// the light appearance for it.
+    /// Returns the paths of a user's documents. High contrast uses the sets of the light
+    /// appearance.
     static DocumentPaths ofUser(const QString &colors, const QString &sets,
                                 const QString &invertedSets);
 };
@@ -28,12 +28,11 @@ struct ColorDocuments
     OxaColorSetMap dark;
     OxaColorSetMap highContrast;
 
-    /// Reads the documents at \a paths. Where one of them yields nothing, the result is empty and
-    /// \a problem tells which document and why.
+    /// Reads the documents at \a paths. If one of them yields nothing, the result is empty and
+    /// \a problem says which document and why.
     static std::optional<ColorDocuments> read(const DocumentPaths &paths, QString &problem);
 
-    /// Adds the gallery's furniture, the sets whose names begin with "gallery-", from \a other
-    /// where it is missing here. The other names stay missing: they are what a user's documents are
-    /// looked at for.
+    /// Adds the gallery's own sets, whose names begin with "gallery-", from \a other where they are
+    /// missing here. Other names stay missing, so that users see what their documents lack.
     void addFurniture(const ColorDocuments &other);
 };

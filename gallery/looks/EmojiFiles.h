@@ -6,8 +6,8 @@
 /// The artwork of the gallery's emoji.
 namespace EmojiFiles {
 
-/// Takes the artwork from the file "emojis.rcc" in \a folder, where there is one, instead of the
-/// few emoji that the gallery brings along: drawings of two kinds don't go together.
+/// Takes the artwork from the file "emojis.rcc" in \a folder, if there is one, instead of the
+/// gallery's own few emoji: two styles of drawing do not go together.
 void load(const QString &folder);
 
 } // namespace EmojiFiles

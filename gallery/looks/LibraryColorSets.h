@@ -3,6 +3,6 @@
 
 #include <QStringList>
 
-/// Returns the names of the colour sets that the library itself asks for, which any colour document
+/// Returns the names of the colour sets that the library itself uses, which every colour document
 /// has to define.
 QStringList libraryColorSetNames();

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Writing a font token makes its font anew, at the scale of this moment.
+/// Writing a font token makes its font again, at the current scale.
 void reapplyFontTokens()
 {
     const QWidgetList widgets = QApplication::allWidgets();
@@ -19,7 +19,7 @@ void reapplyFontTokens()
     }
 }
 
-/// The regular table is the one that has the application's scale baked in.
+/// Only the regular table includes the application's scale.
 void rebuildTable(FontManagerEnum::FontType view, FontManagerEnum::FontScalingFactor factor)
 {
     OxaFontManager *manager = OxaFontManager::get();

@@ -10,7 +10,7 @@
 /// Sets how the whole application shows text: its direction, its size, and the scaling of its
 /// views.
 ///
-/// Fonts that were made before keep their size; a new scale is brought to all widgets here.
+/// Existing fonts keep their size; this class applies a new scale to all widgets.
 class TextSettings : public QObject
 {
     Q_OBJECT

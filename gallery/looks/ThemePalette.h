@@ -5,5 +5,5 @@
 
 #include <QPalette>
 
-/// Returns the palette, made from the colour sets of \a themeType, for what Qt paints by itself.
+/// Returns the palette, made from the colour sets of \a themeType, for what Qt itself paints.
 QPalette themePalette(OxaThemeUtils::AppThemeType themeType);

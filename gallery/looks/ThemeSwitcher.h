@@ -8,14 +8,13 @@
 /// Switches the colours of the whole application: its appearance, and the theme type of its
 /// windows.
 ///
-/// Themed widgets don't notice a new store by themselves. This class is the one place that has them
-/// take new colours.
+/// Themed widgets do not notice a new store. Only this class makes them take new colours.
 class ThemeSwitcher : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What the application's current theme is.
+    /// The application's current theme.
     enum class Appearance { Light, Dark, HighContrast };
     Q_ENUM(Appearance)
 
@@ -32,7 +31,7 @@ public:
     QString themeType() const { return m_themeType; }
 
     /// Sets the theme type of all windows to the word \a themeType. It reaches the widgets inside
-    /// along the chain of their parents.
+    /// through their parents.
     void setThemeType(const QString &themeType);
 
 Q_SIGNALS:

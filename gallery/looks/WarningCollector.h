@@ -4,9 +4,9 @@
 #include <QStringList>
 #include <QtGlobal>
 
-/// Keeps the warnings that are logged as long as it lives, instead of letting them be printed.
+/// Collects the warnings that are logged while it exists, instead of printing them.
 ///
-/// Messages of other categories go where they went before. Collectors may be nested: the innermost
+/// Other messages go to the earlier handler. Collectors may be nested: the innermost
 /// gets the warnings. GUI thread only.
 class WarningCollector
 {

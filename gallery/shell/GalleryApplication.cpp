@@ -28,7 +28,7 @@ int fail(const QString &reason)
     return EXIT_FAILURE;
 }
 
-/// Names the fonts that stand in, here, for the ones that the library asks for.
+/// Sets substitutes for the fonts that the library asks for.
 void substituteFonts()
 {
     QFont::insertSubstitution(QStringLiteral("Segoe UI"), QStringLiteral("Open Sans"));

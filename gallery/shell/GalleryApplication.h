@@ -21,23 +21,23 @@ public:
     /// Returns the application object of the process, which must be a GalleryApplication.
     static GalleryApplication *get();
 
-    /// Loads the colour documents at \a paths. Where that fails, \a problem tells why and nothing
+    /// Loads the colour documents at \a paths. If that fails, \a problem says why and nothing
     /// changes.
     bool loadDocuments(const DocumentPaths &paths, QString &problem);
 
     /// Does what \a options ask for and returns the exit status of the process.
     int run(const GalleryOptions &options);
 
-    /// Returns what switches the colours; null until documents are loaded.
+    /// Returns the theme switcher; null until documents are loaded.
     ThemeSwitcher *themeSwitcher() const { return m_themeSwitcher; }
 
-    /// Returns what sets direction and size of text.
+    /// Returns the settings of direction and size of text.
     TextSettings *textSettings() const { return m_textSettings; }
 
     /// Returns the folder of downloaded pictures, which need not exist.
     QString artworkFolder() const { return m_artworkFolder; }
 
-    /// Sets the folder of downloaded pictures, for pages that are made from now on.
+    /// Sets the folder of downloaded pictures, for pages that are made later.
     void setArtworkFolder(const QString &folder) { m_artworkFolder = folder; }
 
     void onQmlEngineCreated(OxaQmlEngine *engine) override;

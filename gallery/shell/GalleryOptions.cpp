@@ -55,7 +55,7 @@ GalleryOptions failure(const QString &message)
     return withMessage(GalleryOptions::Task::Fail, message);
 }
 
-/// Sets of one palette mean nothing in another: a user's documents come together.
+/// Sets are only valid with their palette, so a user's documents are given together.
 bool readDocumentPaths(const QCommandLineParser &parser, DocumentPaths &paths)
 {
     const bool isSet = parser.isSet(colorsOption);

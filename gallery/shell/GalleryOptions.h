@@ -5,7 +5,7 @@
 
 #include <QStringList>
 
-/// What the command line asks for.
+/// The options of the command line.
 struct GalleryOptions
 {
     /// What the program does after reading its options.
@@ -19,9 +19,9 @@ struct GalleryOptions
 
     Task task = Task::ShowWindow;
     QStringList pages;        ///< Names of the pages asked for: one of them, or all.
-    QString screenshotFolder; ///< Where pictures go.
-    QString artworkFolder = defaultArtworkFolder(); ///< Where downloaded pictures are.
-    QString message;                                ///< What to print, for the tasks that print.
+    QString screenshotFolder; ///< The folder for pictures.
+    QString artworkFolder = defaultArtworkFolder(); ///< The folder of downloaded pictures.
+    QString message;                                ///< The text to print, for tasks that print.
     DocumentPaths documents; ///< The colour documents; the gallery's own by default.
 
     /// Returns the folder that ./dev artwork fills, which need not exist.
@@ -30,7 +30,7 @@ struct GalleryOptions
     /// Reads \a arguments, of which the first is the program. Needs an application object.
     static GalleryOptions parse(const QStringList &arguments);
 
-    /// Lets the runs that open no window do without a display. Comes before the application object,
-    /// and respects a platform that the user chose.
+    /// Lets runs without a window do without a display. Must be called before the application
+    /// object is made. Respects a platform that the user chose.
     static void preparePlatform(int argc, const char *const *argv);
 };

@@ -79,7 +79,7 @@ GalleryWindow::GalleryWindow(QWidget *parent)
             [this] { focusPane(-1); });
 }
 
-/// Gives the focus to what had it last in the pane that is \a step panes behind the current one.
+/// Gives the focus to the widget that had it last in the pane \a step panes after the current one.
 void GalleryWindow::focusPane(int step)
 {
     QWidget *const panes[] = { m_header, m_navigation, m_pages };

@@ -7,8 +7,8 @@ class TextSettings;
 class ThemeSwitcher;
 class WrapLayout;
 
-/// The bar at the top of the window: what the whole gallery is shown in, always at hand. Controls
-/// that have no room beside the others go to another row.
+/// The bar at the top of the window, with the settings of the whole gallery. Controls without room
+/// beside the others go to another row.
 class HeaderBar : public OxaWidget
 {
     Q_OBJECT

@@ -38,8 +38,8 @@ ScrollArea *Page::makeArea()
     auto *contents = new OxaWidget(area->viewport());
     contents->setLayout(m_body);
     const QScrollBar *bar = area->verticalScrollBar();
-    // Cards are as wide with a scroll bar beside them as without. Tab stops at what keys can
-    // scroll.
+    // Cards are as wide with a scroll bar beside them as without. Tab stops at pages that
+    // keys can scroll.
     const auto followBar = [area, contents, bar] {
         constexpr int side = Metrics::margin - ScrollArea::focusBorder;
         const bool scrolls = bar->maximum() > 0;

@@ -7,8 +7,8 @@ class ColumnsLayout;
 class QVBoxLayout;
 class ScrollArea;
 
-/// A page of the gallery: a title, a line that says what it shows, and a body that fills the rest,
-/// and scrolls where that is not enough.
+/// A page of the gallery: a title, a line of description, and a body that fills the rest and
+/// scrolls if necessary.
 class Page : public OxaWidget
 {
     Q_OBJECT

@@ -12,13 +12,13 @@ class QWidget;
 /// One page of the gallery.
 struct PageEntry
 {
-    QString name;  ///< What the command line and file names call it.
-    QString title; ///< What the navigation shows.
-    QString group; ///< The heading that the navigation puts it under.
+    QString name;  ///< The name in the command line and in file names.
+    QString title; ///< The text in the navigation.
+    QString group; ///< The heading above it in the navigation.
     std::function<Page *(QWidget *parent)> make;
 };
 
-/// Returns all pages, in the order of the navigation. The pages of a group stand together.
+/// Returns all pages, in the order of the navigation. The pages of a group are adjacent.
 const std::vector<PageEntry> &pageEntries();
 
 /// Returns the page called \a name, or null.

@@ -9,7 +9,7 @@
 
 class Page;
 
-/// Holds the pages, of which it shows one. A page is made when it is first shown.
+/// Holds the pages and shows one of them. A page is made when it is first shown.
 class PageStack : public QStackedWidget
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ class PageStack : public QStackedWidget
 public:
     explicit PageStack(QWidget *parent = nullptr);
 
-    /// Shows the page called \a name. An unknown name shows nothing new.
+    /// Shows the page called \a name. An unknown name is ignored.
     void showPage(const QString &name);
 
 protected Q_SLOTS:

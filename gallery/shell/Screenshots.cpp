@@ -44,14 +44,14 @@ constexpr DirectionName directions[] = {
 
 constexpr int scales[] = { 1, 2 };
 
-/// Compresses a picture little: those of long pages have millions of pixels.
+/// Writes with little compression: pictures of long pages have millions of pixels.
 constexpr int quickly = 80;
 
 QImage pictureOf(QWidget &window, int scale)
 {
     QImage image(window.size() * scale, QImage::Format_RGB32);
     image.setDevicePixelRatio(scale);
-    // A painter on an image knows no direction, and would leave texts on the wrong side.
+    // A painter on an image has no direction, and would put texts on the wrong side.
     QPainter painter(&image);
     painter.setLayoutDirection(QGuiApplication::layoutDirection());
     window.render(&painter);
@@ -72,11 +72,11 @@ bool takeScales(QWidget &window, const QDir &folder, const QString &name, QStrin
     return true;
 }
 
-/// Makes \a window as high as the whole of the page that it shows.
+/// Makes \a window high enough for its whole page.
 void showWholePage(GalleryWindow &window)
 {
     window.resize(Metrics::windowWidth, Metrics::windowHeight);
-    // A page that is laid out anew may grow: cards that fitted its height then fit its width.
+    // A new layout may make the page higher: cards that fitted its height then fit its width.
     constexpr int tries = 4;
     for (int i = 0; i < tries; ++i) {
         QCoreApplication::processEvents();

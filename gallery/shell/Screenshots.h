@@ -7,8 +7,8 @@
 namespace Screenshots {
 
 /// Writes a picture of the whole of each of \a pages into \a folder, in each appearance, in both
-/// directions, at one and at two device pixels to the pixel, and prints the files. Where that
-/// fails, \a problem tells why.
+/// directions, at device pixel ratios 1 and 2, and prints the files. If that fails,
+/// \a problem says why.
 bool take(const QStringList &pages, const QString &folder, QString &problem);
 
 } // namespace Screenshots

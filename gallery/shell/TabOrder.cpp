@@ -35,7 +35,7 @@ void appendContents(const QWidget &parent, std::vector<QWidget *> &widgets)
     }
 }
 
-/// True for one of several buttons that Tab may stop at once it is the checked one.
+/// True for one of several exclusive buttons, which Tab stops at only while it is checked.
 bool isChoice(const QWidget &widget)
 {
     const auto *button = qobject_cast<const QAbstractButton *>(&widget);
@@ -70,7 +70,7 @@ void TabOrder::followLayouts(QWidget *parent)
 {
     std::vector<QWidget *> widgets;
     appendContents(*parent, widgets);
-    // Qt has no place in its order for a widget that has no focus policy at that time.
+    // Qt ignores widgets that have no focus policy when the order is set.
     std::vector<QWidget *> choices;
     QWidget *previous = nullptr;
     for (QWidget *widget : widgets) {

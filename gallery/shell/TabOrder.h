@@ -16,11 +16,11 @@ std::vector<QWidget *> of(QWidget *window);
 /// Returns the first widget in \a pane that Tab stops at, or null.
 QWidget *firstIn(const QWidget &pane);
 
-/// Makes the tab order inside \a parent that of its layouts, from the first item to the last:
-/// widgets are not made in the order in which one sees them.
+/// Sets the tab order inside \a parent to that of its layouts, from the first item to the last:
+/// widgets are not made in the order on screen.
 void followLayouts(QWidget *parent);
 
-/// Returns what the user sees of \a widget, as text: its kind and what it is called.
+/// Describes \a widget for the user, by its kind and name.
 QString describe(const QWidget &widget);
 
 } // namespace TabOrder

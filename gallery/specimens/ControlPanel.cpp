@@ -95,7 +95,7 @@ void ControlPanel::place(const QString &caption, QWidget *control)
     share->addWidget(control);
     if (control->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed)
         share->addStretch(1);
-    // In shares, so that captions of different lengths leave the controls below each other.
+    // In fixed shares, so that controls are aligned whatever the lengths of captions.
     captioned->addWidget(Labels::caption(caption, row), captionShare);
     captioned->addLayout(share, controlShare);
     layout()->addWidget(row);

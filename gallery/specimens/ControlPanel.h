@@ -10,8 +10,8 @@ class OxaLabel;
 class SegmentedControl;
 class Slider;
 
-/// Controls with their captions, in two columns where there is room. A control hands what the user
-/// chooses to a function, and its caption is its accessible name.
+/// Controls with captions, in two columns if there is room. A control hands the user's choice to a
+/// function, and its caption is its accessible name.
 class ControlPanel : public OxaWidget
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     SegmentedControl *addChoice(const QString &caption, const QStringList &texts, int current,
                                 const std::function<void(int index)> &choose);
 
-    /// Adds a slider with its number behind it. A \a word stands for the smallest number.
+    /// Adds a slider with its number behind it. \a word is shown instead of the smallest number.
     Slider *addNumber(const QString &caption, int minimum, int maximum, int value,
                       const std::function<void(int value)> &change,
                       const QString &word = QString());
@@ -32,7 +32,7 @@ public:
     LineEdit *addText(const QString &caption, const QString &text,
                       const std::function<void(const QString &text)> &change);
 
-    /// Adds a text that is not the user's to change, and returns its label.
+    /// Adds a read-only text, and returns its label.
     OxaLabel *addValue(const QString &caption, const QString &text = QString());
 
     /// Adds \a control.

@@ -19,10 +19,10 @@ namespace {
 using Choice = PropertyControls::Choice;
 using Choices = PropertyControls::Choices;
 
-/// A choice between more would not fit beside its caption.
+/// More choices would not fit beside the caption.
 constexpr int mostChoices = 6;
 
-/// What all themed widgets have, and the header of the window sets.
+/// Properties of all themed widgets, which the header of the window sets.
 constexpr const char *commonProperties[] = { "css", "themeType", "styleSheet", "fontToken",
                                              "fontType" };
 
@@ -51,7 +51,7 @@ int indexOf(const Choices &choices, const QVariant &value)
     return found == choices.end() ? -1 : int(found - choices.begin());
 }
 
-/// Returns how many letters all of \a texts begin with.
+/// Returns the length of the common beginning of \a texts.
 int commonStart(const QStringList &texts)
 {
     const auto [first, last] = std::minmax_element(texts.begin(), texts.end());
@@ -66,7 +66,7 @@ QStringList reversed(QStringList texts)
     return texts;
 }
 
-/// Returns the enumerators of \a type, without what all of their names begin and end with.
+/// Returns the enumerators of \a type, without the common beginning and end of their names.
 Choices enumerators(const QMetaEnum &type)
 {
     QStringList keys;
@@ -289,7 +289,7 @@ void PropertyControls::keepUpToDate(const std::function<void()> &show)
 
 void PropertyControls::applyToAll(const Apply &apply, const QVariant &value)
 {
-    // A slider that shows a value is at its end where the value is beyond.
+    // A slider is at its end if the value is out of its range.
     if (m_isRefreshing)
         return;
     for (QWidget *widget : m_widgets)

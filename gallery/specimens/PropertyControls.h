@@ -10,14 +10,14 @@ class QMetaProperty;
 
 /// Controls, each of which sets one property of several widgets at once.
 ///
-/// A control is called by its property and shows the value that the first of the widgets has, also
-/// when another control changed it.
+/// A control is named after its property and shows the value of the first widget, also when another
+/// control changed it.
 class PropertyControls : public ControlPanel
 {
     Q_OBJECT
 
 public:
-    /// A value to choose, and what it is called.
+    /// A value to choose, and its name.
     struct Choice
     {
         QString text;
@@ -33,34 +33,34 @@ public:
     QWidget *front() const { return m_widgets.front(); }
 
     /// Offers \a choices for each property whose name ends in \a ending, instead of what addAll()
-    /// would make of its type. The first offer that fits counts.
+    /// would make of its type. The first matching offer is used.
     void offer(const char *ending, const Choices &choices);
 
-    /// Bounds the numbers of \a property, whose slider goes from 0 to 24 otherwise.
+    /// Sets the range of \a property, which is 0 to 24 otherwise.
     void setRange(const char *property, int minimum, int maximum);
 
     /// Adds a control for each property that the library declares for the widgets' class, and that
-    /// has none yet: a switch, a slider, a choice or a field, by its type. Leaves out what no such
-    /// control can set, and what all themed widgets have.
+    /// has none yet: a switch, a slider, a choice or a field, by its type. Leaves out properties
+    /// that no such control can set, and those of all themed widgets.
     void addAll();
 
     /// Adds a control for \a property alone.
     void addProperty(const char *property);
 
-    /// Adds a choice between \a choices for what is not a property, and is set by \a apply.
+    /// Adds a choice between \a choices that \a apply sets, for what is not a property.
     void addChoice(const QString &name, const Choices &choices, const Apply &apply);
 
-    /// Adds a slider, at \a value at first, for what is not a property, and is set by \a apply.
+    /// Adds a slider, at \a value at first, that \a apply sets, for what is not a property.
     void addNumber(const QString &name, int minimum, int maximum, int value, const Apply &apply);
 
     /// Adds sliders for setFixedWidth() and setFixedHeight() of widgets that have such a size.
     void addWidth(int narrowest, int widest);
     void addHeight(int lowest, int highest);
 
-    /// Adds a text that \a read returns, and that is read anew with all values.
+    /// Adds a text that \a read returns, and that is read again with all values.
     void addReading(const QString &name, const std::function<QString()> &read);
 
-    /// Shows the values that the first widget has now.
+    /// Shows the current values of the first widget.
     void refresh();
 
     /// Returns the choices no and yes.

@@ -16,14 +16,13 @@ namespace {
 
 constexpr int stageHeight = 80;
 
-/// Lets \a widget believe that the pointer is over it. It sees no pointer, which would take that
-/// away again.
+/// Makes \a widget look as under the pointer. It gets no events of the real one, which end that.
 void holdHovered(QWidget *widget)
 {
     widget->setAttribute(Qt::WA_UnderMouse);
-    // A style decides when it polishes a widget whether the pointer matters to it.
+    // A style decides while polishing whether a widget reacts to the pointer.
     widget->ensurePolished();
-    // A push button that tracks the pointer wants to be told where it is.
+    // A push button with mouse tracking needs the position.
     widget->setMouseTracking(true);
     const QPointF somewhere(widget->rect().center());
     QMouseEvent move(QEvent::MouseMove, somewhere, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
@@ -78,7 +77,7 @@ Specimens::Specimens(const std::function<QWidget *()> &make, QWidget *parent) : 
 void Specimens::add(QWidget *widget, const QString &caption)
 {
     auto *specimen = new OxaWidget(this);
-    // The widget may become narrower; the ones behind it stay where they are.
+    // The widget may become narrower; the ones after it keep their positions.
     specimen->setMinimumWidth(widget->minimumSize()
                                       .expandedTo(widget->sizeHint())
                                       .boundedTo(widget->maximumSize())

@@ -7,17 +7,17 @@
 
 #include <functional>
 
-/// The same widget several times side by side: once to be used, and once held in each state.
+/// The same widget several times side by side: one to use, and one held in each state.
 class Specimens : public OxaWidget
 {
     Q_OBJECT
 
 public:
-    /// Makes one widget with \a make for use, and one for each state that such a widget can be held
-    /// in. A button knows all of them; any other widget is not pressed and not checked.
+    /// Makes one widget with \a make for use, and one for each state that it can be held in.
+    /// Widgets other than buttons are never pressed or checked.
     explicit Specimens(const std::function<QWidget *()> &make, QWidget *parent = nullptr);
 
-    /// Returns the widgets; the first is the one to be used.
+    /// Returns the widgets; the first is the one to use.
     const QVector<QWidget *> &widgets() const { return m_widgets; }
 
 private:

@@ -18,20 +18,20 @@ constexpr int linesToKeep = 200;
 
 QString tr(const char *text) { return Page::tr(text); }
 
-/// Adds the choice of where the keyboard's focus is.
+/// Adds the choice of where the keyboard focus is.
 void addFocus(PropertyControls *controls, QWidget *widget)
 {
     if (widget->focusPolicy() == Qt::NoFocus)
         return;
     const QStringList places = { tr("Elsewhere"), tr("In use") };
     const auto focus = [widget](int i) {
-        // A key's reason: the one that Qt believes although no key was pressed.
+        // A reason of the keyboard, so that the focus is shown as if a key had been pressed.
         i == 1 ? widget->setFocus(Qt::ShortcutFocusReason) : widget->clearFocus();
     };
     controls->ControlPanel::addChoice(tr("setFocus()"), places, 0, focus);
 }
 
-/// Returns a log of what \a widget emits, which may change what \a controls show.
+/// Returns a log of the signals of \a widget, which may change what \a controls show.
 CodeEdit *makeLog(QWidget *widget, PropertyControls *controls)
 {
     auto *log = new CodeEdit;

@@ -5,8 +5,8 @@
 
 class Page;
 
-/// What a page shows of a widget class: a card with the widget in each of its states, controls for
-/// its properties, and a log of what it emits.
+/// Cards for widget classes: the widget in each of its states, controls for its properties, and a
+/// log of its signals.
 namespace WidgetCard {
 
 /// Adds a card for the widgets that \a make makes to \a page, and returns its controls, to which
@@ -23,7 +23,7 @@ PropertyControls::Choices colorSets();
 /// Returns the path of the gallery's icon called \a name.
 QString icon(const char *name);
 
-/// Returns that icon in black, to be painted over, for screens of one and of two pixels.
+/// Returns that icon in black, to be coloured, for device pixel ratios 1 and 2.
 QPixmap pixmap(const char *name, const QSize &size);
 
 } // namespace WidgetCard

@@ -3,16 +3,16 @@
 
 #include <UiElements/widgets/OxaLabel.h>
 
-/// A label that keeps its text where the layout wants it, whatever language the text is in.
+/// A label that aligns its text with the layout, whatever the language of the text.
 ///
-/// OxaLabel takes the side that suits an interface whose texts run as its layout does, and takes it
-/// anew at each change of the direction. The gallery shows English from right to left as well.
+/// OxaLabel aligns for texts that run as the layout does, and again at each change of the
+/// direction. The gallery shows English in a right-to-left layout as well.
 class AlignedLabel : public OxaLabel
 {
     Q_OBJECT
 
 public:
-    /// Where the text stands across the label.
+    /// The horizontal position of the text.
     enum class Place {
         Start,  ///< Where lines of the layout begin.
         Centre, ///< In the middle.

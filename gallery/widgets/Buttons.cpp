@@ -6,8 +6,8 @@ namespace {
 QString look(const char *background, const char *border, const char *text,
              const char *focus = "gallery-focus-border.normal")
 {
-    // The focus border is wider than others, so that it is told apart from a checked one, and is
-    // there under the pointer as well.
+    // The focus border is wider than others, so that it differs from a checked one, and is shown
+    // under the pointer as well.
     return QStringLiteral("$backgroundColors: %1; $borderColors: %2; $textColors: %3;"
                           "$borderRadius: 6;"
                           "OxaPushButton { padding: 6px 16px; }"

@@ -9,13 +9,13 @@ namespace Buttons {
 /// Returns the style text of a button with a border.
 QString plain();
 
-/// Returns the style text of the button that a dialog suggests.
+/// Returns the style text of a default button.
 QString accent();
 
 /// Returns the style text of a button without a background, until the pointer is over it.
 QString quiet();
 
-/// Returns the style text of a button that ends something.
+/// Returns the style text of a button that leaves or ends something.
 QString leave();
 
 /// Returns the style text of a button that shows whether it is checked.

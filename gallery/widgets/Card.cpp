@@ -12,7 +12,7 @@ namespace {
 
 constexpr int headingHeight = 32;
 
-/// Above the heading's line, in which the text has some room of its own.
+/// Above the heading's line, which has some room above its text.
 constexpr int topMargin = 11;
 
 } // namespace
@@ -25,7 +25,7 @@ Card::Card(const QString &heading, const QString &explanation, QWidget *parent)
                           "$borderRadius: 8;"));
 
     m_headingLine->setSpacing(Metrics::small);
-    // As high as a control beside the heading, so that headings of neighbours are on one line.
+    // As high as a control beside the heading, so that headings of adjacent cards are aligned.
     m_headingLine->addStrut(headingHeight);
     m_headingLine->addWidget(Labels::heading(heading, this), 1);
     m_body->setSpacing(Metrics::spacing);

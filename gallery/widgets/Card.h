@@ -6,7 +6,7 @@
 class QHBoxLayout;
 class QVBoxLayout;
 
-/// A bordered surface with a heading, an optional line of explanation, and a body.
+/// A bordered area with a heading, an optional description, and a body.
 class Card : public OxaWidget
 {
     Q_OBJECT

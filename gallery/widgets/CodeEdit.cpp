@@ -14,7 +14,7 @@ CodeEdit::CodeEdit(QWidget *parent) : QPlainTextEdit(parent)
                           "$borderRadius: 6;"
                           "$textColors: gallery-code-text;"
                           "CodeEdit { padding: 4px; }"
-                          // Under the pointer, too, one sees where the focus is.
+                          // Shows the focus under the pointer as well.
                           "CodeEdit:focus { padding: 3px;"
                           " border: 2px solid $(gallery-focus-border); }"));
 }

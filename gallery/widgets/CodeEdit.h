@@ -16,7 +16,7 @@ class CodeEdit : public QPlainTextEdit
 public:
     explicit CodeEdit(QWidget *parent = nullptr);
 
-    /// Makes the field at least \a lines lines high, at its font of this moment.
+    /// Makes the field at least \a lines lines high in its current font.
     void setMinimumLines(int lines);
 
 protected Q_SLOTS:

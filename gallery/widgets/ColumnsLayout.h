@@ -3,14 +3,14 @@
 
 #include <UiElements/layouts/FlowLayout.h>
 
-/// Two columns of one width where there is room for both, else one column. Widgets beside each
-/// other are equally high, and the last row takes the height that is left.
+/// Two columns of equal width if there is room, else one column. Widgets beside each other have the
+/// same height, and the last row takes the remaining height.
 class ColumnsLayout : public FlowLayout
 {
     Q_OBJECT
 
 public:
-    /// Makes the layout of \a parent, or of nobody yet. Spacings are in pixels.
+    /// Makes the layout, for \a parent if not null. Spacings are in pixels.
     ColumnsLayout(int hSpacing, int vSpacing, QWidget *parent = nullptr);
 
     /// Appends \a widget, which spans both columns.

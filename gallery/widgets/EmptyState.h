@@ -5,8 +5,7 @@
 
 class OxaLabel;
 
-/// What stands in the place of a list that has nothing to show: what is missing, what to try, and a
-/// button that does it.
+/// Replaces a list that has nothing to show: says what is missing, and offers a button to act.
 class EmptyState : public OxaWidget
 {
     Q_OBJECT
@@ -14,7 +13,7 @@ class EmptyState : public OxaWidget
 public:
     EmptyState(const QString &advice, const QString &action, QWidget *parent = nullptr);
 
-    /// Sets the line that tells what is missing.
+    /// Sets the line that says what is missing.
     void setSummary(const QString &summary);
 
 Q_SIGNALS:

@@ -84,7 +84,7 @@ void ItemDelegate::paintHeading(QPainter *painter, const QRect &rect, const QStr
 void ItemDelegate::paintBadge(QPainter *painter, const QRect &rect, const QString &text,
                               QStyle::State state) const
 {
-    // A chosen row may be as bright as a badge. There the badge is the row turned inside out.
+    // A chosen row may be as bright as a badge, which has the row's colours exchanged then.
     const bool isSelected = state.testFlag(QStyle::State_Selected);
     const qreal radius = rect.height() / 2.0;
     painter->setPen(Qt::NoPen);

@@ -11,7 +11,7 @@ class QAbstractItemView;
 /// The colours and the fonts of items in lists and tables.
 struct ItemLook
 {
-    /// Makes the look of \a themeType, with fonts at the scale of this moment.
+    /// Makes the look of \a themeType, with fonts at the current scale.
     explicit ItemLook(OxaThemeUtils::AppThemeType themeType);
 
     OxaColorSet ground;
@@ -27,8 +27,7 @@ struct ItemLook
     QFont captionFont;
 };
 
-/// The base of the delegates: it paints what items have in common, and leaves to a subclass what is
-/// its own.
+/// The base of the delegates, which paints the common parts of items.
 class ItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -36,11 +35,11 @@ class ItemDelegate : public QStyledItemDelegate
 public:
     explicit ItemDelegate(QObject *parent = nullptr);
 
-    /// Takes the colours of \a themeType, and the fonts at the scale of this moment.
+    /// Takes the colours of \a themeType, and the fonts at the current scale.
     virtual void refresh(OxaThemeUtils::AppThemeType themeType);
 
-    /// Gives \a view a current item, the first that there is, where it has none: keys start at an
-    /// item that one sees.
+    /// Makes the first item of \a view current if there is no current one, so that keys start at a
+    /// visible item.
     static void ensureCurrent(QAbstractItemView &view);
 
     /// Returns the height of a heading's row.
@@ -52,8 +51,8 @@ protected:
     /// Returns the size of a badge with \a text.
     QSize badgeSize(const QString &text) const;
 
-    /// Fills \a option's rectangle with the ground of its state, draws the line below it, and marks
-    /// the focus.
+    /// Fills \a option's rectangle with the background of its state, draws the line below it, and
+    /// marks the focus.
     void paintGround(QPainter *painter, const QStyleOptionViewItem &option) const;
 
     void paintLine(QPainter *painter, const QRect &rect) const;
@@ -65,8 +64,8 @@ protected:
     /// Returns the colour of \a colorSet for an item that is chosen, under the pointer, or neither.
     static const QColor &colorFor(const OxaColorSet &colorSet, QStyle::State state);
 
-    /// Draws \a text on one line, from where lines of a layout in \a direction begin, but in its
-    /// own direction: a full stop stands behind an English sentence in any interface.
+    /// Draws \a text on one line, aligned to where lines of a layout in \a direction begin, but in
+    /// its own direction: the full stop of an English sentence stays at its end.
     static void drawElided(QPainter *painter, const QRect &rect, const QString &text,
                            Qt::LayoutDirection direction, Qt::TextElideMode mode = Qt::ElideRight);
 

@@ -6,7 +6,7 @@
 class OxaLabel;
 class QWidget;
 
-/// The kinds of text that the gallery is written in.
+/// The kinds of text in the gallery.
 namespace Labels {
 
 /// Returns the title of a page.
@@ -18,13 +18,13 @@ OxaLabel *heading(const QString &text, QWidget *parent = nullptr);
 /// Returns body text on one line.
 OxaLabel *line(const QString &text, QWidget *parent = nullptr);
 
-/// Returns body text on one line, which is elided where there is no room for it.
+/// Returns body text on one line, which is elided if there is no room.
 OxaLabel *elidedLine(const QString &text, QWidget *parent = nullptr);
 
 /// Returns body text that wraps.
 OxaLabel *paragraph(const QString &text, QWidget *parent = nullptr);
 
-/// Returns a small, quiet text on one line.
+/// Returns a small, muted text on one line.
 OxaLabel *caption(const QString &text, QWidget *parent = nullptr);
 
 /// Returns a small text in a rounded box.

@@ -26,9 +26,9 @@ QString ListView::frameStyleText()
     return QStringLiteral("$backgroundColors: gallery-card-background;"
                           "$borderColors: gallery-field-border;"
                           "$borderRadius: 6;"
-                          // Rows stay clear of the round corners.
+                          // Rows do not cover the round corners.
                           "QAbstractScrollArea { padding: 3px; }"
-                          // Under the pointer, too, one sees where the focus is.
+                          // Shows the focus under the pointer as well.
                           "QAbstractScrollArea:focus { padding: 2px;"
                           " border: 2px solid $(gallery-focus-border); }");
 }

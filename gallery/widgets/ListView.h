@@ -14,10 +14,10 @@ class ListView : public QListView
     UIELEMENTS_THEME_BLOCK(QListView)
 
 public:
-    /// Shows \a model by \a delegate, which belongs to the view from now on.
+    /// Shows \a model with \a delegate, which the view takes ownership of.
     ListView(QAbstractItemModel *model, ItemDelegate *delegate, QWidget *parent = nullptr);
 
-    /// Returns the style text of the frame, for whatever else scrolls items.
+    /// Returns the style text of the frame, for other views.
     static QString frameStyleText();
 
 protected:

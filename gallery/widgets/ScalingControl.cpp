@@ -5,7 +5,7 @@ ScalingControl::ScalingControl(TextSettings *settings, TextSettings::FontType vi
     : SegmentedControl({ tr("S"), tr("R"), tr("M"), tr("L") }, parent)
 {
     setToolTip(tr("Small, regular, medium, large"));
-    // The factors are numbered from -1.
+    // The factors begin at -1.
     setCurrentIndex(1 + int(settings->scaling(view)));
     connect(this, &SegmentedControl::chosen, settings, [settings, view](int i) {
         settings->setScaling(view, static_cast<TextSettings::ScalingFactor>(i - 1));

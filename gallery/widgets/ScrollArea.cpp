@@ -21,7 +21,7 @@ void ScrollArea::showFocus()
 void ScrollArea::setContents(QWidget *contents)
 {
     setWidget(contents);
-    // The area makes its widget fill itself.
+    // QScrollArea turns on autoFillBackground.
     contents->setAutoFillBackground(false);
 }
 

@@ -17,10 +17,10 @@ public:
     /// The width of the border that showFocus() adds.
     static constexpr int focusBorder = 2;
 
-    /// Shows by a border that the area has the focus, for an area that keys scroll.
+    /// Shows a border while the area has the focus, for an area that keys scroll.
     void showFocus();
 
-    /// Shows \a contents, over the ground that the area lies on.
+    /// Shows \a contents over the parent's background.
     void setContents(QWidget *contents);
 
 protected Q_SLOTS:

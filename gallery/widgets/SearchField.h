@@ -3,13 +3,13 @@
 
 #include "LineEdit.h"
 
-/// A field for what a list is searched for. Escape clears it.
+/// A field for searching a list. Escape clears it.
 class SearchField : public LineEdit
 {
     Q_OBJECT
 
 public:
-    /// Makes an empty field, which tells by \a hint what is searched.
+    /// Makes an empty field, whose \a hint says what is searched.
     explicit SearchField(const QString &hint, QWidget *parent = nullptr);
 
 protected:

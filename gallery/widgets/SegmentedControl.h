@@ -5,8 +5,7 @@
 
 class QButtonGroup;
 
-/// A row of buttons of which one is checked: a choice between a few things that are always in
-/// sight.
+/// A row of buttons of which one is checked: a choice between a few visible options.
 class SegmentedControl : public OxaWidget
 {
     Q_OBJECT

@@ -18,7 +18,7 @@ void Slider::onThemeChanged() { }
 
 void Slider::applyLook()
 {
-    // To a style sheet the page before the handle is the one to its left, in any direction.
+    // In a style sheet, sub-page is the part left of the handle in both directions.
     const QString filledPage = QGuiApplication::isRightToLeft() ? QStringLiteral("add-page")
                                                                 : QStringLiteral("sub-page");
     setCSS(QStringLiteral(

@@ -3,18 +3,18 @@
 
 #include <UiElements/widgets/OxaWidget.h>
 
-/// A coloured box that tells how something is, in a bold line and one that explains it.
+/// A coloured box that shows a status: a bold line, and an explanation.
 class StatusBox : public OxaWidget
 {
     Q_OBJECT
 
 public:
-    /// How good the news is; which colours the box has.
+    /// The kind of status, which selects the box's colours.
     enum class Kind { Note, Success, Warning, Error };
 
     StatusBox(Kind kind, const QString &summary, const QString &explanation,
               QWidget *parent = nullptr);
 
-    /// Deletes all widgets of \a layout, where boxes that are no longer true stand.
+    /// Deletes all widgets of \a layout, to remove outdated boxes.
     static void clear(QLayout *layout);
 };

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// What the first column always has room for, counted in the widest letters.
+/// The minimum width of the first column, in widest letters.
 constexpr int leastNameLength = 12;
 
 } // namespace
@@ -20,8 +20,8 @@ TableView::TableView(QAbstractItemModel *model, ItemDelegate *delegate, QWidget 
     : QTableView(parent), m_delegate(delegate)
 {
     delegate->setParent(this);
-    // Qt asked the style about the header before there were rules for it. It forgets the answers
-    // when a widget that is polished gets a sheet.
+    // Qt has cached the style's answers about the header before there were rules for it. A polished
+    // widget drops them when it gets a sheet.
     ensurePolished();
     applyLook();
 
@@ -44,8 +44,8 @@ TableView::TableView(QAbstractItemModel *model, ItemDelegate *delegate, QWidget 
 void TableView::refresh()
 {
     m_delegate->refresh(getThemeType());
-    // The header measures with its own font and paints with its viewport's, and a style sheet keeps
-    // the one from handing its font to the other.
+    // The header measures with its own font and paints with its viewport's. With a style sheet the
+    // viewport does not inherit the font.
     const OxaFont headerFont(OxaFont::Token::RadioButtonLabelSecondary);
     horizontalHeader()->setFont(headerFont);
     horizontalHeader()->viewport()->setFont(headerFont);
@@ -72,13 +72,13 @@ void TableView::fitFirstColumn()
 
 void TableView::applyLook()
 {
-    // To a style sheet the first section is the one to the left, in any direction.
+    // In a style sheet, the first section is the leftmost one in both directions.
     const QString firstSection = QGuiApplication::isRightToLeft() ? QStringLiteral("last")
                                                                   : QStringLiteral("first");
     setCSS(QStringLiteral("$backgroundColors: gallery-card-background;"
                           "$borderColors: gallery-card-border;"
                           "$borderRadius: 8;"
-                          // The delegate paints the ground of a chosen row.
+                          // The delegate paints the background of a chosen row.
                           "TableView { padding: 1px; selection-background-color: transparent; }"
                           "TableView:focus { padding: 0;"
                           " border: 2px solid $(gallery-focus-border); }"

@@ -7,26 +7,25 @@
 
 class ItemDelegate;
 
-/// A table in a frame, whose first column takes the room that the others leave, and scrolls where
-/// that is not enough for a name. Its header and its delegate follow the theme and the size of
-/// text.
+/// A table in a frame, whose first column takes the remaining width, and which scrolls if that is
+/// too narrow for a name. Its header and its delegate follow the theme and the size of text.
 class TableView : public QTableView
 {
     Q_OBJECT
     UIELEMENTS_THEME_BLOCK(QTableView)
 
 public:
-    /// Shows \a model by \a delegate, which belongs to the table from now on.
+    /// Shows \a model with \a delegate, which the table takes ownership of.
     TableView(QAbstractItemModel *model, ItemDelegate *delegate, QWidget *parent = nullptr);
 
-    /// Takes the colours of the theme, and the fonts at the scale of this moment.
+    /// Takes the colours of the theme, and the fonts at the current scale.
     virtual void refresh();
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
-    /// Gives the first column the room that the others leave.
+    /// Gives the first column the remaining width.
     void fitFirstColumn();
 
 protected Q_SLOTS:

@@ -3,14 +3,14 @@
 
 #include <UiElements/layouts/FlowLayout.h>
 
-/// A row of widgets in reading direction that wraps where there is no room for all of them. Widgets
-/// in a row are as high as the row, or in the middle of it where their size policy says so.
+/// A row of widgets in reading direction that wraps if there is no room for all of them. Widgets
+/// are as high as their row, or centred in it if their size policy says so.
 class WrapLayout : public FlowLayout
 {
     Q_OBJECT
 
 public:
-    /// Makes the layout of \a parent, or of nobody yet, with \a spacing pixels around its items.
+    /// Makes the layout, for \a parent if not null, with \a spacing pixels around its items.
     explicit WrapLayout(int spacing, QWidget *parent = nullptr);
 
 private:

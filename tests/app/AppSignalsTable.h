@@ -3,9 +3,9 @@
 
 // Longer than headers are here: the signals are a table.
 
-/// The signals of OxaAppSignals in the order of its meta-object: each one's name with its
-/// parameters' types, as Qt normalises them, and names. Where a name stands again with fewer
-/// parameters, the last ones have defaults.
+/// The signals of OxaAppSignals in the order of its meta-object: the name, with the normalised
+/// types and the names of the parameters. A name that is repeated with fewer parameters leaves out
+/// those that have defaults.
 constexpr const char *appSignals[] = {
     // clang-format off
     // Contacts

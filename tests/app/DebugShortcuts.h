@@ -3,8 +3,8 @@
 
 #include <UiElements/app/OxaAppSignals.h>
 
-// The hub shows nobody how to register the shortcuts for developers. An explicit instantiation may
-// name a private member, and takes it out for tests.
+// The function that registers the shortcuts for developers is private. An explicit instantiation
+// may name a private member, which makes it callable in tests.
 template <auto Member>
 struct PrivateMember
 {

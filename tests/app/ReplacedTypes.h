@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// An outer application's own types, of kinds that differ from those that the library brings.
+// An outer application's own types, of other kinds than the library's defaults.
 
 #include <QUuid>
 

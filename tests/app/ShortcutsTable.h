@@ -22,8 +22,8 @@ struct ShortcutData
 };
 Q_DECLARE_METATYPE(const ShortcutData *)
 
-/// Returns what registerShortcuts() makes, in its order. Standard keys are the platform's, so an
-/// application must be there.
+/// Returns what registerShortcuts() makes, in its order. Needs an application object, since
+/// standard keys depend on the platform.
 inline const std::vector<ShortcutData> &shortcutsTable()
 {
     const auto keys = [](const char *text) { return QKeySequence(QLatin1String(text)); };

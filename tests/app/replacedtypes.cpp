@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// Compiles with an outer application's own types in place of the library's. There is nothing to
+// Compiles with an outer application's own types in place of the library's. Nothing is
 // run.
 
 #include <UiElements/app/OxaAppSignals.h>

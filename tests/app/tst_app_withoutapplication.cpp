@@ -8,7 +8,7 @@
 
 #include <QTest>
 
-/// Helpers and switchboards under a plain QApplication, which has neither logo nor theme.
+/// AppUtils and the signal hubs under a plain QApplication, which has neither logo nor theme.
 class tst_AppWithoutApplication : public QObject
 {
     Q_OBJECT
@@ -17,11 +17,11 @@ private Q_SLOTS:
     void knowsNoLogo();
     void ignoresAForeignApplicationsProperties();
     void makesATransparentDialogIcon();
-    void takesTheLayoutDirectionForLeftToRight();
+    void assumesLeftToRight();
 
     void warnsAtEachRequestForTheHub();
     void warnsAtEachRequestForTheListener();
-    void servesAHubThatSomebodyMadeForItself();
+    void worksWithAHubMadeByHand();
 };
 
 void tst_AppWithoutApplication::knowsNoLogo()
@@ -43,7 +43,7 @@ void tst_AppWithoutApplication::makesATransparentDialogIcon()
     QCOMPARE(AppUtils::getDialogIcon(true).availableSizes(), QList<QSize> { QSize(32, 32) });
 }
 
-void tst_AppWithoutApplication::takesTheLayoutDirectionForLeftToRight()
+void tst_AppWithoutApplication::assumesLeftToRight()
 {
     const LayoutDirectionGuard direction(Qt::RightToLeft);
     QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
@@ -66,7 +66,7 @@ void tst_AppWithoutApplication::warnsAtEachRequestForTheListener()
     }
 }
 
-void tst_AppWithoutApplication::servesAHubThatSomebodyMadeForItself()
+void tst_AppWithoutApplication::worksWithAHubMadeByHand()
 {
     OxaAppSignals hub;
     QWidget window;

@@ -12,14 +12,14 @@ class tst_AppUtils : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void tellsTheLogosPaths();
+    void returnsTheLogoPaths();
     void makesATransparentDialogIcon();
     void makesNoDialogIconWithoutALogo();
     void makesADialogIconOfThePngLogo();
-    void tellsTheLayoutDirection();
+    void returnsTheLayoutDirection();
 };
 
-void tst_AppUtils::tellsTheLogosPaths()
+void tst_AppUtils::returnsTheLogoPaths()
 {
     QCOMPARE(AppUtils::getAppSvgIconPath(), QString());
     QCOMPARE(AppUtils::getAppPngIconPath(), QString());
@@ -57,7 +57,7 @@ void tst_AppUtils::makesADialogIconOfThePngLogo()
     QCOMPARE(Pixels::countNear(icon.pixmap(16, 16).toImage(), Qt::magenta), 16 * 16);
 }
 
-void tst_AppUtils::tellsTheLayoutDirection()
+void tst_AppUtils::returnsTheLayoutDirection()
 {
     QVERIFY(!AppUtils::isRTLLayoutDirection());
     const LayoutDirectionGuard direction(Qt::RightToLeft);

@@ -21,7 +21,7 @@ QMetaProperty propertyOf(const char *name)
     return type.property(type.indexOfProperty(name));
 }
 
-/// Spies on the signal that tells of changes of the property \a name.
+/// Spies on the notify signal of the property \a name.
 class NotifySpy : public QSignalSpy
 {
 public:
@@ -34,7 +34,7 @@ public:
     }
 };
 
-/// The members of an OxaApplication, in the order in which they must stand.
+/// The members of an OxaApplication, in the required order.
 struct Members
 {
     QPointer<QObject> appSignals;
@@ -90,10 +90,10 @@ private Q_SLOTS:
     void showsItsInvokables_data();
     void showsItsInvokables();
 
-    void tellsOfAPropertyThatIsSet_data();
-    void tellsOfAPropertyThatIsSet();
-    void tellsOfAPropertyOnceItHasTheValue_data();
-    void tellsOfAPropertyOnceItHasTheValue();
+    void emitsTheSignalOfAPropertyThatIsSet_data();
+    void emitsTheSignalOfAPropertyThatIsSet();
+    void emitsTheSignalAfterTheValueIsSet_data();
+    void emitsTheSignalAfterTheValueIsSet();
     void keepsTheFlagsApart();
     void setsLogoPathsByName();
 
@@ -101,7 +101,7 @@ private Q_SLOTS:
     void acceptsAFontScaleFactor();
     void rejectsAFontScaleFactor_data();
     void rejectsAFontScaleFactor();
-    void letsAFontScaleFactorPassThatIsNoNumber();
+    void acceptsNanAsFontScaleFactor();
 
     void handsOutACopyOfThePublishingInformation();
     void isInFocusOnceAWindowIsActive();
@@ -234,7 +234,7 @@ void tst_OxaApplication::showsItsInvokables()
     QCOMPARE(method.access(), QMetaMethod::Public);
 }
 
-void tst_OxaApplication::tellsOfAPropertyThatIsSet_data()
+void tst_OxaApplication::emitsTheSignalOfAPropertyThatIsSet_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<QVariant>("value");
@@ -257,7 +257,7 @@ void tst_OxaApplication::tellsOfAPropertyThatIsSet_data()
     row("the scale factor as before, each time", "fontScaleFactor", 1.0F, 2);
 }
 
-void tst_OxaApplication::tellsOfAPropertyThatIsSet()
+void tst_OxaApplication::emitsTheSignalOfAPropertyThatIsSet()
 {
     QFETCH(const QByteArray, name);
     QFETCH(const QVariant, value);
@@ -273,7 +273,7 @@ void tst_OxaApplication::tellsOfAPropertyThatIsSet()
         QCOMPARE(arguments, QVariantList { value });
 }
 
-void tst_OxaApplication::tellsOfAPropertyOnceItHasTheValue_data()
+void tst_OxaApplication::emitsTheSignalAfterTheValueIsSet_data()
 {
     QTest::addColumn<QVariant>("value");
     QTest::newRow("isDarkTheme") << QVariant(true);
@@ -284,7 +284,7 @@ void tst_OxaApplication::tellsOfAPropertyOnceItHasTheValue_data()
     QTest::newRow("fontScaleFactor") << QVariant(1.25F);
 }
 
-void tst_OxaApplication::tellsOfAPropertyOnceItHasTheValue()
+void tst_OxaApplication::emitsTheSignalAfterTheValueIsSet()
 {
     QFETCH(const QVariant, value);
     m_property = QTest::currentDataTag();
@@ -325,7 +325,7 @@ void tst_OxaApplication::acceptsAFontScaleFactor_data()
 {
     QTest::addColumn<float>("factor");
     QTest::newRow("the lowest") << 0.5F;
-    QTest::newRow("one between") << 0.9F;
+    QTest::newRow("between them") << 0.9F;
     QTest::newRow("the highest") << 1.5F;
 }
 
@@ -367,7 +367,7 @@ void tst_OxaApplication::rejectsAFontScaleFactor()
     QCOMPARE(changed.size(), 0);
 }
 
-void tst_OxaApplication::letsAFontScaleFactorPassThatIsNoNumber()
+void tst_OxaApplication::acceptsNanAsFontScaleFactor()
 {
     const ApplicationPropertyGuard guard("fontScaleFactor", 1.0F);
     const QSignalSpy changed(application(), &OxaApplication::fontScaleFactorChanged);

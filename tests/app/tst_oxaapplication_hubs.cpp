@@ -27,7 +27,7 @@ private:
 
 } // namespace
 
-/// The signal hub and the global signal listener as the application's. Each test makes its own.
+/// The application's signal hub and global signal listener. Each test makes its own.
 class tst_OxaApplicationHubs : public QObject
 {
     Q_OBJECT

@@ -16,15 +16,15 @@ OxaColorSetMap storeWith(const char *color)
 
 } // namespace
 
-/// The colour stores as the application object holds them.
+/// The colour stores of the application object.
 class tst_OxaApplicationStores : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void replacesAStoreAndTellsOfIt();
-    void tellsOfAStoreThatIsReplacedByItself();
-    void replacesTheTokensWithoutTellingOfIt();
+    void emitsASignalForAReplacedStore();
+    void emitsASignalForAStoreReplacedByItself();
+    void replacesTheTokensWithoutASignal();
 
     void looksColorSetsUpByThemeWord_data();
     void looksColorSetsUpByThemeWord();
@@ -32,7 +32,7 @@ private Q_SLOTS:
     void warnsOfAnUnknownColorSet();
 };
 
-void tst_OxaApplicationStores::replacesAStoreAndTellsOfIt()
+void tst_OxaApplicationStores::emitsASignalForAReplacedStore()
 {
     const StoreGuard stores(storeWith("#112233"), storeWith("#445566"));
     const QSignalSpy changed(application(), &IOxaApplication::colorSetsChanged);
@@ -47,7 +47,7 @@ void tst_OxaApplicationStores::replacesAStoreAndTellsOfIt()
     QVERIFY(application()->getInvertedColorSets() == storeWith("#aabbcc"));
 }
 
-void tst_OxaApplicationStores::tellsOfAStoreThatIsReplacedByItself()
+void tst_OxaApplicationStores::emitsASignalForAStoreReplacedByItself()
 {
     const StoreGuard stores(storeWith("#112233"), storeWith("#445566"));
     const QSignalSpy changed(application(), &IOxaApplication::colorSetsChanged);
@@ -58,7 +58,7 @@ void tst_OxaApplicationStores::tellsOfAStoreThatIsReplacedByItself()
     QVERIFY(application()->getInvertedColorSets() == storeWith("#445566"));
 }
 
-void tst_OxaApplicationStores::replacesTheTokensWithoutTellingOfIt()
+void tst_OxaApplicationStores::replacesTheTokensWithoutASignal()
 {
     const QSignalSpy changed(application(), &IOxaApplication::colorSetsChanged);
     application()->setColorTokens({ { 7, "seven" } });
@@ -73,9 +73,9 @@ void tst_OxaApplicationStores::looksColorSetsUpByThemeWord_data()
     QTest::addColumn<QString>("themeType");
     QTest::addColumn<bool>("isDark");
     QTest::addColumn<QString>("color");
-    QTest::newRow("nothing, which is global") << "" << false << "#112233";
-    QTest::newRow("another word, which is global") << "other" << true << "#112233";
-    QTest::newRow("another case, which is global") << "Dark" << false << "#112233";
+    QTest::newRow("an empty word is global") << "" << false << "#112233";
+    QTest::newRow("another word is global") << "other" << true << "#112233";
+    QTest::newRow("another case is global") << "Dark" << false << "#112233";
     QTest::newRow("dark in a light theme") << "dark" << false << "#445566";
     QTest::newRow("dark in a dark theme") << "dark" << true << "#112233";
     QTest::newRow("light in a dark theme") << "light" << true << "#445566";

@@ -32,7 +32,7 @@ QString describe(const QMetaMethod &method)
 
 } // namespace
 
-/// The two switchboards of the application.
+/// The signal hub and the global signal listener.
 class tst_OxaAppSignals : public QObject
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ private Q_SLOTS:
     void isTheHubOfTheApplication();
     void makesAHubWithoutShortcuts();
 
-    void firesInTheEmittersCall();
+    void deliversSignalsSynchronously();
     void doesNothingWhenNobodyIsConnected();
     void takesDefaultsWhereArgumentsAreLeftOut();
     void reachesSlotsThatAreConnectedToAShorterForm();
@@ -105,7 +105,7 @@ void tst_OxaAppSignals::makesAHubWithoutShortcuts()
         QVERIFY(!hub.shortcutExists(OxaAppSignals::Shortcut(shortcuts.value(index))));
 }
 
-void tst_OxaAppSignals::firesInTheEmittersCall()
+void tst_OxaAppSignals::deliversSignalsSynchronously()
 {
     OxaAppSignals hub;
     SignalLog log;

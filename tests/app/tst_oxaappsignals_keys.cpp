@@ -59,7 +59,7 @@ bool activate(QWidget &window)
 
 } // namespace
 
-/// Keys that become signals of the hub.
+/// The signals that the hub emits for keys.
 class tst_OxaAppSignalsKeys : public QObject
 {
     Q_OBJECT
@@ -67,8 +67,8 @@ class tst_OxaAppSignalsKeys : public QObject
 private Q_SLOTS:
     void emitsTheSignalOfTheKeysAndNoOther_data() { addTable(); }
     void emitsTheSignalOfTheKeysAndNoOther();
-    void standsInTheDocumentation_data() { addTable(); }
-    void standsInTheDocumentation();
+    void isListedInTheDocumentation_data() { addTable(); }
+    void isListedInTheDocumentation();
     void listensInEachWindowOfTheApplication();
     void ignoresTheKeysOfAGroupThatIsNotRegistered();
     void ignoresTheKeysOfADisabledShortcut();
@@ -103,7 +103,7 @@ void tst_OxaAppSignalsKeys::emitsTheSignalOfTheKeysAndNoOther()
     QCOMPARE(hub.emittedFor(window, row->keys), QString::fromLatin1(row->signal));
 }
 
-void tst_OxaAppSignalsKeys::standsInTheDocumentation()
+void tst_OxaAppSignalsKeys::isListedInTheDocumentation()
 {
     QFETCH(const ShortcutData *, row);
     QFile page(QStringLiteral(SHORTCUTS_PAGE));

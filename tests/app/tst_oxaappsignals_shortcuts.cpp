@@ -78,7 +78,7 @@ private Q_SLOTS:
     void deletesADisabledShortcut();
     void removesAShortcutThatIsGoneAlready();
     void deletesAllShortcuts();
-    void registersAnewAfterAllWereDisabled();
+    void registersAgainAfterAllWereDisabled();
     void warnsOfAKeyThatIsNotRegistered();
     void warnsOfAKeyWhoseShortcutIsGone();
 
@@ -102,7 +102,7 @@ void tst_OxaAppSignalsShortcuts::numbersItsShortcutsWithoutGaps()
     for (int number = 0; number < shortcuts.keyCount(); ++number)
         QCOMPARE(shortcuts.value(number), number);
     QCOMPARE(int(Shortcut::Debug_ShowDebugWindow), 58);
-    // The table does not have the one for developers.
+    // The table leaves out the shortcut for developers.
     QCOMPARE(shortcuts.keyCount(), int(shortcutsTable().size()) + 1);
 }
 
@@ -344,7 +344,7 @@ void tst_OxaAppSignalsShortcuts::deletesAllShortcuts()
     QCOMPARE(registered(hub), QStringList());
 }
 
-void tst_OxaAppSignalsShortcuts::registersAnewAfterAllWereDisabled()
+void tst_OxaAppSignalsShortcuts::registersAgainAfterAllWereDisabled()
 {
     OxaAppSignals hub;
     QWidget window;

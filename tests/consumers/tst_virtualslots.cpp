@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Opens the protected functions of the table.
+/// Gives access to the protected functions of the table.
 struct Open : OxaSvgPushButton
 {
     using OxaPushButton::initButtonStyleOption;
@@ -110,7 +110,7 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
             slotOf(&OpenButton::onThemeChanged),
     });
     addRow<OxaSvgPushButton, OxaPushButton>({ slotOf(&Open::onCSSChanged) });
-    // QLayout leaves three functions of its second base class to it: they are new beside its first.
+    // The last three come from QLayout's second base class, QLayoutItem.
     addRow<FlowLayout, QLayout>({
             slotOf(&OpenLayout::doLayout),
             slotOf(&FlowLayout::sizeHint),

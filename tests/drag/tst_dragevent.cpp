@@ -18,7 +18,7 @@ using Values = QMap<QString, QVariant>;
 
 Values with(const char *key, const QVariant &value) { return { { QLatin1String(key), value } }; }
 
-/// Says what is in the mime data: "html=<b>; urls=file:///a;".
+/// Describes the mime data: "html=<b>; urls=file:///a;".
 QString textOf(const QMimeData *mimeData)
 {
     QString text;
@@ -34,7 +34,7 @@ QString textOf(const QMimeData *mimeData)
 
 } // namespace
 
-/// The record that takes a drag from QML into widget code.
+/// The record that carries a drag from QML to widget code.
 class tst_DragEvent : public QObject
 {
     Q_OBJECT
@@ -127,7 +127,7 @@ void tst_DragEvent::readsTextsThroughQVariant()
 {
     QCOMPARE(textOf(DragEvent(with("html", 7)).toMimeData()), QStringLiteral("html=7;"));
     QCOMPARE(textOf(DragEvent(with("html", QString())).toMimeData()), QString());
-    // A text is as good as bytes.
+    // A text is accepted instead of bytes.
     DragEvent event({ { QStringLiteral("html"), QStringLiteral("<b>") },
                       { QStringLiteral("data"), QUrl::fromLocalFile(picture()).toString() } });
     QCOMPARE(textOf(event.toMimeData()), QStringLiteral("html=<b>;image;"));
@@ -146,7 +146,7 @@ void tst_DragEvent::convertsUrlsWhereQVariantCan()
 {
     const QVariant texts(QStringList { QStringLiteral("file:///a"), QStringLiteral("file:///b") });
     QCOMPARE(textOf(DragEvent(with("urls", texts)).toMimeData()), QString());
-    // As a program may teach it to; there is no way to unteach it.
+    // A program may register a converter; it cannot be removed again.
     QMetaType::registerConverter<QStringList, QList<QUrl>>(
             [](const QStringList &given) { return QUrl::fromStringList(given); });
     QCOMPARE(textOf(DragEvent(with("urls", texts)).toMimeData()),
@@ -167,15 +167,15 @@ void tst_DragEvent::addsThePictureOfALocalUrl_data()
     QTest::newRow("not without HTML") << QString() << picture << urls;
     QTest::newRow("with blanks around its path")
             << html << picture + QStringLiteral(" \n") << rest + QStringLiteral("image;");
-    QTest::newRow("by a link") << html << QUrl::fromLocalFile(link()).toString()
-                               << rest + QStringLiteral("image;");
-    QTest::newRow("not of a path that is no URL") << html << this->picture() << rest;
-    QTest::newRow("not of a file that is no picture")
+    QTest::newRow("through a symbolic link")
+            << html << QUrl::fromLocalFile(link()).toString() << rest + QStringLiteral("image;");
+    QTest::newRow("not for a path that is no URL") << html << this->picture() << rest;
+    QTest::newRow("not for a file that is no picture")
             << html << QUrl::fromLocalFile(note()).toString() << rest;
-    QTest::newRow("not of a file that isn't there") << html << picture + QLatin1Char('x') << rest;
-    QTest::newRow("not of another machine's URL")
+    QTest::newRow("not for a missing file") << html << picture + QLatin1Char('x') << rest;
+    QTest::newRow("not for another machine's URL")
             << html << QStringLiteral("https://example.org/a.png") << rest;
-    QTest::newRow("not of other data") << html << QStringLiteral("[ :") << rest;
+    QTest::newRow("not for other data") << html << QStringLiteral("[ :") << rest;
 }
 
 void tst_DragEvent::addsThePictureOfALocalUrl()
@@ -202,7 +202,7 @@ void tst_DragEvent::addsThePictureOnceTheMimeDataHasHtml()
     QCOMPARE(textOf(mimeData), QStringLiteral("html=<i>;image;"));
 }
 
-// Opening a pipe that nobody writes to would wait for ever.
+// Opening a pipe that nobody writes to would block forever.
 void tst_DragEvent::opensNoPipe()
 {
     const QString pipe = m_folder.filePath(QStringLiteral("pipe.png"));
@@ -271,7 +271,7 @@ void tst_DragEvent::sharesItsMimeDataWithCopies()
             DragEvent second(copy);
             QCOMPARE(second.toMimeData(), mimeData.data());
         }
-        // The first record to go deletes it, and those after it find it gone.
+        // The first record that is destroyed deletes it; the others notice that.
         QVERIFY(!mimeData);
     }
 }
@@ -312,7 +312,7 @@ void tst_DragEvent::survivesAssignmentToItself()
 void tst_DragEvent::survivesAnotherOwner()
 {
     DragEvent event({});
-    // As QDrag does at its end.
+    // As QDrag does when it is deleted.
     delete event.toMimeData();
     QVERIFY(event.toMimeData()->formats().isEmpty());
 }

@@ -66,7 +66,7 @@ const QString face = EmojiNotation::text({ 0x1F600 });
 const QString heart = EmojiNotation::text({ 0x2764, 0xFE0F });
 const QString unknownFace = EmojiNotation::text({ 0x1F601 });
 
-/// Artwork for those emoji, and the colours that labels ask for, as long as the object lives.
+/// Provides artwork for those emoji, and the colours that labels ask for, while it exists.
 class Surroundings
 {
 public:

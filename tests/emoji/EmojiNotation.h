@@ -6,7 +6,7 @@
 
 #include <initializer_list>
 
-/// Emoji in tests, written so that one can read them.
+/// A readable notation for emoji in tests.
 namespace EmojiNotation {
 
 /// Returns the text of \a codePoints.
@@ -22,7 +22,7 @@ inline QString tag(const char *stem, const QString &emoji)
             .arg(QLatin1String(stem), emoji);
 }
 
-/// Returns \a markup with its tags as stems in brackets, and what else is not ASCII as numbers:
+/// Returns \a markup with tags as stems in brackets and other non-ASCII characters as numbers:
 /// "Hi[1f600]", "{1f600}".
 inline QString describe(const QString &markup)
 {

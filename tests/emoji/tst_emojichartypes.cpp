@@ -25,20 +25,20 @@ int count(Type type, uint first = 0, uint last = lastCodePoint)
 
 } // namespace
 
-/// What code points are to emoji sequences.
+/// The classes of code points in emoji sequences.
 class tst_EmojiCharTypes : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void tellsTheClassOfACodePoint_data();
-    void tellsTheClassOfACodePoint();
+    void classifiesCodePoints_data();
+    void classifiesCodePoints();
     void hasNoOtherCodePointInAClass_data();
     void hasNoOtherCodePointInAClass();
     void knowsTheFirstCodePointOfAllSequences();
 };
 
-void tst_EmojiCharTypes::tellsTheClassOfACodePoint_data()
+void tst_EmojiCharTypes::classifiesCodePoints_data()
 {
     QTest::addColumn<uint>("codePoint");
     QTest::addColumn<Type>("type");
@@ -94,7 +94,7 @@ void tst_EmojiCharTypes::tellsTheClassOfACodePoint_data()
     add("no code point", uint(-1), Type::Other);
 }
 
-void tst_EmojiCharTypes::tellsTheClassOfACodePoint()
+void tst_EmojiCharTypes::classifiesCodePoints()
 {
     QFETCH(const uint, codePoint);
     QFETCH(const Type, type);
@@ -106,7 +106,7 @@ void tst_EmojiCharTypes::hasNoOtherCodePointInAClass_data()
     QTest::addColumn<Type>("type");
     QTest::addColumn<int>("size");
     QTest::newRow("joiner") << Type::Joiner << 1;
-    QTest::newRow("gender sign, of which both are emoji first") << Type::GenderSign << 0;
+    QTest::newRow("gender sign; both are emoji too") << Type::GenderSign << 0;
     QTest::newRow("skin tone") << Type::SkinTone << 5;
     QTest::newRow("hair component") << Type::HairComponent << 4;
     QTest::newRow("variation selector") << Type::VariationSelector << 1;
@@ -115,7 +115,7 @@ void tst_EmojiCharTypes::hasNoOtherCodePointInAClass_data()
     QTest::newRow("regional indicator") << Type::RegionalIndicator << 26;
     QTest::newRow("black flag") << Type::BlackFlag << 1;
     QTest::newRow("tag character") << Type::TagCharacter << 36;
-    // All of the plane but what the classes above take of it, and 169 below.
+    // The whole plane except for the classes above, and 169 code points below it.
     QTest::newRow("base") << Type::Base << 0xFFE - 5 - 4 - 26 - 1 + 169;
 }
 

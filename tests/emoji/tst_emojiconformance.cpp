@@ -13,8 +13,7 @@ namespace {
 
 using EmojiTestFile::Entry;
 
-/// Returns why \a entry does not give the one tag that its code points ask for, or an empty text
-/// when it has to.
+/// Returns the known cause why \a entry does not give exactly one tag; empty when it has to.
 QString knownCause(const Entry &entry)
 {
     if (entry.status == QLatin1String("component"))
@@ -53,7 +52,7 @@ class tst_EmojiConformance : public QObject
 private Q_SLOTS:
     void initTestCase();
     void givesEachSequenceItsOneTag();
-    void hasCausesForExceptionsOnly();
+    void namesNoCauseForSequencesThatGiveTheirTag();
     void findsEachSequenceInAText();
 
 private:
@@ -90,7 +89,7 @@ void tst_EmojiConformance::givesEachSequenceItsOneTag()
     QCOMPARE(unexplained.join(QLatin1Char('\n')), QString());
 }
 
-void tst_EmojiConformance::hasCausesForExceptionsOnly()
+void tst_EmojiConformance::namesNoCauseForSequencesThatGiveTheirTag()
 {
     QStringList given;
     for (const Entry &entry : m_entries) {

@@ -56,7 +56,7 @@ void add(const char *name, std::initializer_list<uint> codePoints, const char *m
     QTest::newRow(name) << text(codePoints) << QString::fromLatin1(markup);
 }
 
-/// Returns \a tag with its text in its place, worked out one attribute after the other.
+/// Returns the text that \a tag stands for, found one attribute after the other.
 QString naivelyRestoredTag(const QString &tag)
 {
     if (!tag.contains(QLatin1String("src=\"")))
@@ -87,7 +87,7 @@ QString naivelyRestored(const QString &markup)
 
 } // namespace
 
-/// How EmojiTextConverter reads a text.
+/// How EmojiTextConverter converts a text to markup and back.
 class tst_EmojiTextConverter : public QObject
 {
     Q_OBJECT
@@ -105,15 +105,15 @@ private Q_SLOTS:
     void convertsSelectors_data();
     void convertsSelectors() { convertsTexts(); }
 
-    void tellsTheFilesInTheOrderOfTheText();
-    void tellsWhetherThereIsPlainText_data();
-    void tellsWhetherThereIsPlainText();
-    void startsAnewForEachText();
+    void returnsTheFilesInTheOrderOfTheText();
+    void detectsPlainText_data();
+    void detectsPlainText();
+    void keepsNothingOfAnEarlierText();
     void listsSequencesWithAndWithoutArtwork();
     void restoresTags_data();
     void restoresTags();
-    void agreesWithAnExpressionOnRandomMarkup();
-    void takesTimeByTheLengthOfItsText();
+    void agreesWithARegularExpressionOnRandomMarkup();
+    void takesLinearTime();
 
 private:
     std::unique_ptr<EmojiArtwork> m_artwork;
@@ -131,7 +131,7 @@ void tst_EmojiTextConverter::convertsTexts_data()
     add("an emoji between texts", { 'a', face, 'b' }, "a[1f600]b");
     add("two emoji", { face, face }, "[1f600][1f600]");
     add("two, of which one has artwork", { unknownFace, face }, "{1f601}[1f600]");
-    add("a sign of two digits", { 0xA9 }, "[00a9]");
+    add("a stem of two digits", { 0xA9 }, "[00a9]");
     add("a letter beyond the base plane", { 0x10400, 'a' }, "{10400}a");
     add("joined emoji", { man, joiner, woman }, "[1f468-200d-1f469]");
     add("joined emoji without artwork", { man, joiner, man }, "{1f468}{200d}{1f468}");
@@ -227,19 +227,19 @@ void tst_EmojiTextConverter::convertsSelectors_data()
     add("a selected emoji on a key", { heart, selector, keycap }, "[2764-fe0f-20e3]");
     add("a selector behind a text", { 'a', selector, 'b' }, "a{fe0f}b");
     add("a selector by itself", { selector }, "{fe0f}");
-    // What a selector has ended keeps its text, so that a late part shows together with it.
-    add("a skin tone that comes too late", { heart, selector, tone },
+    // A selector ends a sequence. Its text is kept, so that a part after it is shown with it.
+    add("a skin tone behind a selector", { heart, selector, tone },
         "[2764-fe0f]{2764}{fe0f}{1f3fd}");
-    add("hair that comes too late", { heart, selector, hair, 'a' },
+    add("hair behind a selector", { heart, selector, hair, 'a' },
         "[2764-fe0f]{2764}{fe0f}{1f9b0}a");
-    add("a skin tone that comes much too late", { heart, selector, 'a', tone },
+    add("a skin tone behind a selector and a text", { heart, selector, 'a', tone },
         "[2764-fe0f]a{1f3fd}");
     add("two selectors", { heart, selector, selector }, "[2764-fe0f]{fe0f}");
     add("a selector behind a text behind an emoji", { heart, selector, 'a', selector },
         "[2764-fe0f]a{fe0f}");
 }
 
-void tst_EmojiTextConverter::tellsTheFilesInTheOrderOfTheText()
+void tst_EmojiTextConverter::returnsTheFilesInTheOrderOfTheText()
 {
     EmojiTextConverter converter(20, 1.0);
     converter.convert(text({ heart, 'a', face, unknownFace, face }));
@@ -249,7 +249,7 @@ void tst_EmojiTextConverter::tellsTheFilesInTheOrderOfTheText()
     QCOMPARE(converter.svgFiles(), files);
 }
 
-void tst_EmojiTextConverter::tellsWhetherThereIsPlainText_data()
+void tst_EmojiTextConverter::detectsPlainText_data()
 {
     QTest::addColumn<QString>("input");
     QTest::addColumn<bool>("hasPlainText");
@@ -261,7 +261,7 @@ void tst_EmojiTextConverter::tellsWhetherThereIsPlainText_data()
     QTest::newRow("a digit that an emoji follows") << text({ '7', face }) << false;
 }
 
-void tst_EmojiTextConverter::tellsWhetherThereIsPlainText()
+void tst_EmojiTextConverter::detectsPlainText()
 {
     QFETCH(const QString, input);
     EmojiTextConverter converter(20, 1.0);
@@ -270,7 +270,7 @@ void tst_EmojiTextConverter::tellsWhetherThereIsPlainText()
     QTEST(converter.hasPlainText(), "hasPlainText");
 }
 
-void tst_EmojiTextConverter::startsAnewForEachText()
+void tst_EmojiTextConverter::keepsNothingOfAnEarlierText()
 {
     EmojiTextConverter converter(20, 1.0);
     converter.convert(text({ 'a', face }));
@@ -330,7 +330,7 @@ void tst_EmojiTextConverter::restoresTags()
     QTEST(naivelyRestored(markup), "text");
 }
 
-void tst_EmojiTextConverter::agreesWithAnExpressionOnRandomMarkup()
+void tst_EmojiTextConverter::agreesWithARegularExpressionOnRandomMarkup()
 {
     const QStringList pieces = { QStringLiteral("<img src="), QStringLiteral("src=\""),
                                  QStringLiteral("alt=\""),    QStringLiteral("|"),
@@ -346,9 +346,9 @@ void tst_EmojiTextConverter::agreesWithAnExpressionOnRandomMarkup()
     }
 }
 
-void tst_EmojiTextConverter::takesTimeByTheLengthOfItsText()
+void tst_EmojiTextConverter::takesLinearTime()
 {
-    // By its square, this would be hours.
+    // In quadratic time this would take hours.
     const QString start = QStringLiteral("<img src=");
     const QString endless = start.repeated(500000);
     const QString lines = (start + QLatin1Char('\n')).repeated(500000) + QLatin1Char('>');

@@ -40,14 +40,14 @@ private Q_SLOTS:
 
     void writesPlaceholdersByDefault();
     void writesTagsThatQtCanDisplay();
-    void writesNoTagInAFormThatIsNone();
+    void writesNoTagInAnUnknownFormat();
     void leavesASequenceTextWhenItsFileIsInvalid_data();
     void leavesASequenceTextWhenItsFileIsInvalid();
-    void findsAFileThatComesLater();
+    void findsAFileThatIsAddedLater();
     void missesAFileThatIsUnregistered();
     void drawsAFileThatIsReplaced();
     void missesAllFilesOfACollectionThatIsUnregistered();
-    void looksAtNoMoreThan64FilesAgain();
+    void rechecks64FilesAtMost();
 
 private:
     std::unique_ptr<EmojiArtwork> m_artwork;
@@ -77,7 +77,7 @@ void tst_EmojiTextConverterFiles::writesTagsThatQtCanDisplay()
                             "align=\"middle\" alt=\"\U0001F600\">"));
 }
 
-void tst_EmojiTextConverterFiles::writesNoTagInAFormThatIsNone()
+void tst_EmojiTextConverterFiles::writesNoTagInAnUnknownFormat()
 {
     EmojiTextConverter converter(20, 1.0);
     converter.setTagFormat(static_cast<EmojiTagFormat>(2));
@@ -93,7 +93,7 @@ void tst_EmojiTextConverterFiles::leavesASequenceTextWhenItsFileIsInvalid_data()
     QTest::addColumn<QString>("emoji");
     QTest::addColumn<QString>("stem");
     QTest::addColumn<QByteArray>("content");
-    QTest::newRow("a file that breaks off")
+    QTest::newRow("a truncated file")
             << brokenFace << QStringLiteral("1f603") << QByteArray("<svg><path d=");
     QTest::newRow("an empty file") << emptyFace << QStringLiteral("1f604") << QByteArray();
 }
@@ -108,7 +108,7 @@ void tst_EmojiTextConverterFiles::leavesASequenceTextWhenItsFileIsInvalid()
     QCOMPARE(converted(emoji), emoji);
 }
 
-void tst_EmojiTextConverterFiles::findsAFileThatComesLater()
+void tst_EmojiTextConverterFiles::findsAFileThatIsAddedLater()
 {
     QCOMPARE(converted(laterFace), laterFace);
     const EmojiArtwork later({ QStringLiteral("1f602") });
@@ -129,7 +129,7 @@ void tst_EmojiTextConverterFiles::missesAFileThatIsUnregistered()
 
 void tst_EmojiTextConverterFiles::drawsAFileThatIsReplaced()
 {
-    // Of the same size, so that it is likely to lie in the same place of the memory.
+    // Of the same size, so that it is likely to have the same address.
     const QVector<QColor> colors = { Qt::red, Qt::blue, Qt::yellow };
     for (const QColor &color : colors) {
         const EmojiArtwork artwork({ QStringLiteral("1f606") },
@@ -160,7 +160,7 @@ void tst_EmojiTextConverterFiles::missesAllFilesOfACollectionThatIsUnregistered(
     QCOMPARE(converted(text), text);
 }
 
-void tst_EmojiTextConverterFiles::looksAtNoMoreThan64FilesAgain()
+void tst_EmojiTextConverterFiles::rechecks64FilesAtMost()
 {
     QStringList stems;
     QString text;

@@ -62,7 +62,7 @@ QString describe(const QTextDocument &document)
     return document.toHtml().remove(numbers);
 }
 
-/// Describes a document that \a text is set to at once.
+/// Describes a document that got \a text by EmojiTextConverter::setHtml().
 QString describeSet(const QString &text)
 {
     QTextDocument document;
@@ -71,8 +71,7 @@ QString describeSet(const QString &text)
     return describe(document);
 }
 
-/// Returns markup of emoji, text and properly nested elements, which stand in a line only where \a
-/// isInline is true.
+/// Returns markup of emoji, text and nested elements; only inline ones if \a isInline is true.
 QString randomMarkup(std::mt19937 &generator, int depth, bool isInline)
 {
     static const QStringList leaves = { face,
@@ -126,11 +125,11 @@ private Q_SLOTS:
     void addsAResourceForEachPicture();
     void findsEmojiInAllParagraphs();
     void leavesOtherImagesAlone();
-    void tellsOfAllPicturesAtOnce();
+    void changesTheDocumentOnceForAllPictures();
     void restoresTheTextFromItsMarkup();
-    void setsMarkupAsADocumentThatIsGivenPicturesLaterHasIt_data();
-    void setsMarkupAsADocumentThatIsGivenPicturesLaterHasIt();
-    void setsRandomMarkupAsADocumentThatIsGivenPicturesLaterHasIt();
+    void setsMarkupAsIfPicturesWereInsertedLater_data();
+    void setsMarkupAsIfPicturesWereInsertedLater();
+    void setsRandomMarkupAsIfPicturesWereInsertedLater();
 
 private:
     std::unique_ptr<EmojiArtwork> m_artwork;
@@ -187,9 +186,9 @@ void tst_EmojiTextConverterImages::rendersForThePixelRatio_data()
     QTest::addColumn<int>("size");
     QTest::addColumn<double>("ratio");
     QTest::addColumn<int>("edge");
-    QTest::newRow("a pixel to the pixel") << 20 << 1.0 << 20;
-    QTest::newRow("two") << 20 << 2.0 << 40;
-    QTest::newRow("a fraction, cut off") << 21 << 1.25 << 26;
+    QTest::newRow("ratio 1") << 20 << 1.0 << 20;
+    QTest::newRow("ratio 2") << 20 << 2.0 << 40;
+    QTest::newRow("a fraction, truncated") << 21 << 1.25 << 26;
 }
 
 void tst_EmojiTextConverterImages::rendersForThePixelRatio()
@@ -247,7 +246,7 @@ void tst_EmojiTextConverterImages::leavesOtherImagesAlone()
     QCOMPARE(names, expected);
 }
 
-void tst_EmojiTextConverterImages::tellsOfAllPicturesAtOnce()
+void tst_EmojiTextConverterImages::changesTheDocumentOnceForAllPictures()
 {
     QTextDocument document;
     EmojiTextConverter converter(20, 1.0);
@@ -267,7 +266,7 @@ void tst_EmojiTextConverterImages::restoresTheTextFromItsMarkup()
     QVERIFY2(restored.contains(QStringLiteral("text") + face + heart + key), qPrintable(restored));
 }
 
-void tst_EmojiTextConverterImages::setsMarkupAsADocumentThatIsGivenPicturesLaterHasIt_data()
+void tst_EmojiTextConverterImages::setsMarkupAsIfPicturesWereInsertedLater_data()
 {
     QTest::addColumn<QString>("text");
     const auto add = [](const char *name, const char *text) {
@@ -286,14 +285,14 @@ void tst_EmojiTextConverterImages::setsMarkupAsADocumentThatIsGivenPicturesLater
     add("a tag that was cut", "\U0001F600<img src=\"svgFile=:/emojis/1f600.svgxuni\u2026");
 }
 
-void tst_EmojiTextConverterImages::setsMarkupAsADocumentThatIsGivenPicturesLaterHasIt()
+void tst_EmojiTextConverterImages::setsMarkupAsIfPicturesWereInsertedLater()
 {
     QFETCH(const QString, text);
     QCOMPARE(describeSet(text),
              describe(*documentOf(QLatin1String("<div >") + text + QLatin1String("</div>"))));
 }
 
-void tst_EmojiTextConverterImages::setsRandomMarkupAsADocumentThatIsGivenPicturesLaterHasIt()
+void tst_EmojiTextConverterImages::setsRandomMarkupAsIfPicturesWereInsertedLater()
 {
     auto generator = seededGenerator();
     for (int i = 0; i < 1000; ++i) {

@@ -76,7 +76,7 @@ struct Text
 ///     flag     = indicator indicator
 ///     region   = U+1F3F4 tag { tag } U+E007F
 ///
-/// so that what has to be found in them is known without reading them.
+/// so that the expected sequences are known without parsing the text.
 class Grammar
 {
 public:
@@ -165,7 +165,7 @@ private:
 
 } // namespace
 
-/// Texts at random: what they are made of is found, and what was written comes back.
+/// Converts random texts, finds their sequences, and restores them.
 class tst_EmojiTextConverterRandom : public QObject
 {
     Q_OBJECT
@@ -184,7 +184,7 @@ private:
 
 void tst_EmojiTextConverterRandom::initTestCase()
 {
-    // Every other sequence, so that emoji stand beside ones that stay text.
+    // Artwork for every other sequence, so that pictures and text emoji are mixed.
     QStringList stems = EmojiTestFile::stemsOf(m_entries);
     for (int i = stems.size() - 1; i > 0; i -= 2)
         stems.removeAt(i);
@@ -214,7 +214,7 @@ void tst_EmojiTextConverterRandom::showsRandomTextsAsTheyWereWritten()
     const QRegularExpression newlines(QStringLiteral("[\f\u000F\u2029\u2028\r\n]"));
     for (int i = 0; i < 300; ++i) {
         const QString text = maker.make();
-        // A text that is an image tag by chance is one.
+        // A text that happens to be an image tag is treated as one.
         if (EmojiTextConverter::restore(text) != text)
             continue;
         label.setText(text);

@@ -52,8 +52,8 @@ private Q_SLOTS:
     void makesTwentyLinesAtMost();
     void endsInAnEllipsis_data();
     void endsInAnEllipsis();
-    void cutsALongLineAsCharacterByCharacter();
-    void cutsALineOfManyTagsInNoTime();
+    void cutsALongLineAtTheLastCharacterThatFits();
+    void cutsALineOfManyTagsQuickly();
 };
 
 void tst_LabelLines::breaksParagraphs_data()
@@ -70,7 +70,7 @@ void tst_LabelLines::breaksParagraphs_data()
     add("words that fit together", "aa bb cc", 10, "aa bb |cc|");
     add("a word that is too long", "aaaaaaaaaa b", 10, "aaaaaaaaaa |b|");
     add("paragraphs", "aaaa/bbbb", 10, "aaaa|bbbb|");
-    // The height has to leave room for one more line.
+    // A line is broken only if there is room for one more.
     add("room for one line takes all into it", "aaaa bbbb cccc", 1, "aaaa bbbb cccc>");
     add("room for two lines", "aaaa bbbb cccc", 2, "aaaa |bbbb cccc>");
     add("room for three lines, all of them needed", "aaaa bbbb cccc", 3, "aaaa |bbbb |cccc>");
@@ -105,7 +105,7 @@ void tst_LabelLines::makesTwentyLinesAtMost()
     QFETCH(const QString, text);
     const LabelLines::Lines broken = breakText(text, 6, anyHeight);
     QTEST(broken.lines.size(), "count");
-    // Nothing tells that there is more: meant so.
+    // The lines beyond the limit are dropped without an ellipsis.
     QVERIFY(!broken.lacksParagraphs);
     for (const LabelLines::Line &line : broken.lines)
         QVERIFY(!line.isElided);
@@ -124,7 +124,7 @@ void tst_LabelLines::endsInAnEllipsis_data()
     add("a line that is too long", "aaaaaaaaaa", "aaaaaaaa\u00A0\u2026");
     add("a line that ends in a space", "aaaa ", "aaaa \u2026");
     add("a line that just fits with its space", "aaaaaaaa ", "aaaaaaaa \u2026");
-    add("markup is measured as it stands", "<img src=\"x\">", "<img src\u00A0\u2026");
+    add("markup is measured as plain text", "<img src=\"x\">", "<img src\u00A0\u2026");
     add("nothing", "", "\u00A0\u2026");
 }
 
@@ -137,7 +137,7 @@ void tst_LabelLines::endsInAnEllipsis()
         QCOMPARE(LabelLines::endingInEllipsis(line, font(), 1), QStringLiteral("\u00A0\u2026"));
 }
 
-void tst_LabelLines::cutsALongLineAsCharacterByCharacter()
+void tst_LabelLines::cutsALongLineAtTheLastCharacterThatFits()
 {
     const QFontMetrics metrics(font());
     const QString line = QStringLiteral("some words and <img src=\"x\"> ").repeated(10);
@@ -154,7 +154,7 @@ void tst_LabelLines::cutsALongLineAsCharacterByCharacter()
     }
 }
 
-void tst_LabelLines::cutsALineOfManyTagsInNoTime()
+void tst_LabelLines::cutsALineOfManyTagsQuickly()
 {
     const QString line = QStringLiteral("<img src=\"svgFile=:/emojis/1f600.svgunicode\">")
                                  .repeated(2000);

@@ -5,18 +5,18 @@
 
 #include <QTest>
 
-/// What ends a line in texts that users write.
+/// The characters that end a line.
 class tst_Newlines : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void hasSixCharacters();
-    void knowsNewlines_data();
-    void knowsNewlines();
+    void detectsNewlines_data();
+    void detectsNewlines();
     void splitsTexts_data();
     void splitsTexts();
-    void joinsTheCharactersInAnExpression();
+    void joinsTheCharactersInARegularExpression();
 };
 
 void tst_Newlines::hasSixCharacters()
@@ -26,20 +26,20 @@ void tst_Newlines::hasSixCharacters()
     QCOMPARE(Newlines::characters(), expected);
 }
 
-void tst_Newlines::knowsNewlines_data()
+void tst_Newlines::detectsNewlines_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("isNewline");
     for (const ushort newline : { 0x0A, 0x0C, 0x0D, 0x0F, 0x2028, 0x2029 })
         QTest::addRow("U+%04X", newline) << QString(QChar(newline)) << true;
     for (const ushort other : { 0x09, 0x0B, 0x0E, 0x1C, 0x20, 0x85, 0x2027, 0x202A })
-        QTest::addRow("U+%04X is none", other) << QString(QChar(other)) << false;
+        QTest::addRow("U+%04X is no newline", other) << QString(QChar(other)) << false;
     QTest::newRow("one in a text") << QStringLiteral("a\nb") << true;
     QTest::newRow("a text without") << QStringLiteral("a b") << false;
     QTest::newRow("nothing") << QString() << false;
 }
 
-void tst_Newlines::knowsNewlines()
+void tst_Newlines::detectsNewlines()
 {
     QFETCH(const QString, text);
     QFETCH(const bool, isNewline);
@@ -69,7 +69,7 @@ void tst_Newlines::splitsTexts()
     QTEST(Newlines::split(text).join(QLatin1Char('|')), "parts");
 }
 
-void tst_Newlines::joinsTheCharactersInAnExpression()
+void tst_Newlines::joinsTheCharactersInARegularExpression()
 {
     const QString pattern = Newlines::expression().pattern();
     QCOMPARE(pattern.size(), 11);

@@ -14,7 +14,7 @@ QString body(const EmojiLabel &label)
 
 } // namespace
 
-/// What OxaEmojiLabel makes of its text, on one line.
+/// The markup that OxaEmojiLabel makes of its text, on one line.
 class tst_OxaEmojiLabel : public QObject
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ private Q_SLOTS:
     void showsEmojiAsPictures();
     void showsEmojiInTheFontWhereItCanBeSelected();
     void copiesWhatWasWritten();
-    void takesTagsInItsTextForEmoji();
+    void showsTagsInItsTextAsEmoji();
     void keepsTagsInATextThatCanBeSelected();
     void escapesTextsThatAreNotRich_data();
     void escapesTextsThatAreNotRich();
@@ -41,7 +41,7 @@ private Q_SLOTS:
     void writesItsStyle();
     void writesIndentAndPaddings_data();
     void writesIndentAndPaddings();
-    void knowsNewlines();
+    void detectsNewlines();
 
 private:
     std::unique_ptr<Surroundings> m_surroundings;
@@ -153,7 +153,7 @@ void tst_OxaEmojiLabel::copiesWhatWasWritten()
     QCOMPARE(label.selectedText().replace(QChar::ParagraphSeparator, QLatin1Char('\n')), text);
 }
 
-void tst_OxaEmojiLabel::takesTagsInItsTextForEmoji()
+void tst_OxaEmojiLabel::showsTagsInItsTextAsEmoji()
 {
     const EmojiLabel label(QLatin1String("a") + EmojiNotation::tag("1f600", face)
                            + QStringLiteral("<img src=\"%1|17\">b").arg(heart));
@@ -292,7 +292,7 @@ void tst_OxaEmojiLabel::writesIndentAndPaddings()
     QTEST(label.createIndentStyle(), "rightToLeft");
 }
 
-void tst_OxaEmojiLabel::knowsNewlines()
+void tst_OxaEmojiLabel::detectsNewlines()
 {
     QVERIFY(EmojiLabel::containsNewline(QStringLiteral("a\u000Fb")));
     QVERIFY(!EmojiLabel::containsNewline(QStringLiteral("a\vb")));

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Counts the keys that reach it.
+/// Counts the key presses that it gets.
 class KeyCounter : public QWidget
 {
 public:
@@ -172,7 +172,7 @@ void tst_OxaEmojiLabelClicks::buttonIsClickedByNothingElse()
 
 void tst_OxaEmojiLabelClicks::buttonSwallowsAllKeys()
 {
-    // Meant so: whatever key a button does not use goes nowhere else.
+    // A button accepts every key, also those that it does not use.
     KeyCounter parent;
     OxaEmojiPushButton button(QStringLiteral("text"), &parent);
     for (const Qt::Key key : { Qt::Key_A, Qt::Key_Escape, Qt::Key_Space })

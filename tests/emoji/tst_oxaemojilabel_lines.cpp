@@ -41,13 +41,13 @@ private Q_SLOTS:
     void showsTwentyLinesOfALongText();
     void showsEmojiInTheFontWhenItIsCentred();
     void showsEmojiInTheFontWhenACentredLineHasANewline();
-    void takesTagsForEmojiAgainAfterSeveralCentredLines();
+    void showsTagsAsEmojiAgainAfterSeveralCentredLines();
     void leavesRichParagraphsToQt_data();
     void leavesRichParagraphsToQt();
     void leavesParagraphsBehindAnImageToQt();
     void showsEmojiOfRichParagraphsInTheFont();
-    void takesItsOwnLinesAgainAfterRichText();
-    void wrapsItsTextAnewWhenItIsResized();
+    void breaksLinesItselfAgainAfterRichText();
+    void wrapsItsTextAgainWhenItIsResized();
 
 private:
     std::unique_ptr<Surroundings> m_surroundings;
@@ -112,7 +112,7 @@ void tst_OxaEmojiLabelLines::endsWithoutAnEllipsisWhenNothingIsElided()
 
 void tst_OxaEmojiLabelLines::cutsATagLikeAnyOtherText()
 {
-    // Meant so: what is measured is the markup, and a tag is longer than most lines.
+    // The markup is measured, and a tag is longer than most lines.
     WrappingLabel label(12, 2);
     label.setText(QStringLiteral("one\n%1\nthree").arg(face));
     const QString text = label.getElidedText();
@@ -164,7 +164,7 @@ void tst_OxaEmojiLabelLines::showsEmojiInTheFontWhenItIsCentred()
     label.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     label.setText(QStringLiteral("nn ") + face);
     QCOMPARE(label.pictures(), QStringList { face });
-    // Two lines only because it is wrapped.
+    // Wrapping alone makes two lines of it.
     label.setText(QStringLiteral("nnnn ") + face);
     QVERIFY(!label.shouldDrawSvgEmojis());
     QCOMPARE(label.pictures(), QStringList());
@@ -179,7 +179,7 @@ void tst_OxaEmojiLabelLines::showsEmojiInTheFontWhenACentredLineHasANewline()
     QVERIFY(!label.isTextMoreThanOneLine());
     QVERIFY(!label.shouldDrawSvgEmojis());
     QCOMPARE(label.getElidedText(), face);
-    // A separator counts too, until it turns out to end the only line.
+    // A line separator at the end of the only line does not count.
     label.setText(face + QChar(QChar::LineSeparator));
     QVERIFY(!label.isTextMoreThanOneLine());
     QVERIFY(label.shouldDrawSvgEmojis());
@@ -187,7 +187,7 @@ void tst_OxaEmojiLabelLines::showsEmojiInTheFontWhenACentredLineHasANewline()
     QCOMPARE(label.getElidedText(), face);
 }
 
-void tst_OxaEmojiLabelLines::takesTagsForEmojiAgainAfterSeveralCentredLines()
+void tst_OxaEmojiLabelLines::showsTagsAsEmojiAgainAfterSeveralCentredLines()
 {
     WrappingLabel label(6);
     label.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
@@ -223,7 +223,7 @@ void tst_OxaEmojiLabelLines::leavesRichParagraphsToQt()
 
 void tst_OxaEmojiLabelLines::leavesParagraphsBehindAnImageToQt()
 {
-    // An image without a text of its own is nothing in a label of emoji.
+    // An image without an alternative text is left out.
     WrappingLabel label(6);
     label.setTextFormat(Qt::RichText);
     label.setText(QStringLiteral("<img src=\"ornament.png\" alt=\"\"><p>nnnn nnnn</p>"));
@@ -241,7 +241,7 @@ void tst_OxaEmojiLabelLines::showsEmojiOfRichParagraphsInTheFont()
     QVERIFY(label.isTextMoreThanOneLine());
     QCOMPARE(label.pictures(), QStringList());
     QCOMPARE(label.getElidedText(), text);
-    // Without word wrap it is a text like any other.
+    // Without word wrap it is handled like any other text.
     label.setWordWrap(false);
     label.setElideMode(Qt::ElideNone);
     label.setText(text);
@@ -249,7 +249,7 @@ void tst_OxaEmojiLabelLines::showsEmojiOfRichParagraphsInTheFont()
     QCOMPARE(label.document().textWidth(), -1.0);
 }
 
-void tst_OxaEmojiLabelLines::takesItsOwnLinesAgainAfterRichText()
+void tst_OxaEmojiLabelLines::breaksLinesItselfAgainAfterRichText()
 {
     WrappingLabel label(6);
     label.setTextFormat(Qt::RichText);
@@ -259,7 +259,7 @@ void tst_OxaEmojiLabelLines::takesItsOwnLinesAgainAfterRichText()
     QCOMPARE(label.document().textWidth(), -1.0);
 }
 
-void tst_OxaEmojiLabelLines::wrapsItsTextAnewWhenItIsResized()
+void tst_OxaEmojiLabelLines::wrapsItsTextAgainWhenItIsResized()
 {
     WrappingLabel label(6);
     label.setText(QStringLiteral("nnnn nnnn"));

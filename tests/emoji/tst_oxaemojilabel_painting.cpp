@@ -18,7 +18,7 @@ QRectF frameOf(const EmojiLabel &label)
     return document.documentLayout()->frameBoundingRect(document.rootFrame());
 }
 
-/// A label that places its text by itself.
+/// A label that overrides the position of its text.
 class PlacedLabel : public EmojiLabel
 {
 public:
@@ -26,7 +26,7 @@ public:
     QPointF getTextOffset() const override { return { 31, 7 }; }
 };
 
-/// A label on a screen of two pixels and a half for each of its own.
+/// A label with a device pixel ratio of 2.5.
 class DenseLabel : public EmojiLabel
 {
 public:
@@ -69,10 +69,10 @@ private Q_SLOTS:
     void placesItsText();
     void paintsItsTextWhereASubclassPlacesIt();
     void placesAnEmptyTextAsALabelDoes();
-    void keepsPaddingsFree();
+    void leavesPaddingsEmpty();
     void asksForTheSizeOfItsText();
-    void drawsAFrameOfKeyboardFocus();
-    void drawsNoFrameOfOtherFocus();
+    void drawsAFrameForKeyboardFocus();
+    void drawsNoFrameForOtherFocus();
 
 private:
     std::unique_ptr<Surroundings> m_surroundings;
@@ -83,8 +83,8 @@ void tst_OxaEmojiLabelPainting::paintsAnEmojiAsHighAsItsLine_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("count");
     QTest::newRow("one emoji") << face << 1;
-    QTest::newRow("the same twice") << face + face << 2;
-    QTest::newRow("two that differ") << face + heart << 2;
+    QTest::newRow("the same emoji twice") << face + face << 2;
+    QTest::newRow("two different emoji") << face + heart << 2;
 }
 
 void tst_OxaEmojiLabelPainting::paintsAnEmojiAsHighAsItsLine()
@@ -131,7 +131,7 @@ void tst_OxaEmojiLabelPainting::paintsItsFrameAroundItsText()
     const QImage image = Pixels::render(label);
     QCOMPARE(Pixels::boundsNear(image, Qt::magenta), QRect(0, 0, 200, 50));
     QCOMPARE(Pixels::countNear(image, Qt::magenta, QRect(100, 0, 10, 50)), 10 * (2 + 2));
-    // The text is not moved by the frame, and lies on it.
+    // The frame does not move the text, which is painted over it.
     QCOMPARE(Pixels::boundsNear(image, Qt::red).topLeft(), QPoint());
 }
 
@@ -149,7 +149,7 @@ void tst_OxaEmojiLabelPainting::placesItsText_data()
     QTest::addColumn<Qt::Alignment>("alignment");
     QTest::addColumn<QPointF>("leftToRight");
     QTest::addColumn<QPointF>("rightToLeft");
-    // In parts of the room that the text leaves.
+    // As fractions of the free space.
     const auto add = [](const char *name, Qt::Alignment alignment, const QPointF &leftToRight,
                         const QPointF &rightToLeft) {
         QTest::newRow(name) << alignment << leftToRight << rightToLeft;
@@ -205,7 +205,7 @@ void tst_OxaEmojiLabelPainting::placesAnEmptyTextAsALabelDoes()
     QCOMPARE(label.getTextOffset(), QPointF());
 }
 
-void tst_OxaEmojiLabelPainting::keepsPaddingsFree()
+void tst_OxaEmojiLabelPainting::leavesPaddingsEmpty()
 {
     EmojiLabel label;
     label.resize(200, 50);
@@ -236,7 +236,7 @@ void tst_OxaEmojiLabelPainting::asksForTheSizeOfItsText()
     QCOMPARE(EmojiLabel().sizeHint().width(), 0);
 }
 
-void tst_OxaEmojiLabelPainting::drawsAFrameOfKeyboardFocus()
+void tst_OxaEmojiLabelPainting::drawsAFrameForKeyboardFocus()
 {
     const ApplicationStyleGuard style;
     EmojiLabel label(QStringLiteral("text"));
@@ -250,7 +250,7 @@ void tst_OxaEmojiLabelPainting::drawsAFrameOfKeyboardFocus()
     QCOMPARE(style.calls().back().widget, &label);
 }
 
-void tst_OxaEmojiLabelPainting::drawsNoFrameOfOtherFocus()
+void tst_OxaEmojiLabelPainting::drawsNoFrameForOtherFocus()
 {
     const ApplicationStyleGuard style;
     EmojiLabel label(QStringLiteral("text"));

@@ -26,7 +26,7 @@ void send(QWidget &widget, QEvent::Type type)
     QCoreApplication::sendEvent(&widget, &event);
 }
 
-/// Returns the number of the first picture, which tells one layout of the text from the next.
+/// Returns the number of the first picture, which changes with each refresh.
 QString pictureName(const EmojiLabel &label)
 {
     const QTextCharFormat format = label.document().begin().begin().fragment().charFormat();
@@ -35,7 +35,7 @@ QString pictureName(const EmojiLabel &label)
 
 } // namespace
 
-/// When OxaEmojiLabel lays its text out anew, and in which colour.
+/// When OxaEmojiLabel refreshes its document, and in which colour.
 class tst_OxaEmojiLabelRefresh : public QObject
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ private Q_SLOTS:
 
     void showsTheNormalColourOfItsStyleText();
     void showsTheHoveredColourUnderThePointer();
-    void showsTheNormalColourWhenFocusComes();
+    void showsTheNormalColourWhenItGetsTheFocus();
     void refreshesAtFocusAndHover_data();
     void refreshesAtFocusAndHover();
     void leavesItsColourToItsParent();
@@ -57,7 +57,7 @@ private Q_SLOTS:
     void repaintsWhenTheTextChanges();
     void keepsNoPictureOfEarlierTexts();
     void followsTheFont();
-    void takesTheStyleSheetForItsDocument();
+    void handsTheStyleSheetToItsDocument();
     void keepsNoParsedStyleSheetWithoutText();
 
 private:
@@ -91,7 +91,7 @@ void tst_OxaEmojiLabelRefresh::showsTheHoveredColourUnderThePointer()
     QCOMPARE(shownColor(label), normal);
 }
 
-void tst_OxaEmojiLabelRefresh::showsTheNormalColourWhenFocusComes()
+void tst_OxaEmojiLabelRefresh::showsTheNormalColourWhenItGetsTheFocus()
 {
     EmojiLabel label(QStringLiteral("text"));
     label.setCSS(QStringLiteral("$textColors: text;"));
@@ -107,10 +107,10 @@ void tst_OxaEmojiLabelRefresh::showsTheNormalColourWhenFocusComes()
 void tst_OxaEmojiLabelRefresh::refreshesAtFocusAndHover_data()
 {
     QTest::addColumn<QEvent::Type>("type");
-    QTest::newRow("focus comes") << QEvent::FocusIn;
-    QTest::newRow("focus goes") << QEvent::FocusOut;
-    QTest::newRow("the pointer comes") << QEvent::Enter;
-    QTest::newRow("the pointer goes") << QEvent::Leave;
+    QTest::newRow("focus in") << QEvent::FocusIn;
+    QTest::newRow("focus out") << QEvent::FocusOut;
+    QTest::newRow("the pointer enters") << QEvent::Enter;
+    QTest::newRow("the pointer leaves") << QEvent::Leave;
 }
 
 void tst_OxaEmojiLabelRefresh::refreshesAtFocusAndHover()
@@ -225,7 +225,7 @@ void tst_OxaEmojiLabelRefresh::followsTheFont()
     QVERIFY(label.sizeHint().width() > before.width());
 }
 
-void tst_OxaEmojiLabelRefresh::takesTheStyleSheetForItsDocument()
+void tst_OxaEmojiLabelRefresh::handsTheStyleSheetToItsDocument()
 {
     EmojiLabel label;
     label.setTextFormat(Qt::RichText);

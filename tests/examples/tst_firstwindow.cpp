@@ -23,7 +23,7 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// The blocks of code of the tutorial that show the example, shell commands apart.
+/// The code blocks of the tutorial that show the example, without shell commands.
 QVector<QByteArray> quotedBlocks()
 {
     QVector<QByteArray> blocks;
@@ -44,7 +44,7 @@ QColor normalColor(const char *set)
     return OxaThemeUtils::getColorSet(set, OxaThemeUtils::AppThemeType::Global).normal;
 }
 
-/// Returns how \a a and \a b contrast, from 1 to 21, as accessibility guidelines count it.
+/// Returns the contrast of \a a and \a b, from 1 to 21, as accessibility guidelines define it.
 double contrast(const QColor &a, const QColor &b)
 {
     const auto luminance = [](const QColor &color) {
@@ -71,12 +71,12 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void standsInTheTutorialWordForWord();
-    void takesTheOtherColorsAtTheDarkButton();
-    void turnsRoundAtTheDirectionButton();
+    void matchesTheTutorialWordForWord();
+    void switchesColorsAtTheDarkButton();
+    void mirrorsTheLayoutAtTheDirectionButton();
     void listsPeople();
     void drawsTheEmoji();
-    void goesToTheListAtTheSearchKey();
+    void focusesTheListAtTheSearchKey();
     void showsFocusInEachAppearance_data() { addAppearances(); }
     void showsFocusInEachAppearance();
     void looksCheckedUnderThePointerToo_data() { addAppearances(); }
@@ -137,7 +137,7 @@ QAbstractButton *tst_FirstWindow::button(const QString &text) const
     return found == buttons.end() ? nullptr : *found;
 }
 
-void tst_FirstWindow::standsInTheTutorialWordForWord()
+void tst_FirstWindow::matchesTheTutorialWordForWord()
 {
     QByteArray example;
     QDirIterator files(QStringLiteral(EXAMPLE), QDir::Files, QDirIterator::Subdirectories);
@@ -150,7 +150,7 @@ void tst_FirstWindow::standsInTheTutorialWordForWord()
         QVERIFY2(example.contains(block), block.constData());
 }
 
-void tst_FirstWindow::takesTheOtherColorsAtTheDarkButton()
+void tst_FirstWindow::switchesColorsAtTheDarkButton()
 {
     const QColor lightGround = normalColor("window-background");
     button(QStringLiteral("Dark"))->click();
@@ -168,7 +168,7 @@ void tst_FirstWindow::takesTheOtherColorsAtTheDarkButton()
     QVERIFY(shows("action-button", button(QStringLiteral("High contrast"))));
 }
 
-void tst_FirstWindow::turnsRoundAtTheDirectionButton()
+void tst_FirstWindow::mirrorsTheLayoutAtTheDirectionButton()
 {
     const LayoutDirectionGuard direction(Qt::LeftToRight);
     const auto *heading = m_window->findChild<OxaLabel *>();
@@ -193,7 +193,7 @@ void tst_FirstWindow::drawsTheEmoji()
     QVERIFY(greeting->getElidedText().contains(QStringLiteral("Ada waves")));
 }
 
-void tst_FirstWindow::goesToTheListAtTheSearchKey()
+void tst_FirstWindow::focusesTheListAtTheSearchKey()
 {
     button(QStringLiteral("Dark"))->setFocus();
     Q_EMIT OxaAppSignals::get()->openGlobalSearch();

@@ -20,7 +20,7 @@ private Q_SLOTS:
     void givesEachTokenItsUnscaledStyle();
     void namesTheInterfacesFamilies();
     void namesTheFallbackFamiliesAfterThemWhenAsked();
-    void losesTheMonospaceFamilyInAnyCase();
+    void hasNoMonospaceFamilyWithOrWithoutFallbacks();
     void warnsOfAnUnknownToken();
 };
 
@@ -49,7 +49,7 @@ void tst_OxaFontWithoutApplication::namesTheFallbackFamiliesAfterThemWhenAsked()
                            QStringLiteral("Nirmala UI") }));
 }
 
-void tst_OxaFontWithoutApplication::losesTheMonospaceFamilyInAnyCase()
+void tst_OxaFontWithoutApplication::hasNoMonospaceFamilyWithOrWithoutFallbacks()
 {
     QCOMPARE(OxaFont(Token::CodeBlocks, false).families(),
              QStringList({ QStringLiteral("Segoe UI"), QStringLiteral("Segoe UI Emoji") }));
@@ -61,7 +61,7 @@ void tst_OxaFontWithoutApplication::warnsOfAnUnknownToken()
     QCOMPARE(OxaFont(static_cast<Token>(99), false).pixelSize(), 16);
 }
 
-/// The font manager, and widgets that look for it, under an application that is Qt's own.
+/// The font manager, and widgets that look for it, under a plain QApplication.
 class tst_OxaFontManagerWithoutApplication : public QObject
 {
     Q_OBJECT
@@ -100,7 +100,7 @@ void tst_OxaFontManagerWithoutApplication::leavesWidgetsWithTheirTokensFont()
     QCOMPARE(widget.font().pixelSize(), 40);
 }
 
-/// Runs the tests of fonts twice: without any application object, and under one that is Qt's own.
+/// Runs the tests of fonts without any application object, and under a plain QApplication.
 int main(int argc, char **argv)
 {
     tst_OxaFontWithoutApplication test;

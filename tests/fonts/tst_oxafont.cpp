@@ -14,7 +14,7 @@
 using FontUtils::SupportedFontFamily;
 using Token = OxaFont::Token;
 
-// All of an OxaFont is a QFont: nothing is lost where one is copied into the other.
+// An OxaFont adds no members to QFont: nothing is lost where one is copied into the other.
 static_assert(sizeof(OxaFont) == sizeof(QFont));
 
 namespace {
@@ -26,7 +26,7 @@ const QStringList fallbackFamilies = { QStringLiteral("Segoe UI"), QStringLitera
 const QStringList monospace = { QStringLiteral("Consolas"), QStringLiteral("Courier New"),
                                 QStringLiteral("monospace") };
 
-/// Adds a data row for each value of SupportedFontFamily, and for values that are none of it.
+/// Adds a data row for each value of SupportedFontFamily, and for values outside of it.
 void addFamilies()
 {
     QTest::addColumn<int>("family");
@@ -74,12 +74,12 @@ private Q_SLOTS:
     void keepsTheApplicationFontsFamily();
     void takesAMonospaceFamilyForCode();
     void takesTheFallbackFamiliesWhenAsked();
-    void losesTheMonospaceFamilyToTheFallbackFamilies();
+    void replacesTheMonospaceFamilyByTheFallbackFamilies();
 
     void isTheDefaultFontWithoutArguments();
     void takesOneFamilyUpright();
-    void takesOnlyWhatIsGivenBesideAListOfFamilies_data();
-    void takesOnlyWhatIsGivenBesideAListOfFamilies();
+    void setsOnlyTheAttributesThatAreGiven_data();
+    void setsOnlyTheAttributesThatAreGiven();
     void copiesFonts();
 
     void writesNoHtmlForAnEmptyText();
@@ -92,8 +92,8 @@ private Q_SLOTS:
     void makesAFontOfFamilyAndPixelSize();
     void turnsPixelsIntoPoints_data();
     void turnsPixelsIntoPoints();
-    void tellsFontsForCode_data();
-    void tellsFontsForCode();
+    void recognisesFontsForCode_data();
+    void recognisesFontsForCode();
     void measuresTheTokensFont();
 };
 
@@ -194,7 +194,7 @@ void tst_OxaFont::takesTheFallbackFamiliesWhenAsked()
     QCOMPARE(OxaFont(Token::Default, true).families(), fallbackFamilies);
 }
 
-void tst_OxaFont::losesTheMonospaceFamilyToTheFallbackFamilies()
+void tst_OxaFont::replacesTheMonospaceFamilyByTheFallbackFamilies()
 {
     const OxaFont font(Token::CodeBlocks, true);
     QCOMPARE(font.families(), fallbackFamilies);
@@ -212,7 +212,7 @@ void tst_OxaFont::takesOneFamilyUpright()
     QVERIFY(!font.italic());
 }
 
-void tst_OxaFont::takesOnlyWhatIsGivenBesideAListOfFamilies_data()
+void tst_OxaFont::setsOnlyTheAttributesThatAreGiven_data()
 {
     const QFont plain;
     const QStringList families = { QStringLiteral("Ebrima"), QStringLiteral("Courier New") };
@@ -224,17 +224,17 @@ void tst_OxaFont::takesOnlyWhatIsGivenBesideAListOfFamilies_data()
     QTest::addColumn<int>("expectedWeight");
     QTest::newRow("all three") << families << 11 << 75 << families << 11 << 75;
     QTest::newRow("no families") << QStringList() << 11 << 75 << plain.families() << 11 << 75;
-    QTest::newRow("a size of 0 is none")
+    QTest::newRow("a size of 0 is not set")
             << families << 0 << 75 << families << plain.pointSize() << 75;
-    QTest::newRow("a size of 1 is one") << families << 1 << 75 << families << 1 << 75;
-    QTest::newRow("a weight of 0 is one") << families << 11 << 0 << families << 11 << 0;
-    QTest::newRow("a weight of -1 is none")
+    QTest::newRow("a size of 1 is set") << families << 1 << 75 << families << 1 << 75;
+    QTest::newRow("a weight of 0 is set") << families << 11 << 0 << families << 11 << 0;
+    QTest::newRow("a weight of -1 is not set")
             << families << 11 << -1 << families << 11 << plain.weight();
     QTest::newRow("nothing") << QStringList() << -1 << -1 << plain.families() << plain.pointSize()
                              << plain.weight();
 }
 
-void tst_OxaFont::takesOnlyWhatIsGivenBesideAListOfFamilies()
+void tst_OxaFont::setsOnlyTheAttributesThatAreGiven()
 {
     QFETCH(const QStringList, families);
     QFETCH(const int, pointSize);
@@ -265,19 +265,19 @@ void tst_OxaFont::writesTheTextAsAParagraph_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("wrap");
     QTest::addColumn<QString>("html");
-    QTest::newRow("one that wraps")
+    QTest::newRow("wrapped")
             << QStringLiteral("a b") << true
             << QStringLiteral("<html><head/><body><p style=\"font-family: Ebrima;\">a b</p></body>"
                               "</html>");
-    QTest::newRow("one that keeps its blanks")
+    QTest::newRow("not wrapped: blanks are kept")
             << QStringLiteral("a b") << false
             << QStringLiteral("<html><head/><body><p style=\"font-family: Ebrima;white-space: "
                               "pre\">a b</p></body></html>");
-    QTest::newRow("one that is escaped")
+    QTest::newRow("escaped")
             << QStringLiteral("<\"a\" & b>") << true
             << QStringLiteral("<html><head/><body><p style=\"font-family: Ebrima;\">&lt;&quot;a"
                               "&quot; &amp; b&gt;</p></body></html>");
-    QTest::newRow("one that looks like a place in the template")
+    QTest::newRow("one that looks like a place marker")
             << QStringLiteral("%1 %2") << true
             << QStringLiteral("<html><head/><body><p style=\"font-family: Ebrima;\">%1 %2</p>"
                               "</body></html>");
@@ -317,9 +317,9 @@ void tst_OxaFont::turnsPixelsIntoPoints_data()
     QTest::addColumn<int>("pixelSize");
     QTest::addColumn<double>("pointSize");
     QTest::newRow("a whole number") << 16 << 12.0;
-    QTest::newRow("a part is kept") << 13 << 9.75;
-    QTest::newRow("none") << 0 << 0.0;
-    QTest::newRow("less than none") << -2 << -1.5;
+    QTest::newRow("a fraction is kept") << 13 << 9.75;
+    QTest::newRow("zero") << 0 << 0.0;
+    QTest::newRow("negative") << -2 << -1.5;
 }
 
 void tst_OxaFont::turnsPixelsIntoPoints()
@@ -328,7 +328,7 @@ void tst_OxaFont::turnsPixelsIntoPoints()
     QTEST(FontUtils::pixelSizeToPointSize(pixelSize), "pointSize");
 }
 
-void tst_OxaFont::tellsFontsForCode_data()
+void tst_OxaFont::recognisesFontsForCode_data()
 {
     QStringList reversed = monospace;
     std::reverse(reversed.begin(), reversed.end());
@@ -337,7 +337,7 @@ void tst_OxaFont::tellsFontsForCode_data()
     QTest::newRow("the first family") << fontWithFamily("Consolas") << true;
     QTest::newRow("the second family") << fontWithFamily("Courier New") << true;
     QTest::newRow("the generic family") << fontWithFamily("monospace") << true;
-    QTest::newRow("a family in other letters") << fontWithFamily("consolas") << false;
+    QTest::newRow("a family in another case") << fontWithFamily("consolas") << false;
     QTest::newRow("a family that is not listed") << fontWithFamily("DejaVu Sans Mono") << false;
     QTest::newRow("exactly the list") << fontWithFamilies(monospace) << true;
     QTest::newRow("a part of the list") << fontWithFamilies(monospace.mid(0, 2)) << false;
@@ -348,7 +348,7 @@ void tst_OxaFont::tellsFontsForCode_data()
     QTest::newRow("a token for text") << OxaFont(Token::Default, false) << false;
 }
 
-void tst_OxaFont::tellsFontsForCode()
+void tst_OxaFont::recognisesFontsForCode()
 {
     QFETCH(const OxaFont, font);
     QTEST(FontUtils::isMonospaceFont(font), "isMonospace");

@@ -27,7 +27,7 @@ void setType(QWidget &widget, FontType type)
 
 void scale(FontType type, Factor factor) { OxaFontManager::get()->setScalingFactor(type, factor); }
 
-/// Deletes a widget when its font changes, instead of telling it.
+/// Deletes a widget when its font changes, before the widget gets the event.
 class FontChangeDeleter : public QObject
 {
 public:
@@ -57,8 +57,8 @@ private Q_SLOTS:
     void followsTheFontsOfItsView();
     void followsOnlyTheViewThatWasSetLast_data() { addClassesWithFont(); }
     void followsOnlyTheViewThatWasSetLast();
-    void followsWithTheTokenOfThatTime_data() { addClassesWithFont(); }
-    void followsWithTheTokenOfThatTime();
+    void followsWithItsCurrentToken_data() { addClassesWithFont(); }
+    void followsWithItsCurrentToken();
     void followsAFontThatIsWrittenIntoTheTable_data() { addClassesWithFont(); }
     void followsAFontThatIsWrittenIntoTheTable();
     void stopsFollowingBackAtTheDefaultType_data() { addClassesWithFont(); }
@@ -70,7 +70,7 @@ private Q_SLOTS:
     void survivesAFontThatDeletesTheWidget();
     void keepsItsFontWhenTheTableIsDeleted();
     void takesTheFallbackFamiliesWhenAsked();
-    void fetchesTheFontAnewWhenUpdated();
+    void fetchesTheFontAgainWhenUpdated();
     void asksForNoTableOfTheDefaultType();
 
 private:
@@ -123,7 +123,7 @@ void tst_OxaFontBlock::followsOnlyTheViewThatWasSetLast()
     QCOMPARE(widget->font().pixelSize(), 14);
 }
 
-void tst_OxaFontBlock::followsWithTheTokenOfThatTime()
+void tst_OxaFontBlock::followsWithItsCurrentToken()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -161,7 +161,7 @@ void tst_OxaFontBlock::stopsFollowingBackAtTheDefaultType()
     scale(FontType::MessagingView, Factor::Large);
     setType(*widget, FontType::Default);
     scale(FontType::MessagingView, Factor::Small);
-    // It keeps the font that it had until a token is set again.
+    // It keeps its font until a token is set again.
     QCOMPARE(widget->font().pixelSize(), 26);
     setToken(*widget, Token::BodyPrimary);
     QCOMPARE(widget->font().pixelSize(), 16);
@@ -227,7 +227,7 @@ void tst_OxaFontBlock::takesTheFallbackFamiliesWhenAsked()
     QCOMPARE(widget.font(), OxaFont(Token::Title, false));
 }
 
-void tst_OxaFontBlock::fetchesTheFontAnewWhenUpdated()
+void tst_OxaFontBlock::fetchesTheFontAgainWhenUpdated()
 {
     OxaWidget widget;
     QFont font = widget.font();

@@ -21,7 +21,7 @@ private Q_SLOTS:
     void startsWithoutTables();
     void makesEachTableAtItsFirstRequest();
     void ownsItsTables();
-    void makesATableAnewThatSomebodyDeleted();
+    void makesADeletedTableAgain();
     void survivesASlotThatDeletesATable();
     void scalesOnlyTheTableOfTheType();
     void scalesATableThatNobodyHasAskedForYet();
@@ -65,7 +65,7 @@ void tst_OxaFontManager::ownsItsTables()
     QVERIFY(!table);
 }
 
-void tst_OxaFontManager::makesATableAnewThatSomebodyDeleted()
+void tst_OxaFontManager::makesADeletedTableAgain()
 {
     OxaFontManager manager;
     delete manager.getFont(FontType::MeetingView);

@@ -33,7 +33,7 @@ QFont fontOfSize(int pixelSize)
     return font;
 }
 
-/// Returns the meta-object's \a number-th property that is the class's own.
+/// Returns the property \a number of those that the class itself declares.
 QMetaProperty ownProperty(int number)
 {
     const QMetaObject &type = OxaScaledFonts::staticMetaObject;
@@ -50,8 +50,8 @@ void addFont(const char *name, Token token, int small = 0, int medium = 0, int l
     addFont(name, OxaFont(token, false), small, medium, large);
 }
 
-/// Adds a data row for each property in its order: the font that it starts with, and its sizes at
-/// the factors, where 0 means that it keeps its size.
+/// Adds a data row for each property in its order: its initial font, and its sizes at the factors,
+/// where 0 means that the size does not change.
 void addFonts()
 {
     QTest::addColumn<QFont>("initial");
@@ -95,8 +95,8 @@ class tst_OxaScaledFonts : public QObject
 
 private Q_SLOTS:
     void showsItsFontsAsPropertiesInThisOrder();
-    void letsEachFontBeWrittenAndTellsOfIt_data() { addFonts(); }
-    void letsEachFontBeWrittenAndTellsOfIt();
+    void emitsASignalForEachFontThatIsSet_data() { addFonts(); }
+    void emitsASignalForEachFontThatIsSet();
 
     void startsWithTheTokensFont_data() { addFonts(); }
     void startsWithTheTokensFont();
@@ -105,17 +105,17 @@ private Q_SLOTS:
 
     void takesTheSizesOfEachFactor_data() { addFonts(); }
     void takesTheSizesOfEachFactor();
-    void needsNoRegularStepBetweenTwoFactors_data() { addFonts(); }
-    void needsNoRegularStepBetweenTwoFactors();
+    void goesStraightFromOneFactorToAnother_data() { addFonts(); }
+    void goesStraightFromOneFactorToAnother();
     void scalesToAbsoluteSizesWhateverTheApplicationsFactor();
     void keepsFontsThatTheFactorDoesNotListAsTheyWere();
     void rebuildsAllFontsAtTheRegularFactor_data() { addFonts(); }
     void rebuildsAllFontsAtTheRegularFactor();
-    void takesTheApplicationsFactorAnewAtTheRegularFactor();
+    void readsTheApplicationsFactorAgainAtTheRegularFactor();
     void changesNoFontForAnUnknownFactor_data();
     void changesNoFontForAnUnknownFactor();
-    void tellsOfEachFactorOnceEvenOfTheSame_data();
-    void tellsOfEachFactorOnceEvenOfTheSame();
+    void emitsASignalForEachFactorEvenTheSame_data();
+    void emitsASignalForEachFactorEvenTheSame();
 
     void givesATokenItsFont_data();
     void givesATokenItsFont();
@@ -137,7 +137,7 @@ void tst_OxaScaledFonts::showsItsFontsAsPropertiesInThisOrder()
                      "CodeBlocks Default H4 H5 H6"));
 }
 
-void tst_OxaScaledFonts::letsEachFontBeWrittenAndTellsOfIt()
+void tst_OxaScaledFonts::emitsASignalForEachFontThatIsSet()
 {
     const char *name = QTest::currentDataTag();
     OxaScaledFonts fonts;
@@ -196,7 +196,7 @@ void tst_OxaScaledFonts::takesTheSizesOfEachFactor()
     }
 }
 
-void tst_OxaScaledFonts::needsNoRegularStepBetweenTwoFactors()
+void tst_OxaScaledFonts::goesStraightFromOneFactorToAnother()
 {
     OxaScaledFonts fonts;
     fonts.setScalingFactor(Factor::Medium);
@@ -238,7 +238,7 @@ void tst_OxaScaledFonts::rebuildsAllFontsAtTheRegularFactor()
     QTEST(fontOf(fonts, name), "initial");
 }
 
-void tst_OxaScaledFonts::takesTheApplicationsFactorAnewAtTheRegularFactor()
+void tst_OxaScaledFonts::readsTheApplicationsFactorAgainAtTheRegularFactor()
 {
     OxaScaledFonts fonts;
     fonts.setScalingFactor(Factor::Small);
@@ -268,7 +268,7 @@ void tst_OxaScaledFonts::changesNoFontForAnUnknownFactor()
         QCOMPARE(ownProperty(i).read(&fonts).value<QFont>(), fontOfSize(100 + i));
 }
 
-void tst_OxaScaledFonts::tellsOfEachFactorOnceEvenOfTheSame_data()
+void tst_OxaScaledFonts::emitsASignalForEachFactorEvenTheSame_data()
 {
     QTest::addColumn<Factor>("factor");
     QTest::newRow("Small") << Factor::Small;
@@ -277,7 +277,7 @@ void tst_OxaScaledFonts::tellsOfEachFactorOnceEvenOfTheSame_data()
     QTest::newRow("Large") << Factor::Large;
 }
 
-void tst_OxaScaledFonts::tellsOfEachFactorOnceEvenOfTheSame()
+void tst_OxaScaledFonts::emitsASignalForEachFactorEvenTheSame()
 {
     QFETCH(const Factor, factor);
     OxaScaledFonts fonts;
@@ -325,7 +325,7 @@ void tst_OxaScaledFonts::givesATokenItsFont()
 {
     QFETCH(const int, token);
     QFETCH(const QByteArray, property);
-    // Fonts that differ: many properties start with the same one.
+    // Different fonts, since many properties start with the same one.
     OxaScaledFonts fonts;
     for (int i = 0; i < 26; ++i)
         ownProperty(i).write(&fonts, fontOfSize(100 + i));

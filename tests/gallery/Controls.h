@@ -4,7 +4,7 @@
 #include <widgets/Buttons.h>
 #include <widgets/SegmentedControl.h>
 
-/// Finds and uses the controls of a card as a user does: by what they are called.
+/// Finds and uses the controls of a card by their names, as a user does.
 namespace Controls {
 
 /// Returns the child of \a parent with \a name as its accessible name, or null.

@@ -66,10 +66,10 @@ private Q_SLOTS:
     void namesTheSameSetsInEachAppearance();
     void definesWhatTheLibraryAsksFor();
     void hasAPaletteOfColorsAndAliases();
-    void tellsWhyADocumentIsOfNoUse_data();
-    void tellsWhyADocumentIsOfNoUse();
+    void reportsWhyADocumentIsUnusable_data();
+    void reportsWhyADocumentIsUnusable();
     void showsAUsersLightSetsInHighContrast();
-    void addsMissingFurnitureOnly();
+    void addsOnlyTheGallerysSetsThatAreMissing();
 
 private:
     QString write(const QString &name, const QByteArray &text) const;
@@ -114,7 +114,7 @@ void tst_ColorDocuments::hasAPaletteOfColorsAndAliases()
     QVERIFY(countColors(true) >= 1);
 }
 
-void tst_ColorDocuments::tellsWhyADocumentIsOfNoUse_data()
+void tst_ColorDocuments::reportsWhyADocumentIsUnusable_data()
 {
     QTest::addColumn<QByteArray>("palette");
     QTest::addColumn<QByteArray>("sets");
@@ -123,8 +123,8 @@ void tst_ColorDocuments::tellsWhyADocumentIsOfNoUse_data()
     const QByteArray palette = R"({"colors":[{"variations":[
         {"name":"a","rgba":{"r":1,"g":2,"b":3,"a":1}}]}]})";
     const QByteArray sets = R"({"tokens":{"s":{"normal":"a"}}})";
-    QTest::newRow("a palette that is no JSON") << QByteArray("colours") << sets << "palette.json"
-                                               << "it holds no JSON object";
+    QTest::newRow("a palette that is not JSON") << QByteArray("colours") << sets << "palette.json"
+                                                << "it holds no JSON object";
     QTest::newRow("a palette without colours")
             << QByteArray(R"({"colours":[]})") << sets << "palette.json"
             << "it defines nothing";
@@ -138,7 +138,7 @@ void tst_ColorDocuments::tellsWhyADocumentIsOfNoUse_data()
             << R"(Unable to parse ColorSet: "s")";
 }
 
-void tst_ColorDocuments::tellsWhyADocumentIsOfNoUse()
+void tst_ColorDocuments::reportsWhyADocumentIsUnusable()
 {
     QFETCH(const QByteArray, palette);
     QFETCH(const QByteArray, sets);
@@ -161,7 +161,7 @@ void tst_ColorDocuments::showsAUsersLightSetsInHighContrast()
     QCOMPARE(paths.highContrast, QStringLiteral("sets"));
 }
 
-void tst_ColorDocuments::addsMissingFurnitureOnly()
+void tst_ColorDocuments::addsOnlyTheGallerysSetsThatAreMissing()
 {
     const OxaColorSet own(QStringLiteral("gallery-divider"), Qt::red);
     ColorDocuments documents;

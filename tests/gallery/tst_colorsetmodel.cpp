@@ -43,7 +43,7 @@ private Q_SLOTS:
     void filters_data();
     void filters();
     void keepsTheFilterForOtherSets();
-    void letsHeadingsAlone();
+    void disablesHeadings();
 };
 
 void tst_ColorSetModel::groupsAndSortsSets()
@@ -54,7 +54,7 @@ void tst_ColorSetModel::groupsAndSortsSets()
     QCOMPARE(rowsOf(model), QString());
     model.setColorSets(someSets());
     QCOMPARE(rowsOf(model),
-             QStringLiteral("[Asked for by the library (2)]\nbadge-background\ntext-primary\n"
+             QStringLiteral("[Used by the library (2)]\nbadge-background\ntext-primary\n"
                             "[The gallery's own (1)]\ngallery-accent"));
     QCOMPARE(model.colorSetCount(), 3);
 }
@@ -83,11 +83,11 @@ void tst_ColorSetModel::filters_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("rows");
-    const QString badge = QStringLiteral("[Asked for by the library (1)]\nbadge-background");
+    const QString badge = QStringLiteral("[Used by the library (1)]\nbadge-background");
     QTest::newRow("by a part of a name") << "back" << badge;
     QTest::newRow("in any case, without blanks around") << " BADGE " << badge;
     QTest::newRow("by a colour of any state") << "#00FF00" << badge;
-    QTest::newRow("to nothing") << "no such set" << QString();
+    QTest::newRow("no match") << "no such set" << QString();
 }
 
 void tst_ColorSetModel::filters()
@@ -108,7 +108,7 @@ void tst_ColorSetModel::keepsTheFilterForOtherSets()
     QCOMPARE(model.colorSetCount(), 1);
 }
 
-void tst_ColorSetModel::letsHeadingsAlone()
+void tst_ColorSetModel::disablesHeadings()
 {
     ColorSetModel model;
     model.setColorSets(someSets());

@@ -42,7 +42,7 @@ struct Panel
 
 } // namespace
 
-/// ColumnsLayout: where it puts cards, and how high it is.
+/// ColumnsLayout: the positions of cards, and its height.
 class tst_ColumnsLayout : public QObject
 {
     Q_OBJECT
@@ -60,22 +60,22 @@ void tst_ColumnsLayout::placesCardsInColumns_data()
     QTest::addColumn<Qt::LayoutDirection>("direction");
     QTest::addColumn<QSize>("size");
     QTest::addColumn<QVector<QRect>>("rects");
-    QTest::newRow("two, where there is just enough room for the wider card twice")
+    QTest::newRow("two columns, in just enough room for the wider card twice")
             << Qt::LeftToRight << QSize(210, 180)
             << QVector<QRect> {
                    { 0, 0, 100, 60 }, { 110, 0, 100, 60 }, { 0, 80, 210, 30 }, { 0, 130, 100, 50 }
                };
-    QTest::newRow("one, in a pixel less")
+    QTest::newRow("one column, in a pixel less")
             << Qt::LeftToRight << QSize(209, 240)
             << QVector<QRect> {
                    { 0, 0, 209, 40 }, { 0, 60, 209, 60 }, { 0, 140, 209, 30 }, { 0, 190, 209, 50 }
                };
-    QTest::newRow("two from the right")
+    QTest::newRow("two columns from the right")
             << Qt::RightToLeft << QSize(310, 180)
             << QVector<QRect> {
                    { 160, 0, 150, 60 }, { 0, 0, 150, 60 }, { 0, 80, 310, 30 }, { 160, 130, 150, 50 }
                };
-    QTest::newRow("two, of which the last row takes the height that is left")
+    QTest::newRow("two columns, where the last row takes the remaining height")
             << Qt::LeftToRight << QSize(210, 200)
             << QVector<QRect> {
                    { 0, 0, 100, 60 }, { 110, 0, 100, 60 }, { 0, 80, 210, 30 }, { 0, 130, 100, 70 }

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// What a run of the gallery left.
+/// The result of a run of the gallery.
 struct Run
 {
     int exitCode = -1;
@@ -38,7 +38,7 @@ QStringList linesOf(const QString &text)
 
 } // namespace
 
-/// The program, as one starts it from a shell.
+/// The program as it is started from a shell.
 class tst_CommandLine : public QObject
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ private Q_SLOTS:
     void failsForAnUnknownPage();
     void takesPicturesOfEveryPageInEveryLook();
     void takesPicturesOfOnePageAlone();
-    void failsForAFolderThatCannotBe();
+    void failsForAFolderThatCannotBeMade();
 };
 
 void tst_CommandLine::printsHelp()
@@ -121,7 +121,7 @@ void tst_CommandLine::takesPicturesOfEveryPageInEveryLook()
              QSize(1200, 800));
     QCOMPARE(QImage(pictures.filePath(QStringLiteral("colours-high-contrast-rtl@2x.png"))).size(),
              QSize(2400, 1600));
-    // A page that scrolls in a window of that size is there as a whole.
+    // The picture shows the whole page, even if it would scroll in a window of that size.
     const QSize whole = QImage(pictures.filePath(QStringLiteral("svg-widgets-light-ltr@1x.png")))
                                 .size();
     QCOMPARE(whole.width(), 1200);
@@ -141,7 +141,7 @@ void tst_CommandLine::takesPicturesOfOnePageAlone()
     QCOMPARE(all.filter(QStringLiteral("labels-")), all);
 }
 
-void tst_CommandLine::failsForAFolderThatCannotBe()
+void tst_CommandLine::failsForAFolderThatCannotBeMade()
 {
     QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("file")));

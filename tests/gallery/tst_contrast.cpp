@@ -28,13 +28,13 @@ QJsonArray contrastPairs()
     return QJsonDocument::fromJson(file.readAll()).array();
 }
 
-/// Returns \a top as it looks on the opaque colour \a ground.
-QColor composed(const QColor &top, const QColor &ground)
+/// Returns \a top as it looks on the opaque colour \a background.
+QColor composed(const QColor &top, const QColor &background)
 {
     const qreal alpha = top.alphaF();
-    return QColor::fromRgbF(top.redF() * alpha + ground.redF() * (1 - alpha),
-                            top.greenF() * alpha + ground.greenF() * (1 - alpha),
-                            top.blueF() * alpha + ground.blueF() * (1 - alpha));
+    return QColor::fromRgbF(top.redF() * alpha + background.redF() * (1 - alpha),
+                            top.greenF() * alpha + background.greenF() * (1 - alpha),
+                            top.blueF() * alpha + background.blueF() * (1 - alpha));
 }
 
 qreal linear(qreal channel)
@@ -55,7 +55,7 @@ qreal contrast(const QColor &a, const QColor &b)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-/// The states of a pair that are to be readable: those that it names, else all but disabled.
+/// The states of a pair that must be readable: those that it names, or all except disabled.
 QStringList statesOf(const QJsonObject &pair)
 {
     if (!pair.contains(QLatin1String("states"))) {
@@ -65,8 +65,8 @@ QStringList statesOf(const QJsonObject &pair)
     return pair.value(QLatin1String("states")).toVariant().toStringList();
 }
 
-/// Returns a line for each state of \a pair whose contrast, or the one that it asks for itself, in
-/// \a sets is below \a wanted.
+/// Returns a line for each state of \a pair whose contrast in \a sets is below \a wanted, or below
+/// the contrast that the pair gives itself.
 QStringList shortfalls(const OxaColorSetMap &sets, const QJsonObject &pair, qreal wanted)
 {
     const QString text = pair.value(QLatin1String("text")).toString();

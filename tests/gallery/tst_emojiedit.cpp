@@ -14,13 +14,13 @@ const QString wave = QStringLiteral("\U0001F44B\U0001F3FD");
 const QString party = QStringLiteral("\U0001F389");
 const QString alien = QStringLiteral("\U0001F47D");
 
-/// Returns how many pictures stand in \a edit.
+/// Returns how many pictures \a edit has.
 int pictureCount(const EmojiEdit &edit)
 {
     return edit.toPlainText().count(QChar(QChar::ObjectReplacementCharacter));
 }
 
-/// Returns how many of the pictures in \a edit there is an image for.
+/// Returns how many of the pictures in \a edit have an image.
 int loadedCount(const EmojiEdit &edit)
 {
     int count = 0;
@@ -35,7 +35,7 @@ int loadedCount(const EmojiEdit &edit)
 
 } // namespace
 
-/// EmojiEdit: what it shows, and what it gives back.
+/// EmojiEdit: what it shows, and the text that it returns.
 class tst_EmojiEdit : public QObject
 {
     Q_OBJECT
@@ -44,9 +44,9 @@ private Q_SLOTS:
     void givesTextsBackAsTheyWere_data();
     void givesTextsBackAsTheyWere();
     void showsArtworkForWhatIsInserted();
-    void writesOnAfterAPicture();
+    void continuesAfterAPicture();
     void copiesCharacters();
-    void tellsOnceOfAChange();
+    void emitsOneSignalForAChange();
 };
 
 void tst_EmojiEdit::givesTextsBackAsTheyWere_data()
@@ -86,7 +86,7 @@ void tst_EmojiEdit::showsArtworkForWhatIsInserted()
     QCOMPARE(edit.text(), QStringLiteral("a%1%2b").arg(wave, party));
 }
 
-void tst_EmojiEdit::writesOnAfterAPicture()
+void tst_EmojiEdit::continuesAfterAPicture()
 {
     EmojiEdit edit;
     edit.insertPlainText(party);
@@ -109,7 +109,7 @@ void tst_EmojiEdit::copiesCharacters()
     QCOMPARE(pictureCount(other), 1);
 }
 
-void tst_EmojiEdit::tellsOnceOfAChange()
+void tst_EmojiEdit::emitsOneSignalForAChange()
 {
     EmojiEdit edit;
     QSignalSpy spy(&edit, &QTextEdit::textChanged);

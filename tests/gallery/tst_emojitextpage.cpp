@@ -58,7 +58,7 @@ private Q_SLOTS:
     void passesOverFilesOfOtherNames();
     void showsTheChosenKind();
     void putsChosenArtworkIntoThePlayground();
-    void tellsHowEmojiAreShown();
+    void saysHowEmojiAreShown();
     void analysesWhatIsTyped();
     void countsAReactionOnceAndTakesItBack();
     void givesMessagesTheHeightOfTheirLines();
@@ -159,7 +159,7 @@ void tst_EmojiTextPage::putsChosenArtworkIntoThePlayground()
     QCOMPARE(text->text(), first.data(ArtworkModel::EmojiRole).toString());
 }
 
-void tst_EmojiTextPage::tellsHowEmojiAreShown()
+void tst_EmojiTextPage::saysHowEmojiAreShown()
 {
     const PlaygroundCard card;
     const auto isTold = [&card](const char *state) {
@@ -170,7 +170,7 @@ void tst_EmojiTextPage::tellsHowEmojiAreShown()
     };
     QVERIFY(isTold("Emoji are drawn from artwork."));
     choose(card, "Selectable");
-    QVERIFY(isTold("Emoji go out in the font."));
+    QVERIFY(isTold("Emoji are drawn by the font."));
     QVERIFY(!card.findChild<PlaygroundLabel *>()->shouldDrawSvgEmojis());
     choose(card, "Fixed");
     QVERIFY(isTold("Emoji are drawn from artwork."));

@@ -17,8 +17,8 @@
 
 namespace {
 
-/// The page in a window with a button in front of it. It asks for no least size: the platform
-/// cannot keep one.
+/// The page in a window with a button before it. The window sets no minimum size, which the
+/// platform does not enforce.
 struct Shown
 {
     Shown()
@@ -74,16 +74,16 @@ private Q_SLOTS:
 
     void listsTheTabOrderOfTheWholeWindow();
     void followsTheOrderOfTheCompoundWidget();
-    void followsWhatBecomesOfAButton_data();
-    void followsWhatBecomesOfAButton();
+    void followsTheStateOfAButton_data();
+    void followsTheStateOfAButton();
     void marksWhatHasTheFocus();
     void drawsOverTheWindow();
     void takesNoClicks();
-    void goesWithThePage();
+    void hidesTheOverlayWithThePage();
     void describesWidgets_data();
     void describesWidgets();
-    void tellsOnceOfWhatChangesInOneTurn();
-    void tellsNothingOfOtherWindows();
+    void emitsOneSignalForEachTurnOfTheEventLoop();
+    void ignoresOtherWindows();
 
 private:
     std::unique_ptr<QWidget> m_described; ///< The parent of the rows' widgets.
@@ -113,7 +113,7 @@ void tst_FocusPage::followsTheOrderOfTheCompoundWidget()
              QStringLiteral("Outside First Ada Ben Cleo Dev Eva Finn Last Invite"));
 }
 
-void tst_FocusPage::followsWhatBecomesOfAButton_data()
+void tst_FocusPage::followsTheStateOfAButton_data()
 {
     QTest::addColumn<QString>("state");
     QTest::addColumn<bool>("isListed");
@@ -123,7 +123,7 @@ void tst_FocusPage::followsWhatBecomesOfAButton_data()
     QTest::newRow("takes it by Tab") << QStringLiteral("Tab") << true;
 }
 
-void tst_FocusPage::followsWhatBecomesOfAButton()
+void tst_FocusPage::followsTheStateOfAButton()
 {
     QFETCH(const QString, state);
     Shown shown;
@@ -167,7 +167,7 @@ void tst_FocusPage::takesNoClicks()
     QVERIFY(std::find(stops.begin(), stops.end(), shown.overlay()) == stops.end());
 }
 
-void tst_FocusPage::goesWithThePage()
+void tst_FocusPage::hidesTheOverlayWithThePage()
 {
     Shown shown;
     shown.page.hide();
@@ -203,7 +203,7 @@ void tst_FocusPage::describesWidgets()
     QTEST(TabOrder::describe(*widget), "text");
 }
 
-void tst_FocusPage::tellsOnceOfWhatChangesInOneTurn()
+void tst_FocusPage::emitsOneSignalForEachTurnOfTheEventLoop()
 {
     QWidget window;
     auto *child = new QWidget(&window);
@@ -219,7 +219,7 @@ void tst_FocusPage::tellsOnceOfWhatChangesInOneTurn()
     QTRY_COMPARE(changed.size(), 1);
 }
 
-void tst_FocusPage::tellsNothingOfOtherWindows()
+void tst_FocusPage::ignoresOtherWindows()
 {
     QWidget window;
     QWidget other;

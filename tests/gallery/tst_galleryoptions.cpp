@@ -26,16 +26,16 @@ class tst_GalleryOptions : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void tellsTheTask_data();
-    void tellsTheTask();
+    void readsTheTask_data();
+    void readsTheTask();
     void opensTheFirstPageUnlessToldOtherwise();
     void takesAUsersDocuments();
     void takesAFolderOfPictures();
-    void tellsWhatIsWrong_data();
-    void tellsWhatIsWrong();
+    void reportsErrors_data();
+    void reportsErrors();
 };
 
-void tst_GalleryOptions::tellsTheTask_data()
+void tst_GalleryOptions::readsTheTask_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<Task>("task");
@@ -47,7 +47,7 @@ void tst_GalleryOptions::tellsTheTask_data()
     QTest::newRow("the version") << "--version" << Task::PrintHelp;
 }
 
-void tst_GalleryOptions::tellsTheTask()
+void tst_GalleryOptions::readsTheTask()
 {
     QFETCH(const QString, arguments);
     QFETCH(const Task, task);
@@ -77,7 +77,7 @@ void tst_GalleryOptions::takesAFolderOfPictures()
     QCOMPARE(parse(QStringLiteral("--artwork ") + folder).artworkFolder, folder);
 }
 
-void tst_GalleryOptions::tellsWhatIsWrong_data()
+void tst_GalleryOptions::reportsErrors_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("message");
@@ -95,7 +95,7 @@ void tst_GalleryOptions::tellsWhatIsWrong_data()
                                  << "unexpected argument labels";
 }
 
-void tst_GalleryOptions::tellsWhatIsWrong()
+void tst_GalleryOptions::reportsErrors()
 {
     QFETCH(const QString, arguments);
     QFETCH(const QString, message);

@@ -29,7 +29,7 @@ std::unique_ptr<GalleryWindow> makeWindow()
     return window;
 }
 
-/// A window that is shown at its smallest size, where nobody sees it.
+/// A window that is shown off screen at its smallest size.
 struct ShownWindow : GalleryWindow
 {
     ShownWindow()
@@ -86,8 +86,8 @@ private Q_SLOTS:
     void stylesEveryScrollBar();
     void bringsTheCurrentPageIntoSight();
     void ignoresAnUnknownPage();
-    void stopsInTheOrderOfSight_data();
-    void stopsInTheOrderOfSight();
+    void stopsInTheOrderOnScreen_data();
+    void stopsInTheOrderOnScreen();
     void namesWhateverTakesTheFocus_data();
     void namesWhateverTakesTheFocus();
 
@@ -264,7 +264,7 @@ void tst_GalleryWindow::ignoresAnUnknownPage()
     QCOMPARE(window.findChild<PageStack *>()->count(), 1);
 }
 
-void tst_GalleryWindow::stopsInTheOrderOfSight_data()
+void tst_GalleryWindow::stopsInTheOrderOnScreen_data()
 {
     QTest::addColumn<QString>("page");
     QTest::addColumn<QString>("names");
@@ -277,7 +277,7 @@ void tst_GalleryWindow::stopsInTheOrderOfSight_data()
                                              "About the icon");
 }
 
-void tst_GalleryWindow::stopsInTheOrderOfSight()
+void tst_GalleryWindow::stopsInTheOrderOnScreen()
 {
     QFETCH(const QString, page);
     ShownWindow window;

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The gallery's window, shown and active, with the focus on the first thing that Tab stops at.
+/// The gallery's window, shown and active, with the focus on the first stop of Tab.
 class Shown
 {
 public:
@@ -31,7 +31,7 @@ public:
         const QWidget *before = window.focusWidget();
         if (!RealInput::typeKeys({ QString::fromLatin1(name) }))
             return nullptr;
-        // What does not move the focus is told by the caller's comparison.
+        // The caller compares, and so notices a focus that did not move.
         if (!QTest::qWaitFor([this, before] { return window.focusWidget() != before; }, 2000))
             qInfo("%s left the focus where it was", name);
         return window.focusWidget();

@@ -41,27 +41,27 @@ QString exception(const char *name)
 
 } // namespace
 
-/// IconDiagnosis: what becomes of an SVG file, and why.
+/// IconDiagnosis: how an SVG file is painted, and why.
 class tst_IconDiagnosis : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void tellsWhatOneSees_data();
-    void tellsWhatOneSees();
+    void saysHowAnIconIsPainted_data();
+    void saysHowAnIconIsPainted();
     void isRightAboutWhatTheLibraryPaints_data();
     void isRightAboutWhatTheLibraryPaints();
-    void tellsWhy_data();
-    void tellsWhy();
-    void advisesThoseWhoWantTheColour();
+    void saysWhy_data();
+    void saysWhy();
+    void advisesHowToTakeTheColour();
     void quotesQtAboutAFileThatIsMissing();
-    void findsNothingAmissWithTheGallerysIcons();
+    void findsNoFaultInTheGallerysIcons();
 
 private:
     const SvgFiles m_files;
 };
 
-void tst_IconDiagnosis::tellsWhatOneSees_data()
+void tst_IconDiagnosis::saysHowAnIconIsPainted_data()
 {
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<Outcome>("outcome");
@@ -72,20 +72,20 @@ void tst_IconDiagnosis::tellsWhatOneSees_data()
     QTest::newRow("one shape with a fill") << filledShape << Outcome::KeepsColors << Painter::Node;
     QTest::newRow("one of two shapes in a group with a fill")
             << "<g>" + shape + filledShape + "</g>" << Outcome::TakesSome << Painter::Node;
-    QTest::newRow("one shape that turns") << turningShape << Outcome::TakesColor << Painter::Node;
+    QTest::newRow("one rotating shape") << turningShape << Outcome::TakesColor << Painter::Node;
     QTest::newRow("two shapes") << shape + shape << Outcome::KeepsColors << Painter::Renderer;
     QTest::newRow("definitions beside a shape")
             << "<defs/>" + shape << Outcome::KeepsColors << Painter::Renderer;
-    QTest::newRow("two shapes of which one turns")
+    QTest::newRow("two shapes, one of them rotating")
             << shape + turningShape << Outcome::Animated << Painter::Renderer;
     QTest::newRow("no node") << QByteArray() << Outcome::PaintsNothing << Painter::Renderer;
     QTest::newRow("definitions alone") << QByteArray("<defs><path d='M0 0H16V16H0Z'/></defs>")
                                        << Outcome::PaintsNothing << Painter::Node;
-    QTest::newRow("a cut-off file")
+    QTest::newRow("a truncated file")
             << QByteArray("<path d='M0") << Outcome::Unreadable << Painter::Nothing;
 }
 
-void tst_IconDiagnosis::tellsWhatOneSees()
+void tst_IconDiagnosis::saysHowAnIconIsPainted()
 {
     QFETCH(const QByteArray, body);
     const IconDiagnosis diagnosis = IconDiagnosis::of(
@@ -98,7 +98,7 @@ void tst_IconDiagnosis::isRightAboutWhatTheLibraryPaints_data()
 {
     QTest::addColumn<IconFile>("file");
     for (const IconFile &file : IconFiles::exceptions()) {
-        // It has nothing to paint, and the library would warn of it.
+        // It paints nothing, and the library would warn.
         if (file.name != QLatin1String("cut-off"))
             QTest::newRow(qPrintable(file.name)) << file;
     }
@@ -115,14 +115,14 @@ void tst_IconDiagnosis::isRightAboutWhatTheLibraryPaints()
     QCOMPARE(renderer.isAnimated(), diagnosis.outcome == Outcome::Animated);
 }
 
-void tst_IconDiagnosis::tellsWhy_data()
+void tst_IconDiagnosis::saysWhy_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("reason");
     QTest::newRow("a fill of its own") << exception("own-fill")
                                        << "Its one top-level node, <path>, is painted directly, "
-                                          "but it brings a fill or stroke "
-                                          "of its own, which beats the state's colour.";
+                                          "but it has a fill or stroke "
+                                          "of its own, which overrides the state's colour.";
     QTest::newRow("definitions beside a shape")
             << exception("gradient")
             << "It has 2 top-level nodes: <defs>, <path>. Only a single one can be painted in the "
@@ -134,20 +134,20 @@ void tst_IconDiagnosis::tellsWhy_data()
     QTest::newRow("an animation of one node") << exception("standing-still")
                                               << "Its one top-level node, <path>, is painted "
                                                  "directly, with the state's colour as the "
-                                                 "brush. Its animation stands still.";
-    QTest::newRow("a cut-off file")
+                                                 "brush. Its animation is not shown.";
+    QTest::newRow("a truncated file")
             << exception("cut-off")
             << "Qt cannot read it, and says: Cannot read file ':/exceptions/cut-off.svg', because: "
                "Premature end of document. (line 3)";
 }
 
-void tst_IconDiagnosis::tellsWhy()
+void tst_IconDiagnosis::saysWhy()
 {
     QFETCH(const QString, path);
     QTEST(IconDiagnosis::of(path).reason, "reason");
 }
 
-void tst_IconDiagnosis::advisesThoseWhoWantTheColour()
+void tst_IconDiagnosis::advisesHowToTakeTheColour()
 {
     QVERIFY(IconDiagnosis::of(exception("outline")).advice.isEmpty());
     QVERIFY(!IconDiagnosis::of(exception("own-fill")).advice.isEmpty());
@@ -166,7 +166,7 @@ void tst_IconDiagnosis::quotesQtAboutAFileThatIsMissing()
                      .arg(path));
 }
 
-void tst_IconDiagnosis::findsNothingAmissWithTheGallerysIcons()
+void tst_IconDiagnosis::findsNoFaultInTheGallerysIcons()
 {
     QStringList others;
     for (const IconFile &file : IconFiles::ofGallery()) {

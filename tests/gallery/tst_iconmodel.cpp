@@ -33,10 +33,10 @@ private Q_SLOTS:
     void findsNamesByAPartOfThem();
     void listsByOutcome_data();
     void listsByOutcome();
-    void looksIntoAllFilesByAndBy();
-    void looksIntoAFileThatIsAskedFor();
-    void growsAsFilesAreFoundOut();
-    void countsAnewForOtherFiles();
+    void diagnosesAllFilesWhenIdle();
+    void diagnosesAFileWhenAsked();
+    void growsAsFilesAreDiagnosed();
+    void countsAgainForOtherFiles();
     void namesItsColumns();
 
 private:
@@ -74,8 +74,8 @@ void tst_IconModel::findsNamesByAPartOfThem_data()
     QTest::addColumn<QString>("found");
     QTest::newRow("in any case") << "ARROW"
                                  << "arrow-left Arrow-right";
-    QTest::newRow("with space around") << " bell  "
-                                       << "bell";
+    QTest::newRow("with spaces around") << " bell  "
+                                        << "bell";
     QTest::newRow("nothing") << "window"
                              << "";
     QTest::newRow("all") << ""
@@ -96,8 +96,8 @@ void tst_IconModel::listsByOutcome_data()
     QTest::addColumn<int>("shown");
     QTest::addColumn<QString>("found");
     QTest::newRow("all") << int(Shown::All) << "arrow-left Arrow-right bell";
-    QTest::newRow("those that take the colour") << int(Shown::Taking) << "arrow-left bell";
-    QTest::newRow("the others") << int(Shown::Others) << "Arrow-right";
+    QTest::newRow("files that take the colour") << int(Shown::Taking) << "arrow-left bell";
+    QTest::newRow("files that do not") << int(Shown::Others) << "Arrow-right";
 }
 
 void tst_IconModel::listsByOutcome()
@@ -110,7 +110,7 @@ void tst_IconModel::listsByOutcome()
     QTEST(names(model), "found");
 }
 
-void tst_IconModel::looksIntoAllFilesByAndBy()
+void tst_IconModel::diagnosesAllFilesWhenIdle()
 {
     IconModel model;
     const QSignalSpy surveyed(&model, &IconModel::surveyed);
@@ -121,7 +121,7 @@ void tst_IconModel::looksIntoAllFilesByAndBy()
     QVERIFY(surveyed.count() > 1);
 }
 
-void tst_IconModel::looksIntoAFileThatIsAskedFor()
+void tst_IconModel::diagnosesAFileWhenAsked()
 {
     IconModel model;
     model.setFiles(many(4000));
@@ -129,7 +129,7 @@ void tst_IconModel::looksIntoAFileThatIsAskedFor()
     QVERIFY(model.surveyedCount() < 4000);
 }
 
-void tst_IconModel::growsAsFilesAreFoundOut()
+void tst_IconModel::growsAsFilesAreDiagnosed()
 {
     IconModel model;
     model.setShown(Shown::Taking);
@@ -141,7 +141,7 @@ void tst_IconModel::growsAsFilesAreFoundOut()
     QCOMPARE(inserted.count(), 4000 - early);
 }
 
-void tst_IconModel::countsAnewForOtherFiles()
+void tst_IconModel::countsAgainForOtherFiles()
 {
     IconModel model;
     model.setFiles(many(10));

@@ -19,7 +19,7 @@
 
 namespace {
 
-/// A page that is shown, with what one handles it by.
+/// A shown page, and functions to use it.
 class Pane
 {
 public:
@@ -41,7 +41,7 @@ public:
         QFAIL(text);
     }
 
-    /// Returns whether \a text is in sight in some label.
+    /// Returns whether a visible label contains \a text.
     bool tells(const char *text) const
     {
         const auto labels = page.findChildren<OxaLabel *>();
@@ -59,11 +59,11 @@ public:
     IconTable &table() const { return *page.findChild<IconTable *>(); }
     int rowCount() const { return table().model()->rowCount(); }
 
-    QWidget window; // One that asks for no least size: the platform cannot keep one.
+    QWidget window; // Has no minimum size, which the platform does not enforce.
     IconsPage &page = *new IconsPage(&window);
 };
 
-/// A model that knows of which rows the names were asked for.
+/// A model that records for which rows names are read.
 class WatchedModel : public IconModel
 {
 public:
@@ -86,13 +86,13 @@ class tst_IconsPage : public QObject
 
 private Q_SLOTS:
     void cleanup();
-    void tellsAboutTheFirstIcon();
-    void tellsAboutTheIconThatIsChosen();
+    void describesTheFirstIcon();
+    void describesTheChosenIcon();
     void showsTheColourOfTheStateThatIsChosen();
     void showsNoPictureOfAFileThatCannotBeRead();
-    void tellsHowManyTakeTheColour();
-    void listsThoseThatDoNot();
-    void tellsWhenNothingMatches();
+    void countsIconsThatTakeTheColour();
+    void listsIconsThatDoNotTakeTheColour();
+    void saysWhenNothingMatches();
     void offersToLookAgainForAnIconPack();
     void showsTheFilesOfAnIconPack();
     void paintsIconsInTheColoursOfTheSet();
@@ -104,7 +104,7 @@ private:
 
 void tst_IconsPage::cleanup() { GalleryApplication::get()->setArtworkFolder(m_artworkFolder); }
 
-void tst_IconsPage::tellsAboutTheFirstIcon()
+void tst_IconsPage::describesTheFirstIcon()
 {
     const Pane pane;
     QTRY_VERIFY(pane.tells("arrow-down_8"));
@@ -112,7 +112,7 @@ void tst_IconsPage::tellsAboutTheFirstIcon()
     QTRY_VERIFY(pane.tells("Its one top-level node, <path>, is painted directly"));
 }
 
-void tst_IconsPage::tellsAboutTheIconThatIsChosen()
+void tst_IconsPage::describesTheChosenIcon()
 {
     const Pane pane;
     pane.press("Exceptions");
@@ -147,7 +147,7 @@ void tst_IconsPage::showsNoPictureOfAFileThatCannotBeRead()
     QVERIFY(matrix->isVisible());
 }
 
-void tst_IconsPage::tellsHowManyTakeTheColour()
+void tst_IconsPage::countsIconsThatTakeTheColour()
 {
     const Pane pane;
     QTRY_VERIFY(pane.tells("47 of 47 take the colour"));
@@ -155,7 +155,7 @@ void tst_IconsPage::tellsHowManyTakeTheColour()
     QTRY_VERIFY(pane.tells("2 of 10 take the colour"));
 }
 
-void tst_IconsPage::listsThoseThatDoNot()
+void tst_IconsPage::listsIconsThatDoNotTakeTheColour()
 {
     const Pane pane;
     pane.press("Exceptions");
@@ -166,7 +166,7 @@ void tst_IconsPage::listsThoseThatDoNot()
     QTRY_VERIFY(pane.tells("outline"));
 }
 
-void tst_IconsPage::tellsWhenNothingMatches()
+void tst_IconsPage::saysWhenNothingMatches()
 {
     const Pane pane;
     auto *search = pane.page.findChild<LineEdit *>();
@@ -178,7 +178,7 @@ void tst_IconsPage::tellsWhenNothingMatches()
     pane.press("Clear the search");
     QVERIFY(search->text().isEmpty());
     QVERIFY(pane.table().isVisible());
-    // Nobody but itself owns the button's fading while it runs.
+    // The button's fading owns itself: it must end before the test does.
     QTRY_COMPARE(clearButton->property("opacity").toReal(), 0.0);
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr QRect itemRect(0, 0, 120, 40);
 
-/// A delegate that paints what all of them have, in the colours of the gallery.
+/// A delegate that paints the common parts of items, in the colours of the gallery.
 class PlainDelegate : public ItemDelegate
 {
 public:
@@ -50,34 +50,34 @@ public:
 
 } // namespace
 
-/// ItemDelegate: what all items have in common.
+/// ItemDelegate: the common parts of items.
 class tst_ItemDelegate : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void paintsTheGroundOfItsState_data();
-    void paintsTheGroundOfItsState();
+    void paintsTheBackgroundOfItsState_data();
+    void paintsTheBackgroundOfItsState();
     void drawsALineBelowItself();
     void marksTheFocus();
     void beginsTextsWhereLinesDo();
-    void turnsTheBadgeOfAChosenItemInsideOut();
+    void invertsTheBadgeOfAChosenItem();
     void hasRoundBadgesForOneDigit();
 };
 
-void tst_ItemDelegate::paintsTheGroundOfItsState_data()
+void tst_ItemDelegate::paintsTheBackgroundOfItsState_data()
 {
     QTest::addColumn<QStyle::State>("state");
     QTest::addColumn<QColor>("color");
     const OxaColorSet ground = PlainDelegate().look().ground;
-    QTest::newRow("at rest") << QStyle::State(QStyle::State_Enabled) << ground.normal;
+    QTest::newRow("normal") << QStyle::State(QStyle::State_Enabled) << ground.normal;
     QTest::newRow("under the pointer") << QStyle::State(QStyle::State_MouseOver) << ground.hovered;
     QTest::newRow("chosen") << QStyle::State(QStyle::State_Selected) << ground.checked;
     QTest::newRow("chosen, under the pointer")
             << (QStyle::State_Selected | QStyle::State_MouseOver) << ground.checked;
 }
 
-void tst_ItemDelegate::paintsTheGroundOfItsState()
+void tst_ItemDelegate::paintsTheBackgroundOfItsState()
 {
     QFETCH(const QStyle::State, state);
     const QImage image = PlainDelegate().picture(state);
@@ -98,7 +98,7 @@ void tst_ItemDelegate::marksTheFocus()
     const PlainDelegate delegate;
     const QColor color = delegate.look().focusBorder.normal;
     QCOMPARE(Pixels::countNear(delegate.picture(QStyle::State_Enabled), color, QRect(), 0), 0);
-    // The line below stays in sight.
+    // The line below the item stays visible.
     QCOMPARE(Pixels::boundsNear(delegate.picture(QStyle::State_HasFocus), color, 0),
              itemRect.adjusted(0, 0, 0, -1));
 }
@@ -115,11 +115,11 @@ void tst_ItemDelegate::beginsTextsWhereLinesDo()
     const QRect fromRight = boundsIn(Qt::RightToLeft);
     QVERIFY(fromLeft.right() < itemRect.center().x());
     QVERIFY(fromRight.left() > itemRect.center().x());
-    // The full stop stays behind the letters: the same picture at another place.
+    // The full stop stays behind the letters: the same picture at another position.
     QCOMPARE(fromLeft.size(), fromRight.size());
 }
 
-void tst_ItemDelegate::turnsTheBadgeOfAChosenItemInsideOut()
+void tst_ItemDelegate::invertsTheBadgeOfAChosenItem()
 {
     const PlainDelegate delegate;
     const QColor plain = delegate.look().badgeGround.normal;

@@ -21,7 +21,7 @@ namespace {
 
 using Ratio = FixedItemRatioLayoutNotSupportScroll;
 
-/// The page in a window that asks for no least size: the platform cannot keep one.
+/// The page in a window without a minimum size, which the platform does not enforce.
 struct Shown
 {
     Shown()
@@ -78,7 +78,7 @@ LayoutSettings ratioSettings(int count)
 
 } // namespace
 
-/// The page "Layouts": its playground, and what its numbers say.
+/// The page "Layouts": its playground, and its numbers.
 class tst_LayoutsPage : public QObject
 {
     Q_OBJECT
@@ -159,7 +159,7 @@ void tst_LayoutsPage::showsTheNumbersOfAFlow()
     // Three tiles of 44 pixels with 6 between them, and 8 around.
     QTRY_COMPARE(figures(shown.page),
                  QStringLiteral("Size 170 × 90, Height for width 100, Rows 3, Longest row 3, "
-                                "Hangs over 0"));
+                                "Overflow 0"));
 }
 
 void tst_LayoutsPage::showsTheNumbersOfARatio()

@@ -20,15 +20,15 @@ QString rule(const QColor &color) { return QStringLiteral("QLabel{color:%1;}").a
 
 Q_DECLARE_METATYPE(Leftover::Effect)
 
-/// findLeftovers(): what it says of a sheet is what Qt does with it.
+/// findLeftovers() agrees with what Qt does with a sheet.
 class tst_Leftovers : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void findsNothingInAWholeSheet();
-    void tellsWhatQtMakesOfALeftover_data();
-    void tellsWhatQtMakesOfALeftover();
+    void saysWhatQtMakesOfALeftover_data();
+    void saysWhatQtMakesOfALeftover();
     void findsAllInOrder();
 };
 
@@ -38,7 +38,7 @@ void tst_Leftovers::findsNothingInAWholeSheet()
     QVERIFY(findLeftovers(rule(early) + rule(late)).empty());
 }
 
-void tst_Leftovers::tellsWhatQtMakesOfALeftover_data()
+void tst_Leftovers::saysWhatQtMakesOfALeftover_data()
 {
     QTest::addColumn<QString>("sheet");
     QTest::addColumn<QString>("leftover");
@@ -68,7 +68,7 @@ void tst_Leftovers::tellsWhatQtMakesOfALeftover_data()
     QTest::newRow("a directive alone") << directive << directive << Effect::Harmless << false;
 }
 
-void tst_Leftovers::tellsWhatQtMakesOfALeftover()
+void tst_Leftovers::saysWhatQtMakesOfALeftover()
 {
     QFETCH(const QString, sheet);
     QFETCH(const QString, leftover);

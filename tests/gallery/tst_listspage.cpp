@@ -33,7 +33,7 @@ OxaPushButton *buttonCalled(const QWidget &parent, const char *text)
     return nullptr;
 }
 
-/// A card that is shown, in a window that asks for no least size: the platform cannot keep one.
+/// A card that is shown in a window without a minimum size, which the platform does not enforce.
 template <typename CardClass>
 struct Shown
 {
@@ -48,7 +48,7 @@ struct Shown
     CardClass &card = *new CardClass(&window);
 };
 
-/// Presses the buttons called \a texts and returns the lines that the log has got by that.
+/// Presses the buttons called \a texts and returns the new lines of the log.
 QString linesAfter(ConversationsCard &card, const QStringList &texts)
 {
     auto *log = card.findChild<CodeEdit *>();
@@ -67,7 +67,7 @@ int missingRows(const LongListView &view, const HistoryModel &model)
     return missing;
 }
 
-/// A model with a quick server, and what the server tells.
+/// A model with a quick server, and the server's log.
 struct Service
 {
     Service()
@@ -84,7 +84,7 @@ struct Service
 
 } // namespace
 
-/// The page "Lists": what its recorder says, and how its list of ten million rows fills.
+/// The page "Lists": its recorder, and its list of ten million rows.
 class tst_ListsPage : public QObject
 {
     Q_OBJECT
@@ -97,7 +97,7 @@ private Q_SLOTS:
     void offersToFillAnEmptyList();
     void answersOutOfOrderUntilTheWindowIsFull();
     void dropsAnswersThatTheWindowHasLeft();
-    void asksOnceForAPageThatIsOnItsWay();
+    void asksOnlyOnceForAPendingPage();
     void loadsAllRowsInSightAfterAJump();
     void keepsTheFirstRowAtAnotherFontScale();
     void staysAtTheEndInAnotherTheme();
@@ -111,7 +111,7 @@ void tst_ListsPage::recordsWhatEachButtonMakesTheModelEmit_data()
     QTest::addColumn<QString>("lines");
     QTest::newRow("append") << QStringLiteral("Append")
                             << QStringLiteral("appendRows: ins 8,11 | count 12");
-    QTest::newRow("update, which always tells of row 0 first")
+    QTest::newRow("update, which always reports row 0 first")
             << QStringLiteral("Update") << QStringLiteral("appendOrUpdate: chg 0,0 | chg 2,3");
     QTest::newRow("mark read") << QStringLiteral("Mark read")
                                << QStringLiteral("setRoleValueForRow: chg 1,1 [260]");
@@ -196,7 +196,7 @@ void tst_ListsPage::dropsAnswersThatTheWindowHasLeft()
     QCOMPARE(service.model.loadedCount(), HistoryModel::pagesInWindow * HistoryModel::pageSize);
 }
 
-void tst_ListsPage::asksOnceForAPageThatIsOnItsWay()
+void tst_ListsPage::asksOnlyOnceForAPendingPage()
 {
     Service service;
     service.model.setScrolledIndex(5000);
@@ -250,10 +250,10 @@ void tst_ListsPage::showsAsManyAvatarsAsThereIsRoomFor_data()
     QTest::addColumn<int>("width");
     QTest::addColumn<QString>("more");
     QTest::addColumn<int>("hidden");
-    QTest::newRow("none but the rest") << 36 << QStringLiteral("+8") << 8;
-    QTest::newRow("a pixel short of one") << 79 << QStringLiteral("+8") << 8;
+    QTest::newRow("only the rest") << 36 << QStringLiteral("+8") << 8;
+    QTest::newRow("a pixel too narrow for one") << 79 << QStringLiteral("+8") << 8;
     QTest::newRow("one") << 80 << QStringLiteral("+7") << 7;
-    QTest::newRow("a pixel short of all") << 343 << QStringLiteral("+2") << 2;
+    QTest::newRow("a pixel too narrow for all") << 343 << QStringLiteral("+2") << 2;
     QTest::newRow("all") << 344 << QStringLiteral("+0") << 0;
 }
 

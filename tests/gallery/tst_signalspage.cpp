@@ -32,7 +32,7 @@ int signalsOfTheHub()
     return count;
 }
 
-/// What a watcher hears of the hub, as lines.
+/// The hub's signals that a watcher receives, as lines.
 struct Heard
 {
     Heard()
@@ -69,7 +69,7 @@ struct PageWith
         log.clear();
     }
 
-    QWidget window; ///< Asks for no least size: the platform cannot keep one.
+    QWidget window; ///< Has no minimum size, which the platform does not enforce.
     SignalsPage &page = *new SignalsPage(&window);
     ListView &view = *page.findChild<ListView *>();
     SignalModel &model = *page.findChild<SignalModel *>();
@@ -78,25 +78,25 @@ struct PageWith
 
 } // namespace
 
-/// The page "Signals": what it lists of the hub, and what it hears.
+/// The page "Signals": its list, and the signals that it receives.
 class tst_SignalsPage : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void emitsAndHearsEverySignal_data();
-    void emitsAndHearsEverySignal();
+    void emitsAndReceivesEverySignal_data();
+    void emitsAndReceivesEverySignal();
     void writesArguments_data();
     void writesArguments();
-    void hearsTheWholeFormOfASignal();
+    void receivesTheFullFormOfASignal();
     void emitsNothingWithTypesThatItDoesNotKnow();
 
     void listsAllSignalsInTheirGroups();
     void findsSignals_data();
     void findsSignals();
     void countsReceivers();
-    void tellsWhichCountsHaveChanged();
-    void letsNobodyChooseAHeading();
+    void emitsDataChangedForChangedCountsOnly();
+    void disablesHeadings();
 
     void logsWhatTheButtonEmits();
     void logsWhatOthersEmit();
@@ -106,7 +106,7 @@ private Q_SLOTS:
     void recountsWhileItIsShown();
 };
 
-void tst_SignalsPage::emitsAndHearsEverySignal_data()
+void tst_SignalsPage::emitsAndReceivesEverySignal_data()
 {
     QTest::addColumn<QMetaMethod>("signal");
     const QMetaObject &type = OxaAppSignals::staticMetaObject;
@@ -116,7 +116,7 @@ void tst_SignalsPage::emitsAndHearsEverySignal_data()
     }
 }
 
-void tst_SignalsPage::emitsAndHearsEverySignal()
+void tst_SignalsPage::emitsAndReceivesEverySignal()
 {
     QFETCH(const QMetaMethod, signal);
     const Heard heard;
@@ -175,7 +175,7 @@ void tst_SignalsPage::writesArguments()
     QTEST(text, "expected");
 }
 
-void tst_SignalsPage::hearsTheWholeFormOfASignal()
+void tst_SignalsPage::receivesTheFullFormOfASignal()
 {
     const Heard heard;
     Q_EMIT OxaAppSignals::get()->closeContactCards(true);
@@ -237,7 +237,7 @@ void tst_SignalsPage::findsSignals()
 
 void tst_SignalsPage::countsReceivers()
 {
-    const Heard heard; // Is not counted.
+    const Heard heard; // A watcher is not counted.
     SignalReceiver receiver;
     SignalModel model(OxaAppSignals::get());
     QCOMPARE(receiversOf(model, "contactPerson()"), 0);
@@ -253,7 +253,7 @@ void tst_SignalsPage::countsReceivers()
     QCOMPARE(receiversOf(model, "closeContactCards(bool,bool)"), 0);
 }
 
-void tst_SignalsPage::tellsWhichCountsHaveChanged()
+void tst_SignalsPage::emitsDataChangedForChangedCountsOnly()
 {
     const Heard heard;
     SignalModel model(OxaAppSignals::get());
@@ -268,7 +268,7 @@ void tst_SignalsPage::tellsWhichCountsHaveChanged()
     QCOMPARE(spy.front().front().toModelIndex(), index);
 }
 
-void tst_SignalsPage::letsNobodyChooseAHeading()
+void tst_SignalsPage::disablesHeadings()
 {
     const SignalModel model(OxaAppSignals::get());
     QCOMPARE(model.flags(model.index(0)), Qt::ItemFlags(Qt::NoItemFlags));

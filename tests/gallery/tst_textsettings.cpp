@@ -22,7 +22,7 @@ int bodySize(View view)
 
 } // namespace
 
-/// TextSettings: direction and size of text, for all widgets at once.
+/// TextSettings: the direction and size of text of all widgets.
 class tst_TextSettings : public QObject
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ private Q_SLOTS:
     void scalesTheTablesOfTheViews();
     void scalesAView();
     void keepsTheScalingOfAViewAtANewFontScale();
-    void turnsTextWithTheLayout();
+    void setsTheTextDirectionWithTheLayout();
     void keepsLabelsInTheirPlace_data();
     void keepsLabelsInTheirPlace();
 };
@@ -77,7 +77,7 @@ void tst_TextSettings::keepsTheScalingOfAViewAtANewFontScale()
     QCOMPARE(bodySize(View::MeetingView), 24);
 }
 
-void tst_TextSettings::turnsTextWithTheLayout()
+void tst_TextSettings::setsTheTextDirectionWithTheLayout()
 {
     settings()->setDirection(Qt::RightToLeft);
     QVERIFY(QGuiApplication::isRightToLeft());

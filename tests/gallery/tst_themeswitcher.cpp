@@ -29,19 +29,19 @@ QColor inInvertedStore(const char *name)
 
 } // namespace
 
-/// ThemeSwitcher: the one place that switches colours.
+/// ThemeSwitcher, which switches the colours of the application.
 class tst_ThemeSwitcher : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void cleanup();
-    void tellsTheApplication_data();
-    void tellsTheApplication();
+    void setsTheApplicationsTheme_data();
+    void setsTheApplicationsTheme();
     void swapsTheStores();
     void bringsNewColorsToEveryWidget();
     void bringsNewLinkColorsToLabels();
-    void survivesWidgetsThatGoMeanwhile();
+    void survivesWidgetsThatASlotDeletes();
     void setsTheThemeTypeOfWindows();
     void paintsWhatQtPaintsInTheThemesColors();
 };
@@ -52,7 +52,7 @@ void tst_ThemeSwitcher::cleanup()
     switcher()->setThemeType(QStringLiteral("global"));
 }
 
-void tst_ThemeSwitcher::tellsTheApplication_data()
+void tst_ThemeSwitcher::setsTheApplicationsTheme_data()
 {
     QTest::addColumn<Appearance>("appearance");
     QTest::addColumn<bool>("isDark");
@@ -63,7 +63,7 @@ void tst_ThemeSwitcher::tellsTheApplication_data()
     QTest::newRow("high contrast") << Appearance::HighContrast << true << true << "HighContrast";
 }
 
-void tst_ThemeSwitcher::tellsTheApplication()
+void tst_ThemeSwitcher::setsTheApplicationsTheme()
 {
     QFETCH(const Appearance, appearance);
     QFETCH(const bool, isDark);
@@ -107,9 +107,9 @@ void tst_ThemeSwitcher::bringsNewLinkColorsToLabels()
     QVERIFY(label.text().contains(inOrdinaryStore("button-hyperlink-text").name()));
 }
 
-void tst_ThemeSwitcher::survivesWidgetsThatGoMeanwhile()
+void tst_ThemeSwitcher::survivesWidgetsThatASlotDeletes()
 {
-    // Widgets come in any order: of so many, some come after the first that takes all others along.
+    // The order is undefined: of so many, some come after the one that deletes all others.
     constexpr int count = 200;
     std::vector<QPointer<OxaWidget>> widgets(count);
     for (auto &widget : widgets)

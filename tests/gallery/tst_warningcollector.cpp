@@ -15,7 +15,7 @@ private Q_SLOTS:
     void keepsWarningsInOrder();
     void letsOtherMessagesPass();
     void givesNestedWarningsToTheInnermost();
-    void restoresWhatWasThere();
+    void restoresTheEarlierHandler();
 };
 
 void tst_WarningCollector::keepsWarningsInOrder()
@@ -46,7 +46,7 @@ void tst_WarningCollector::givesNestedWarningsToTheInnermost()
     QCOMPARE(outer.texts(), QStringList(QStringLiteral("outside")));
 }
 
-void tst_WarningCollector::restoresWhatWasThere()
+void tst_WarningCollector::restoresTheEarlierHandler()
 {
     {
         const WarningCollector warnings;

@@ -30,7 +30,7 @@ public:
           m_specimens(m_page->findChildren<Specimens *>().at(index)),
           m_controls(m_page->findChildren<PropertyControls *>().at(index))
     {
-        // No least size: the platform cannot keep one.
+        // No minimum size: the platform does not enforce it.
         m_window.resize(1000, 800);
         m_page->resize(m_window.size());
         m_window.show();
@@ -69,8 +69,8 @@ private:
     PropertyControls *m_controls;
 };
 
-/// Returns the names of the properties that the library declares for \a widget and that a control
-/// can set, but for those of all themed widgets.
+/// Returns the properties that the library declares for \a widget and that a control can set,
+/// without those of all themed widgets.
 QStringList ownProperties(const QWidget &widget)
 {
     const QStringList others = { QStringLiteral("css"),
@@ -91,7 +91,7 @@ QStringList ownProperties(const QWidget &widget)
     return names;
 }
 
-/// Returns the colour of the icon's strongest pixel, as if it were opaque.
+/// Returns the colour of the icon's most opaque pixel.
 QColor inkOf(const OxaPushButton &button, QIcon::State state)
 {
     const QImage image = button.icon().pixmap(QSize(16, 16), QIcon::Normal, state).toImage();
@@ -105,7 +105,7 @@ QColor inkOf(const OxaPushButton &button, QIcon::State state)
     return ink;
 }
 
-/// True when two colours are the same but for what half-covered pixels lose.
+/// True when two colours are the same, except for the error of half-covered pixels.
 bool isAlike(const QColor &a, const QColor &b)
 {
     return qAbs(a.red() - b.red()) + qAbs(a.green() - b.green()) + qAbs(a.blue() - b.blue()) < 12;
@@ -137,7 +137,7 @@ private Q_SLOTS:
     void keepsAPillRoundAtAnyHeight();
     void holdsAWidgetInEachOfItsStates_data();
     void holdsAWidgetInEachOfItsStates();
-    void leavesHeldWidgetsToThemselves();
+    void makesHeldWidgetsIgnoreMouseAndFocus();
     void logsWhatAWidgetEmits();
     void bringsTheFocusAsTheKeyboardDoes();
     void tintsIconsWithTheTheme();
@@ -209,8 +209,8 @@ void tst_WidgetPages::setsAPropertyOfAllWidgets_data()
     QTest::newRow("an enumeration")
             << svg << 1 << QByteArray("svgIconAlignment") << QByteArray("Top")
             << QVariant::fromValue(OxaEnum::Alignment::Top);
-    QTest::newRow("a truth") << svg << 2 << QByteArray("isLeftAnchor") << QByteArray("Yes")
-                             << QVariant(true);
+    QTest::newRow("a bool") << svg << 2 << QByteArray("isLeftAnchor") << QByteArray("Yes")
+                            << QVariant(true);
     QTest::newRow("a format") << svg << 1 << QByteArray("textFormat") << QByteArray("Rich")
                               << QVariant(Qt::RichText);
     QTest::newRow("a colour set") << svg << 3 << QByteArray("backgroundColorSet")
@@ -314,7 +314,7 @@ void tst_WidgetPages::holdsAWidgetInEachOfItsStates()
     }
 }
 
-void tst_WidgetPages::leavesHeldWidgetsToThemselves()
+void tst_WidgetPages::makesHeldWidgetsIgnoreMouseAndFocus()
 {
     const Sample card("svg-widgets", 1);
     QTest::mouseClick(card.inUse(), Qt::LeftButton);

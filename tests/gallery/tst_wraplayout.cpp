@@ -39,7 +39,7 @@ struct Panel
 
 } // namespace
 
-/// WrapLayout: where it puts widgets, and how high it is.
+/// WrapLayout: the positions of widgets, and its height.
 class tst_WrapLayout : public QObject
 {
     Q_OBJECT
@@ -88,9 +88,9 @@ void tst_WrapLayout::needsTheHeightOfItsRows_data()
 {
     QTest::addColumn<int>("width");
     QTest::addColumn<int>("height");
-    QTest::newRow("one") << 260 << 30;
-    QTest::newRow("two") << 259 << 60;
-    QTest::newRow("one for each widget") << 100 << 90;
+    QTest::newRow("one row") << 260 << 30;
+    QTest::newRow("two rows") << 259 << 60;
+    QTest::newRow("one row for each widget") << 100 << 90;
 }
 
 void tst_WrapLayout::needsTheHeightOfItsRows()

@@ -14,10 +14,10 @@ class tst_OxaKeyEvent : public QObject
 private Q_SLOTS:
     void startsWithoutEventAndModifiers();
     void showsAReadOnlyProperty();
-    void tellsOfNewModifiersOnly();
+    void emitsOnlyForNewModifiers();
     void takesTheModifiersOfAnEvent();
-    void keepsAnEventOfUnchangedModifiersInSilence();
-    void keepsTheEventBeforeItTells();
+    void storesAnEventOfUnchangedModifiersSilently();
+    void storesTheEventBeforeItEmits();
     void forgetsTheEventForNull();
 };
 
@@ -41,7 +41,7 @@ void tst_OxaKeyEvent::showsAReadOnlyProperty()
     QCOMPARE(property.notifySignal().methodSignature(), QByteArray("modifiersChanged()"));
 }
 
-void tst_OxaKeyEvent::tellsOfNewModifiersOnly()
+void tst_OxaKeyEvent::emitsOnlyForNewModifiers()
 {
     OxaKeyEvent event;
     const QSignalSpy changed(&event, &OxaKeyEvent::modifiersChanged);
@@ -64,7 +64,7 @@ void tst_OxaKeyEvent::takesTheModifiersOfAnEvent()
     QCOMPARE(changed.size(), 1);
 }
 
-void tst_OxaKeyEvent::keepsAnEventOfUnchangedModifiersInSilence()
+void tst_OxaKeyEvent::storesAnEventOfUnchangedModifiersSilently()
 {
     OxaKeyEvent event;
     const QSignalSpy changed(&event, &OxaKeyEvent::modifiersChanged);
@@ -74,7 +74,7 @@ void tst_OxaKeyEvent::keepsAnEventOfUnchangedModifiersInSilence()
     QCOMPARE(changed.size(), 0);
 }
 
-void tst_OxaKeyEvent::keepsTheEventBeforeItTells()
+void tst_OxaKeyEvent::storesTheEventBeforeItEmits()
 {
     OxaKeyEvent event;
     const QKeyEvent *seen = nullptr;

@@ -16,10 +16,10 @@ private Q_SLOTS:
     void startsEnabledWithoutKeys();
     void showsReadOnlyProperties_data();
     void showsReadOnlyProperties();
-    void tellsOfNewKeysOnly();
+    void emitsOnlyForNewKeys();
     void takesKeysAsUtf8();
-    void tellsOfANewGlobalFlagOnly();
-    void tellsOfANewEnabledFlagOnly();
+    void emitsOnlyForANewGlobalFlag();
+    void emitsOnlyForANewEnabledFlag();
 
     void splitsATextIntoModifiersAndKey_data();
     void splitsATextIntoModifiersAndKey();
@@ -58,7 +58,7 @@ void tst_OxaKeySequenceInfo::showsReadOnlyProperties()
     QCOMPARE(property.notifySignal().methodSignature(), notifySignal);
 }
 
-void tst_OxaKeySequenceInfo::tellsOfNewKeysOnly()
+void tst_OxaKeySequenceInfo::emitsOnlyForNewKeys()
 {
     OxaKeySequenceInfo info;
     const QSignalSpy changed(&info, &OxaKeySequenceInfo::keySequenceChanged);
@@ -85,7 +85,7 @@ void tst_OxaKeySequenceInfo::takesKeysAsUtf8()
     QCOMPARE(info.keySequence(), umlaut);
 }
 
-void tst_OxaKeySequenceInfo::tellsOfANewGlobalFlagOnly()
+void tst_OxaKeySequenceInfo::emitsOnlyForANewGlobalFlag()
 {
     OxaKeySequenceInfo info;
     SignalLog log;
@@ -99,7 +99,7 @@ void tst_OxaKeySequenceInfo::tellsOfANewGlobalFlagOnly()
     QVERIFY(info.isGlobal());
 }
 
-void tst_OxaKeySequenceInfo::tellsOfANewEnabledFlagOnly()
+void tst_OxaKeySequenceInfo::emitsOnlyForANewEnabledFlag()
 {
     OxaKeySequenceInfo info;
     SignalLog log;

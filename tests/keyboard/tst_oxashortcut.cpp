@@ -19,7 +19,7 @@ const QKeySequence keys(Qt::CTRL | Qt::Key_K);
 
 } // namespace
 
-/// A shortcut, its groups, and the manager that clients fill.
+/// OxaShortcut, its groups, and OxaKeyboardShortcutsManager.
 class tst_OxaShortcut : public QObject
 {
     Q_OBJECT
@@ -43,8 +43,8 @@ private Q_SLOTS:
     void numbersTheSections();
     void isAPlainValue();
 
-    void isABareObjectOfTheLibrary();
-    void goesWithItsParent();
+    void addsNothingToOxaObject();
+    void isDeletedWithItsParent();
 };
 
 void tst_OxaShortcut::hasGroupsAsBits()
@@ -211,7 +211,7 @@ void tst_OxaShortcut::isAPlainValue()
     QVERIFY(!(std::is_base_of_v<QObject, OxaKeyboardShortcutsGroup>));
 }
 
-void tst_OxaShortcut::isABareObjectOfTheLibrary()
+void tst_OxaShortcut::addsNothingToOxaObject()
 {
     const OxaKeyboardShortcutsManager manager;
     const QMetaObject *type = manager.metaObject();
@@ -223,7 +223,7 @@ void tst_OxaShortcut::isABareObjectOfTheLibrary()
     QVERIFY(manager.children().isEmpty());
 }
 
-void tst_OxaShortcut::goesWithItsParent()
+void tst_OxaShortcut::isDeletedWithItsParent()
 {
     auto parent = std::make_unique<QObject>();
     const QPointer<OxaKeyboardShortcutsManager> manager = new OxaKeyboardShortcutsManager(

@@ -13,7 +13,7 @@ Q_DECLARE_METATYPE(Qt::FocusPolicy)
 
 namespace {
 
-/// A field that notes why it got the focus.
+/// A field that records why it got the focus.
 class Field : public QLineEdit
 {
 public:
@@ -35,7 +35,7 @@ class Fields : public QWidget
 public:
     Fields()
     {
-        // The platform cannot keep a least size.
+        // The platform does not enforce a minimum size.
         row.setSizeConstraint(QLayout::SetNoConstraint);
         for (Field *field : { &first, &second, &third })
             row.addWidget(field);
@@ -65,14 +65,14 @@ private Q_SLOTS:
     void takesTheFocusAway();
     void knowsWhatTakesTheFocusByTab_data();
     void knowsWhatTakesTheFocusByTab();
-    void knowsThatNothingAndHiddenWidgetsTakeNone();
+    void knowsThatNullAndHiddenWidgetsTakeNone();
     void findsTheDeepestProxy();
     void stopsAtACompoundWidgetOnceInEachDirection();
     void stopsAtAWidgetWhoseProxyIsElsewhere();
     void doesNotStopAtACompoundThatTakesNoFocusItself();
     void walksTheChain();
     void stepsOverTheItemsOfALayout();
-    void findsNothingInOneTripRoundTheChain();
+    void stopsSearchingAfterOneRoundOfTheChain();
     void movesTheFocusForTheReasonOfItsKey();
     void movesNothingWithoutATarget();
     void knowsWhereTheFocusIs();
@@ -116,7 +116,7 @@ void tst_TabOrderUtils::knowsWhatTakesTheFocusByTab()
     QVERIFY(!TabOrderUtils::isTabFocusable(&window.first));
 }
 
-void tst_TabOrderUtils::knowsThatNothingAndHiddenWidgetsTakeNone()
+void tst_TabOrderUtils::knowsThatNullAndHiddenWidgetsTakeNone()
 {
     QVERIFY(!TabOrderUtils::isTabFocusable(nullptr));
     Fields window;
@@ -175,7 +175,7 @@ void tst_TabOrderUtils::doesNotStopAtACompoundThatTakesNoFocusItself()
     frame->setFocusProxy(inside);
     window.row.addWidget(frame);
     window.show();
-    // Going forward from outside, the field that its proxy is comes first.
+    // Going forward, its focus proxy comes first.
     QCOMPARE(TabOrderUtils::getNextPrevFocusableWidget(&window.third, true, nullptr), inside);
     QCOMPARE(TabOrderUtils::getNextPrevFocusableWidget(&window.first, false, nullptr), inside);
     QCOMPARE(TabOrderUtils::getNextPrevFocusableWidget(inside, false, nullptr), &window.third);
@@ -215,7 +215,7 @@ void tst_TabOrderUtils::stepsOverTheItemsOfALayout()
     QVERIFY(TabOrderUtils::shouldFocusNextWidget(item, true, nullptr));
 }
 
-void tst_TabOrderUtils::findsNothingInOneTripRoundTheChain()
+void tst_TabOrderUtils::stopsSearchingAfterOneRoundOfTheChain()
 {
     Fields window;
     window.show();
@@ -281,7 +281,7 @@ void tst_TabOrderUtils::knowsAncestors()
     QVERIFY(TabOrderUtils::isAncestorOfParent(&window, &window));
     QVERIFY(!TabOrderUtils::isAncestorOfParent(&window.first, &window));
     QVERIFY(!TabOrderUtils::isAncestorOfParent(&window.first, &window.second));
-    // Qt's own question ends at the window.
+    // QWidget::isAncestorOf() stops at the window.
     QVERIFY(!window.isAncestorOf(&inside));
     QVERIFY(TabOrderUtils::isAncestorOfParent(&window, &inside));
     QVERIFY(!TabOrderUtils::isAncestorOfParent(&window, nullptr));

@@ -48,7 +48,7 @@ Make make()
 
 Q_DECLARE_METATYPE(Make)
 
-/// Which widgets keep their arrow keys for themselves.
+/// Which widgets use the arrow keys themselves.
 class tst_TabOrderUtilsArrowKeys : public QObject
 {
     Q_OBJECT

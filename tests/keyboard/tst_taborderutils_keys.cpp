@@ -22,7 +22,7 @@ Class *make(const char *name)
     return widget;
 }
 
-/// A window with a column of widgets that notes which of them get the focus.
+/// A window with a column of widgets that records which of them get the focus.
 class Window : public QWidget
 {
 public:
@@ -58,7 +58,8 @@ public:
 
 private:
     QStringList m_visited;
-    QObject m_listener; ///< Gone before the record is, as the focus goes when the window does.
+    QObject m_listener; ///< Destroyed before the record: the focus changes while the window is
+                        ///< destroyed.
 };
 
 /// A row of buttons that is one stop for Tab, and whose buttons are reached by the arrow keys.
@@ -144,7 +145,7 @@ private:
         return compound;
     }
 
-    /// The same two levels deep, in a widget that takes no focus by itself.
+    /// The same, two levels deep, in a widget that takes no focus itself.
     static QWidget *makeNested()
     {
         auto *outer = make<QWidget>("outer");
@@ -172,7 +173,7 @@ public:
     }
 };
 
-/// Keeps arrow keys from moving the focus, as an outer application does, and notes all keys.
+/// Keeps arrow keys from moving the focus, as an outer application does, and records all keys.
 class ArrowKeyFilter : public QObject
 {
 public:

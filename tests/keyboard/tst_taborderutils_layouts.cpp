@@ -11,14 +11,14 @@
 
 namespace {
 
-/// A window with two buttons, and between them in sight a layout of buttons A, B and C, a spacer
-/// and a label. The focus chain begins with both buttons outside.
+/// A window with two buttons, and between them a layout of buttons A, B and C, a spacer and a
+/// label. The focus chain begins with the two outer buttons.
 class Window : public QWidget
 {
 public:
     Window() : before(QStringLiteral("<")), after(QStringLiteral(">"))
     {
-        // The platform cannot keep a least size.
+        // The platform does not enforce a minimum size.
         row.setSizeConstraint(QLayout::SetNoConstraint);
         row.addWidget(&before);
         row.addWidget(&after);
@@ -152,7 +152,7 @@ void tst_TabOrderUtilsLayouts::leavesTheChainAloneWithoutItems()
     QFETCH(const bool, hasLast);
     QFETCH(const bool, hasItems);
     Window window;
-    // Another order than that of the chain, which any step of chaining would show in.
+    // Not the order of the chain, so that any change of the chain is noticed.
     window.items.insertItem(2, window.items.takeAt(0));
     QHBoxLayout empty;
     QHBoxLayout *layout = hasItems ? &window.items : &empty;
@@ -169,7 +169,7 @@ void tst_TabOrderUtilsLayouts::leavesTheChainAloneWhenAllItemsAreHidden()
         window.item(i)->hide();
     TabOrderUtils::setCompoundTabOrder(&window.before, &window.items, &window.after);
     QCOMPARE(window.tabOrder(), QStringLiteral("<>ABC"));
-    // The items alone are chained even so.
+    // The items alone are chained all the same.
     TabOrderUtils::fixFocusChainFromLayout(&window.before, &window.items);
     QCOMPARE(window.tabOrder(), QStringLiteral("<ABC>"));
 }

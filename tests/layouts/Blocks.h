@@ -8,10 +8,10 @@
 #include <memory>
 #include <vector>
 
-/// Things to lay out, and texts that tell where they went.
+/// Items to lay out, and texts that describe where they are.
 namespace Blocks {
 
-/// A widget that wants to be of one size, and may be of any.
+/// A widget with a size hint and no limits.
 class Block : public QWidget
 {
 public:
@@ -24,7 +24,7 @@ private:
     const QSize m_size;
 };
 
-/// An item without a widget that wants to be of one size, and counts how often it was moved.
+/// An item without a widget that has a size hint, and counts how often it was moved.
 class Item : public QLayoutItem
 {
 public:
@@ -51,7 +51,7 @@ private:
     bool m_isHidden = false;
 };
 
-/// \a LayoutClass with its pass open to tests.
+/// \a LayoutClass with a public layout pass.
 template <typename LayoutClass>
 class Opened : public LayoutClass
 {

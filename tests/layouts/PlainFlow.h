@@ -5,7 +5,7 @@
 
 #include <QLabel>
 
-/// A FlowLayout that lays nothing out, and tells what it was asked for.
+/// A FlowLayout that lays nothing out, and records what it was asked for.
 class PlainFlow : public FlowLayout
 {
 public:

@@ -6,12 +6,12 @@
 
 #include <QTest>
 
-/// Random items, and what holds of any layout of them.
+/// Random items, and checks that hold for every layout.
 namespace RandomItems {
 
 constexpr int caseCount = 2000;
 
-/// What a layout is given. Sizes are at least one pixel each way, so that rows can be told apart.
+/// The input of a layout. Sizes are at least one pixel each way, so that rows can be told apart.
 struct Case
 {
     std::vector<QSize> sizes;
@@ -41,7 +41,7 @@ inline Case makeCase(std::mt19937 &generator)
     return given;
 }
 
-/// Returns \a given as a text for a failure.
+/// Returns \a given as a text for failure messages.
 inline QString text(const Case &given)
 {
     QStringList sizes;
@@ -59,7 +59,8 @@ inline QString text(const Case &given)
 
 using Row = std::vector<QRect>;
 
-/// Returns \a rects by rows; \a isNext tells of an item, and the one before it, that it begins one.
+/// Returns \a rects by rows. \a isNext gets the item before and an item, and returns whether that
+/// item begins a row.
 template <typename IsNext>
 std::vector<Row> rowsIf(const std::vector<QRect> &rects, IsNext isNext)
 {
@@ -80,7 +81,7 @@ inline std::vector<Row> rowsFromLeft(const std::vector<QRect> &rects)
     });
 }
 
-/// Returns \a rects by rows whose items are all equally high up.
+/// Returns \a rects by rows whose items have the same top.
 inline std::vector<Row> rowsByTop(const std::vector<QRect> &rects)
 {
     return rowsIf(rects, [](const QRect &rect, const QRect &before) {
@@ -88,7 +89,7 @@ inline std::vector<Row> rowsByTop(const std::vector<QRect> &rects)
     });
 }
 
-/// Returns where a row ends below, which is the top of what may stand under it.
+/// Returns the lower edge of a row.
 inline int endOf(const Row &row)
 {
     int end = row.front().bottom() + 1;
@@ -108,7 +109,7 @@ inline bool haveOverlap(const std::vector<QRect> &rects)
     return false;
 }
 
-/// Returns what passes over \a layout in \a rect do that they should not; empty when all is well.
+/// Returns what is wrong with passes of \a layout in \a rect; empty when nothing is.
 template <typename LayoutClass>
 QString wrongInPasses(LayoutClass &layout, const QRect &rect)
 {

@@ -31,7 +31,7 @@ std::vector<Row> placedRows(const Case &given)
     return rowsFromLeft(Blocks::rects(*layout));
 }
 
-/// The same layout with a map of cells by row and column: slow, and easily seen to be right.
+/// The same layout with a map of cells by row and column: slow, but simple.
 struct Reference
 {
     explicit Reference(const Case &given)
@@ -66,7 +66,7 @@ struct Reference
     int height = 0;
 };
 
-/// Returns what is wrong in the widths of \a rows.
+/// Returns what is wrong with the widths of \a rows.
 QString wrongInBreaks(const std::vector<Row> &rows, const Case &given)
 {
     const QRect effective = given.effective();
@@ -119,7 +119,7 @@ private Q_SLOTS:
     void placesInTheOrderOfItsItems();
 
     void passesAgree();
-    void doesWhatATableDoes();
+    void matchesTheReferenceTable();
     void itemsKeepTheirSizesAndOrder();
     void itemsOfARowDoNotOverlap();
     void breaksLinesWhereItHasTo();
@@ -255,7 +255,7 @@ void tst_AutoGridLayout::passesAgree()
     });
 }
 
-void tst_AutoGridLayout::doesWhatATableDoes()
+void tst_AutoGridLayout::matchesTheReferenceTable()
 {
     forRandomCases([](const Case &given, std::mt19937 &) {
         const Reference reference(given);

@@ -66,7 +66,7 @@ private Q_SLOTS:
     void hasNoHeightForWidth();
     void measuresItemsOfTheSmallestWidth_data();
     void measuresItemsOfTheSmallestWidth();
-    void bearsARatioOfZero();
+    void survivesARatioOfZero();
 };
 
 void tst_FixedItemRatioLayout::addsNothingToTheMetaObject()
@@ -142,13 +142,13 @@ void tst_FixedItemRatioLayout::roundsHeightsOfWidths_data()
     QTest::addColumn<float>("ratio");
     QTest::addColumn<int>("borderWidth");
     QTest::addColumn<int>("height");
-    QTest::newRow("a half goes up") << 160 << 0.5625F << 4 << 94;
-    QTest::newRow("less than a half goes down") << 162 << 0.5625F << 4 << 95;
-    QTest::newRow("no more than the borders") << 8 << 0.5625F << 4 << 8;
+    QTest::newRow("a half is rounded up") << 160 << 0.5625F << 4 << 94;
+    QTest::newRow("less than a half is rounded down") << 162 << 0.5625F << 4 << 95;
+    QTest::newRow("only the borders") << 8 << 0.5625F << 4 << 8;
     QTest::newRow("less than the borders") << 0 << 0.5625F << 4 << 4;
-    QTest::newRow("a third, cut off") << 100 << 1.0F / 3 << 0 << 33;
+    QTest::newRow("a third, rounded down") << 100 << 1.0F / 3 << 0 << 33;
     QTest::newRow("a third, rounded up") << 101 << 1.0F / 3 << 0 << 34;
-    QTest::newRow("the border does not take part") << 163 << 1.0F << 10 << 163;
+    QTest::newRow("without the border") << 163 << 1.0F << 10 << 163;
 }
 
 void tst_FixedItemRatioLayout::roundsHeightsOfWidths()
@@ -176,10 +176,10 @@ void tst_FixedItemRatioLayout::placesItems_data()
             << 5 << QRect(0, 0, 1000, 500) << ItemData()
             << QStringLiteral("0,59 333x191 | 333,59 333x191 | 666,59 333x191 | "
                               "167,250 333x191 | 500,250 333x191");
-    QTest::newRow("elsewhere") << 5 << QRect(10, 20, 1000, 500) << ItemData()
-                               << QStringLiteral(
-                                          "10,79 333x191 | 343,79 333x191 | 676,79 333x191 | "
-                                          "177,270 333x191 | 510,270 333x191");
+    QTest::newRow("away from the origin")
+            << 5 << QRect(10, 20, 1000, 500) << ItemData()
+            << QStringLiteral("10,79 333x191 | 343,79 333x191 | 676,79 333x191 | "
+                              "177,270 333x191 | 510,270 333x191");
     QTest::newRow("with room between items")
             << 4 << QRect(0, 0, 1000, 500) << ItemData { 0.5625F, 4, 0, 10 }
             << QStringLiteral("48,0 447x255 | 505,0 447x255 | 48,265 447x255 | 505,265 447x255");
@@ -198,7 +198,7 @@ void tst_FixedItemRatioLayout::placesItems()
     const auto layout = make(count, data);
     QCOMPARE(layout->doLayout(rect, true), 0);
     QTEST(Blocks::text(*layout), "placed");
-    // The margins come off first.
+    // The margins are subtracted first.
     layout->setContentsMargins(1, 2, 3, 4);
     layout->setGeometry(rect.adjusted(-1, -2, 3, 4));
     QTEST(Blocks::text(*layout), "placed");
@@ -348,7 +348,7 @@ void tst_FixedItemRatioLayout::measuresItemsOfTheSmallestWidth()
     QCOMPARE(Blocks::rects(*layout), std::vector<QRect>(std::size_t(count)));
 }
 
-void tst_FixedItemRatioLayout::bearsARatioOfZero()
+void tst_FixedItemRatioLayout::survivesARatioOfZero()
 {
     // Any height allows any width then.
     QCOMPARE(text(make(2, { 0.0F, 4, 0, 0 })->getCalculatedItemData(QSize(300, 200))),

@@ -56,7 +56,7 @@ int widthFor(const QSize &size, const ItemData &data, int rows, int columns)
     return qMin((size.width() + data.spacing) / columns, int(double(inner) + 0.5 + borders));
 }
 
-/// Returns what is wrong with the room before and after what takes \a length of \a total.
+/// Returns what is wrong with the space before and after \a length pixels of \a total.
 QString wrongInCentring(int before, int length, int total)
 {
     if (length > total)
@@ -76,7 +76,7 @@ Case withRoom(Case given)
 
 } // namespace
 
-/// What holds of a FixedItemRatioLayoutNotSupportScroll with any items.
+/// FixedItemRatioLayoutNotSupportScroll with random items.
 class tst_FixedItemRatioLayoutRandom : public QObject
 {
     Q_OBJECT
@@ -127,7 +127,7 @@ void tst_FixedItemRatioLayoutRandom::keepsTheRatio()
         const double exact = (placed.calculated.itemWidth - borders)
                 * double(placed.data.heightToWidthRatio);
         const double error = placed.calculated.itemHeight - borders - exact;
-        // Half a pixel of rounding; below the borders a fraction is cut off towards zero.
+        // Half a pixel of rounding; below the borders a fraction is truncated towards zero.
         const bool isRounded = qAbs(error) < (exact < 0 ? 1.01 : 0.51);
         return placed.rects.empty() || isRounded ? QString() : QString::number(error);
     });
@@ -195,7 +195,7 @@ void tst_FixedItemRatioLayoutRandom::centresEveryRow()
         if (rows.empty() || itemWidth + placed.data.spacing == 0)
             return QString();
         for (const Row &row : rows) {
-            // Counted, since the right edge of a row that is too wide tells nothing.
+            // Counted, since the right edge says nothing about a row that is too wide.
             const int count = int(row.size());
             const QString wrong = wrongInCentring(row.front().left() - effective.left(),
                                                   count * itemWidth

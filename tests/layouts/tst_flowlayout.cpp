@@ -17,7 +17,7 @@ using Blocks::Item;
 
 namespace {
 
-/// A FlowLayout whose least size is its own matter.
+/// A FlowLayout that overrides its minimum size.
 class LargeFlow : public PlainFlow
 {
 public:
@@ -25,7 +25,7 @@ public:
     QSize minimumSize() const override { return { 300, 200 }; }
 };
 
-/// An item that notes in \a log that it is deleted.
+/// An item that records its deletion in \a log.
 class LoggingItem : public Item
 {
 public:
@@ -87,9 +87,9 @@ private Q_SLOTS:
     void exchangesItsMarginsWhenTheDirectionChanges();
     void restoresItsMarginsWhenItChangesBack();
     void keepsItsMarginsWhenItIsMadeRightToLeft();
-    void exchangesWhatTheMarginsAreByThen();
-    void followsWithoutAParentToo();
-    void isExchangedBackByAnOxaWidget();
+    void exchangesTheMarginsThatAreSetLater();
+    void exchangesItsMarginsWithoutAParentToo();
+    void hasItsMarginsExchangedBackByAnOxaWidget();
     void invalidatesWhenTheDirectionChanges();
     void placesFromTheLeftInBothDirections();
 };
@@ -223,7 +223,7 @@ void tst_FlowLayout::leavesItsWidgetsAlive()
 
 void tst_FlowLayout::deletesALayoutInside()
 {
-    // A layout that dies takes itself out of the one around it.
+    // A layout that is deleted removes itself from the layout around it.
     QPointer<QLayout> inner;
     {
         QWidget window;
@@ -320,7 +320,7 @@ void tst_FlowLayout::keepsItsMarginsWhenItIsMadeRightToLeft()
     QCOMPARE(layout.contentsMargins(), exchanged);
 }
 
-void tst_FlowLayout::exchangesWhatTheMarginsAreByThen()
+void tst_FlowLayout::exchangesTheMarginsThatAreSetLater()
 {
     PlainFlow layout(margins, 0, 0);
     layout.setContentsMargins(10, 20, 30, 40);
@@ -328,14 +328,14 @@ void tst_FlowLayout::exchangesWhatTheMarginsAreByThen()
     QCOMPARE(layout.contentsMargins(), QMargins(30, 20, 10, 40));
 }
 
-void tst_FlowLayout::followsWithoutAParentToo()
+void tst_FlowLayout::exchangesItsMarginsWithoutAParentToo()
 {
     const PlainFlow layout(margins, 0, 0);
     const LayoutDirectionGuard direction(Qt::RightToLeft);
     QCOMPARE(layout.contentsMargins(), exchanged);
 }
 
-void tst_FlowLayout::isExchangedBackByAnOxaWidget()
+void tst_FlowLayout::hasItsMarginsExchangedBackByAnOxaWidget()
 {
     OxaWidget widget;
     const PlainFlow layout(&widget, margins, 0, 0);

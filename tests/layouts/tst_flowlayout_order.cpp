@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A widget whose layout has letters at given places. Each is 20 pixels wide and 11 high.
+/// A widget whose layout has letters at given positions. Each is 20 pixels wide and 11 high.
 class Placed : public Letters
 {
 public:
@@ -95,7 +95,7 @@ public:
 
 Q_DECLARE_METATYPE(std::vector<QPoint>)
 
-/// The order of the items: the way that keys take through it, and how it is sorted.
+/// The order of the items: how keys move through it, and how it is sorted.
 class tst_FlowLayoutOrder : public QObject
 {
     Q_OBJECT
@@ -105,15 +105,15 @@ private Q_SLOTS:
     void goesToTheNeighbour();
     void takesTheNearestCentre_data();
     void takesTheNearestCentre();
-    void takesHalfOfAnOddHeightCutOff_data();
-    void takesHalfOfAnOddHeightCutOff();
+    void roundsHalfOfAnOddHeightDown_data();
+    void roundsHalfOfAnOddHeightDown();
     void goesFourStepsAtMostByAPage();
-    void measuresEachStepOfAPageAnew();
-    void leadsNowhereFromAStranger();
-    void leadsNowhereFromNothing();
+    void measuresEachStepOfAPageFromTheOneBefore();
+    void leadsNowhereFromAWidgetOutside();
+    void leadsNowhereFromNull();
     void passesOverWhatIsNoWidget();
     void countsHiddenWidgets();
-    void leadsNowhereAcrossADistanceThatNoIntHolds();
+    void leadsNowhereAtADistanceBeyondInt();
 
     void sortsItemsAndTabOrder_data();
     void sortsItemsAndTabOrder();
@@ -121,7 +121,7 @@ private Q_SLOTS:
     void invalidates();
     void keepsEqualItems();
     void interruptsTheTabOrderAtWhatHasNoWidget();
-    void chainsAWidgetThatStandsInItTwiceOnce();
+    void chainsARepeatedWidgetOnce();
 };
 
 void tst_FlowLayoutOrder::goesToTheNeighbour_data()
@@ -169,10 +169,10 @@ void tst_FlowLayoutOrder::takesTheNearestCentre_data()
     QTest::newRow("down, a little further down but less far away")
             << across << Qt::Key_Down << QStringLiteral("C");
     const std::vector<QPoint> below { { 100, 100 }, { 90, 130 }, { 110, 130 }, { 100, 200 } };
-    QTest::newRow("down, of equally near ones the last")
+    QTest::newRow("down, the last of equally near ones")
             << below << Qt::Key_Down << QStringLiteral("C");
     const std::vector<QPoint> above { { 100, 100 }, { 90, 70 }, { 110, 70 }, { 100, 0 } };
-    QTest::newRow("up, of equally near ones the first")
+    QTest::newRow("up, the first of equally near ones")
             << above << Qt::Key_Up << QStringLiteral("B");
 }
 
@@ -184,7 +184,7 @@ void tst_FlowLayoutOrder::takesTheNearestCentre()
     QTEST(placed.next('A', key), "next");
 }
 
-void tst_FlowLayoutOrder::takesHalfOfAnOddHeightCutOff_data()
+void tst_FlowLayoutOrder::roundsHalfOfAnOddHeightDown_data()
 {
     QTest::addColumn<int>("distance");
     QTest::addColumn<QString>("next");
@@ -194,7 +194,7 @@ void tst_FlowLayoutOrder::takesHalfOfAnOddHeightCutOff_data()
     QTest::newRow("a pixel beyond") << 6 << QStringLiteral("B");
 }
 
-void tst_FlowLayoutOrder::takesHalfOfAnOddHeightCutOff()
+void tst_FlowLayoutOrder::roundsHalfOfAnOddHeightDown()
 {
     QFETCH(const int, distance);
     const Placed below({ { 100, 100 }, { 130, 100 + distance } });
@@ -211,28 +211,28 @@ void tst_FlowLayoutOrder::goesFourStepsAtMostByAPage()
     QCOMPARE(placed.next('N', Qt::Key_PageDown), QStringLiteral("T"));
 }
 
-void tst_FlowLayoutOrder::measuresEachStepOfAPageAnew()
+void tst_FlowLayoutOrder::measuresEachStepOfAPageFromTheOneBefore()
 {
-    // A stair: each step is nearest to the one before, and not to the start.
+    // A staircase: each step is nearest to the one before, not to the start.
     const Placed placed({ { 100, 100 }, { 150, 130 }, { 200, 160 }, { 100, 400 } });
     QCOMPARE(placed.next('A', Qt::Key_Down), QStringLiteral("B"));
     QCOMPARE(placed.next('B', Qt::Key_Down), QStringLiteral("C"));
     QCOMPARE(placed.next('A', Qt::Key_PageDown), QStringLiteral("D"));
 }
 
-void tst_FlowLayoutOrder::leadsNowhereFromAStranger()
+void tst_FlowLayoutOrder::leadsNowhereFromAWidgetOutside()
 {
     const Placed placed(grid(3));
-    QWidget stranger;
+    QWidget outside;
     for (const Qt::Key key : { Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_PageDown })
-        QCOMPARE(placed.layout.nextWidget(&stranger, key), nullptr);
+        QCOMPARE(placed.layout.nextWidget(&outside, key), nullptr);
 }
 
-void tst_FlowLayoutOrder::leadsNowhereFromNothing()
+void tst_FlowLayoutOrder::leadsNowhereFromNull()
 {
     Placed placed(grid(1));
     QCOMPARE(placed.layout.nextWidget(nullptr, Qt::Key_Left), nullptr);
-    // The first item without a widget is found by none, but is nowhere on the screen.
+    // Null matches the first item without a widget, which has no place on the screen.
     placed.layout.addItem(new Blocks::Item(QSize(10, 10)));
     for (const Qt::Key key : { Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown })
         QCOMPARE(placed.layout.nextWidget(nullptr, key), nullptr);
@@ -258,7 +258,7 @@ void tst_FlowLayoutOrder::countsHiddenWidgets()
     QCOMPARE(placed.next('D', Qt::Key_Right), QStringLiteral("E"));
 }
 
-void tst_FlowLayoutOrder::leadsNowhereAcrossADistanceThatNoIntHolds()
+void tst_FlowLayoutOrder::leadsNowhereAtADistanceBeyondInt()
 {
     const Placed near({ { 100, 100 }, { 100, 46440 } });
     QCOMPARE(near.next('A', Qt::Key_Down), QStringLiteral("B"));
@@ -337,7 +337,7 @@ void tst_FlowLayoutOrder::interruptsTheTabOrderAtWhatHasNoWidget()
     QCOMPARE(buttons.tabOrder(), QStringLiteral("CAB"));
 }
 
-void tst_FlowLayoutOrder::chainsAWidgetThatStandsInItTwiceOnce()
+void tst_FlowLayoutOrder::chainsARepeatedWidgetOnce()
 {
     // Sorted by a number, A comes first and third. Its neighbour is that of its first item.
     Buttons buttons(QStringLiteral("ACB"));

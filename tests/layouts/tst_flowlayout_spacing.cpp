@@ -74,7 +74,7 @@ public:
 
 } // namespace
 
-/// How far apart items stand.
+/// The spacing between items.
 class tst_FlowLayoutSpacing : public QObject
 {
     Q_OBJECT
@@ -89,7 +89,7 @@ private Q_SLOTS:
     void fallsBackInALayoutThatHasNoSpacing();
     void mixesItsOwnValueWithThatOfAStyle();
     void spacesWhatHasNoWidgetAsTheApplicationDoes();
-    void spacesByMinusOneWhereNobodyKnows();
+    void spacesByMinusOneWhereNoStyleSays();
     void spacesEachLayoutAlike();
 };
 
@@ -115,7 +115,7 @@ void tst_FlowLayoutSpacing::takesThatOfALayoutAroundIt()
     grid.setSpacing(13);
     QCOMPARE(layout->horizontalSpacing(), 13);
     QCOMPARE(layout->verticalSpacing(), 13);
-    // A grid of two spacings has no single one.
+    // A grid with two different spacings has no single one.
     grid.setVerticalSpacing(4);
     QCOMPARE(layout->horizontalSpacing(), -1);
     QCOMPARE(layout->verticalSpacing(), -1);
@@ -200,7 +200,7 @@ void tst_FlowLayoutSpacing::spacesWhatHasNoWidgetAsTheApplicationDoes()
     QCOMPARE(layout.itemAt(1)->geometry().x(), 10 + expected);
 }
 
-void tst_FlowLayoutSpacing::spacesByMinusOneWhereNobodyKnows()
+void tst_FlowLayoutSpacing::spacesByMinusOneWhereNoStyleSays()
 {
     SpacingStyle style(nothing, nothing);
     Tiles<AutoGridLayout> tiles(style, -1, -1);

@@ -37,7 +37,7 @@ struct Window : QWidget
 using GridWindow = Window<AutoGridLayout>;
 using MakeLayout = std::function<FlowLayout *()>;
 
-/// A block that does something when it is moved.
+/// A block that calls a function when it is moved.
 class BusyBlock : public Block
 {
 public:
@@ -53,7 +53,7 @@ private:
     const std::function<void()> m_onMove;
 };
 
-/// An item that does something when it is placed.
+/// An item that calls a function when it is placed.
 class BusyItem : public Blocks::Item
 {
 public:
@@ -64,7 +64,7 @@ public:
 
     void setGeometry(const QRect &) override
     {
-        // The item goes with the layout, and this with it.
+        // Deleting the layout deletes this item.
         const auto onMove = m_onMove;
         onMove();
     }
@@ -80,28 +80,28 @@ const QString inOneRow = QStringLiteral("0,0 40x10 | 45,0 40x10 | 90,0 40x10");
 
 Q_DECLARE_METATYPE(MakeLayout)
 
-/// The layouts on windows, as Qt drives them.
+/// The layouts in windows, driven by Qt.
 class tst_LayoutsInWindows : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void laysOutWhatIsShown();
-    void laysOutAnewWhenTheWindowChanges();
-    void laysOutAnewWhenAWidgetComes();
-    void laysOutAnewWhenAWidgetGoes();
-    void keepsTheRoomBesideAHiddenWidget();
+    void laysOutAgainWhenTheWindowChanges();
+    void laysOutAgainWhenAWidgetIsAdded();
+    void laysOutAgainWhenAWidgetIsRemoved();
+    void keepsTheSpacingAfterAHiddenWidget();
     void growsInAColumnWithItsRows();
     void scrollsByItsHeightForWidth();
     void exchangesMarginsOnTheScreen();
     void fillsTheWindowWithTiles();
-    void tellsItemsTheirPlaceEvenWhereItIsTheSame();
+    void setsTheGeometryOfItemsEvenWhereItIsTheSame();
     void survivesAWidgetThatDeletesOthersWhenItMoves_data() { addLayouts(); }
     void survivesAWidgetThatDeletesOthersWhenItMoves();
     void survivesAnItemThatDeletesTheLayout_data() { addLayouts(); }
     void survivesAnItemThatDeletesTheLayout();
-    void holdsLengthsThatNoIntCanAddUp_data() { addLayouts(); }
-    void holdsLengthsThatNoIntCanAddUp();
+    void survivesLengthsWhoseSumOverflowsInt_data() { addLayouts(); }
+    void survivesLengthsWhoseSumOverflowsInt();
 
 private:
     static void addLayouts();
@@ -133,7 +133,7 @@ void tst_LayoutsInWindows::laysOutWhatIsShown()
     QVERIFY(smart.layout.widgetAt(2)->isVisible());
 }
 
-void tst_LayoutsInWindows::laysOutAnewWhenTheWindowChanges()
+void tst_LayoutsInWindows::laysOutAgainWhenTheWindowChanges()
 {
     GridWindow window;
     window.resize(200, 100);
@@ -142,7 +142,7 @@ void tst_LayoutsInWindows::laysOutAnewWhenTheWindowChanges()
     QTRY_COMPARE(Blocks::text(window.layout), inTwoRows);
 }
 
-void tst_LayoutsInWindows::laysOutAnewWhenAWidgetComes()
+void tst_LayoutsInWindows::laysOutAgainWhenAWidgetIsAdded()
 {
     GridWindow window;
     QTRY_COMPARE(Blocks::text(window.layout), inTwoRows);
@@ -153,7 +153,7 @@ void tst_LayoutsInWindows::laysOutAnewWhenAWidgetComes()
                  QStringLiteral("0,0 30x10 | 35,0 40x10 | 0,13 40x10 | 45,13 20x20 | 0,26 40x10"));
 }
 
-void tst_LayoutsInWindows::laysOutAnewWhenAWidgetGoes()
+void tst_LayoutsInWindows::laysOutAgainWhenAWidgetIsRemoved()
 {
     GridWindow window;
     QTRY_COMPARE(Blocks::text(window.layout), inTwoRows);
@@ -161,7 +161,7 @@ void tst_LayoutsInWindows::laysOutAnewWhenAWidgetGoes()
     QTRY_COMPARE(Blocks::text(window.layout), QStringLiteral("0,0 40x10 | 45,0 40x10"));
 }
 
-void tst_LayoutsInWindows::keepsTheRoomBesideAHiddenWidget()
+void tst_LayoutsInWindows::keepsTheSpacingAfterAHiddenWidget()
 {
     GridWindow window;
     QTRY_COMPARE(Blocks::text(window.layout), inTwoRows);
@@ -229,13 +229,13 @@ void tst_LayoutsInWindows::fillsTheWindowWithTiles()
     QCOMPARE(window.layout.getCalculatedItemData().columns, 2);
 }
 
-void tst_LayoutsInWindows::tellsItemsTheirPlaceEvenWhereItIsTheSame()
+void tst_LayoutsInWindows::setsTheGeometryOfItemsEvenWhereItIsTheSame()
 {
     Window<FixedItemRatioLayoutNotSupportScroll> window;
     window.layout.setItemData({ 1.0F, 0, 0, 0 });
     window.resize(300, 100);
     QTRY_COMPARE(window.layout.widgetAt(1)->geometry(), QRect(100, 0, 100, 100));
-    // The item stays where it was, but its widget wants less of it now.
+    // The item keeps its geometry, but its widget needs less of it now.
     window.layout.setAlignment(window.layout.widgetAt(1), Qt::AlignCenter);
     QTRY_COMPARE(window.layout.widgetAt(1)->geometry(), QRect(130, 45, 40, 10));
 }
@@ -274,7 +274,7 @@ void tst_LayoutsInWindows::survivesAnItemThatDeletesTheLayout()
     QVERIFY(!layout);
 }
 
-void tst_LayoutsInWindows::holdsLengthsThatNoIntCanAddUp()
+void tst_LayoutsInWindows::survivesLengthsWhoseSumOverflowsInt()
 {
     QFETCH(const MakeLayout, makeLayout);
     constexpr int highest = std::numeric_limits<int>::max();
@@ -283,7 +283,7 @@ void tst_LayoutsInWindows::holdsLengthsThatNoIntCanAddUp()
         Blocks::fill(*layout, std::vector<QSize>(300, QSize(length, length)));
         if (auto *tiles = qobject_cast<FixedItemRatioLayoutNotSupportScroll *>(layout.get()))
             tiles->setItemData({ std::numeric_limits<float>::max(), -length, length, length });
-        // Negative lengths say nothing of the result, but must not overflow either.
+        // The result for negative lengths is undefined, but must not overflow either.
         for (const int width : { 100, highest, -highest })
             QVERIFY(layout->heightForWidth(width) >= 0 || length < 0 || width < 0);
         QVERIFY(layout->minimumSize().isValid() || length < 0);

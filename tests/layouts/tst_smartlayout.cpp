@@ -173,7 +173,7 @@ void tst_SmartLayout::limitsItemsPerRow()
 
 void tst_SmartLayout::lowersTheLimitForTheRowsBelow()
 {
-    // The wide ones take the first row to three; then there would be room for five.
+    // The wide items limit the first row to three, and so the rows below, which have room for five.
     std::vector<QSize> sizes(10, QSize(10, 10));
     std::fill_n(sizes.begin(), 3, QSize(30, 10));
     Smart layout(Qt::AlignLeft, 5);
@@ -260,13 +260,13 @@ void tst_SmartLayout::alignsEachRowByItself_data()
     const QString left = QStringLiteral("0,0 20x10 | 25,0 20x10 | 0,13 30x10");
     const QString right = QStringLiteral("55,0 20x10 | 80,0 20x10 | 70,13 30x10");
     QTest::newRow("left") << Qt::AlignLeft << left;
-    QTest::newRow("centre, cut off to a pixel")
+    QTest::newRow("centre, rounded down to a pixel")
             << Qt::AlignCenter << QStringLiteral("27,0 20x10 | 52,0 20x10 | 35,13 30x10");
     QTest::newRow("right") << Qt::AlignRight << right;
     QTest::newRow("horizontal centre alone goes right") << Qt::AlignHCenter << right;
     QTest::newRow("justified goes right") << Qt::AlignJustify << right;
     QTest::newRow("top goes right") << Qt::AlignTop << right;
-    QTest::newRow("leading is left, which has its number") << Qt::AlignLeading << left;
+    QTest::newRow("leading is left: both have the same value") << Qt::AlignLeading << left;
 }
 
 void tst_SmartLayout::alignsEachRowByItself()
@@ -284,7 +284,7 @@ void tst_SmartLayout::alignsARowThatIsTooWide_data()
     // The first row reaches 15 pixels beyond the right edge, the second one spares 10.
     QTest::newRow("left: it hangs over at the right")
             << Qt::AlignLeft << QStringLiteral("0,0 20x10 | 25,0 20x10 | 0,13 20x10");
-    QTest::newRow("centre: half of it at each side, cut off to a pixel")
+    QTest::newRow("centre: half of it at each side, rounded down to a pixel")
             << Qt::AlignCenter << QStringLiteral("-7,0 20x10 | 18,0 20x10 | 5,13 20x10");
     QTest::newRow("right: it hangs over at the left")
             << Qt::AlignRight << QStringLiteral("-15,0 20x10 | 10,0 20x10 | 10,13 20x10");

@@ -18,7 +18,7 @@ namespace {
 constexpr bool ofItems = false;
 constexpr bool ofWidgets = true;
 
-/// A window with a block that wants 20 by 10 pixels and may have 15 by 40.
+/// A window with a block whose size hint is 20 by 10 pixels and whose limits are 15 by 40.
 struct Limited
 {
     explicit Limited(bool useWidgetSizing, int maximumItemsPerRow = -1)
@@ -37,7 +37,7 @@ struct Limited
 
 constexpr int noLimit = -1;
 
-/// What a SmartLayout is given beyond items.
+/// The settings of a SmartLayout.
 struct Rules
 {
     Qt::AlignmentFlag alignment = Qt::AlignLeft;
@@ -76,7 +76,7 @@ std::vector<Row> placedRows(const Case &given, const Rules &rules)
     return rowsByTop(Blocks::rects(*layout));
 }
 
-/// Returns what is wrong in where rows begin and end.
+/// Returns what is wrong with the edges of rows.
 QString wrongInAlignment(const std::vector<Row> &rows, const QRect &effective,
                          Qt::AlignmentFlag alignment)
 {
@@ -94,7 +94,7 @@ QString wrongInAlignment(const std::vector<Row> &rows, const QRect &effective,
     return {};
 }
 
-/// Returns what is wrong in how rows that stand at the left break for width.
+/// Returns what is wrong with the line breaks of rows that are aligned to the left.
 QString wrongInBreaks(const std::vector<Row> &rows, const Case &given)
 {
     const int edge = given.effective().right();
@@ -152,13 +152,13 @@ void tst_SmartLayoutItems::asksWidgetsForSizesWhenItUsesWidgetSizing()
 {
     Limited limited(ofWidgets);
     QCOMPARE(limited.layout.heightForWidth(100), 10);
-    // A widget keeps its own limits in any geometry that it is given.
+    // A widget keeps its own limits whatever geometry is set.
     QCOMPARE(limited.block->geometry(), QRect(0, 0, 15, 12));
     limited.block->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
     limited.block->setMinimumHeight(0);
     limited.block->hide();
     limited.layout.setGeometry(QRect(0, 0, 50, 50));
-    // The item of a hidden widget would have wanted nothing and moved nothing.
+    // The item of a hidden widget has no size and moves nothing.
     QCOMPARE(limited.layout.itemAt(0)->sizeHint(), QSize(0, 0));
     QCOMPARE(limited.block->geometry(), QRect(0, 0, 20, 10));
 }
@@ -180,7 +180,7 @@ void tst_SmartLayoutItems::givesASingleColumnTheSizesOfItsWidgets()
     QCOMPARE(limited.layout.itemAt(0)->sizeHint(), QSize(0, 0));
     limited.layout.setGeometry(QRect(0, 0, 50, 50));
     QCOMPARE(limited.block->geometry(), QRect(0, 0, 20, 10));
-    // The height is measured with what the item wants, all the same.
+    // The height is still measured by the item's size hint.
     QCOMPARE(limited.layout.heightForWidth(50), 0);
 }
 
@@ -202,7 +202,7 @@ void tst_SmartLayoutItems::alignsASingleColumnByTheSizesOfItsWidgets()
     auto *block = new Block(QSize(20, 10));
     block->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     layout.addWidget(block);
-    // By its item, which wants nothing, the row would spare a whole 100 pixels.
+    // By its item, which has no size, the row would have all 100 pixels to spare.
     layout.setGeometry(QRect(0, 0, 100, 100));
     QCOMPARE(block->geometry(), QRect(left, 0, 20, 10));
 }

@@ -22,7 +22,7 @@ constexpr char dataChanged[] = "dataChanged(QModelIndex,QModelIndex,QVector<int>
 constexpr char modelReset[] = "modelReset()";
 constexpr char countChanged[] = "countChanged(int)";
 
-/// Returns a row for each letter of \a letters, whose id it is in lower case.
+/// Returns a row for each letter of \a letters; its id is the letter in lower case.
 std::vector<ModelRow> rowsOf(const QString &letters)
 {
     std::vector<ModelRow> rows;

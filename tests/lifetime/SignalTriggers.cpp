@@ -82,7 +82,7 @@ void addClickRows(SignalTriggers &rows)
 
 void addLabelRows(SignalTriggers &rows)
 {
-    // Sent by hand: QWidget::setVisible() goes on with the widget after these events.
+    // Sent by hand, since QWidget::setVisible() uses the widget after these events.
     rows.push_back(row<OxaLabel>("onVisibilityChanged(bool)", "the event of show()",
                                  [](OxaLabel &label) { send(label, QShowEvent()); }));
     rows.push_back(row<OxaLabel>("onVisibilityChanged(bool)", "the event of hide()",
@@ -91,7 +91,7 @@ void addLabelRows(SignalTriggers &rows)
 
 void addButtonRows(SignalTriggers &rows)
 {
-    // By its handler: QWidget::event() goes on with the widget after it.
+    // The handler is called directly, since QWidget::event() uses the widget after it.
     struct Handlers : OxaPushButton
     {
         using OxaPushButton::focusInEvent;
@@ -332,10 +332,10 @@ std::vector<const SignalTrigger *> triggersOf(const QMetaObject *metaObject,
 
 bool isLeftOut(const QMetaObject *metaObject, const QMetaMethod &signal)
 {
-    // QAbstractButton::setChecked() tells assistive technology of the button after this one.
+    // QAbstractButton::setChecked() uses the button after this one, for accessibility.
     if (signal == QMetaMethod::fromSignal(&QAbstractButton::toggled))
         return true;
-    // The button's handlers take the place of the label's.
+    // The button's handlers replace the label's.
     return metaObject->inherits(&OxaEmojiPushButton::staticMetaObject)
             && signal == QMetaMethod::fromSignal(&OxaLabel::clicked);
 }

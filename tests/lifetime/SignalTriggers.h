@@ -5,7 +5,7 @@
 
 #include <functional>
 
-/// One way in which an object comes to emit a signal.
+/// One way to make an object emit a signal.
 struct SignalTrigger
 {
     const QMetaObject
@@ -18,7 +18,7 @@ struct SignalTrigger
 
 using SignalTriggers = std::vector<SignalTrigger>;
 
-/// What is done to an \a Object.
+/// An operation on an \a Object.
 template <typename Object>
 using Act = void (*)(Object &);
 
@@ -42,12 +42,12 @@ void addModelTriggers(SignalTriggers &rows);
 std::vector<const SignalTrigger *> triggersOf(const QMetaObject *metaObject,
                                               const QMetaMethod &signal);
 
-/// Returns whether \a signal of objects of \a metaObject needs no trigger: they inherit and never
-/// emit it, or Qt itself goes on with an object that a slot of it deletes.
+/// Returns whether \a signal of objects of \a metaObject needs no trigger: they inherit it and
+/// never emit it, or Qt itself uses the object after a slot has deleted it.
 bool isLeftOut(const QMetaObject *metaObject, const QMetaMethod &signal);
 
-/// Emits \a signal of \a sender, as the users of a hub do.
+/// Emits \a signal of \a sender, as users of a hub do.
 void emitAsHubUser(QObject *sender, const QMetaMethod &signal);
 
-/// Returns whether \a metaObject is of a hub: others emit all its signals.
+/// Returns whether \a metaObject is a hub's, whose signals are emitted by others.
 bool isHub(const QMetaObject *metaObject);

@@ -30,7 +30,7 @@ public:
     QHash<int, QByteArray> roleNames() const override { return { { Qt::UserRole + 1, "value" } }; }
 };
 
-/// Describes \a Class, of which \a Made is or derives.
+/// Describes \a Class by an object of \a Made, which is \a Class or derives from it.
 template <typename Class, typename Made = Class>
 Subject subject()
 {

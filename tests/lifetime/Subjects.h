@@ -20,7 +20,7 @@ struct Subject
     std::vector<QMetaMethod> signalMethods() const;
 };
 
-/// Every class of the library that has signals, but the application's: that one has no parent.
+/// Every class of the library that has signals, except the application, which has no parent.
 const std::vector<Subject> &subjects();
 
 /// Returns the signals that \a metaObject has from the library's classes and QAbstractButton.

@@ -27,7 +27,7 @@ class Deleter : public QObject
 public:
     explicit Deleter(QObject *victim) : m_victim(victim) { }
 
-    /// Has the next \a signal of \a sender delete the victim.
+    /// Deletes the victim at the next \a signal of \a sender.
     void listenTo(QObject *sender, const QMetaMethod &signal)
     {
         connect(sender, signal, this,
@@ -97,7 +97,7 @@ QStringList classesInHeaders()
 
 Q_DECLARE_METATYPE(Victim)
 
-/// A slot may delete the object whose signal it hears, that object's parent, or their window.
+/// A slot may delete the sender, the sender's parent, or their window.
 class tst_DeletionInSlots : public QObject
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ private Q_SLOTS:
     void survivesTheDeletionOfTheApplication();
     void survivesDeletions_data();
     void survivesDeletions();
-    void makesFontsAnewThatASlotDeleted();
+    void makesFontsAgainThatASlotDeleted();
     void followsNoFontsThatWereDeleted();
 
 private:
@@ -133,7 +133,7 @@ void tst_DeletionInSlots::knowsEveryClassWithSignals()
     QStringList known;
     for (const Subject &subject : subjects())
         known += QString::fromLatin1(subject.name);
-    // The application's two have a test of their own; the others have no signals.
+    // The application's two classes have a test of their own; the others have no signals.
     known += { QStringLiteral("OxaApplication"),
                QStringLiteral("IOxaApplication"),
                QStringLiteral("AutoGridLayout"),
@@ -250,7 +250,7 @@ void tst_DeletionInSlots::survivesDeletions()
     QVERIFY(!family.sender);
 }
 
-void tst_DeletionInSlots::makesFontsAnewThatASlotDeleted()
+void tst_DeletionInSlots::makesFontsAgainThatASlotDeleted()
 {
     ensureApplication();
     OxaFontManager manager;

@@ -7,7 +7,7 @@
 
 #include <QStandardItem>
 
-/// An item that is counted while it lives.
+/// An item that counts its instances.
 class CountedItem : public QStandardItem
 {
 public:

@@ -29,7 +29,7 @@ public:
         return rows;
     }
 
-    /// Returns rows as many as \a count with the ids "0", "1" and so on.
+    /// Returns \a count rows with the ids "0", "1" and so on.
     static std::vector<ModelRow> numberedRows(int count)
     {
         std::vector<ModelRow> rows;
@@ -59,7 +59,7 @@ public:
     using BaseListModel::setData;
 };
 
-/// A list that says it has two rows at most.
+/// A list that reports two rows at most.
 class CappedListModel : public LetterListModel
 {
     Q_OBJECT

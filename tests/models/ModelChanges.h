@@ -3,7 +3,7 @@
 
 #include <QTest>
 
-/// What a call does, in texts: the letters before it, those given, those after it, the signals.
+/// Adds a row for a call: the letters before it, the given ones, those after it, and the signals.
 inline void addChangeColumns()
 {
     QTest::addColumn<QString>("before");

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-// Longer than headers are here: one operation of the model after the other, each in its plainest
-// form.
+// Longer than headers are here: it has every operation of the model.
 
 #include "LetterListModel.h"
 
-/// What a BaseListModel must do, in the plainest form: no index, nothing kept between calls. Rows
-/// are letters, with or without a number.
+/// A simple reference implementation of BaseListModel, without an index. Rows are letters, with or
+/// without a number.
 class ReferenceList
 {
 public:
@@ -157,7 +156,7 @@ private:
         emitted += QStringLiteral("%1 %2,%3").arg(QLatin1String(what)).arg(first).arg(last);
     }
 
-    /// An index of a row that isn't there is invalid, and its row -1.
+    /// The index of a missing row is invalid, and its row is -1.
     void noteChange(int first, int last)
     {
         note("chg", first < size() ? first : -1, last < size() ? last : -1);

@@ -74,7 +74,7 @@ void tst_BaseListModel::showsCountAndHeaderAsProperties()
     QCOMPARE(model.property("header"), QVariant(QStringLiteral("Letters")));
 }
 
-void tst_BaseListModel::tellsOfANewHeaderOnly()
+void tst_BaseListModel::emitsOnlyForANewHeader()
 {
     LetterListModel model;
     ModelLog log(model);
@@ -136,7 +136,7 @@ void tst_BaseListModel::givesNothingSilently()
 {
     QFETCH(const int, row);
     QFETCH(const int, role);
-    // An index of a longer model stands for one that has become stale.
+    // An index of a longer model serves as a stale one.
     const LetterListModel longer(QStringLiteral("abc"));
     const QModelIndex index = longer.index(row);
 

@@ -9,12 +9,12 @@ class tst_BaseListModel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // What the rows are, how they are found, and their values.
+    // Rows, looking them up, and their values.
     void leavesRoleNamesToSubclasses();
     void startsEmpty();
     void takesAParent();
     void showsCountAndHeaderAsProperties();
-    void tellsOfANewHeaderOnly();
+    void emitsOnlyForANewHeader();
     void hasNoRowsBelowARow();
     void countsByTheVirtualRowCount();
     void letsNoViewEditItsRows();
@@ -38,7 +38,7 @@ private Q_SLOTS:
     void findsTheLastOfARepeatedIdButReturnsTheFirst();
     void handsOutCopies();
 
-    // How rows come in, and what the model emits meanwhile.
+    // Adding rows, and the signals.
     void appends_data();
     void appends();
     void announcesTheWholeListAlsoWhenRowsAreSkipped();
@@ -51,12 +51,12 @@ private Q_SLOTS:
 
     void inserts_data();
     void inserts();
-    void insertsAtNoPositionByAppending_data();
-    void insertsAtNoPositionByAppending();
+    void appendsRowsInsertedAtABadPosition_data();
+    void appendsRowsInsertedAtABadPosition();
     void insertsUpToTheLimit();
     void insertsNothingAnywhere();
 
-    // How rows are replaced and leave, and what the model emits meanwhile.
+    // Replacing and removing rows, and the signals.
     void replaces_data();
     void replaces();
     void skipsARepeatedIdInAnEmptyModelOnly();
@@ -77,7 +77,7 @@ private Q_SLOTS:
 
     void clearsWithAReset();
 
-    // How roles of a row are written.
+    // Writing the roles of a row.
     void writesRolesAndAddsThoseThatTheRowLacks();
     void writesRolesByIdAndByIndexAlike();
     void reportsEqualRoleValuesToo();
@@ -86,12 +86,12 @@ private Q_SLOTS:
     void ignoresRowsThatAreNotThere();
     void ignoresARowPastTheVirtualRowCount();
 
-    // What a slot finds in a model whose signal runs it.
+    // The state of the model while its signals are emitted.
     void changesItsRowsBetweenItsSignals();
     void findsTheNewPositionsInItsSignals();
-    void updatesNoFurtherThanToAnIdWhoseRowASlotHasTaken();
+    void stopsUpdatingAtAnIdWhoseRowASlotRemoved();
 
-    // The model against a plain list, through many random operations.
-    void doesWhatAPlainListDoes();
+    // Many random operations, compared with a reference implementation.
+    void matchesTheReferenceList();
     void keepsAProxySortedAndFiltered();
 };

@@ -171,7 +171,7 @@ void tst_BaseListModel::inserts()
     QTEST(log.take(), "emitted");
 }
 
-void tst_BaseListModel::insertsAtNoPositionByAppending_data()
+void tst_BaseListModel::appendsRowsInsertedAtABadPosition_data()
 {
     addChangeColumns();
     QTest::addColumn<int>("row");
@@ -183,7 +183,7 @@ void tst_BaseListModel::insertsAtNoPositionByAppending_data()
     addChange("past the size of an empty model", "", "aA", "a", "ins 0,1 | count 1") << 3;
 }
 
-void tst_BaseListModel::insertsAtNoPositionByAppending()
+void tst_BaseListModel::appendsRowsInsertedAtABadPosition()
 {
     QFETCH(const QString, before);
     QFETCH(const QString, given);

@@ -16,7 +16,7 @@ namespace {
 constexpr int operations = 100000;
 constexpr int letters = 8;
 
-/// Makes the operations and the rows that they are given.
+/// Makes random operations and rows.
 class Dice
 {
 public:
@@ -42,7 +42,7 @@ public:
         return rows;
     }
 
-    /// \a rows with some share of them changed, and some taken from or added to the end.
+    /// Returns \a rows with some of them changed, and some removed from or added to the end.
     std::vector<ModelRow> changed(std::vector<ModelRow> rows)
     {
         const int share = from(1, 8);
@@ -60,7 +60,7 @@ private:
     std::mt19937 m_generator = seededGenerator();
 };
 
-/// Does one operation with both, and returns its name.
+/// Does one operation on both, and returns its name.
 QString doOne(Dice &dice, BaseListModel &model, ReferenceList &reference)
 {
     const int row = dice.from(-1, int(reference.rows.size()) + 1);
@@ -112,7 +112,7 @@ QString textOf(const std::vector<ModelRow> &rows)
     return texts.join(QLatin1Char(' '));
 }
 
-/// Returns the ids that \a model looks up otherwise than \a reference.
+/// Returns the ids that \a model finds elsewhere than \a reference.
 QString misfound(const BaseListModel &model, const ReferenceList &reference)
 {
     QString ids;
@@ -142,7 +142,7 @@ std::vector<ModelRow> withoutRepeats(const std::vector<ModelRow> &rows)
     return result;
 }
 
-/// Does one operation that announces as many rows as come, and returns its name.
+/// Does one operation that announces the right number of rows, and returns its name.
 QString doOneWithoutRepeats(Dice &dice, LetterListModel &model)
 {
     const std::vector<ModelRow> given = withoutRepeats(dice.rows(2 * letters));
@@ -174,7 +174,7 @@ QString doOneWithoutRepeats(Dice &dice, LetterListModel &model)
     }
 }
 
-/// Passes other letters in upper than in lower case, so that a change may hide a row.
+/// Accepts other letters in upper than in lower case, so that a change may hide a row.
 constexpr char shownLetters[] = "[a-fC-H]";
 
 QString sortedAndFiltered(QString shown)
@@ -186,7 +186,7 @@ QString sortedAndFiltered(QString shown)
 
 } // namespace
 
-void tst_BaseListModel::doesWhatAPlainListDoes()
+void tst_BaseListModel::matchesTheReferenceList()
 {
     Dice dice;
     LetterListModel model;

@@ -26,7 +26,7 @@ public:
     }
 };
 
-/// A subclass that notes when rows are removed.
+/// A subclass that records when rows are removed.
 class RemovalNotingModel : public LetterListModel
 {
     Q_OBJECT
@@ -156,24 +156,25 @@ void tst_BaseListModel::comparesValuesAsQVariantDoes_data()
     QTest::newRow("other texts") << text << QVariant(QStringLiteral("2"));
     QTest::newRow("a null and an empty text")
             << QVariant(QString()) << QVariant(QStringLiteral(""));
-    QTest::newRow("a null value of text and an empty text")
+    QTest::newRow("a null string variant and an empty text")
             << QVariant(QVariant::String) << QVariant(QStringLiteral(""));
     QTest::newRow("one text, shared") << text << text;
-    QTest::newRow("a text and one that it begins") << text << QVariant(QStringLiteral("12"));
-    QTest::newRow("a text and one that begins it") << QVariant(QStringLiteral("12")) << text;
+    QTest::newRow("a text and a longer one with that start")
+            << text << QVariant(QStringLiteral("12"));
+    QTest::newRow("a text and its start") << QVariant(QStringLiteral("12")) << text;
     QTest::newRow("texts that differ at their end")
             << QVariant(QStringLiteral("1234")) << QVariant(QStringLiteral("1235"));
     QTest::newRow("equal numbers") << QVariant(1) << QVariant(1);
     QTest::newRow("other numbers") << QVariant(1) << QVariant(2);
-    QTest::newRow("a null value of number and 0") << QVariant(QVariant::Int) << QVariant(0);
+    QTest::newRow("a null int variant and 0") << QVariant(QVariant::Int) << QVariant(0);
     QTest::newRow("equal numbers of other types") << QVariant(1) << QVariant(1.0);
     QTest::newRow("equal fractions") << QVariant(0.5) << QVariant(0.5);
     QTest::newRow("other fractions") << QVariant(0.5) << QVariant(0.25);
     QTest::newRow("nearly equal fractions") << QVariant(0.1 + 0.2) << QVariant(0.3);
     QTest::newRow("zero and minus zero") << QVariant(0.0) << QVariant(-0.0);
-    QTest::newRow("no number and no number") << QVariant(qQNaN()) << QVariant(qQNaN());
+    QTest::newRow("NaN and NaN") << QVariant(qQNaN()) << QVariant(qQNaN());
     QTest::newRow("infinities") << QVariant(qInf()) << QVariant(-qInf());
-    QTest::newRow("a null value of fraction and 0") << QVariant(QVariant::Double) << QVariant(0.0);
+    QTest::newRow("a null double variant and 0") << QVariant(QVariant::Double) << QVariant(0.0);
     QTest::newRow("large numbers that differ in a digit")
             << QVariant(std::numeric_limits<qlonglong>::max())
             << QVariant(std::numeric_limits<qlonglong>::max() - 1);
@@ -283,9 +284,9 @@ void tst_BaseListModel::refusesToRemove_data()
     QTest::newRow("a negative row") << -1 << 1;
     QTest::newRow("no rows") << 0 << 0;
     QTest::newRow("a negative count") << 1 << -1;
-    QTest::newRow("a row at the size") << 3 << 1;
-    QTest::newRow("rows past the size") << 1 << 3;
-    QTest::newRow("so many that the sum runs over") << 1 << std::numeric_limits<int>::max();
+    QTest::newRow("a row at the row count") << 3 << 1;
+    QTest::newRow("rows past the row count") << 1 << 3;
+    QTest::newRow("so many that the sum overflows") << 1 << std::numeric_limits<int>::max();
 }
 
 void tst_BaseListModel::refusesToRemove()

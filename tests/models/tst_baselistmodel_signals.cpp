@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Notes the letters at each signal of a change.
+/// Records the letters at each signal of a change.
 void recordLetters(SignalLog &log, const LetterListModel &model)
 {
     const auto note = [&log, &model] { log.note(model.text()); };
@@ -23,7 +23,7 @@ void recordLetters(SignalLog &log, const LetterListModel &model)
     QObject::connect(&model, &BaseListModel::countChanged, note);
 }
 
-/// Notes at each signal of a change where the ids in \a ids are: "a0 b-1".
+/// Records at each signal of a change where the ids in \a ids are: "a0 b-1".
 void recordPositions(SignalLog &log, const LetterListModel &model, const QString &ids)
 {
     const auto note = [&log, &model, ids] {
@@ -54,7 +54,7 @@ void tst_BaseListModel::changesItsRowsBetweenItsSignals()
     QCOMPARE(log.take(), QStringLiteral("axb | b | b"));
     model.replace(LetterListModel::rowsOf(QStringLiteral("Bcd")));
     QCOMPARE(log.take(), QStringLiteral("b | bcd | bcd | Bcd"));
-    // A run is told before the next one changes.
+    // A run is signalled before the next one changes.
     model.replace(LetterListModel::rowsOf(QStringLiteral("bcD")));
     QCOMPARE(log.take(), QStringLiteral("bcd | bcD"));
     model.appendOrUpdate(LetterListModel::rowsOf(QStringLiteral("dB")));
@@ -74,7 +74,7 @@ void tst_BaseListModel::findsTheNewPositionsInItsSignals()
     QCOMPARE(log.take(), QStringLiteral("a0 b2 x1 | a0 b2 x1"));
     model.removeRows(0, 1);
     QCOMPARE(log.take(), QStringLiteral("a-1 b1 x0 | a-1 b1 x0"));
-    // Replacing is not done yet at these signals, and its ids come with the rows' own places.
+    // Replacing is not finished at these signals, but the index has the new positions already.
     model.replace(LetterListModel::rowsOf(QStringLiteral("xba")));
     QCOMPARE(log.take(), QStringLiteral("a-1 b1 x0 | a-1 b1 x0"));
     QCOMPARE(model.getRowIndex("a"), 2);
@@ -82,8 +82,8 @@ void tst_BaseListModel::findsTheNewPositionsInItsSignals()
     QCOMPARE(log.take(), QStringLiteral("a-1 b-1 x-1 | a-1 b-1 x-1"));
 }
 
-// What no client should do: the rows are taken away while others come, so that the index is ahead.
-void tst_BaseListModel::updatesNoFurtherThanToAnIdWhoseRowASlotHasTaken()
+// No client should do this: rows are removed while others are added, so that the index is ahead.
+void tst_BaseListModel::stopsUpdatingAtAnIdWhoseRowASlotRemoved()
 {
     LetterListModel model(QStringLiteral("pq"));
     ModelLog log(model);

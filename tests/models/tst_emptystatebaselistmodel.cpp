@@ -31,11 +31,11 @@ private Q_SLOTS:
     void leavesRoleNamesToSubclasses();
     void takesAParent();
     void addsItsPropertiesInOrder();
-    void stillTellsOfItsRows();
-    void tellsOfNewValuesByOneSignal_data();
-    void tellsOfNewValuesByOneSignal();
-    void takesASizeForNewThatDiffersInOneLength_data();
-    void takesASizeForNewThatDiffersInOneLength();
+    void emitsTheSignalsOfABaseListModelToo();
+    void emitsOneSignalForNewValues_data();
+    void emitsOneSignalForNewValues();
+    void treatsASizeThatDiffersInOneLengthAsNew_data();
+    void treatsASizeThatDiffersInOneLengthAsNew();
 };
 
 void tst_EmptyStateBaseListModel::leavesRoleNamesToSubclasses()
@@ -62,7 +62,7 @@ void tst_EmptyStateBaseListModel::addsItsPropertiesInOrder()
                             "emptyStateImageSize"));
 }
 
-void tst_EmptyStateBaseListModel::stillTellsOfItsRows()
+void tst_EmptyStateBaseListModel::emitsTheSignalsOfABaseListModelToo()
 {
     EmptyStateList model;
     ModelLog log(model);
@@ -71,7 +71,7 @@ void tst_EmptyStateBaseListModel::stillTellsOfItsRows()
     QCOMPARE(log.take(), QStringLiteral("ins 0,0 | count 1 | header"));
 }
 
-void tst_EmptyStateBaseListModel::tellsOfNewValuesByOneSignal_data()
+void tst_EmptyStateBaseListModel::emitsOneSignalForNewValues_data()
 {
     QTest::addColumn<QByteArray>("property");
     QTest::addColumn<QVariant>("first");
@@ -86,7 +86,7 @@ void tst_EmptyStateBaseListModel::tellsOfNewValuesByOneSignal_data()
                                       << QVariant(QSize(-1, -1)) << QVariant(QSize(16, 24));
 }
 
-void tst_EmptyStateBaseListModel::tellsOfNewValuesByOneSignal()
+void tst_EmptyStateBaseListModel::emitsOneSignalForNewValues()
 {
     QFETCH(const QByteArray, property);
     QFETCH(const QVariant, first);
@@ -107,7 +107,7 @@ void tst_EmptyStateBaseListModel::tellsOfNewValuesByOneSignal()
     QCOMPARE(changed.size(), 1);
 }
 
-void tst_EmptyStateBaseListModel::takesASizeForNewThatDiffersInOneLength_data()
+void tst_EmptyStateBaseListModel::treatsASizeThatDiffersInOneLengthAsNew_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("signalCount");
@@ -117,7 +117,7 @@ void tst_EmptyStateBaseListModel::takesASizeForNewThatDiffersInOneLength_data()
     QTest::newRow("the height") << QSize(16, 17) << 1;
 }
 
-void tst_EmptyStateBaseListModel::takesASizeForNewThatDiffersInOneLength()
+void tst_EmptyStateBaseListModel::treatsASizeThatDiffersInOneLengthAsNew()
 {
     QFETCH(const QSize, size);
     EmptyStateList model;

@@ -140,7 +140,7 @@ void tst_LazyLoadedListModel::keepsWhatIsStillInReach()
     QCOMPARE(CountedItem::alive, 6 - model.window().count(QLatin1Char('.')));
 }
 
-void tst_LazyLoadedListModel::hasMovedWhenItAsks()
+void tst_LazyLoadedListModel::movesTheWindowBeforeItAsks()
 {
     LazyLetterModel model(2, 3, 100);
     model.setItemsAtPage(0, LazyLetterModel::itemsOf(QStringLiteral("abcdef")));

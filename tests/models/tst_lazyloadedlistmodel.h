@@ -9,7 +9,7 @@ class tst_LazyLoadedListModel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // The rows and the window, and the pages that the model asks for.
+    // The rows, the window, and requests for pages.
     void startsWithoutPagingAndRows();
     void takesAParent();
     void hasNoValuesOfItsOwn();
@@ -21,12 +21,11 @@ private Q_SLOTS:
     void movesTheWindow();
     void keepsWhatIsStillInReach_data();
     void keepsWhatIsStillInReach();
-    void hasMovedWhenItAsks();
+    void movesTheWindowBeforeItAsks();
     void survivesAnyScrolledIndex();
     void holdsOneWindowOfItemsWhateverTheSize();
 
-    // Who owns the items: each is alive as long as somebody holds it. The address sanitizer adds
-    // that none is lost or deleted twice.
+    // The ownership of items. The address sanitizer checks that none leaks or is deleted twice.
     void cleanup();
 
     void takesAnItem();
@@ -50,21 +49,21 @@ private Q_SLOTS:
     void deletesItsItemsOnReset();
     void deletesItemsThatItNoLongerHolds();
 
-    // How the model gets its paging and its rows, and loses them.
+    // Setting paging and size, and resetting them.
     void ignoresPagingWithoutPages_data();
     void ignoresPagingWithoutPages();
-    void startsAfreshWithNewPaging();
-    void startsAfreshWithTheSamePaging();
+    void startsOverWithNewPaging();
+    void startsOverWithTheSamePaging();
     void resetsSilentlyWithoutRows();
 
     void changesItsSize_data();
     void changesItsSize();
     void changesItsCountAfterTheSignals();
-    void unloadsBeforeItTellsOfAReset();
-    void unloadsAfterItTellsOfASmallerSize();
+    void unloadsBeforeItEmitsAReset();
+    void unloadsAfterItEmitsASmallerSize();
     void shrinksTheWindowWithTheList_data();
     void shrinksTheWindowWithTheList();
 
-    // The model against a window that goes row by row, through many random operations.
-    void doesWhatAWindowDoesRowByRow();
+    // Many random operations, compared with a reference implementation.
+    void matchesTheReferenceWindow();
 };

@@ -15,7 +15,7 @@ QVector<QStandardItem *> itemsOf(const char *letters)
     return LazyLetterModel::itemsOf(QString::fromLatin1(letters));
 }
 
-/// An item that leaves its memory to the test when it is deleted.
+/// An item whose memory stays valid after its deletion.
 class PlacedItem : public CountedItem
 {
 public:
@@ -24,7 +24,7 @@ public:
     static void operator delete(void *, void *) { }
 };
 
-/// An item that notes at its end what the model still holds.
+/// An item that records on destruction what the model still holds.
 class LastWords : public QStandardItem
 {
     Q_DISABLE_COPY_MOVE(LastWords)
@@ -124,7 +124,7 @@ void tst_LazyLoadedListModel::deletesTheOldItemAlsoWhenItIsTheNewOne()
     QCOMPARE(CountedItem::alive, 1);
     QVERIFY(model.setItemAtIndex(0, item));
     QCOMPARE(CountedItem::alive, 0);
-    // What the model holds now is dead; here another item comes to life in its place.
+    // The item that the model holds is deleted; another one is made at its address.
     QCOMPARE(model.getItemAt(0), new (memory) PlacedItem);
     model.reset();
     QCOMPARE(CountedItem::alive, 0);
@@ -171,10 +171,11 @@ void tst_LazyLoadedListModel::takesThePage_data()
     row("the first of the window", 1, "abc", "abc...", 100, "chg 3,3 | chg 4,4 | chg 5,5");
     row("the last of the window", 2, "abc", "...abc", 100, "chg 6,6 | chg 7,7 | chg 8,8");
     row("with an item missing", 1, "a.c", "a.c...", 100, "chg 3,3 | chg 4,4 | chg 5,5");
-    row("and more on the next", 1, "abcd", "abcd..", 100, "chg 3,3 | chg 4,4 | chg 5,5 | chg 6,6");
+    row("with more items on the next", 1, "abcd", "abcd..", 100,
+        "chg 3,3 | chg 4,4 | chg 5,5 | chg 6,6");
     row("short, at which the list ends", 2, "ab", "...ab.", 8, "chg 6,6 | chg 7,7 | rem 8,99");
     row("short, before another", 1, "a", "a.....", 4, "chg 3,3 | rem 4,99");
-    row("empty, which says nothing", 1, "", "......", 100, "");
+    row("empty, which changes nothing", 1, "", "......", 100, "");
 }
 
 void tst_LazyLoadedListModel::takesThePage()
@@ -189,7 +190,7 @@ void tst_LazyLoadedListModel::takesThePage()
     QTEST(model.size(), "size");
     QTEST(log.take(), "emitted");
 
-    // Into an empty list each item comes as a row of its own.
+    // In an empty list each item is inserted as a row of its own.
     LazyLetterModel empty(10, 5);
     ModelLog growth(empty);
     empty.setItemsAtPage(2, itemsOf("abc"));
@@ -235,7 +236,7 @@ void tst_LazyLoadedListModel::deletesTheRestOfAShortPage()
     QCOMPARE(model.window(), QStringLiteral("abcx.."));
     QCOMPARE(CountedItem::alive, 4);
     QCOMPARE(log.take(), QStringLiteral("chg 3,3 | abcx.. | rem 4,5"));
-    // A short page in the middle is the end as well.
+    // A short page in the middle ends the list as well.
     model.setItemsAtPage(0, itemsOf("y"));
     QCOMPARE(model.window(), QStringLiteral("y....."));
     QCOMPARE(CountedItem::alive, 1);

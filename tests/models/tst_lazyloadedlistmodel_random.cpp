@@ -8,7 +8,7 @@
 
 namespace {
 
-/// What a LazyLoadedListModel must do, row by row. A row that is not loaded is a dot.
+/// A simple reference implementation of LazyLoadedListModel. A row that is not loaded is a dot.
 class ReferenceWindow
 {
 public:
@@ -142,7 +142,7 @@ QString randomLetters(std::mt19937 &generator, int least, int most)
     return letters;
 }
 
-/// Does one operation with both, and returns its name. What the model refuses is deleted.
+/// Does one operation on both, and returns its name. Items that the model refuses are deleted.
 QString doOne(std::mt19937 &generator, LazyLetterModel &model, ReferenceWindow &reference)
 {
     const auto from = [&](int lowest, int highest) {
@@ -196,7 +196,7 @@ QString doOne(std::mt19937 &generator, LazyLetterModel &model, ReferenceWindow &
 
 } // namespace
 
-void tst_LazyLoadedListModel::doesWhatAWindowDoesRowByRow()
+void tst_LazyLoadedListModel::matchesTheReferenceWindow()
 {
     std::mt19937 generator = seededGenerator();
     LazyLetterModel model;

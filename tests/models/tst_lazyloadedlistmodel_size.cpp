@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Notes at each signal of a removal where the window starts and what it holds: "20 ab..".
+/// Records at each signal of a removal where the window starts and what it holds: "20 ab..".
 void recordWindow(SignalLog &log, const LazyLetterModel &model)
 {
     const auto note = [&log, &model] {
@@ -45,7 +45,7 @@ void tst_LazyLoadedListModel::ignoresPagingWithoutPages()
     QCOMPARE(model.window(), QStringLiteral("ab...."));
 }
 
-void tst_LazyLoadedListModel::startsAfreshWithNewPaging()
+void tst_LazyLoadedListModel::startsOverWithNewPaging()
 {
     LazyLetterModel model(2, 3, 100);
     model.setScrolledIndex(50);
@@ -59,7 +59,7 @@ void tst_LazyLoadedListModel::startsAfreshWithNewPaging()
     QCOMPARE(CountedItem::alive, 0);
 }
 
-void tst_LazyLoadedListModel::startsAfreshWithTheSamePaging()
+void tst_LazyLoadedListModel::startsOverWithTheSamePaging()
 {
     LazyLetterModel model(2, 2, 3);
     model.setItemsAtPage(0, LazyLetterModel::itemsOf(QStringLiteral("ab")));
@@ -129,7 +129,7 @@ void tst_LazyLoadedListModel::changesItsCountAfterTheSignals()
     QCOMPARE(model.rowCount(), 0);
 }
 
-void tst_LazyLoadedListModel::unloadsBeforeItTellsOfAReset()
+void tst_LazyLoadedListModel::unloadsBeforeItEmitsAReset()
 {
     LazyLetterModel model(2, 2, 100);
     model.setScrolledIndex(22);
@@ -141,7 +141,7 @@ void tst_LazyLoadedListModel::unloadsBeforeItTellsOfAReset()
     QCOMPARE(model.getStartIndex(), 0);
 }
 
-void tst_LazyLoadedListModel::unloadsAfterItTellsOfASmallerSize()
+void tst_LazyLoadedListModel::unloadsAfterItEmitsASmallerSize()
 {
     LazyLetterModel model(2, 2, 100);
     model.setScrolledIndex(22);

@@ -56,7 +56,7 @@ private:
     QtMessageHandler m_before;
 };
 
-/// QListView lays all rows out anew for any change; a tree paints what has changed.
+/// A tree view, since QListView lays out all rows again for any change.
 class PaintNotingView : public QTreeView
 {
 public:
@@ -166,7 +166,7 @@ void tst_ModelContract::keepsQtsContract()
         QVERIFY(view.visualRect(proxy.index(model->rowCount() - 1, 0)).isValid());
 }
 
-void tst_ModelContract::partsFromQtsContract_data()
+void tst_ModelContract::breaksQtsContract_data()
 {
     QTest::addColumn<Scenario>("scenario");
     QTest::addColumn<QString>("emitted");
@@ -201,7 +201,7 @@ void tst_ModelContract::partsFromQtsContract_data()
         pages(4, [](auto &model) { model.setSize(2); }));
     row("pages: reset", "rem 0,3", "4 rows, not 0", "",
         pages(4, [](auto &model) { model.reset(); }));
-    row("pages: paging set anew", "rem 0,3", "4 rows, not 0", "",
+    row("pages: paging set again", "rem 0,3", "4 rows, not 0", "",
         pages(4, [](auto &model) { model.setPagingConfig(2, 2); }));
     row("pages: an item past the end", "ins 4,5", "4 rows, not 6", ".....f",
         pages(4, [](auto &model) { model.setItemAtIndex(5, item("f")); }));
@@ -213,7 +213,7 @@ void tst_ModelContract::partsFromQtsContract_data()
         pages(9, [](auto &model) { model.setItemsAtPage(1, { item("c") }); }));
 }
 
-void tst_ModelContract::partsFromQtsContract()
+void tst_ModelContract::breaksQtsContract()
 {
     QFETCH(const Scenario, scenario);
     const ModelPointer model = scenario.make();
@@ -237,7 +237,7 @@ void tst_ModelContract::partsFromQtsContract()
     QTEST(complaints.ofTester(), "complaints");
 }
 
-void tst_ModelContract::partsFromQtsContractWithRowsBelowItsRows()
+void tst_ModelContract::breaksQtsContractWithRowsBelowItsRows()
 {
     LazyLetterModel model(2, 3, 4);
     const Complaints complaints;
@@ -246,7 +246,7 @@ void tst_ModelContract::partsFromQtsContractWithRowsBelowItsRows()
     QCOMPARE(complaints.ofTester(), QStringLiteral("invalid childIndex"));
 }
 
-void tst_ModelContract::letsRowsThatGrowTheListPassAFilterUnseen()
+void tst_ModelContract::letsRowsThatGrowTheListBypassAFilter()
 {
     FlatLazyLetterModel model(2, 3, 4);
     QSortFilterProxyModel proxy;
@@ -271,7 +271,7 @@ void tst_ModelContract::paintsNothingWhenNothingIsReplaced()
     view.viewport()->repaint();
     view.painted = QRegion();
     model.replace(rows("abcd"));
-    // Whatever that asked to paint would be painted with this row.
+    // An update that the first replace() asked for would be painted with this row.
     model.replace(rows("abCd"));
     QTRY_VERIFY(!view.painted.isEmpty());
     QCOMPARE(view.painted, QRegion(view.visualRect(model.index(2))));

@@ -3,8 +3,8 @@
 
 #include <QObject>
 
-/// Which scenarios keep Qt's contract of models, by QAbstractItemModelTester, and which don't. The
-/// signals are the same in both; docs/list-models.md says what to avoid where they part.
+/// Which scenarios keep Qt's contract of models, by QAbstractItemModelTester, and which break it.
+/// The signals are the same in both; docs/list-models.md says what to avoid.
 class tst_ModelContract : public QObject
 {
     Q_OBJECT
@@ -12,10 +12,10 @@ class tst_ModelContract : public QObject
 private Q_SLOTS:
     void keepsQtsContract_data();
     void keepsQtsContract();
-    void partsFromQtsContract_data();
-    void partsFromQtsContract();
-    void partsFromQtsContractWithRowsBelowItsRows();
-    void letsRowsThatGrowTheListPassAFilterUnseen();
+    void breaksQtsContract_data();
+    void breaksQtsContract();
+    void breaksQtsContractWithRowsBelowItsRows();
+    void letsRowsThatGrowTheListBypassAFilter();
     void paintsNothingWhenNothingIsReplaced();
 
     void letsASlotDeleteTheModel_data();

@@ -37,7 +37,7 @@ private:
     int m_emission;
 };
 
-/// After these, Qt's own function goes on with the model.
+/// After these signals, Qt's own functions use the model.
 bool isFollowedByQt(const QAbstractItemModel &model, const QMetaMethod &signal)
 {
     const QByteArray name = signal.name();
@@ -121,7 +121,7 @@ void tst_ModelContract::letsASlotDeleteTheModel_data()
     row("pages: a smaller size set", "rowsRemoved",
         pages(4, [](auto &model) { model.setSize(2); }));
     row("pages: reset", "rowsRemoved", pages(4, [](auto &model) { model.reset(); }));
-    row("pages: paging set anew", "rowsRemoved",
+    row("pages: paging set again", "rowsRemoved",
         pages(4, [](auto &model) { model.setPagingConfig(2, 2); }));
     row("pages: an item arrived", "dataChanged",
         pages(4, [](auto &model) { model.setItemAtIndex(1, item("b")); }));
@@ -144,8 +144,8 @@ void tst_ModelContract::letsASlotDeleteTheModel_data()
         pages(99, [](auto &model) { model.setScrolledIndex(70); }));
 }
 
-// Deleting the model deletes what the call has handed to it, as the counted items say. That nothing
-// of the model is touched is for the address sanitizer to say.
+// Deleting the model deletes what the call has handed to it, which counted items check. The address
+// sanitizer checks that nothing of the deleted model is used.
 void tst_ModelContract::letsASlotDeleteTheModel()
 {
     QFETCH(const Scenario, scenario);

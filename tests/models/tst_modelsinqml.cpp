@@ -15,7 +15,7 @@ using namespace ModelScenarios;
 
 namespace {
 
-/// A list view that shows the role "letter" of whatever model it is given.
+/// A list view that shows the role "letter" of any model.
 constexpr char listView[] = R"(
     import QtQuick 2.15
     ListView {
@@ -49,7 +49,7 @@ constexpr char repeater[] = R"(
         }
     })";
 
-/// A scene with such a view, of which texts and properties can be asked.
+/// A scene with such a view, whose texts and properties can be read.
 class Scene
 {
 public:
@@ -81,7 +81,7 @@ private:
 
 } // namespace
 
-/// The models as QML finds them: nothing is wrapped, and no role or property is named twice.
+/// The models in QML, without wrappers.
 class tst_ModelsInQml : public QObject
 {
     Q_OBJECT
@@ -91,15 +91,15 @@ private Q_SLOTS:
     void readsAndWritesCountAndHeader();
     void showsASmallListModel();
     void showsAPagedModel();
-    void hearsWhatPagesAreMissing();
+    void receivesRequestsForMissingPages();
     void showsTheTailThroughAProxy();
     void makesAProxyItself();
     void showsTheEmptyState();
 
-    void showsChangesThatPartFromQtsContract_data();
-    void showsChangesThatPartFromQtsContract();
+    void showsChangesThatBreakQtsContract_data();
+    void showsChangesThatBreakQtsContract();
     void showsTheTrueRowsAfterAReset();
-    void leavesRowsEmptyThatComeWhileARepeaterIsAttached();
+    void leavesRowsEmptyThatAreAddedWhileARepeaterIsAttached();
 };
 
 void tst_ModelsInQml::showsABaseListModel()
@@ -169,7 +169,7 @@ void tst_ModelsInQml::showsAPagedModel()
     QCOMPARE(scene.text(), QString());
 }
 
-void tst_ModelsInQml::hearsWhatPagesAreMissing()
+void tst_ModelsInQml::receivesRequestsForMissingPages()
 {
     LazyLetterModel model(2, 2, 100);
     const Scene scene(&model, R"(
@@ -246,7 +246,7 @@ void tst_ModelsInQml::showsTheEmptyState()
     QCOMPARE(scene.text(), QStringLiteral("a"));
 }
 
-void tst_ModelsInQml::showsChangesThatPartFromQtsContract_data()
+void tst_ModelsInQml::showsChangesThatBreakQtsContract_data()
 {
     QTest::addColumn<Scenario>("scenario");
     QTest::addColumn<QString>("rows");
@@ -281,7 +281,7 @@ void tst_ModelsInQml::showsChangesThatPartFromQtsContract_data()
     row("pages: a smaller size set", "..", "..", "..",
         pages(4, [](auto &model) { model.setSize(2); }));
     row("pages: reset", "", "", "", pages(4, [](auto &model) { model.reset(); }));
-    row("pages: paging set anew", "", "", "",
+    row("pages: paging set again", "", "", "",
         pages(4, [](auto &model) { model.setPagingConfig(2, 2); }));
     row("pages: an item past the end", ".....f", ".....f", "......",
         pages(4, [](auto &model) { model.setItemAtIndex(5, item("f")); }));
@@ -292,7 +292,7 @@ void tst_ModelsInQml::showsChangesThatPartFromQtsContract_data()
         pages(9, [](auto &model) { model.setItemsAtPage(1, { item("c") }); }));
 }
 
-void tst_ModelsInQml::showsChangesThatPartFromQtsContract()
+void tst_ModelsInQml::showsChangesThatBreakQtsContract()
 {
     QFETCH(const Scenario, scenario);
     const auto model = scenario.make();
@@ -323,8 +323,8 @@ void tst_ModelsInQml::showsTheTrueRowsAfterAReset()
     QCOMPARE(repeated.text(), QStringLiteral("xy"));
 }
 
-// The repeater works out where its items are while the model still has the old number of rows.
-void tst_ModelsInQml::leavesRowsEmptyThatComeWhileARepeaterIsAttached()
+// The repeater places its items while the model still has the old number of rows.
+void tst_ModelsInQml::leavesRowsEmptyThatAreAddedWhileARepeaterIsAttached()
 {
     FlatLazyLetterModel model(2, 3, 2);
     const Scene list(&model);

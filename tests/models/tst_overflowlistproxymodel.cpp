@@ -11,7 +11,7 @@
 
 namespace {
 
-/// A proxy whose filter can be asked, and which counts how often it is.
+/// A proxy with a public filter function that counts its calls.
 class CountingProxy : public OverflowListProxyModel
 {
     Q_OBJECT
@@ -30,12 +30,12 @@ public:
     }
 };
 
-/// What a proxy must show, in the plainest form.
+/// A simple reference implementation of the proxy.
 struct ShownLetters
 {
     explicit ShownLetters(const OverflowListProxyModel &model) : proxy(model) { }
 
-    /// Filters \a row anew.
+    /// Filters \a row again.
     void look(int row)
     {
         const QChar letter = letters.at(row).toLower();
@@ -104,10 +104,10 @@ private Q_SLOTS:
     void showsItsProperties();
     void showsTheRowsBehindTheIndex_data();
     void showsTheRowsBehindTheIndex();
-    void looksAtNoParent();
-    void tellsOfANewIndexBeforeItFilters();
-    void doesNothingForThePresentIndex();
-    void tellsOfANewHeaderOnly();
+    void ignoresTheParent();
+    void emitsANewIndexBeforeItFilters();
+    void doesNothingForTheSameIndex();
+    void emitsOnlyForANewHeader();
     void losesItsRowsWithTheSourceAndKeepsItsProperties();
     void unsetsTheSourceThroughTheVirtualFunction();
     void keepsARowThatMovesInFrontOfTheIndex();
@@ -171,7 +171,7 @@ void tst_OverflowListProxyModel::showsTheRowsBehindTheIndex()
     QCOMPARE(set.text(), rows);
 }
 
-void tst_OverflowListProxyModel::looksAtNoParent()
+void tst_OverflowListProxyModel::ignoresTheParent()
 {
     const LetterListModel source(QStringLiteral("abc"));
     const CountingProxy proxy(nullptr, 1);
@@ -179,7 +179,7 @@ void tst_OverflowListProxyModel::looksAtNoParent()
     QVERIFY(proxy.filterAcceptsRow(2, source.index(0)));
 }
 
-void tst_OverflowListProxyModel::tellsOfANewIndexBeforeItFilters()
+void tst_OverflowListProxyModel::emitsANewIndexBeforeItFilters()
 {
     LetterListModel source(QStringLiteral("abcd"));
     CountingProxy proxy;
@@ -195,7 +195,7 @@ void tst_OverflowListProxyModel::tellsOfANewIndexBeforeItFilters()
     QCOMPARE(log.take(), QStringLiteral("1 d | ins 0,0"));
 }
 
-void tst_OverflowListProxyModel::doesNothingForThePresentIndex()
+void tst_OverflowListProxyModel::doesNothingForTheSameIndex()
 {
     LetterListModel source(QStringLiteral("abcd"));
     CountingProxy proxy;
@@ -211,7 +211,7 @@ void tst_OverflowListProxyModel::doesNothingForThePresentIndex()
     QCOMPARE(changed.size(), 1);
 }
 
-void tst_OverflowListProxyModel::tellsOfANewHeaderOnly()
+void tst_OverflowListProxyModel::emitsOnlyForANewHeader()
 {
     OverflowListProxyModel proxy;
     QSignalSpy changed(&proxy, &OverflowListProxyModel::headerChanged);
@@ -258,7 +258,7 @@ void tst_OverflowListProxyModel::keepsARowThatMovesInFrontOfTheIndex()
     QCOMPARE(proxy.text(), QStringLiteral("de"));
     source.removeRows(0, 2);
     QCOMPARE(proxy.text(), QStringLiteral("de"));
-    // The filter looks again where a row changes.
+    // A changed row is filtered again.
     source.setRoleValueForRow("d", { { LetterListModel::Letter, QStringLiteral("D") } });
     QCOMPARE(proxy.text(), QStringLiteral("e"));
 }

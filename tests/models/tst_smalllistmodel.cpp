@@ -56,7 +56,7 @@ private Q_SLOTS:
     void answersEverySectionWithItsHeader_data();
     void answersEverySectionWithItsHeader();
     void adds();
-    void announcesAnEmptyListBackwards();
+    void announcesAnEmptyListWithLastBeforeFirst();
     void removes_data();
     void removes();
     void comparesWholeRowsToRemove_data();
@@ -65,7 +65,7 @@ private Q_SLOTS:
     void replacesWithAReset();
     void clearsWithAResetAlsoWhenEmpty();
     void changesItsRowsBetweenItsSignals();
-    void doesWhatAPlainListDoes();
+    void matchesAPlainList();
 };
 
 void tst_SmallListModel::isMadeWithNamesParentAndHeader()
@@ -102,7 +102,7 @@ void tst_SmallListModel::givesNothingSilently_data()
     QTest::addColumn<int>("role");
 
     QTest::newRow("row 5 of three") << 5 << letterRole;
-    QTest::newRow("the row at the size") << 3 << letterRole;
+    QTest::newRow("the row at the row count") << 3 << letterRole;
     QTest::newRow("a negative row") << -1 << letterRole;
     QTest::newRow("a role that the row lacks") << 0 << numberRole;
     QTest::newRow("Qt::UserRole itself, although the row has it") << 0 << 256;
@@ -117,7 +117,7 @@ void tst_SmallListModel::givesNothingSilently()
     SmallLetters model;
     model.add(Rows(3, { { 0, 1 }, { 256, 1 }, { letterRole, 1 } }));
     QCOMPARE(model.data(row, role), QVariant());
-    // An index of a longer model stands for one that has become stale.
+    // An index of a longer model serves as a stale one.
     QCOMPARE(model.data(longer.index(row), role), QVariant());
 }
 
@@ -152,7 +152,7 @@ void tst_SmallListModel::adds()
     QCOMPARE(log.take(), QStringLiteral("ins 0,1 | ins 2,2"));
 }
 
-void tst_SmallListModel::announcesAnEmptyListBackwards()
+void tst_SmallListModel::announcesAnEmptyListWithLastBeforeFirst()
 {
     SmallLetters model(QStringLiteral("ab"));
     ModelLog log(model);
@@ -204,7 +204,7 @@ void tst_SmallListModel::comparesWholeRowsToRemove_data()
     QTest::newRow("a role less") << Rows { { { 257, 1 } } } << 1;
     QTest::newRow("a role more") << Rows { { { 257, 1 }, { 258, 2 }, { 259, 3 } } } << 1;
     QTest::newRow("another role") << Rows { { { 257, 1 }, { 259, 2 } } } << 1;
-    QTest::newRow("a value that QVariant takes for equal")
+    QTest::newRow("a value that is equal for QVariant")
             << Rows { { { 257, 1 }, { 258, 2.0 } } } << 0;
 }
 
@@ -265,7 +265,7 @@ void tst_SmallListModel::changesItsRowsBetweenItsSignals()
     QCOMPARE(log.take(), QStringLiteral(" | ab | ab | b | b | xy | xy | "));
 }
 
-void tst_SmallListModel::doesWhatAPlainListDoes()
+void tst_SmallListModel::matchesAPlainList()
 {
     std::mt19937 generator = seededGenerator();
     SmallLetters model;

@@ -65,7 +65,7 @@ void ApplicationState::addProperties()
         if (!property.isWritable())
             continue;
         QVariant value = property.read(qApp);
-        if (property.isEnumType()) // An int as well, until something makes the type known to Qt.
+        if (property.isEnumType()) // Reads as int until the type is registered.
             value.convert(QMetaType::Int);
         m_texts.insert(QLatin1String(property.name()), textOf(value));
     }

@@ -5,15 +5,15 @@
 #include <QString>
 #include <QStringList>
 
-/// What a test class may change of the application object and must put back, each thing as a text.
+/// The state of the application object that a test class must restore, each part as a text.
 class ApplicationState
 {
 public:
-    /// The state of this moment, once what waits to be deleted is gone. It is empty without an
+    /// The current state, after pending deletions. It is empty without an
     /// application object.
     static ApplicationState now();
 
-    /// Returns a line for each thing that is not what it was in \a before.
+    /// Returns a line for each part that differs from \a before.
     QStringList differencesTo(const ApplicationState &before) const;
 
 private:

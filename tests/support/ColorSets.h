@@ -7,7 +7,7 @@
 
 #include <initializer_list>
 
-/// Colour sets and stores as tests need them.
+/// Colour sets and stores for tests.
 namespace ColorSets {
 
 /// Returns a set with "#rrggbb" or "#aarrggbb" texts as colours, in the order normal, hovered,

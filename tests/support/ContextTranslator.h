@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
-/// Translates each text into "context/text", as long as it lives.
+/// Translates each text into "context/text" while it exists.
 class ContextTranslator : public QTranslator
 {
 public:

@@ -18,7 +18,7 @@ void write(const QString &path, const QByteArray &content)
         qFatal("Cannot write %s.", qPrintable(path));
 }
 
-/// Returns the list of resources that makes the one picture a file for each of \a stems.
+/// Returns a resource list in which one picture is the file of each of \a stems.
 QByteArray listOf(const QStringList &stems)
 {
     QByteArray list = "<RCC><qresource prefix='/emojis'>";

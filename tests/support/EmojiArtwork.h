@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// Emoji files under ":/emojis/", as long as the object lives.
+/// Provides emoji files under ":/emojis/" while it exists.
 class EmojiArtwork
 {
     Q_DISABLE_COPY_MOVE(EmojiArtwork)

@@ -14,7 +14,7 @@ struct Entry
     QString status; ///< "fully-qualified", "minimally-qualified", "unqualified" or "component".
     QVector<uint> codePoints;
     QString text;
-    QString stem; ///< What its artwork is called.
+    QString stem; ///< The stem of its artwork's file name.
 };
 
 /// Returns the whole file.
@@ -26,7 +26,7 @@ inline QByteArray content()
     return file.readAll();
 }
 
-/// Returns the sequence that \a line tells of: "1F44D 1F3FB ; fully-qualified # ...".
+/// Returns the sequence of \a line: "1F44D 1F3FB ; fully-qualified # ...".
 inline Entry entryOf(const QString &line)
 {
     Entry entry;

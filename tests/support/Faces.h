@@ -32,7 +32,7 @@ inline void addRows(bool isButton = true)
     }
 }
 
-/// Brings keyboard focus to \a widget, which shows its window. Returns whether it came.
+/// Shows the window of \a widget and gives it keyboard focus. Returns whether that worked.
 inline bool focusByKeyboard(QWidget &widget)
 {
     QWidget *window = widget.window();
@@ -45,7 +45,7 @@ inline bool focusByKeyboard(QWidget &widget)
     return QTest::qWaitFor([&widget] { return widget.hasFocus(); });
 }
 
-/// Lets \a widget believe that the pointer moves over it. A button believes it at the first move.
+/// Makes \a widget behave as under the pointer. A button does so from the first move on.
 inline void hover(QWidget &widget)
 {
     widget.ensurePolished();

@@ -6,8 +6,7 @@
 #include <QGuiApplication>
 #include <QVariant>
 
-/// Puts two colour stores in force, and takes stores and theme flags back to what they were when it
-/// goes.
+/// Sets two colour stores, and restores stores and theme flags when it is destroyed.
 class StoreGuard
 {
     Q_DISABLE_COPY_MOVE(StoreGuard)
@@ -16,7 +15,7 @@ public:
     explicit StoreGuard(const OxaColorSetMap &ordinary, const OxaColorSetMap &inverted = {});
     ~StoreGuard();
 
-    /// Sets the application's flags, for this guard's life.
+    /// Sets the application's flags until this guard is destroyed.
     void setFlags(bool isDarkTheme, bool isHighContrastTheme);
 
 private:
@@ -27,7 +26,7 @@ private:
     const QVariant m_isHighContrastTheme;
 };
 
-/// Sets a property of the application object, and takes it back when it goes.
+/// Sets a property of the application object, and restores it when it is destroyed.
 class ApplicationPropertyGuard
 {
     Q_DISABLE_COPY_MOVE(ApplicationPropertyGuard)
@@ -45,7 +44,7 @@ private:
     const QVariant m_before;
 };
 
-/// Sets the application's layout direction, and takes it back when it goes.
+/// Sets the application's layout direction, and restores it when it is destroyed.
 class LayoutDirectionGuard
 {
     Q_DISABLE_COPY_MOVE(LayoutDirectionGuard)

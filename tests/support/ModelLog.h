@@ -11,8 +11,8 @@
 /// Records what a model emits as one short text: "ins 3,5 | count 6 | chg 1,2".
 ///
 /// Numbers are the first and the last row, and the roles of a change follow where it names any:
-/// "chg 1,1 [257,258]". Removals are "rem 0,1" and a reset is "reset". What happens below a row
-/// says so: "rem 0,1 below 3".
+/// "chg 1,1 [257,258]". Removals are "rem 0,1" and a reset is "reset". Changes below a row name it:
+/// "rem 0,1 below 3".
 class ModelLog : public SignalLog
 {
 public:

@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QWidget>
 
-/// Counts the paint events of a widget that it shows.
+/// Shows a widget and counts its paint events.
 class PaintCounter : public QObject
 {
     Q_DISABLE_COPY_MOVE(PaintCounter)
@@ -29,7 +29,7 @@ public:
     /// again.
     int take()
     {
-        // What an event posts is sent in the next turn: a queued call, the update that it asks for.
+        // What an event posts, such as a queued call or an update, is sent in the next turn.
         for (int turn = 0; turn < 3; ++turn)
             QCoreApplication::processEvents();
         return std::exchange(m_paints, 0);

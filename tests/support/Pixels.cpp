@@ -28,11 +28,11 @@ void visitNear(const QImage &image, const QColor &color, const QRect &area, int 
 
 } // namespace
 
-QImage Pixels::render(QWidget &widget, const QColor &ground, qreal devicePixelRatio)
+QImage Pixels::render(QWidget &widget, const QColor &background, qreal devicePixelRatio)
 {
     QImage image(widget.size() * devicePixelRatio, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(devicePixelRatio);
-    image.fill(ground);
+    image.fill(background);
     widget.ensurePolished();
     QPainter painter(&image);
     widget.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);

@@ -7,7 +7,7 @@
 #include <QWidget>
 
 /// Input that comes from the X server, as from a user, for tests that run with XVFB. Each function
-/// returns once the input was sent, and tells whether that worked; what it does follows later.
+/// returns whether the input was sent; its effect follows later.
 namespace RealInput {
 
 /// Runs xdotool with \a arguments while this program goes on handling events.
@@ -20,7 +20,7 @@ inline bool send(const QStringList &arguments)
     return ends && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }
 
-/// Types the keys \a names, each called as X calls it: "Tab", "KP_Enter", "shift+Tab".
+/// Types the keys \a names, by their X names: "Tab", "KP_Enter", "shift+Tab".
 inline bool typeKeys(const QStringList &names)
 {
     return send(QStringList(QStringLiteral("key")) + names);

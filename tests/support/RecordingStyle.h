@@ -7,7 +7,7 @@
 
 #include <vector>
 
-/// Notes the primitive elements that it is asked for, and draws none.
+/// Records the primitive elements that it is asked for, and draws none.
 class RecordingStyle : public QProxyStyle
 {
 public:
@@ -29,7 +29,7 @@ public:
     }
 };
 
-/// Makes a recording style the application's, and puts Fusion back when it goes.
+/// Sets a recording style for the application, and restores Fusion when it is destroyed.
 class ApplicationStyleGuard
 {
     Q_DISABLE_COPY_MOVE(ApplicationStyleGuard)
@@ -38,7 +38,7 @@ public:
     ApplicationStyleGuard() { QApplication::setStyle(m_style); }
     ~ApplicationStyleGuard() { QApplication::setStyle(QStringLiteral("Fusion")); }
 
-    /// Returns what the style was asked for so far.
+    /// Returns what the style was asked for.
     const std::vector<RecordingStyle::Call> &calls() const { return m_style->calls; }
 
 private:

@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QStringList>
 
-/// Records which signals fired, in which order, as one short text: "cssChanged | themeTypeChanged".
+/// Records the emitted signals in their order as one short text: "cssChanged | themeTypeChanged".
 class SignalLog
 {
     Q_DISABLE_COPY_MOVE(SignalLog)
@@ -12,17 +12,17 @@ class SignalLog
 public:
     SignalLog() = default;
 
-    /// Notes \a entry whenever \a signal of \a sender fires.
+    /// Records \a entry whenever \a signal of \a sender is emitted.
     template <typename Sender, typename Signal>
     void record(const Sender *sender, Signal signal, const QString &entry)
     {
         QObject::connect(sender, signal, &m_context, [this, entry] { m_entries += entry; });
     }
 
-    /// Notes \a entry now.
+    /// Records \a entry now.
     void note(const QString &entry) { m_entries += entry; }
 
-    /// Returns what fired since the last call.
+    /// Returns the entries since the last call.
     QString take()
     {
         const QString text = m_entries.join(QLatin1String(" | "));

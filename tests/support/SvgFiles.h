@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// SVG files as tests need them, in a folder that goes with the object.
+/// SVG files for tests, in a folder that is deleted with the object.
 class SvgFiles
 {
     Q_DISABLE_COPY_MOVE(SvgFiles)
@@ -43,7 +43,7 @@ public:
         return write(name, document("<path d='M0 0H16V16H0Z'/>"));
     }
 
-    /// Writes an icon of two turning shapes in black.
+    /// Writes an icon of two rotating shapes in black.
     QString animated(const QString &name = QStringLiteral("animated.svg")) const
     {
         const QByteArray shape = "<rect width='9' height='9'><animateTransform "
@@ -52,7 +52,7 @@ public:
         return write(name, document(shape + shape));
     }
 
-    /// Announces the warnings of a file at \a path that is not there.
+    /// Announces the warnings about a missing file at \a path.
     static void ignoreMissing(const QString &path)
     {
         const QString reason = QStringLiteral("Cannot open file '%1', because: No such file or "

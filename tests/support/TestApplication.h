@@ -5,7 +5,7 @@
 
 #include <UiElements/app/OxaApplication.h>
 
-/// The application object of tests, with the outer application's hooks answered by doing nothing.
+/// The application object of tests. The hooks for outer applications do nothing.
 class TestApplication : public OxaApplication
 {
     Q_OBJECT
@@ -17,9 +17,9 @@ public:
     void restart() override;
     void registerMainWindowShortcuts(OxaMainWindow *window) override;
 
-    /// Fills what the outer application says of itself.
+    /// Sets the publishing information.
     void setPublishingInfo(const AppPublishing::OxaPublishingInfo &info);
 };
 
-/// Runs a test class under a TestApplication. TestMain.h has the like for other applications.
+/// Runs a test class under a TestApplication. TestMain.h has macros for other applications.
 #define UIELEMENTS_TEST_MAIN(TestClass) UIELEMENTS_TEST_MAIN_WITH(TestApplication, TestClass)

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int mostFailures = 127; // A larger exit code would lose its upper bits, and might be 0.
 
-/// Local to a function, so that it is there when the first class is added.
+/// Local to a function, so that it exists when the first class is added.
 std::vector<TestClass> &testClasses()
 {
     static std::vector<TestClass> classes;
@@ -94,7 +94,7 @@ int main(int argc, char **argv)
     if (!agreeOnTheApplication(classes))
         return 1;
     const auto application = classes.front().makeApplication(argc, argv);
-    QCoreApplication::setAttribute(Qt::AA_Use96Dpi); // As Qt Test's own main functions have it.
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi); // As in Qt Test's own main functions.
 
     QStringList arguments;
     for (int i = 0; i < argc; ++i)

@@ -13,7 +13,8 @@
 /// Arguments are those of Qt Test. A class runs the functions that are named and are its own; where
 /// functions are named and none is its own, it does not run.
 ///
-/// Types that sources declare as metatypes need names of their own in a program: Qt knows them by name.
+/// Types that sources declare as metatypes need names of their own in a program: Qt knows them by
+/// name.
 ///
 /// After each class the application is compared with what it was before. Windows that are left,
 /// other properties, font, palette or stores count as a failure of the class.
@@ -27,7 +28,7 @@ struct TestClass
     std::unique_ptr<QCoreApplication> (*makeApplication)(int &argc, char **argv);
 };
 
-/// Adds a class to those that the program runs. The result initialises a constant, and says
+/// Adds a class to those that the program runs. The result initialises a constant, and means
 /// nothing.
 bool add(const TestClass &testClass);
 

@@ -6,8 +6,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
-/// Lets some frames of the animated file at \a path pass. Returns whether they did: whatever was
-/// animated before the call has shown as many.
+/// Waits for some frames of the animated file at \a path, which widgets with an animation have
+/// shown then as well. Returns whether they came.
 inline bool passFrames(const QString &path)
 {
     const OxaSvgRenderer renderer(path);

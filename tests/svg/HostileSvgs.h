@@ -37,8 +37,7 @@ inline QByteArray nested(const QByteArray &name, int count, const QByteArray &bo
             + QByteArray("</" + name + '>').repeated(count);
 }
 
-/// Returns groups of ten uses of the group before, so that the last one stands for 10^\a levels
-/// shapes.
+/// Returns groups of ten uses of the group before, so that the last one has 10^\a levels shapes.
 inline QByteArray usesOfUses(int levels)
 {
     QByteArray groups = "<g id='level0'>" + shape + "</g>";

@@ -11,7 +11,7 @@
 #include <memory>
 #include <vector>
 
-/// One class with an icon, as tests of the icon block see it.
+/// One class with an icon, for the tests of the icon block.
 struct IconWidget
 {
     const char *name;
@@ -58,7 +58,7 @@ inline void addIconWidgets()
         QTest::newRow(widget.name) << row++;
 }
 
-/// Declares `tested`, the class of the test's current row, and `widget`, one of it.
+/// Declares `tested`, the class of the current row, and `widget`, an object of it.
 #define FETCH_ICON_WIDGET                                                                          \
     QFETCH(const int, row);                                                                        \
     const IconWidget &tested = iconWidgets().at(std::size_t(row));                                 \

@@ -207,7 +207,7 @@ void tst_DrawUtilsFocusFrame::leavesTheFrameToTheApplicationsStyle()
     QCOMPARE(call.element, QStyle::PE_FrameFocusRect);
     QCOMPARE(call.optionType, int(QStyleOption::SO_FocusRect));
     QTEST(call.rect, "framed");
-    // The option tells of the widget, not of the state that asked for the frame.
+    // The option describes the widget, not the given state.
     QVERIFY(!call.state.testFlag(QStyle::State_Enabled));
     QVERIFY(!call.state.testFlag(QStyle::State_HasFocus));
     QCOMPARE(call.painter, used);

@@ -111,12 +111,13 @@ void tst_DrawUtilsGeometry::scalesAPixmapToARectangle_data()
     QTest::newRow("a high one") << QSize(20, 40) << square << 1.0 << QRectF(35, 20, 50, 100)
                                 << QSize(50, 100);
     QTest::newRow("a larger one") << QSize(400, 400) << square << 1.0 << square << QSize(100, 100);
-    QTest::newRow("two pixels of the device for one")
-            << QSize(40, 20) << square << 2.0 << QRectF(10, 45, 100, 50) << QSize(200, 100);
-    QTest::newRow("parts of a pixel are cut off") << QSize(8, 8) << QRectF(0, 0, 10.5, 10.5) << 1.5
-                                                  << QRectF(0, 0, 10.5, 10.5) << QSize(15, 15);
+    QTest::newRow("a ratio of 2") << QSize(40, 20) << square << 2.0 << QRectF(10, 45, 100, 50)
+                                  << QSize(200, 100);
+    QTest::newRow("parts of a pixel are truncated")
+            << QSize(8, 8) << QRectF(0, 0, 10.5, 10.5) << 1.5 << QRectF(0, 0, 10.5, 10.5)
+            << QSize(15, 15);
     // 100 by 25.2, of which 25 are left: as wide as that height allows.
-    QTest::newRow("its proportions outlast the cut")
+    QTest::newRow("the ratio is kept after truncation")
             << QSize(500, 126) << square << 1.0 << QRectF(10, 57.4, 100, 25.2) << QSize(99, 25);
 }
 

@@ -19,7 +19,7 @@ const QMargins textMargins(3, 7, 5, 9); // A text of 40 by 12 takes 48 by 28.
 
 Q_DECLARE_METATYPE(QMargins)
 
-/// Where an icon and a text stand in relation to each other.
+/// The positions of an icon and a text relative to each other.
 class tst_DrawUtilsIconText : public QObject
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ private Q_SLOTS:
     void placesIconAndTextAroundEachOther();
     void countsAnAbsentIconAsMinusOne_data();
     void countsAnAbsentIconAsMinusOne();
-    void reckonsInSinglePrecision();
+    void calculatesInSinglePrecision();
 };
 
 void tst_DrawUtilsIconText::placesIconAndTextAroundEachOther_data()
@@ -115,7 +115,7 @@ void tst_DrawUtilsIconText::countsAnAbsentIconAsMinusOne()
     QTEST(total, "total");
 }
 
-void tst_DrawUtilsIconText::reckonsInSinglePrecision()
+void tst_DrawUtilsIconText::calculatesInSinglePrecision()
 {
     // The first whole number that single precision lacks.
     const auto [icon, text, total] = DrawUtils::calculateIconTextOffset(QSize(16777217, 1),

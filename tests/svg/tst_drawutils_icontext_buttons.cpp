@@ -11,7 +11,7 @@
 
 using namespace IconTextPictures;
 
-/// The icon and text that only buttons paint: rich texts and pixmaps.
+/// What only buttons paint: rich texts and pixmaps.
 class tst_DrawUtilsIconTextButtons : public QObject
 {
     Q_OBJECT
@@ -93,7 +93,7 @@ void tst_DrawUtilsIconTextButtons::paintsAPixmapInTheButtonsIconSize()
         block = DrawUtils::drawPixmapIconText(painter, &button, nullptr, optionFor(), QPixmap(),
                                               textColors);
     });
-    QCOMPARE(block.width(), textWidth - 1); // No pixmap is as good as no icon.
+    QCOMPARE(block.width(), textWidth - 1); // Like without an icon.
 }
 
 void tst_DrawUtilsIconTextButtons::smoothsAPixmapThatItStretches()

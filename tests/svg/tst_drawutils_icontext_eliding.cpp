@@ -42,8 +42,8 @@ QImage drawing(const OxaSvgLabel &label, const QRect &rect)
     });
 }
 
-/// Returns \a elided painted into \a width pixels from the left edge of the area on. An absent icon
-/// is -1 pixels wide, so that the text begins a pixel further left, and may be a pixel wider.
+/// Returns \a elided painted into \a width pixels from the left edge of the area. Without an icon,
+/// whose width then counts as -1, the text begins a pixel further left, and may be a pixel wider.
 QImage drawing(const OxaSvgLabel &label, const QString &elided, int width)
 {
     const int height = label.fontMetrics().height();
@@ -88,10 +88,11 @@ void tst_DrawUtilsIconTextEliding::elidesAtTheEndOfALine_data()
     QTest::addColumn<Qt::TextElideMode>("mode");
     QTest::addColumn<Qt::TextElideMode>("used");
     QTest::newRow("right") << Qt::LeftToRight << Qt::ElideRight << Qt::ElideRight;
-    QTest::newRow("left stands for right") << Qt::LeftToRight << Qt::ElideLeft << Qt::ElideRight;
+    QTest::newRow("left is replaced by right")
+            << Qt::LeftToRight << Qt::ElideLeft << Qt::ElideRight;
     QTest::newRow("middle") << Qt::LeftToRight << Qt::ElideMiddle << Qt::ElideMiddle;
     QTest::newRow("none") << Qt::LeftToRight << Qt::ElideNone << Qt::ElideNone;
-    QTest::newRow("right stands for left, right to left")
+    QTest::newRow("right is replaced by left, right to left")
             << Qt::RightToLeft << Qt::ElideRight << Qt::ElideLeft;
     QTest::newRow("left, right to left") << Qt::RightToLeft << Qt::ElideLeft << Qt::ElideLeft;
     QTest::newRow("middle, right to left") << Qt::RightToLeft << Qt::ElideMiddle << Qt::ElideMiddle;

@@ -25,7 +25,7 @@ QRect placed(double x, const QSizeF &size)
 
 } // namespace
 
-/// The icon and text that labels and buttons paint.
+/// Painting an icon and a text for labels and buttons.
 class tst_DrawUtilsIconTextPainting : public QObject
 {
     Q_OBJECT
@@ -60,7 +60,7 @@ void tst_DrawUtilsIconTextPainting::placesTheBlock_data()
 {
     QTest::addColumn<HorAlign>("align");
     QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<double>("part"); // How much of what is left lies before the block.
+    QTest::addColumn<double>("part"); // The share of the free space that is before the block.
     QTest::newRow("left") << HorAlign::LeftAlign << Qt::LeftToRight << 0.0;
     QTest::newRow("centre") << HorAlign::CenterAlign << Qt::LeftToRight << 0.5;
     QTest::newRow("right") << HorAlign::RightAlign << Qt::LeftToRight << 1.0;

@@ -67,7 +67,7 @@ struct PainterState
             values;
 };
 
-/// A node without a document that notes how it finds the painter, and paints nothing.
+/// A node without a document that records the painter's state, and paints nothing.
 class RecordingNode : public QSvgNode
 {
 public:
@@ -137,13 +137,13 @@ void tst_DrawUtilsSvg::paintsADocumentsNodeByItsViewBox_data()
     QTest::newRow("moved") << QByteArray("0 0 16 16") << QRectF(5, 6, 16, 16) << QRect(9, 10, 4, 4);
     QTest::newRow("twice as large")
             << QByteArray("0 0 16 16") << QRectF(0, 0, 32, 32) << QRect(8, 8, 8, 8);
-    QTest::newRow("at the middle of a wide rectangle")
+    QTest::newRow("centred in a wide rectangle")
             << QByteArray("0 0 16 16") << QRectF(0, 0, 32, 16) << QRect(12, 4, 4, 4);
-    QTest::newRow("at the middle of a high rectangle")
+    QTest::newRow("centred in a high rectangle")
             << QByteArray("0 0 16 16") << QRectF(0, 0, 16, 32) << QRect(4, 12, 4, 4);
-    QTest::newRow("from a box elsewhere")
+    QTest::newRow("from a box away from the origin")
             << QByteArray("4 4 8 8") << QRectF(0, 0, 16, 16) << QRect(0, 0, 8, 8);
-    QTest::newRow("from a box elsewhere, moved and scaled")
+    QTest::newRow("from a box away from the origin, moved and scaled")
             << QByteArray("2 4 8 4") << QRectF(0, 8, 16, 8) << QRect(4, 8, 8, 8);
 }
 
@@ -193,7 +193,7 @@ void tst_DrawUtilsSvg::mapsBoxToRectangleUnlessTheyAreTheSame_data()
     QTest::addColumn<bool>("isMapped");
     const QRectF rect(4, 8, 16, 16);
     QTest::newRow("the same") << rect << rect << false;
-    QTest::newRow("less than a trillionth elsewhere")
+    QTest::newRow("moved by less than a trillionth")
             << rect << QRectF(4 + 2e-12, 8 - 4e-12, 16, 16) << false;
     QTest::newRow("more than a trillionth to the right")
             << rect << QRectF(4 + 8e-12, 8, 16, 16) << true;
@@ -231,7 +231,7 @@ void tst_DrawUtilsSvg::paintsNothingThatCannotBePainted()
 
 void tst_DrawUtilsSvg::paintsAHiddenNodeAllTheSame()
 {
-    // Only "display" is looked at.
+    // Only "display" is respected.
     const auto document = parse("<path d='M4 4H8V8H4Z' visibility='hidden'/>");
     QCOMPARE(drawing(document->renderers().constFirst(), QRectF(0, 0, 16, 16)),
              filled(QRect(4, 4, 4, 4)));

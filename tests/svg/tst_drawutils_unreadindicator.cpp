@@ -29,7 +29,7 @@ QImage withIndicator(const QPointF &topLeft, unsigned count)
     return pixmap.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-/// Returns the picture of a badge at \a rect with \a text, on the plain ground.
+/// Returns the picture of a badge at \a rect with \a text, on the plain background.
 QImage badgeAt(const QRectF &rect, const QString &text = QString())
 {
     QImage image = plain();
@@ -90,7 +90,8 @@ void tst_DrawUtilsUnreadIndicator::paintsADotFromThePointToTheCorner_data()
     QTest::newRow("all of the pixmap") << QPointF(0, 0) << QRectF(0, 0, 32, 32);
     QTest::newRow("a corner") << QPointF(20, 22) << QRectF(20, 22, 12, 10);
     QTest::newRow("between pixels") << QPointF(19.5, 20.25) << QRectF(19.5, 20.25, 12.5, 11.75);
-    QTest::newRow("from before the pixmap") << QPointF(-8, -8) << QRectF(-8, -8, 40, 40);
+    QTest::newRow("from a point left of and above the pixmap")
+            << QPointF(-8, -8) << QRectF(-8, -8, 40, 40);
     QTest::newRow("at the right edge, without a width") << QPointF(32, 4) << QRectF(32, 4, 0, 28);
 }
 
@@ -126,7 +127,7 @@ void tst_DrawUtilsUnreadIndicator::warnsOfAPointBeyondThePixmap()
 {
     QFETCH(const QPointF, topLeft);
     QTest::ignoreMessage(QtWarningMsg, "unreadIndicatorTopLeft out of bounds!");
-    // It keeps the pixmap's size and hangs over from the centre.
+    // The dot has the pixmap's size and starts at its centre.
     QCOMPARE(withIndicator(topLeft, 0), badgeAt(QRectF(16, 16, 32, 32)));
 }
 

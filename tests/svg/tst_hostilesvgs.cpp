@@ -6,7 +6,7 @@
 //     tst_hostilesvgs [ARGUMENT]...
 //         feeds the files of HostileSvgs.h
 //     tst_hostilesvgs FOLDER [ARGUMENT]...
-//         feeds every *.svg and *.svgz below FOLDER instead, such as a whole icon theme, and tells
+//         feeds every *.svg and *.svgz below FOLDER instead, such as a whole icon theme, and prints
 //         how many load
 //
 // Arguments are Qt Test's.
@@ -15,11 +15,11 @@
 //
 // Three kinds of files are not fed, because Qt SVG 5.15 itself does not survive them:
 // - a picture that refers to itself by <image xlink:href>:
-//   Qt loads it again while it loads it, until the stack is full;
+//   Qt loads it recursively until the stack overflows;
 // - a "stroke-dashoffset" of more than 2^31 times the length of the dashes:
-//   Qt walks there dash by dash;
+//   Qt goes through them dash by dash;
 // - <use> of <use>, many levels deep, without a view box:
-//   Qt limits what it paints of such files, but not what it measures without a view box.
+//   Qt limits the painting of such files, but not the measuring without a view box.
 #include "HostileSvgs.h"
 
 #include <UiElements/svg/OxaSvgRenderer.h>
@@ -163,7 +163,7 @@ void tst_HostileSvgs::survivesTheFile()
         QVERIFY(messages.constFirst() == QLatin1String("Unable to load SVG file:") + quoted
                 || messages.constFirst() == QLatin1String("Invalid svg file:") + quoted);
     }
-    // What the next file looks like does not depend on this one.
+    // This file must not change what the next one looks like.
     QImage square(16, 16, QImage::Format_ARGB32_Premultiplied);
     square.fill(Qt::red);
     QCOMPARE(m_square->renderPixmap(QSize(16, 16), 1.0, Qt::red).toImage(), square);

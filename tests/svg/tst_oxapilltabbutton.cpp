@@ -33,7 +33,7 @@ private Q_SLOTS:
 
     void startsAsAnUncheckedPill();
     void takesWhatItsConstructorsAreGiven();
-    void appliesNoStyleUntilItIsToldOf();
+    void appliesNoStyleUntilAPropertyIsSet();
 
     void writesItsStyleTextForEachState_data();
     void writesItsStyleTextForEachState();
@@ -93,7 +93,7 @@ void tst_OxaPillTabButton::takesWhatItsConstructorsAreGiven()
     QCOMPARE(pill->text(), QStringLiteral("abc"));
 }
 
-void tst_OxaPillTabButton::appliesNoStyleUntilItIsToldOf()
+void tst_OxaPillTabButton::appliesNoStyleUntilAPropertyIsSet()
 {
     const OxaPillTabButton pill;
     QCOMPARE(pill.getCSS(), QString());

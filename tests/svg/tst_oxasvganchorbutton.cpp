@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Opens what subclasses see.
+/// Gives access to protected functions.
 class OpenAnchorButton : public OxaSvgAnchorButton
 {
 public:
@@ -38,7 +38,7 @@ private Q_SLOTS:
 
     void startsCheckableWithoutPictures();
     void takesWhatItsConstructorsAreGiven();
-    void tellsOfItsPictures();
+    void emitsASignalForEachPicture();
     void triesPathsThatFailTwice();
     void sharesItsPaddingWithItsOffset();
     void sizesBothPictures();
@@ -47,8 +47,8 @@ private Q_SLOTS:
     void repaintsForEveryProperty();
     void repaintsForItsPicturesBeforeItLooksAtThemOnceMore();
 
-    void leadsOnOneSideOnly_data();
-    void leadsOnOneSideOnly();
+    void leadsOnTheSideWhereLinesBegin_data();
+    void leadsOnTheSideWhereLinesBegin();
     void takesTheAnchorsRoomOffTheRectangle_data();
     void takesTheAnchorsRoomOffTheRectangle();
     void leavesTheRectangleAloneWithoutPictures();
@@ -85,7 +85,7 @@ void tst_OxaSvgAnchorButton::takesWhatItsConstructorsAreGiven()
     QCOMPARE(button->text(), QStringLiteral("abc"));
 }
 
-void tst_OxaSvgAnchorButton::tellsOfItsPictures()
+void tst_OxaSvgAnchorButton::emitsASignalForEachPicture()
 {
     OxaSvgAnchorButton button;
     const QSignalSpy on(&button, &OxaSvgAnchorButton::anchorSvgOnChanged);
@@ -137,7 +137,7 @@ void tst_OxaSvgAnchorButton::sizesBothPictures()
     OxaSvgAnchorButton button;
     button.setAnchorIconSize(QSize(3, 4));
     QCOMPARE(button.getAnchorIconSize(), QSize(3, 4));
-    // That made both records: they can be hidden now.
+    // Setting the size made both pictures: they can be hidden now.
     button.setAnchorIconVisible(false);
     QCOMPARE(button.getAnchorIconSize(), QSize(-1, -1));
 }
@@ -145,7 +145,7 @@ void tst_OxaSvgAnchorButton::sizesBothPictures()
 void tst_OxaSvgAnchorButton::hasNoSizeWhileInvisible()
 {
     OxaSvgAnchorButton button;
-    button.setAnchorIconVisible(false); // Lost: there is nothing to hide yet.
+    button.setAnchorIconVisible(false); // Ignored: there is nothing to hide yet.
     button.setAnchorSvgOn(m_files.square());
     QCOMPARE(button.getAnchorIconSize(), QSize(16, 16));
     button.setAnchorIconVisible(false);
@@ -201,7 +201,7 @@ void tst_OxaSvgAnchorButton::repaintsForItsPicturesBeforeItLooksAtThemOnceMore()
     }
 }
 
-void tst_OxaSvgAnchorButton::leadsOnOneSideOnly_data()
+void tst_OxaSvgAnchorButton::leadsOnTheSideWhereLinesBegin_data()
 {
     QTest::addColumn<bool>("isLeftAnchor");
     QTest::addColumn<Qt::LayoutDirection>("direction");
@@ -212,7 +212,7 @@ void tst_OxaSvgAnchorButton::leadsOnOneSideOnly_data()
     QTest::newRow("right, right to left") << false << Qt::RightToLeft << true;
 }
 
-void tst_OxaSvgAnchorButton::leadsOnOneSideOnly()
+void tst_OxaSvgAnchorButton::leadsOnTheSideWhereLinesBegin()
 {
     QFETCH(const bool, isLeftAnchor);
     QFETCH(const Qt::LayoutDirection, direction);
@@ -220,7 +220,7 @@ void tst_OxaSvgAnchorButton::leadsOnOneSideOnly()
     OpenAnchorButton button;
     button.setIsLeftAnchor(isLeftAnchor);
     QTEST(button.isLeading(), "isLeading");
-    // The application's direction counts, not the button's.
+    // The application's direction is used, not the button's.
     button.setLayoutDirection(direction == Qt::LeftToRight ? Qt::RightToLeft : Qt::LeftToRight);
     QTEST(button.isLeading(), "isLeading");
 }
@@ -251,9 +251,9 @@ void tst_OxaSvgAnchorButton::takesTheAnchorsRoomOffTheRectangle_data()
     QTest::newRow("leading, only the picture for off")
             << off << true << QPoint(15, 36) << QRect(17, 20, 93, 40);
     QTest::newRow("trailing") << on << false << QPoint(92, 36) << QRect(10, 20, 83, 40);
-    QTest::newRow("leading, hidden: a pixel off")
+    QTest::newRow("leading, hidden: a size of -1")
             << hidden << true << QPoint(15, 41) << QRect(4, 20, 106, 40);
-    QTest::newRow("trailing, hidden: a pixel off")
+    QTest::newRow("trailing, hidden: a size of -1")
             << hidden << false << QPoint(105, 41) << QRect(10, 20, 96, 40);
 }
 

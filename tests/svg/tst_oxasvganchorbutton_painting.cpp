@@ -30,8 +30,8 @@ private Q_SLOTS:
     void paintsEachState();
     void paintsAPictureForOnAndOneForOff();
     void paintsNoAnchorWhileHidden();
-    void standsBesideTheTextWhereWanted_data();
-    void standsBesideTheTextWhereWanted();
+    void paintsTheAnchorBesideTheTextWhenAsked_data();
+    void paintsTheAnchorBesideTheTextWhenAsked();
     void takesTheTextsColorsWithoutASetOfItsOwn();
     void takesTheTextsColorsForASetThatTheThemeLacks();
     void followsTheTheme();
@@ -96,7 +96,7 @@ void tst_OxaSvgAnchorButtonPainting::paintsEachState()
     const QRect anchor = Pixels::boundsNear(image, Faces::colorOf(anchorColors, face));
     const QRect icon = Pixels::boundsNear(image, Faces::colorOf(iconColors, face));
     const QRect text = Pixels::boundsNear(image, Faces::colorOf(textColors, face));
-    // The middle is 19, less half of the anchor, plus its offset.
+    // The middle is at 19: minus half of the anchor, plus its offset.
     if (direction == Qt::LeftToRight) {
         QCOMPARE(anchor, QRect(119 - 8 - 5, 17, 8, 8));
         QVERIFY(icon.right() < text.left() && text.right() < anchor.left());
@@ -128,11 +128,11 @@ void tst_OxaSvgAnchorButtonPainting::paintsNoAnchorWhileHidden()
     button.setAnchorIconVisible(false);
     const QImage image = Pixels::render(button);
     QCOMPARE(Faces::facesIn(image, anchorColors), QString());
-    // The room is what a picture of -1 pixel would leave.
+    // The text gets the space beside a picture of -1 pixel.
     QCOMPARE(Pixels::boundsNear(image, textColors.normal), before.translated(9, 0));
 }
 
-void tst_OxaSvgAnchorButtonPainting::standsBesideTheTextWhereWanted_data()
+void tst_OxaSvgAnchorButtonPainting::paintsTheAnchorBesideTheTextWhenAsked_data()
 {
     QTest::addColumn<bool>("isLeftAnchor");
     QTest::addColumn<Qt::LayoutDirection>("direction");
@@ -142,7 +142,7 @@ void tst_OxaSvgAnchorButtonPainting::standsBesideTheTextWhereWanted_data()
     QTest::newRow("left, right to left") << true << Qt::RightToLeft;
 }
 
-void tst_OxaSvgAnchorButtonPainting::standsBesideTheTextWhereWanted()
+void tst_OxaSvgAnchorButtonPainting::paintsTheAnchorBesideTheTextWhenAsked()
 {
     QFETCH(const bool, isLeftAnchor);
     QFETCH(const Qt::LayoutDirection, direction);
@@ -209,7 +209,7 @@ void tst_OxaSvgAnchorButtonPainting::paintsItsPixmapInsteadOfTheIcon()
     QPixmap pixmap(20, 11);
     pixmap.fill(orange);
     button.setPixmap(pixmap);
-    button.setPixmapIconVisibility(false); // Not under the frame as well.
+    button.setPixmapIconVisibility(false); // So that it is not painted under the frame too.
     const QImage image = Pixels::render(button);
     QCOMPARE(button.iconSize(), QSize(20, 11));
     QCOMPARE(Pixels::boundsNear(image, orange).size(), QSize(20, 11));
@@ -225,7 +225,7 @@ void tst_OxaSvgAnchorButtonPainting::repaintsOnceMoreForThePixmapsSize()
     PaintCounter paints(button);
     button.setPixmap(QPixmap(20, 11));
     button.update();
-    // Painting makes it the icon's size, which asks for another painting, and no more.
+    // Painting sets it as the icon's size, which causes one more repaint.
     QCOMPARE(paints.take(), 2);
     button.update();
     QCOMPARE(paints.take(), 1);

@@ -80,8 +80,8 @@ private Q_SLOTS:
     void leavesThePainterAsItWas();
     void survivesASizeOfZero();
 
-    void tellsOfFramesOfEitherPicture();
-    void asksNobodyToRepaint();
+    void asksForARepaintForFramesOfEitherPicture();
+    void asksForNoRepaintWhenItIsSet();
 
 private:
     SvgFiles m_files;
@@ -348,7 +348,7 @@ void tst_OxaSvgIcon::survivesASizeOfZero()
     drawing(icon);
 }
 
-void tst_OxaSvgIcon::tellsOfFramesOfEitherPicture()
+void tst_OxaSvgIcon::asksForARepaintForFramesOfEitherPicture()
 {
     const QString animated = m_files.animated();
     const OxaSvgIcon made(animated);
@@ -362,7 +362,7 @@ void tst_OxaSvgIcon::tellsOfFramesOfEitherPicture()
     }
 }
 
-void tst_OxaSvgIcon::asksNobodyToRepaint()
+void tst_OxaSvgIcon::asksForNoRepaintWhenItIsSet()
 {
     OxaSvgIcon icon;
     const QSignalSpy repaintNeeded(&icon, &OxaSvgIcon::repaintNeeded);

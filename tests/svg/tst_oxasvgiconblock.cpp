@@ -41,7 +41,7 @@ QString paintedSet(QWidget &widget)
 
 } // namespace
 
-/// What every widget with an icon shows and does alike: a row for each class.
+/// The common members and behaviour of widgets with an icon: a row for each class.
 class tst_OxaSvgIconBlock : public QObject
 {
     Q_OBJECT
@@ -57,8 +57,8 @@ private Q_SLOTS:
 
     void takesTheTextsColorsUntilItHasItsOwn_data() { addIconWidgets(); }
     void takesTheTextsColorsUntilItHasItsOwn();
-    void tellsOfItsColors_data() { addIconWidgets(); }
-    void tellsOfItsColors();
+    void emitsItsColors_data() { addIconWidgets(); }
+    void emitsItsColors();
     void triesAnUnknownColorSetAgainAtTheNextThemeChange_data() { addIconWidgets(); }
     void triesAnUnknownColorSetAgainAtTheNextThemeChange();
     void followsTheTheme_data() { addIconWidgets(); }
@@ -142,14 +142,14 @@ void tst_OxaSvgIconBlock::takesTheTextsColorsUntilItHasItsOwn()
     QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
     widget->setProperty("css", QByteArrayLiteral("$textColors: text; $borderRadius: 1;"));
     QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
-    // No name stands for the text's colours.
+    // An empty name selects the text's colours.
     widget->setProperty("svgIconColorSet", QString());
     QCOMPARE(paintedSet(*widget), QStringLiteral("text"));
     widget->setProperty("css", QByteArrayLiteral("$textColors: icon;"));
     QCOMPARE(paintedSet(*widget), QStringLiteral("icon"));
 }
 
-void tst_OxaSvgIconBlock::tellsOfItsColors()
+void tst_OxaSvgIconBlock::emitsItsColors()
 {
     FETCH_ICON_WIDGET;
     widget->setProperty("css", QByteArrayLiteral("$textColors: text;"));
@@ -194,7 +194,7 @@ void tst_OxaSvgIconBlock::refreshesItsSetsOnCall()
     FETCH_ICON_WIDGET;
     widget->setProperty("svgIcon", m_files.square());
     const QSignalSpy changed(widget.get(), SIGNAL(svgIconColorSetChanged(OxaColorSet)));
-    tested.refresh(*widget); // Without a name nothing is looked up.
+    tested.refresh(*widget); // An empty name is not looked up.
     QCOMPARE(changed.size(), 0);
     widget->setProperty("svgIconColorSet", iconColors.name);
     OxaThemeUtils::setAppOxaColorSets(ColorSets::storeOf({ darkColors }));
@@ -254,7 +254,7 @@ void tst_OxaSvgIconBlock::triesAPathThatFailsTwice()
     SvgFiles::ignoreMissing(missing);
     QCoreApplication::processEvents();
 
-    // A file that came in between is there.
+    // A file that was written in between is loaded.
     const QString late = m_files.path(QStringLiteral("%1.svg").arg(QLatin1String(tested.name)));
     SvgFiles::ignoreMissing(late);
     widget->setProperty("svgIcon", late);
@@ -274,7 +274,7 @@ void tst_OxaSvgIconBlock::showsTheLastOfSeveralPaths()
     SvgFiles::ignoreMissing(missing);
     widget->setProperty("svgIcon", missing);
     widget->setProperty("svgIcon", square);
-    // Each of them is looked at once more, in their order.
+    // Each of them is tried once more, in order.
     SvgFiles::ignoreMissing(missing);
     QCoreApplication::processEvents();
     QCOMPARE(widget->property("svgIcon"), QVariant(square));
@@ -286,7 +286,7 @@ void tst_OxaSvgIconBlock::repaintsForAPathOnlyWhenTheEventLoopTurns()
     FETCH_ICON_WIDGET;
     PaintCounter paints(*widget);
     widget->setProperty("svgIcon", m_files.square());
-    // An update that the setter asked for would come now.
+    // An update by the setter would be sent now.
     QCoreApplication::sendPostedEvents(widget->window(), QEvent::UpdateRequest);
     QCOMPARE(paints.count(), 0);
     QCOMPARE(paints.take(), 1);

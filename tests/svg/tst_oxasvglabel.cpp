@@ -28,7 +28,7 @@ QImage picture(OxaSvgLabel &label)
 using SetUp = std::function<void(OxaSvgLabel &, const QString &)>;
 Q_DECLARE_METATYPE(SetUp)
 
-/// What is OxaSvgLabel's own, beside the icon block and what it inherits.
+/// OxaSvgLabel, without the icon block and inherited members.
 class tst_OxaSvgLabel : public QObject
 {
     Q_OBJECT
@@ -100,7 +100,7 @@ void tst_OxaSvgLabel::hintsTheSizeOfTextIconAndPaddings_data()
     QTest::newRow("an icon without a picture counts") << SetUp(
             [](OxaSvgLabel &label, const QString &) { label.setSvgIconSize(QSize(20, 10)); })
                                                       << QSize(20, 10);
-    // There is an icon then, of which nothing shows.
+    // The icon exists then, but has no outer picture.
     QTest::newRow("an inner picture alone counts as minus one")
             << SetUp([](OxaSvgLabel &label, const QString &path) { label.setInnerSvgIcon(path); })
             << QSize(-1, -1);
@@ -125,7 +125,7 @@ void tst_OxaSvgLabel::followsTheTextsColorsWithoutASetOfItsOwn()
     label.setCSS(QStringLiteral("$textColors: other;"));
     QCOMPARE(Pixels::countNear(picture(label), otherTextColors.normal), 17 * 17);
 
-    // The inner picture keeps what it was given.
+    // The inner picture keeps its own set.
     label.setSvgIconColorSet(iconColors.name);
     label.setInnerSvgIcon(m_files.square());
     label.setInnerSvgIconSize(QSize(7, 7));

@@ -25,7 +25,7 @@ QTextDocument *documentOf(const OxaSvgPushButton &button)
 using SetUp = std::function<void(OxaSvgPushButton &, const QString &)>;
 Q_DECLARE_METATYPE(SetUp)
 
-/// What is OxaSvgPushButton's own, beside the icon block and what it inherits.
+/// OxaSvgPushButton, without the icon block and inherited members.
 class tst_OxaSvgPushButton : public QObject
 {
     Q_OBJECT
@@ -55,7 +55,7 @@ private Q_SLOTS:
     void ignoresOtherTextFormats_data();
     void ignoresOtherTextFormats();
     void handsTextAndFontToTheDocument();
-    void missesTheDocumentThroughItsQtClass();
+    void doesNotUpdateTheDocumentThroughItsQtClass();
 
 private:
     SvgFiles m_files;
@@ -114,7 +114,7 @@ void tst_OxaSvgPushButton::hintsTheSizeOfTextIconAndPaddings_data()
     QTest::newRow("an icon adds its height too")
             << SetUp([=](OxaSvgPushButton &button, const QString &path) { setIcon(button, path); })
             << QSize(24, 16);
-    QTest::newRow("all of it") << SetUp([=](OxaSvgPushButton &button, const QString &path) {
+    QTest::newRow("text and icon") << SetUp([=](OxaSvgPushButton &button, const QString &path) {
         setText(button);
         setIcon(button, path);
     }) << QSize(31, 16);
@@ -177,7 +177,7 @@ void tst_OxaSvgPushButton::givesTheCheckedIconThePlainIconsSize()
     };
     const QSize size(30, 30);
     QCOMPARE(checkedWidth([&](OxaSvgPushButton &button, const QString &path) {
-                 button.setSvgIconChecked(path); // Before there is a plain icon: 16 by 16.
+                 button.setSvgIconChecked(path); // Without a plain icon: 16 by 16.
              }),
              16);
     QCOMPARE(checkedWidth([&](OxaSvgPushButton &button, const QString &path) {
@@ -190,7 +190,7 @@ void tst_OxaSvgPushButton::givesTheCheckedIconThePlainIconsSize()
                  button.setSvgIconSize(size);
              }),
              30);
-    // An invisible icon gives (-1, -1), of which one pixel shows.
+    // An invisible icon has the size (-1, -1), which paints one pixel.
     QCOMPARE(checkedWidth([&](OxaSvgPushButton &button, const QString &path) {
                  button.setSvgIconSize(size);
                  button.setSvgIconVisible(false);
@@ -208,7 +208,7 @@ void tst_OxaSvgPushButton::triesACheckedPathThatFailsTwice()
     SvgFiles::ignoreMissing(missing);
     QCoreApplication::processEvents();
     QCOMPARE(button.getSvgIconChecked(), missing);
-    // There is nothing to try again once the icon is gone.
+    // A removed icon is not tried again.
     SvgFiles::ignoreMissing(missing);
     button.setSvgIconChecked(missing);
     button.setSvgIconChecked(QString());
@@ -221,7 +221,7 @@ void tst_OxaSvgPushButton::repaintsForTheCheckedIconOnlyWhenTheEventLoopTurns()
     OxaSvgPushButton button;
     PaintCounter paints(button);
     button.setSvgIconChecked(m_files.square());
-    // An update that the setter asked for would come now.
+    // An update by the setter would be sent now.
     QCoreApplication::sendPostedEvents(&button, QEvent::UpdateRequest);
     QCOMPARE(paints.count(), 0);
     QCOMPARE(paints.take(), 1);
@@ -247,7 +247,7 @@ void tst_OxaSvgPushButton::makesADocumentForRichText_data()
 {
     QTest::addColumn<OxaEnum::HorAlign>("align");
     QTest::addColumn<int>("alignment");
-    // The alignment's number counts, not its meaning.
+    // The value of the alignment is used, not its meaning.
     QTest::newRow("left is no alignment") << OxaEnum::HorAlign::LeftAlign << 0;
     QTest::newRow("centre is left") << OxaEnum::HorAlign::CenterAlign << int(Qt::AlignLeft);
     QTest::newRow("right") << OxaEnum::HorAlign::RightAlign << int(Qt::AlignRight);
@@ -287,7 +287,7 @@ void tst_OxaSvgPushButton::writesTheDocumentInTheButtonsDirection()
     OxaSvgPushButton button(QStringLiteral("abc"));
     button.setTextFormat(Qt::RichText);
     QCOMPARE(documentOf(button)->defaultTextOption().textDirection(), direction);
-    button.setLayoutDirection(Qt::RightToLeft); // The button's own counts.
+    button.setLayoutDirection(Qt::RightToLeft); // The button's own direction is used.
     button.setTextFormat(Qt::RichText);
     QCOMPARE(documentOf(button)->defaultTextOption().textDirection(), Qt::RightToLeft);
 }
@@ -318,7 +318,7 @@ void tst_OxaSvgPushButton::dropsTheDocumentForPlainText()
     QTRY_VERIFY(!document);
     button.setTextFormat(Qt::PlainText);
     QVERIFY(!documentOf(button));
-    // One that is about to go is not taken up again.
+    // A document that waits for its deletion is not used again.
     for (const Qt::TextFormat format : { Qt::RichText, Qt::PlainText, Qt::RichText })
         button.setTextFormat(format);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -364,7 +364,7 @@ void tst_OxaSvgPushButton::handsTextAndFontToTheDocument()
     QCOMPARE(documentOf(button)->defaultFont().pixelSize(), 31);
 }
 
-void tst_OxaSvgPushButton::missesTheDocumentThroughItsQtClass()
+void tst_OxaSvgPushButton::doesNotUpdateTheDocumentThroughItsQtClass()
 {
     OxaSvgPushButton button(QStringLiteral("abc"));
     button.setTextFormat(Qt::RichText);

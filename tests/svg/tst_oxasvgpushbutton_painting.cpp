@@ -39,7 +39,7 @@ private Q_SLOTS:
     void showsThePlainIconAgainWithoutACheckedOne();
     void takesTheTextsColorsForBothIcons();
     void takesTheTextsColorsForACheckedIconAlone();
-    void takesTheNamedColorsAnewForAStyleText();
+    void fetchesTheNamedColorsAgainForAStyleText();
     void hasNoColorsAfterAStyleTextWhenTheThemeLacksThem();
     void doesNotRepaintForTheFramesOfItsCheckedIcon();
     void paintsRichTextInTheTextsColors_data() { Faces::addRows(); }
@@ -110,7 +110,7 @@ void tst_OxaSvgPushButtonPainting::paintsTheCheckedIconInEachState()
     QCOMPARE(Pixels::boundsNear(picture(button), plain).height(),
              face == Faces::Face::Checked ? 8 : 17);
     button.setChecked(true);
-    // Stronger states keep their colour.
+    // States that win over checked keep their colour.
     const QColor checked = face == Faces::Face::Normal ? iconColors.checked : plain;
     QCOMPARE(Pixels::boundsNear(picture(button), checked).height(), 8);
 }
@@ -145,7 +145,7 @@ void tst_OxaSvgPushButtonPainting::takesTheTextsColorsForBothIcons()
         button.setChecked(true);
         QCOMPARE(Faces::facesIn(picture(button), colors), QStringLiteral("checked"));
     }
-    // The set reaches both as well, and the checked one takes it from the plain one when it is new.
+    // The set reaches both icons; a new checked icon takes it from the plain one.
     button.setSvgIconColorSet(iconColors.name);
     QCOMPARE(Faces::facesIn(picture(button), iconColors), QStringLiteral("checked"));
     button.setSvgIconChecked(QString());
@@ -167,7 +167,7 @@ void tst_OxaSvgPushButtonPainting::takesTheTextsColorsForACheckedIconAlone()
     }
 }
 
-void tst_OxaSvgPushButtonPainting::takesTheNamedColorsAnewForAStyleText()
+void tst_OxaSvgPushButtonPainting::fetchesTheNamedColorsAgainForAStyleText()
 {
     OxaSvgPushButton button;
     button.setSvgIcon(m_square);
@@ -181,7 +181,7 @@ void tst_OxaSvgPushButtonPainting::takesTheNamedColorsAnewForAStyleText()
     button.setCSS(QStringLiteral("$textColors: text;"));
     const QImage image = picture(button);
     QVERIFY(Pixels::countNear(image, changed.normal) > 0);
-    // The inner picture is left alone.
+    // The inner picture keeps its colours.
     QVERIFY(Pixels::countNear(image, iconColors.normal) > 0);
 }
 

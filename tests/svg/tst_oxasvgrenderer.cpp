@@ -26,7 +26,7 @@ bool isEmpty(const OxaSvgRenderer &renderer)
 
 } // namespace
 
-/// What a renderer loads, and what it says of that.
+/// What a renderer loads, and its messages.
 class tst_OxaSvgRenderer : public QObject
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ private Q_SLOTS:
     void loadsEveryKindOfFile();
     void keepsTheLoadedPathWithoutReadingItAgain();
     void readsAPathAgainOnceAnotherWasLoaded();
-    void takesAnEmptyPathAsLoadedOnlyWhenNothingIs();
+    void treatsAnEmptyPathAsLoadedOnlyWhenNothingIs();
     void opensOneResourceUnderTwoPaths();
     void failsAndIsEmptyAfterwards_data();
     void failsAndIsEmptyAfterwards();
@@ -56,7 +56,7 @@ private Q_SLOTS:
     void makesAnEmptyRendererWithoutAName();
     void warnsOfAMissingParent();
 
-    void tellsOfEachFrameOfAnAnimatedFile();
+    void asksForARepaintForEachFrame();
     void forgetsTheFramesOfAFileThatWasReplaced();
 
 private:
@@ -114,7 +114,7 @@ void tst_OxaSvgRenderer::loadsEveryKindOfFile_data()
     QTest::newRow("no node") << SvgFiles::document(QByteArray()) << false;
     QTest::newRow("an animated node beside another")
             << SvgFiles::document(turningShape + "<path d='M0 0H8'/>") << true;
-    QTest::newRow("one animated node stands still") << SvgFiles::document(turningShape) << false;
+    QTest::newRow("one animated node is not animated") << SvgFiles::document(turningShape) << false;
 }
 
 void tst_OxaSvgRenderer::loadsEveryKindOfFile()
@@ -134,7 +134,7 @@ void tst_OxaSvgRenderer::keepsTheLoadedPathWithoutReadingItAgain()
     OxaSvgRenderer renderer(path);
     m_files.write(QStringLiteral("changing.svg"), twoNodes);
     QVERIFY(renderer.load(path));
-    // Still the one node: it takes the colour.
+    // It is still the file with one node, which takes the colour.
     QCOMPARE(renderer.renderPixmap(QSize(4, 4), 1.0, Qt::red).toImage().pixelColor(1, 1),
              QColor(Qt::red));
     QVERIFY(QFile::remove(path));
@@ -152,7 +152,7 @@ void tst_OxaSvgRenderer::readsAPathAgainOnceAnotherWasLoaded()
     QVERIFY(renderer.isAnimated());
 }
 
-void tst_OxaSvgRenderer::takesAnEmptyPathAsLoadedOnlyWhenNothingIs()
+void tst_OxaSvgRenderer::treatsAnEmptyPathAsLoadedOnlyWhenNothingIs()
 {
     OxaSvgRenderer renderer;
     QVERIFY(renderer.load(QString()));
@@ -284,7 +284,7 @@ void tst_OxaSvgRenderer::warnsOfAMissingParent()
     QVERIFY(renderer->isLoaded());
 }
 
-void tst_OxaSvgRenderer::tellsOfEachFrameOfAnAnimatedFile()
+void tst_OxaSvgRenderer::asksForARepaintForEachFrame()
 {
     const OxaSvgRenderer renderer(m_files.animated());
     QSignalSpy repaintNeeded(&renderer, &OxaSvgRenderer::repaintNeeded);

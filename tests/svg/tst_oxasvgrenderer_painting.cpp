@@ -14,7 +14,7 @@ namespace {
 const QColor red(Qt::red);
 const QByteArray wide = "viewBox='0 0 16 8'";
 const QByteArray wideShape = "<path d='M0 0H16V8H0Z'/>";
-/// Two nodes that fill a wide document: the one, left half in blue, the other in black.
+/// Two nodes that fill a wide document: the left half in blue, the right one in black.
 const QByteArray wideHalves = "<path d='M0 0H8V8H0Z' fill='#00f'/><path d='M8 0H16V8H8Z'/>";
 
 constexpr QSize paperSize(32, 32);
@@ -41,7 +41,7 @@ QImage halves(const QRect &left, const QRect &right)
 
 } // namespace
 
-/// What a renderer paints, by either of its two ways.
+/// What a renderer paints, directly and by QSvgRenderer.
 class tst_OxaSvgRendererPainting : public QObject
 {
     Q_OBJECT
@@ -89,8 +89,9 @@ void tst_OxaSvgRendererPainting::paintsOneNodeInTheColor_data()
     QTest::newRow("a group") << "<g>" + shape + shape + "</g>" << square;
     QTest::newRow("a shape with a comment and a title")
             << "<!-- x --><title>x</title>" + shape << square;
-    QTest::newRow("a view box elsewhere") << QByteArray("<path d='M100 -50H116V-34H100Z'/>")
-                                          << QByteArray("viewBox='100 -50 16 16'");
+    QTest::newRow("a view box away from the origin")
+            << QByteArray("<path d='M100 -50H116V-34H100Z'/>")
+            << QByteArray("viewBox='100 -50 16 16'");
     QTest::newRow("no view box") << shape << QByteArray();
     QTest::newRow("a size that differs from the view box")
             << shape << square + " width='100' height='7'";
@@ -164,7 +165,7 @@ void tst_OxaSvgRendererPainting::fitsThePictureIntoTheRectangle_data()
     QTest::newRow("a square") << QRectF(0, 0, 32, 32) << QRect(0, 8, 16, 16)
                               << QRect(16, 8, 16, 16);
     QTest::newRow("a wider one") << QRectF(0, 4, 32, 8) << QRect(8, 4, 8, 8) << QRect(16, 4, 8, 8);
-    QTest::newRow("one of its own size elsewhere")
+    QTest::newRow("one of its own size, away from the origin")
             << QRectF(3, 5, 16, 8) << QRect(3, 5, 8, 8) << QRect(11, 5, 8, 8);
 }
 
@@ -210,7 +211,7 @@ void tst_OxaSvgRendererPainting::paintsNothingAndWarnsWithoutAFile()
 
 void tst_OxaSvgRendererPainting::paintsASecondTimeTheSame()
 {
-    // A node with styles of its own hands them on through what all renderers share.
+    // The states of a styled node must not leak through QSvgExtraStates, which all renderers share.
     const OxaSvgRenderer styled(
             m_files.write(QStringLiteral("styled.svg"),
                           SvgFiles::document(
@@ -231,7 +232,7 @@ void tst_OxaSvgRendererPainting::scalesOtherFilesToTheHeight()
 {
     const OxaSvgRenderer renderer(
             m_files.write(QStringLiteral("two.svg"), SvgFiles::document(wideHalves, wide)));
-    // Only the width follows the rectangle; its place and its own width do not count.
+    // Only the rectangle's height is used, not its position and its width.
     QCOMPARE(drawing([&](QPainter *painter) {
                  renderer.drawScalingHeight(painter, QRectF(5, 7, 3, 8));
              }),
@@ -297,7 +298,7 @@ void tst_OxaSvgRendererPainting::warnsOfAnIconLargerThanThePixmap_data()
     QTest::addColumn<QRectF>("iconRect");
     QTest::addColumn<bool>("warns");
     QTest::newRow("as large") << QRectF(0, 0, 32, 32) << false;
-    QTest::newRow("reaching out of it") << QRectF(20, 20, 32, 32) << false;
+    QTest::newRow("partly outside of it") << QRectF(20, 20, 32, 32) << false;
     QTest::newRow("wider") << QRectF(0, 0, 32.5, 32) << true;
     QTest::newRow("higher") << QRectF(0, 0, 32, 33) << true;
 }

@@ -17,7 +17,7 @@ using VisualUtils::EventFilter;
 
 namespace {
 
-/// Notes the events that reach it.
+/// Records the events that reach it.
 class Target : public QObject
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ public:
     }
 };
 
-/// Notes what is typed into it.
+/// Records what is typed into it.
 class Typewriter : public QWidget
 {
     Q_OBJECT
@@ -50,8 +50,7 @@ void send(QObject *receiver, QEvent::Type type)
     QCoreApplication::sendEvent(receiver, &event);
 }
 
-/// What the filter \a filters of \a target lets through is in Target::reached; what it handles,
-/// here.
+/// Records the events that a filter handles. Those that it lets through are in Target::reached.
 struct Handled
 {
     QList<QEvent::Type> types;
@@ -80,10 +79,10 @@ private Q_SLOTS:
     void belongsToTheTarget();
     void handlesNothingWithoutAParent();
     void stopsWhenItIsDeleted();
-    void goesWithItsTarget();
-    void staysAfterItsFirstUse();
-    void goesAfterItsFirstUseWhenAsked();
-    void isGoneFromTheTargetBeforeTheHandlerOfItsOnlyUse();
+    void isDeletedWithItsTarget();
+    void keepsFilteringAfterItsFirstUse();
+    void isDeletedAfterItsFirstUseWhenAsked();
+    void isRemovedFromTheTargetBeforeTheHandlerOfItsOnlyUse();
     void keepsAHandlerThatDeletesTheFilterToItsEnd();
 
     void acceptsWhatAltGrTypes_data();
@@ -174,7 +173,7 @@ void tst_VisualUtils::stopsWhenItIsDeleted()
     QVERIFY(target.reached.endsWith(QEvent::Leave));
 }
 
-void tst_VisualUtils::goesWithItsTarget()
+void tst_VisualUtils::isDeletedWithItsTarget()
 {
     Handled handled;
     auto target = std::make_unique<Target>();
@@ -183,7 +182,7 @@ void tst_VisualUtils::goesWithItsTarget()
     QVERIFY(!filter);
 }
 
-void tst_VisualUtils::staysAfterItsFirstUse()
+void tst_VisualUtils::keepsFilteringAfterItsFirstUse()
 {
     Target target;
     Handled handled;
@@ -193,7 +192,7 @@ void tst_VisualUtils::staysAfterItsFirstUse()
     QCOMPARE(handled.types.size(), 2);
 }
 
-void tst_VisualUtils::goesAfterItsFirstUseWhenAsked()
+void tst_VisualUtils::isDeletedAfterItsFirstUseWhenAsked()
 {
     Target target;
     Handled handled;
@@ -209,7 +208,7 @@ void tst_VisualUtils::goesAfterItsFirstUseWhenAsked()
     QTRY_VERIFY(!filter);
 }
 
-void tst_VisualUtils::isGoneFromTheTargetBeforeTheHandlerOfItsOnlyUse()
+void tst_VisualUtils::isRemovedFromTheTargetBeforeTheHandlerOfItsOnlyUse()
 {
     Target target;
     int uses = 0;
@@ -247,10 +246,10 @@ void tst_VisualUtils::acceptsWhatAltGrTypes_data()
     QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("accepted");
-    QTest::newRow("a sign") << altGr << QStringLiteral("@") << true;
+    QTest::newRow("a character") << altGr << QStringLiteral("@") << true;
     QTest::newRow("a letter of another script") << altGr << QStringLiteral("\u0105") << true;
     QTest::newRow("a blank") << altGr << QStringLiteral(" ") << true;
-    QTest::newRow("a sign with further modifiers")
+    QTest::newRow("a character with further modifiers")
             << (altGr | Qt::ShiftModifier | Qt::MetaModifier) << QStringLiteral("@") << true;
     QTest::newRow("no text") << altGr << QString() << false;
     QTest::newRow("a character that does not print") << altGr << QStringLiteral("\u0001") << false;
@@ -296,9 +295,11 @@ void tst_VisualUtils::keepsAltGrTextFromAShortcut_data()
     QTest::addColumn<bool>("hasFilter");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<int>("activations");
-    QTest::newRow("a sign is typed") << QStringLiteral("@") << true << QStringLiteral("@") << 0;
-    QTest::newRow("a chord without text is a shortcut") << QString() << true << QString() << 1;
-    QTest::newRow("a sign without the filter is a shortcut")
+    QTest::newRow("a character is typed")
+            << QStringLiteral("@") << true << QStringLiteral("@") << 0;
+    QTest::newRow("a key combination without text is a shortcut")
+            << QString() << true << QString() << 1;
+    QTest::newRow("a character without the filter is a shortcut")
             << QStringLiteral("@") << false << QString() << 1;
 }
 

@@ -7,8 +7,8 @@
 
 #include <memory>
 
-/// A widget as a client may write one: a factory makes it, it has no fonts, asks for colours by
-/// itself, and stays with its own theme type whatever its first parent's does.
+/// A widget as a client may write one: it is made by a factory, has no fonts, asks for colours
+/// itself, and does not follow the theme type of its first parent.
 class ClientPanel : public QFrame
 {
     Q_OBJECT

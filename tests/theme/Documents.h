@@ -6,10 +6,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-/// JSON documents of the tests, and what is read from them as short texts.
+/// JSON documents for tests, and short texts of what is read from them.
 namespace Documents {
 
-/// Returns the object that \a json holds; a test's own slip in it is fatal.
+/// Returns the object in \a json; aborts if it is not valid.
 inline QJsonObject objectOf(const QString &json)
 {
     QJsonParseError error;

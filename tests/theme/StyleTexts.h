@@ -21,7 +21,7 @@ inline OxaColorSetMap store()
     });
 }
 
-/// Returns store() with \a sets besides.
+/// Returns store() with \a sets added.
 inline OxaColorSetMap storeWith(std::initializer_list<OxaColorSet> sets)
 {
     OxaColorSetMap all = store();

@@ -19,14 +19,14 @@
 #include <memory>
 #include <vector>
 
-/// One themed widget class, as the tests of the theme block see it.
+/// One themed widget class, for the tests of the theme block.
 struct ThemedClass
 {
-    /// How a class differs from the plain case: made with a parent alone, it follows that, has
+    /// How a class differs from the usual case: it is made with a parent alone and follows it, has
     /// fonts, and starts without a style text in the default font.
     enum Trait {
         NoTraits = 0,
-        NoFont = 1,           ///< Lacks the font members.
+        NoFont = 1,           ///< Has no font members.
         StyledBackground = 2, ///< Is OxaThemeBlock::Form::StyledBackground.
         StartsStyled = 4,     ///< Has a style text or a font of its own from the start.
         FollowsNoParent = 8,  ///< Does not follow the parent that it is made with.
@@ -53,7 +53,7 @@ struct ThemedClass
 
     const char *name;
     int traits;
-    std::vector<const char *> colorSets; ///< That it asks for by itself.
+    std::vector<const char *> colorSets; ///< Those that it asks for itself.
     Make makeUnnamed;
     std::function<OxaThemeUtils::AppThemeType(const QWidget &)> themeType;
     std::function<OxaCSSData(const QWidget &)> cssData;
@@ -111,7 +111,7 @@ inline const std::vector<ThemedClass> &themedClasses()
     return classes;
 }
 
-/// Returns a store with the set "panel" and those that classes ask for by themselves, all in
+/// Returns a store with the set "panel" and those that classes ask for themselves, all in
 /// \a color.
 inline OxaColorSetMap storeWith(const char *color)
 {

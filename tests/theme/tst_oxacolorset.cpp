@@ -45,8 +45,8 @@ private Q_SLOTS:
     void readsAndWritesColorsAsProperties_data() { addStates(); }
     void readsAndWritesColorsAsProperties();
     void readsAndWritesItsNameAsAProperty();
-    void tellsItsValidityAsAProperty();
-    void travelsInAVariant();
+    void showsItsValidityAsAProperty();
+    void isStoredInAVariant();
 
     void differsWhenAColorDiffers_data() { addStates(); }
     void differsWhenAColorDiffers();
@@ -160,7 +160,7 @@ void tst_OxaColorSet::readsAndWritesItsNameAsAProperty()
     QCOMPARE(set.name, QStringLiteral("other"));
 }
 
-void tst_OxaColorSet::tellsItsValidityAsAProperty()
+void tst_OxaColorSet::showsItsValidityAsAProperty()
 {
     OxaColorSet set = sixColors();
     QCOMPARE(propertyOf(QStringLiteral("isValid")).readOnGadget(&set), QVariant(true));
@@ -168,7 +168,7 @@ void tst_OxaColorSet::tellsItsValidityAsAProperty()
     QCOMPARE(propertyOf(QStringLiteral("isValid")).readOnGadget(&set), QVariant(false));
 }
 
-void tst_OxaColorSet::travelsInAVariant()
+void tst_OxaColorSet::isStoredInAVariant()
 {
     const QVariant variant = QVariant::fromValue(sixColors());
     QCOMPARE(variant.typeName(), "OxaColorSet");

@@ -19,7 +19,7 @@ private Q_SLOTS:
     void takesTheNormalColorInActiveAndInactiveWindows();
     void takesTheDisabledColorInTheDisabledGroup();
     void takesTheStoreOfTheThemeType();
-    void worksTheOtherRolesOutFromTheWindow();
+    void derivesTheOtherRolesFromTheWindow();
     void leavesTheOtherRolesToTheApplicationWithoutAWindow();
     void leavesARoleAloneWhoseSetIsMissing();
     void ignoresAMissingWindowSet();
@@ -61,7 +61,7 @@ void tst_OxaPaletteUtils::takesTheStoreOfTheThemeType()
     QCOMPARE(palette.color(QPalette::WindowText), QColor(1, 2, 3));
 }
 
-void tst_OxaPaletteUtils::worksTheOtherRolesOutFromTheWindow()
+void tst_OxaPaletteUtils::derivesTheOtherRolesFromTheWindow()
 {
     const QPalette palette = OxaPaletteUtils::makePalette(
             { { QPalette::WindowText, "text" }, { QPalette::Window, "window" } });

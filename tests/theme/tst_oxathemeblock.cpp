@@ -24,7 +24,7 @@ QString sheetOf(const QString &selector, const char *color)
 
 } // namespace
 
-/// What every themed widget class shows and does alike: a row for each class.
+/// The common members and behaviour of themed widgets: a row for each class.
 class tst_OxaThemeBlock : public QObject
 {
     Q_OBJECT
@@ -42,16 +42,19 @@ private Q_SLOTS:
     }
     void startsGlobalWithoutStyleTextInTheDefaultFont();
 
-    void expandsTheStyleTextAndTellsOfIt_data() { addThemedClasses(); }
-    void expandsTheStyleTextAndTellsOfIt();
+    void expandsTheStyleTextAndEmitsASignal_data() { addThemedClasses(); }
+    void expandsTheStyleTextAndEmitsASignal();
     void takesTheStructuredFormAsStyleText_data() { addThemedClasses(); }
     void takesTheStructuredFormAsStyleText();
     void takesStyleTextsAsUtf8ThroughTheProperty_data() { addThemedClasses(); }
     void takesStyleTextsAsUtf8ThroughTheProperty();
     void givesAnEmptyStyleTextNoSheet_data() { addThemedClasses(); }
     void givesAnEmptyStyleTextNoSheet();
-    void costsQtNothingWithoutAStyleText_data() { addThemedClassesBut(ThemedClass::StartsStyled); }
-    void costsQtNothingWithoutAStyleText();
+    void causesNoStyleChangeWithoutAStyleText_data()
+    {
+        addThemedClassesBut(ThemedClass::StartsStyled);
+    }
+    void causesNoStyleChangeWithoutAStyleText();
     void paintsAStyledBackgroundFromItsFirstSheetOn_data();
     void paintsAStyledBackgroundFromItsFirstSheetOn();
     void followsItsObjectNameFromTheFirstStyleTextOn_data()
@@ -77,8 +80,8 @@ private Q_SLOTS:
     void keepsTheStyleTextWhenAStyleSheetIsSet_data() { addThemedClasses(); }
     void keepsTheStyleTextWhenAStyleSheetIsSet();
 
-    void tellsOfATypeThatIsSetTwiceTwice_data() { addThemedClasses(); }
-    void tellsOfATypeThatIsSetTwiceTwice();
+    void emitsSignalsEvenForTheSameType_data() { addThemedClasses(); }
+    void emitsSignalsEvenForTheSameType();
     void takesItsStoreByItsThemeType_data() { addThemedClasses(); }
     void takesItsStoreByItsThemeType();
     void ignoresAReplacedStoreUntilItIsRefreshed_data() { addThemedClasses(); }
@@ -112,7 +115,7 @@ void tst_OxaThemeBlock::startsGlobalWithoutStyleTextInTheDefaultFont()
         QCOMPARE(widget->font().pixelSize(), 16);
 }
 
-void tst_OxaThemeBlock::expandsTheStyleTextAndTellsOfIt()
+void tst_OxaThemeBlock::expandsTheStyleTextAndEmitsASignal()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
@@ -163,10 +166,10 @@ void tst_OxaThemeBlock::givesAnEmptyStyleTextNoSheet()
     QVERIFY(themed.cssData(*widget) == OxaCSSData());
 }
 
-void tst_OxaThemeBlock::costsQtNothingWithoutAStyleText()
+void tst_OxaThemeBlock::causesNoStyleChangeWithoutAStyleText()
 {
     FETCH_THEMED_CLASS;
-    // Under a parent with a sheet, to take an empty one away is as much work as to set one.
+    // Under a parent with a sheet, removing an empty sheet costs as much as setting one.
     QWidget parent;
     parent.setStyleSheet(QStringLiteral("QWidget { color: red; }"));
     const auto widget = themed.make(&parent);
@@ -198,7 +201,7 @@ void tst_OxaThemeBlock::paintsAStyledBackgroundFromItsFirstSheetOn()
     QVERIFY(!widget->testAttribute(Qt::WA_StyledBackground));
     widget->setProperty("css", styleText.toUtf8());
     QVERIFY(widget->testAttribute(Qt::WA_StyledBackground));
-    // Without a sheet of its own, one of a parent may need it.
+    // A parent's sheet may still need it.
     widget->setProperty("css", QByteArray());
     QVERIFY(widget->testAttribute(Qt::WA_StyledBackground));
 }
@@ -242,7 +245,7 @@ void tst_OxaThemeBlock::followsItsNameAgainFromAStyleTextAfterADisconnect()
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
     widget->setProperty("css", styleText.toUtf8());
-    // A client that is done with a widget's signals may cut them all.
+    // A client may disconnect all signals of a widget.
     widget->disconnect();
     widget->setProperty("css", styleText.toUtf8());
     widget->setObjectName(QStringLiteral("w"));
@@ -278,7 +281,7 @@ void tst_OxaThemeBlock::keepsTheStyleTextWhenAStyleSheetIsSet()
     QCOMPARE(widget->styleSheet(), expanded);
 }
 
-void tst_OxaThemeBlock::tellsOfATypeThatIsSetTwiceTwice()
+void tst_OxaThemeBlock::emitsSignalsEvenForTheSameType()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);

@@ -11,7 +11,7 @@ namespace {
 const QByteArray backgroundText = QByteArrayLiteral("$backgroundColors: panel;");
 const QByteArray textText = QByteArrayLiteral("$textColors: panel;");
 
-/// Calls a function at each of a widget's signals, however the widget's class calls itself.
+/// Calls a function for a signal of a widget of any class.
 class Listener : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ private:
     const std::function<void()> m_listen;
 };
 
-/// Returns what \a widget, called "w", says of its theme: "dark | $textColors: x; | #w{…}".
+/// Returns the theme of \a widget, called "w": "dark | $textColors: x; | #w{…}".
 QString stateOf(const QWidget &widget)
 {
     return widget.property("themeType").toString() + QLatin1String(" | ")
@@ -54,8 +54,7 @@ std::unique_ptr<QWidget> makeNamed(const ThemedClass &themed, QWidget *parent = 
 
 } // namespace
 
-/// What a widget's listeners find when they are told, and what they may do with it: a row for each
-/// themed class.
+/// What slots of a themed widget's signals find, and what they may do: a row for each class.
 class tst_OxaThemeBlockListeners : public QObject
 {
     Q_OBJECT
@@ -67,10 +66,10 @@ private Q_SLOTS:
     }
     void cleanup() { m_stores.reset(); }
 
-    void hearOfAStyleTextThatIsInForce_data() { addThemedClasses(); }
-    void hearOfAStyleTextThatIsInForce();
-    void hearOfATypeThatIsInForce_data() { addThemedClasses(); }
-    void hearOfATypeThatIsInForce();
+    void findTheNewStyleTextInForce_data() { addThemedClasses(); }
+    void findTheNewStyleTextInForce();
+    void findTheNewTypeInForce_data() { addThemedClasses(); }
+    void findTheNewTypeInForce();
     void maySetAnotherStyleTextWhenTheTypeChanges_data() { addThemedClasses(); }
     void maySetAnotherStyleTextWhenTheTypeChanges();
     void maySetAnotherTypeWhenTheStyleTextChanges_data() { addThemedClasses(); }
@@ -115,7 +114,7 @@ void tst_OxaThemeBlockListeners::addWaysToHear(int butTraits)
     }
 }
 
-void tst_OxaThemeBlockListeners::hearOfAStyleTextThatIsInForce()
+void tst_OxaThemeBlockListeners::findTheNewStyleTextInForce()
 {
     FETCH_THEMED_CLASS;
     const auto widget = makeNamed(themed);
@@ -128,7 +127,7 @@ void tst_OxaThemeBlockListeners::hearOfAStyleTextThatIsInForce()
     QCOMPARE(heard, stateWith("global", "#ff112233") + QLatin1String(" | panel"));
 }
 
-void tst_OxaThemeBlockListeners::hearOfATypeThatIsInForce()
+void tst_OxaThemeBlockListeners::findTheNewTypeInForce()
 {
     FETCH_THEMED_CLASS;
     const auto widget = makeNamed(themed);

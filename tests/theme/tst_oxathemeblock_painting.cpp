@@ -9,7 +9,7 @@ namespace {
 
 const QColor newColor(0xc8, 0x1e, 0xd2);
 
-/// Two sets that fill a widget, of which the second is to be seen.
+/// Returns two sets that fill a widget. The second one is to be visible.
 OxaColorSetMap twoGrounds()
 {
     return ColorSets::storeOf({ ColorSets::make(QStringLiteral("old"), { "#112233" }),
@@ -25,7 +25,7 @@ QColor middleOf(QWidget &widget)
 
 } // namespace
 
-/// What themed widgets look like once they show.
+/// The appearance of themed widgets when they are shown.
 class tst_OxaThemeBlockPainting : public QObject
 {
     Q_OBJECT

@@ -37,15 +37,15 @@ class tst_OxaThemeUtilsBorderDirectives : public QObject
 private Q_SLOTS:
     void insertsTheBorderRule_data();
     void insertsTheBorderRule();
-    void writesABorderOfWhatItRead_data();
-    void writesABorderOfWhatItRead();
+    void writesTheBorderOfTheDirectives_data();
+    void writesTheBorderOfTheDirectives();
     void startsWithAllSidesOnlyForABorderSet_data();
     void startsWithAllSidesOnlyForABorderSet();
     void readsSides_data();
     void readsSides();
     void readsTheWidth_data();
     void readsTheWidth();
-    void honoursTheFirstDirectiveOfAKindOnly();
+    void expandsTheFirstDirectiveOfAKindOnly();
     void leavesDirectivesWithoutAnEnd_data();
     void leavesDirectivesWithoutAnEnd();
 };
@@ -64,24 +64,24 @@ void tst_OxaThemeUtilsBorderDirectives::insertsTheBorderRule_data()
                                                        << "color: red;";
     QTest::newRow("not for a width alone") << "a $borderWidth: 3; b"
                                            << "a  b";
-    QTest::newRow("where the sides stand")
+    QTest::newRow("at the sides")
             << "$borderColors: y; a $borders: all; b"
             << "#bar{border-color:#ff778899;} a #bar{border-style:solid; border-width:1px;} b";
-    QTest::newRow("where the radius stands")
+    QTest::newRow("at the radius")
             << "$backgroundColors: y; a $borderRadius: 4; b"
             << "#bar{background-color:#ff778899;} a #bar{border-radius:4px;} b";
-    QTest::newRow("where the radius stands, after the sides")
+    QTest::newRow("at the radius, after the sides")
             << "$borderColors: y;a$borders: all;b$borderRadius: 4;c"
             << "#bar{border-color:#ff778899;}ab#bar{border-style:solid; "
                "border-width:1px;border-radius:4px;}c";
-    QTest::newRow("where the radius stands, before the sides")
+    QTest::newRow("at the radius, before the sides")
             << "$borderColors: y;a$borderRadius: 4;b$borders: all;c"
             << "#bar{border-color:#ff778899;}a#bar{border-style:solid; "
                "border-width:1px;border-radius:4px;}bc";
-    QTest::newRow("not where the width stands")
+    QTest::newRow("not at the width")
             << "a$borderWidth: 3;b$borderColors: y;"
             << "#bar{border-style:solid; border-width:3px;}ab#bar{border-color:#ff778899;}";
-    QTest::newRow("where the sides stand once the width is gone")
+    QTest::newRow("at the sides, after a removed width")
             << "$borderColors: y;a$borderWidth: 3;b$borders: all;c"
             << "#bar{border-color:#ff778899;}ab#bar{border-style:solid; border-width:3px;}c";
 }
@@ -93,7 +93,7 @@ void tst_OxaThemeUtilsBorderDirectives::insertsTheBorderRule()
     QCOMPARE(StyleTexts::sheetOf(text), sheet);
 }
 
-void tst_OxaThemeUtilsBorderDirectives::writesABorderOfWhatItRead_data()
+void tst_OxaThemeUtilsBorderDirectives::writesTheBorderOfTheDirectives_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("sheet");
@@ -109,7 +109,7 @@ void tst_OxaThemeUtilsBorderDirectives::writesABorderOfWhatItRead_data()
     QTest::newRow("no radius for a width whose low bits are zero")
             << "$borderColors: y;$borderWidth: 256; $borderRadius: 4;"
             << "#bar{border-color:#ff778899;} #bar{border:none;}";
-    QTest::newRow("empty directives go, and move nothing")
+    QTest::newRow("empty directives are removed, and move nothing")
             << "a$borders:;b$borderRadius: ;c$borderWidth:\n;d$borderColors: y;"
             << "#bar{border-style:solid; border-width:1px;}abcd#bar{border-color:#ff778899;}";
     QTest::newRow("none for an empty width without a border set")
@@ -117,7 +117,7 @@ void tst_OxaThemeUtilsBorderDirectives::writesABorderOfWhatItRead_data()
             << "#bar{color:#ff778899;}#bar{border:none;}";
 }
 
-void tst_OxaThemeUtilsBorderDirectives::writesABorderOfWhatItRead()
+void tst_OxaThemeUtilsBorderDirectives::writesTheBorderOfTheDirectives()
 {
     QFETCH(const QString, text);
     QFETCH(const QString, sheet);
@@ -206,7 +206,7 @@ void tst_OxaThemeUtilsBorderDirectives::readsTheWidth_data()
     QTest::addColumn<int>("width");
     QTest::newRow("a number") << "3" << 3;
     QTest::newRow("the highest that fits") << "255" << 255;
-    QTest::newRow("its low bits, which are none") << "256" << 0;
+    QTest::newRow("its low bits, which are zero") << "256" << 0;
     QTest::newRow("its low bits") << "300" << 44;
     QTest::newRow("zero") << "0" << 1;
     QTest::newRow("below zero") << "-3" << 1;
@@ -222,7 +222,7 @@ void tst_OxaThemeUtilsBorderDirectives::readsTheWidth_data()
     QTest::newRow("a plus before a number") << "+3" << 3;
     QTest::newRow("digits of another script") << "\xd9\xa3" << 1;
     QTest::newRow("white space around") << "\t3\n" << 3;
-    QTest::newRow("nothing, which leaves it") << "" << 1;
+    QTest::newRow("nothing, which leaves the default") << "" << 1;
 }
 
 void tst_OxaThemeUtilsBorderDirectives::readsTheWidth()
@@ -237,7 +237,7 @@ void tst_OxaThemeUtilsBorderDirectives::readsTheWidth()
     QCOMPARE(result.expandedStyleSheet, QStringLiteral("#bar{%1}").arg(declarations) + borderRules);
 }
 
-void tst_OxaThemeUtilsBorderDirectives::honoursTheFirstDirectiveOfAKindOnly()
+void tst_OxaThemeUtilsBorderDirectives::expandsTheFirstDirectiveOfAKindOnly()
 {
     const auto result = StyleTexts::parse(
             border

@@ -28,13 +28,13 @@ private Q_SLOTS:
     void writesAlphaFirst();
 
     void writesTheStatesOfAnIncompleteSet();
-    void takesASetWithoutNormalForNone();
-    void namesTheSetAsItCallsItself();
+    void ignoresASetWithoutNormal();
+    void recordsTheSetsOwnName();
 
     void leavesWhatItCannotExpand_data();
     void leavesWhatItCannotExpand();
-    void honoursTheFirstDirectiveOfAKindOnly_data();
-    void honoursTheFirstDirectiveOfAKindOnly();
+    void expandsTheFirstDirectiveOfAKindOnly_data();
+    void expandsTheFirstDirectiveOfAKindOnly();
 
     void expandsNoneToATransparentBackground();
     void prefersASetToAWord_data();
@@ -140,7 +140,7 @@ void tst_OxaThemeUtilsColorDirectives::writesTheStatesOfAnIncompleteSet()
     QCOMPARE(result.oxaCSS.borderColorSetName, QString());
 }
 
-void tst_OxaThemeUtilsColorDirectives::takesASetWithoutNormalForNone()
+void tst_OxaThemeUtilsColorDirectives::ignoresASetWithoutNormal()
 {
     OxaColorSet hollow(QStringLiteral("red"), Qt::blue);
     hollow.normal = QColor();
@@ -150,7 +150,7 @@ void tst_OxaThemeUtilsColorDirectives::takesASetWithoutNormalForNone()
     QCOMPARE(result.textColorSet, OxaColorSet(QStringLiteral("red"), Qt::red));
 }
 
-void tst_OxaThemeUtilsColorDirectives::namesTheSetAsItCallsItself()
+void tst_OxaThemeUtilsColorDirectives::recordsTheSetsOwnName()
 {
     const OxaColorSetMap sets = { { "key", one("itself", "#112233") } };
     const auto result = StyleTexts::parse(QStringLiteral("$textColors: key;"), sets);
@@ -191,7 +191,7 @@ void tst_OxaThemeUtilsColorDirectives::leavesWhatItCannotExpand()
     QCOMPARE(result.oxaCSS.textColorSetName, QString());
 }
 
-void tst_OxaThemeUtilsColorDirectives::honoursTheFirstDirectiveOfAKindOnly_data()
+void tst_OxaThemeUtilsColorDirectives::expandsTheFirstDirectiveOfAKindOnly_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("sheet");
@@ -208,7 +208,7 @@ void tst_OxaThemeUtilsColorDirectives::honoursTheFirstDirectiveOfAKindOnly_data(
                                           << "$textColors: nope; $textColors: x;";
 }
 
-void tst_OxaThemeUtilsColorDirectives::honoursTheFirstDirectiveOfAKindOnly()
+void tst_OxaThemeUtilsColorDirectives::expandsTheFirstDirectiveOfAKindOnly()
 {
     QFETCH(const QString, text);
     QFETCH(const QString, sheet);

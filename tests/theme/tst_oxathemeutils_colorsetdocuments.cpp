@@ -48,9 +48,9 @@ private Q_SLOTS:
 
     void takesNormalSilentlyForAnUnusableState_data();
     void takesNormalSilentlyForAnUnusableState();
-    void takesNormalForAllStatesWhenItIsAlone_data();
-    void takesNormalForAllStatesWhenItIsAlone();
-    void takesNoNamelessPaletteColorForAMissingState();
+    void takesNormalForAllStatesWhenNoOtherIsGiven_data();
+    void takesNormalForAllStatesWhenNoOtherIsGiven();
+    void ignoresANamelessPaletteColorForAMissingState();
 
     void givesNothingWhenNormalIsUnusable_data();
     void givesNothingWhenNormalIsUnusable();
@@ -152,7 +152,7 @@ void tst_OxaThemeUtilsColorSetDocuments::takesNormalSilentlyForAnUnusableState()
                            "#ff000001"));
 }
 
-void tst_OxaThemeUtilsColorSetDocuments::takesNormalForAllStatesWhenItIsAlone_data()
+void tst_OxaThemeUtilsColorSetDocuments::takesNormalForAllStatesWhenNoOtherIsGiven_data()
 {
     QTest::addColumn<QString>("normal");
     QTest::addColumn<bool>("hasPalette");
@@ -160,7 +160,7 @@ void tst_OxaThemeUtilsColorSetDocuments::takesNormalForAllStatesWhenItIsAlone_da
     QTest::newRow("a colour of its own") << rgbaOne << false;
 }
 
-void tst_OxaThemeUtilsColorSetDocuments::takesNormalForAllStatesWhenItIsAlone()
+void tst_OxaThemeUtilsColorSetDocuments::takesNormalForAllStatesWhenNoOtherIsGiven()
 {
     QFETCH(const QString, normal);
     QFETCH(const bool, hasPalette);
@@ -173,7 +173,7 @@ void tst_OxaThemeUtilsColorSetDocuments::takesNormalForAllStatesWhenItIsAlone()
     QVERIFY(sets.at("panel").isValid());
 }
 
-void tst_OxaThemeUtilsColorSetDocuments::takesNoNamelessPaletteColorForAMissingState()
+void tst_OxaThemeUtilsColorSetDocuments::ignoresANamelessPaletteColorForAMissingState()
 {
     // No document gives a palette with such a colour, but a client may.
     const OxaColorPalette palette = { { "", QColor(0, 0, 9) }, { "one", QColor(0, 0, 1) } };

@@ -54,7 +54,7 @@ void tst_OxaThemeUtilsDocuments::addUselessFiles()
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("an empty file") << QByteArray();
     QTest::newRow("a text that isn't JSON") << QByteArrayLiteral("colors: none");
-    QTest::newRow("JSON that breaks off") << paletteJson.chopped(1);
+    QTest::newRow("truncated JSON") << paletteJson.chopped(1);
     QTest::newRow("an array instead of an object") << QByteArrayLiteral(R"([{"colors":[]}])");
     QTest::newRow("an empty object") << QByteArrayLiteral("{}");
 }
@@ -92,7 +92,7 @@ void tst_OxaThemeUtilsDocuments::givesAnEmptyObjectForAFolder()
 
 void tst_OxaThemeUtilsDocuments::givesAnEmptyObjectForNoPathSilently()
 {
-    // An outer application that has no document for a theme has no path, either.
+    // An outer application without a document for a theme has no path.
     QVERIFY(OxaThemeUtils::readJsonObject(QString()).isEmpty());
     QVERIFY(OxaThemeUtils::parseOxaColorsFromJson(QString()).empty());
 }

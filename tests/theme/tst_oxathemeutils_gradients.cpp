@@ -31,7 +31,7 @@ QString gradientSheet(const char *start, const char *end)
 
 } // namespace
 
-/// Backgrounds that run from one colour to another: "$backgroundColors: gradient-…;".
+/// Gradient backgrounds: "$backgroundColors: gradient-…;".
 class tst_OxaThemeUtilsGradients : public QObject
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ private Q_SLOTS:
     void staysWhenTheStoreLacksASet();
     void staysWhenItIsNoGradient_data();
     void staysWhenItIsNoGradient();
-    void makesWayForASetOfItsName();
+    void isReplacedByASetOfItsName();
 };
 
 void tst_OxaThemeUtilsGradients::expandsToTheNormalColorsOfTwoSets_data()
@@ -135,7 +135,7 @@ void tst_OxaThemeUtilsGradients::staysWhenItIsNoGradient()
     QVERIFY(!result.textColorSet.isValid());
 }
 
-void tst_OxaThemeUtilsGradients::makesWayForASetOfItsName()
+void tst_OxaThemeUtilsGradients::isReplacedByASetOfItsName()
 {
     OxaColorSetMap sets = gradientStore();
     sets.emplace("gradient-primary", one("gradient-primary", "#0000aa"));

@@ -38,7 +38,7 @@ QString paletteOf(const QJsonObject &document)
 
 } // namespace
 
-/// Colour documents, which name raw colours.
+/// Colour documents, which give names to colours.
 class tst_OxaThemeUtilsPalettes : public QObject
 {
     Q_OBJECT
@@ -75,7 +75,7 @@ void tst_OxaThemeUtilsPalettes::readsColors_data()
     QTest::addColumn<QStringList>("groups");
     QTest::addColumn<QString>("palette");
     QTest::newRow("two colours of one group") << QStringList(red + comma + blue) << redAndBlue;
-    QTest::newRow("two groups, which mean nothing") << QStringList { red, blue } << redAndBlue;
+    QTest::newRow("two groups, which are merged") << QStringList { red, blue } << redAndBlue;
     QTest::newRow("an empty group") << QStringList { QString(), red } << "red=#ffff0000";
     QTest::newRow("an alias of an earlier colour")
             << QStringList(red + comma + alias("twin", "red")) << redAndTwin;
@@ -99,7 +99,7 @@ void tst_OxaThemeUtilsPalettes::readsColors_data()
             << "red=#ffff0000";
     QTest::newRow("a colour before an alias of its name")
             << QStringList(red + comma + blue + comma + alias("red", "blue")) << redAndBlue;
-    QTest::newRow("a colour even behind an alias of its name")
+    QTest::newRow("a colour, even after an alias of its name")
             << QStringList(alias("red", "blue") + comma + red + comma + blue) << redAndBlue;
     QTest::newRow("the first of two aliases of one name")
             << QStringList(red + comma + blue + comma + alias("twin", "red") + comma
@@ -213,7 +213,7 @@ void tst_OxaThemeUtilsPalettes::givesNothingWhenAColorIsInvalid_data()
     QTest::newRow("alpha as a text") << R"({"r":0,"g":0,"b":0,"a":"1"})";
     QTest::newRow("alpha a step above its range") << R"({"r":0,"g":0,"b":0,"a":1.004})";
     QTest::newRow("alpha a step below its range") << R"({"r":0,"g":0,"b":0,"a":-0.004})";
-    QTest::newRow("alpha beyond all numbers") << R"({"r":0,"g":0,"b":0,"a":1e300})";
+    QTest::newRow("alpha too large for a number") << R"({"r":0,"g":0,"b":0,"a":1e300})";
 }
 
 void tst_OxaThemeUtilsPalettes::givesNothingWhenAColorIsInvalid()

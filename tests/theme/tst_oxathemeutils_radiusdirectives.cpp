@@ -18,8 +18,8 @@ class tst_OxaThemeUtilsRadiusDirectives : public QObject
 private Q_SLOTS:
     void readsTheRadius_data();
     void readsTheRadius();
-    void wantsOnlyARadiusWithoutABorderSet_data();
-    void wantsOnlyARadiusWithoutABorderSet();
+    void setsNoBorderForARadiusWithoutABorderSet_data();
+    void setsNoBorderForARadiusWithoutABorderSet();
     void marksSquareCorners_data();
     void marksSquareCorners();
     void findsRoundCornersInTheSelectorsOfRulesToo_data();
@@ -35,7 +35,7 @@ void tst_OxaThemeUtilsRadiusDirectives::readsTheRadius_data()
     QTest::newRow("a number") << "4" << 4 << 0 << "border-radius:4px;";
     QTest::newRow("the highest that fits") << "255" << 255 << 0 << "border-radius:255px;";
     QTest::newRow("its low bits") << "300" << 44 << 0 << "border-radius:44px;";
-    QTest::newRow("its low bits, which are none") << "256" << 0 << 0 << "";
+    QTest::newRow("its low bits, which are zero") << "256" << 0 << 0 << "";
     QTest::newRow("top-left") << "4 top-left" << 4 << 1 << "border-top-left-radius:4px;";
     QTest::newRow("top-right") << "4 top-right" << 4 << 2 << "border-top-right-radius:4px;";
     QTest::newRow("bottom-left") << "4 bottom-left" << 4 << 3 << "border-bottom-left-radius:4px;";
@@ -43,7 +43,7 @@ void tst_OxaThemeUtilsRadiusDirectives::readsTheRadius_data()
                                   << "border-bottom-right-radius:4px;";
     QTest::newRow("top") << "4 top" << 4 << 5
                          << "border-top-left-radius:4px; border-top-right-radius:4px;";
-    QTest::newRow("bottom, which is no word") << "4 bottom" << 4 << 0 << "border-radius:4px;";
+    QTest::newRow("bottom, which is no keyword") << "4 bottom" << 4 << 0 << "border-radius:4px;";
     QTest::newRow("a longer word") << "4 topmost" << 4 << 0 << "border-radius:4px;";
     QTest::newRow("another case") << "4 Top-left" << 4 << 0 << "border-radius:4px;";
     QTest::newRow("a word around a corner")
@@ -83,7 +83,7 @@ void tst_OxaThemeUtilsRadiusDirectives::readsTheRadius()
                                .arg(declarations));
 }
 
-void tst_OxaThemeUtilsRadiusDirectives::wantsOnlyARadiusWithoutABorderSet_data()
+void tst_OxaThemeUtilsRadiusDirectives::setsNoBorderForARadiusWithoutABorderSet_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("sheet");
@@ -107,7 +107,7 @@ void tst_OxaThemeUtilsRadiusDirectives::wantsOnlyARadiusWithoutABorderSet_data()
                                << "#bar{background-color:#ff778899;}#bar{border:none;}" << false;
 }
 
-void tst_OxaThemeUtilsRadiusDirectives::wantsOnlyARadiusWithoutABorderSet()
+void tst_OxaThemeUtilsRadiusDirectives::setsNoBorderForARadiusWithoutABorderSet()
 {
     QFETCH(const QString, text);
     QFETCH(const QString, sheet);

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int cases = 6000;
 
-/// A construct of the style language and what it becomes. Each expansion is written by hand.
+/// A construct of the style language and its expansion, which is written by hand.
 struct Construct
 {
     const char *text;
@@ -17,8 +17,7 @@ struct Construct
     const char *set = ""; ///< The name that it leaves in the record.
 };
 
-/// What stands between directives. None of it ends in a tag, or has a ")" or ";" that would end
-/// one.
+/// Texts between directives. None of them ends in a tag, or has a ")" or ";" that would end one.
 const std::vector<Construct> plainTexts = {
     { "#bar{padding:1px}", "#bar{padding:1px}" },
     { "$", "$" },
@@ -31,7 +30,7 @@ const std::vector<Construct> plainTexts = {
     { "$$(states.checked)", "$#ff000006" },
 };
 
-/// A colour directive: what the first of a text may be, and one that stays behind it.
+/// A colour directive: variants of the first one in a text, and a second one, which stays.
 struct ColorDirective
 {
     std::vector<Construct> first;
@@ -95,7 +94,7 @@ const std::vector<Border> borders = {
       "border-style:solid;border-right-width:1px;" },
 };
 
-/// What may stand at the end of a text only, for nothing ends it.
+/// Constructs without an end, which are only put at the end of a text.
 const std::vector<Construct> unclosedTexts = {
     { "", "" },
     { "$(x.hovered", "$(x.hovered" },
@@ -104,7 +103,7 @@ const std::vector<Construct> unclosedTexts = {
     { "$borders: all $borderRadius: 4", "$borders: all $borderRadius: 4" },
 };
 
-/// A random text, put together with what it is expanded to.
+/// A random text and its expansion.
 class RandomText
 {
 public:

@@ -19,7 +19,7 @@ void setAllSides(OxaCSSData &data)
 
 } // namespace
 
-/// The structured form of style texts, and the way back.
+/// Conversions between style texts and their structured form.
 class tst_OxaThemeUtilsRecords : public QObject
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ private Q_SLOTS:
     void writesNoMask();
     void writesTheBorderOfARecord_data();
     void writesTheBorderOfARecord();
-    void worksOutAfreshWhetherOnlyARadiusIsWanted();
+    void derivesNoBorderFromTheOtherFields();
     void leavesTheGivenRecordAlone();
 
     void readsStyleTextsIntoRecords_data();
@@ -193,7 +193,7 @@ void tst_OxaThemeUtilsRecords::writesTheBorderOfARecord()
     QCOMPARE(OxaThemeUtils::convertToOxaCSS(data), text);
 }
 
-void tst_OxaThemeUtilsRecords::worksOutAfreshWhetherOnlyARadiusIsWanted()
+void tst_OxaThemeUtilsRecords::derivesNoBorderFromTheOtherFields()
 {
     OxaCSSData sides;
     setAllSides(sides);

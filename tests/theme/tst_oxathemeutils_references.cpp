@@ -8,8 +8,8 @@ class tst_OxaThemeUtilsReferences : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void putsAColorForAReference_data();
-    void putsAColorForAReference();
+    void replacesAReferenceByItsColor_data();
+    void replacesAReferenceByItsColor();
     void leavesWhatIsNoReferenceSilently_data();
     void leavesWhatIsNoReferenceSilently();
     void leavesAReferenceToAnUnknownSet_data();
@@ -20,14 +20,14 @@ private Q_SLOTS:
     void resolvesReferencesAroundOneThatStays();
     void endsAReferenceAtTheFirstBracket();
     void findsSetsByNamesBeyondAscii();
-    void takesHalfACharacterInANameForAQuestionMark();
+    void readsALoneSurrogateInANameAsAQuestionMark();
 
     void substitutesBeforeItExpands();
     void addsNoBorderRuleForReferencesAlone();
     void keepsReferencesInThePlainStyleSheet();
 };
 
-void tst_OxaThemeUtilsReferences::putsAColorForAReference_data()
+void tst_OxaThemeUtilsReferences::replacesAReferenceByItsColor_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("sheet");
@@ -60,13 +60,13 @@ void tst_OxaThemeUtilsReferences::putsAColorForAReference_data()
                                         << "$#ff778899";
     QTest::newRow("one inside brackets") << "rgb($(y))"
                                          << "rgb(#ff778899)";
-    QTest::newRow("one beside half a character") << QStringLiteral("$(y)") + QChar(0xd83d)
+    QTest::newRow("one beside a lone surrogate") << QStringLiteral("$(y)") + QChar(0xd83d)
                                                  << QStringLiteral("#ff778899") + QChar(0xd83d);
     QTest::newRow("one in a value that is no colour directive") << "$shadow: $(y);"
                                                                 << "$shadow: #ff778899;";
 }
 
-void tst_OxaThemeUtilsReferences::putsAColorForAReference()
+void tst_OxaThemeUtilsReferences::replacesAReferenceByItsColor()
 {
     QFETCH(const QString, text);
     QFETCH(const QString, sheet);
@@ -179,8 +179,8 @@ void tst_OxaThemeUtilsReferences::findsSetsByNamesBeyondAscii()
              QLatin1String("#ffff0000"));
 }
 
-// Names are looked up as UTF-8, which has nothing for it.
-void tst_OxaThemeUtilsReferences::takesHalfACharacterInANameForAQuestionMark()
+// Names are looked up as UTF-8, which cannot represent it.
+void tst_OxaThemeUtilsReferences::readsALoneSurrogateInANameAsAQuestionMark()
 {
     const OxaColorSetMap sets = ColorSets::storeOf({ OxaColorSet(QStringLiteral("?"), Qt::red) });
     const QString half = QChar(0xd83d);

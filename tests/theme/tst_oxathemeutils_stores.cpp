@@ -38,7 +38,7 @@ void addThemeTypes()
 
 } // namespace
 
-/// The application's stores, and looking sets up in them.
+/// The application's stores, and lookups of sets in them.
 class tst_OxaThemeUtilsStores : public QObject
 {
     Q_OBJECT
@@ -47,11 +47,11 @@ private Q_SLOTS:
     void startsWithEmptyStores();
 
     void handsOutTheStoresThemselves();
-    void replacesAStoreAndTellsOfItAfterwards_data();
-    void replacesAStoreAndTellsOfItAfterwards();
-    void tellsOfAStoreThatIsReplacedByItself_data() { addStores(); }
-    void tellsOfAStoreThatIsReplacedByItself();
-    void replacesTheTokensWithoutTellingOfIt();
+    void replacesAStoreBeforeItEmitsASignal_data();
+    void replacesAStoreBeforeItEmitsASignal();
+    void emitsASignalForAStoreReplacedByItself_data() { addStores(); }
+    void emitsASignalForAStoreReplacedByItself();
+    void replacesTheTokensWithoutASignal();
 
     void choosesTheStoreByTypeAndFlags_data();
     void choosesTheStoreByTypeAndFlags();
@@ -60,7 +60,7 @@ private Q_SLOTS:
     void looksASetUpInTheStoreOfTheType();
     void doesNotFallBackToTheOtherStore();
     void warnsOfAnUnknownName();
-    void saysNothingOfAnEmptyName();
+    void doesNotWarnOfAnEmptyName();
     void findsNamesInUtf8();
 
     void writesLinkColorsWithoutAlpha();
@@ -73,7 +73,7 @@ private Q_SLOTS:
     void readsEveryOtherWordAsGlobal_data();
     void readsEveryOtherWordAsGlobal();
     void numbersTheColorSetTypes();
-    void tellsOfHighContrast();
+    void returnsWhetherHighContrastIsOn();
     void makesAValidTransparentSet();
 
 private:
@@ -111,9 +111,9 @@ void tst_OxaThemeUtilsStores::addStores()
                               << &OxaThemeUtils::getAppInvertedOxaColorSets;
 }
 
-void tst_OxaThemeUtilsStores::replacesAStoreAndTellsOfItAfterwards_data() { addStores(); }
+void tst_OxaThemeUtilsStores::replacesAStoreBeforeItEmitsASignal_data() { addStores(); }
 
-void tst_OxaThemeUtilsStores::replacesAStoreAndTellsOfItAfterwards()
+void tst_OxaThemeUtilsStores::replacesAStoreBeforeItEmitsASignal()
 {
     QFETCH(const StoreSetter, set);
     QFETCH(const StoreGetter, get);
@@ -132,7 +132,7 @@ void tst_OxaThemeUtilsStores::replacesAStoreAndTellsOfItAfterwards()
                        : OxaThemeUtils::getAppOxaColorSets() == ordinaryStore());
 }
 
-void tst_OxaThemeUtilsStores::tellsOfAStoreThatIsReplacedByItself()
+void tst_OxaThemeUtilsStores::emitsASignalForAStoreReplacedByItself()
 {
     QFETCH(const StoreSetter, set);
     QFETCH(const StoreGetter, get);
@@ -145,7 +145,7 @@ void tst_OxaThemeUtilsStores::tellsOfAStoreThatIsReplacedByItself()
     QVERIFY(get() == before);
 }
 
-void tst_OxaThemeUtilsStores::replacesTheTokensWithoutTellingOfIt()
+void tst_OxaThemeUtilsStores::replacesTheTokensWithoutASignal()
 {
     const QSignalSpy changed(application(), &IOxaApplication::colorSetsChanged);
     const OxaColorTokenMap tokens = { { 1, "one" }, { 7, "seven" } };
@@ -233,7 +233,7 @@ void tst_OxaThemeUtilsStores::warnsOfAnUnknownName()
     QCOMPARE(OxaThemeUtils::getColorSet("Both", AppThemeType::Global), OxaColorSet());
 }
 
-void tst_OxaThemeUtilsStores::saysNothingOfAnEmptyName()
+void tst_OxaThemeUtilsStores::doesNotWarnOfAnEmptyName()
 {
     const StoreGuard stores(ordinaryStore());
     QCOMPARE(OxaThemeUtils::getColorSet("", AppThemeType::Global), OxaColorSet());
@@ -320,7 +320,7 @@ void tst_OxaThemeUtilsStores::numbersTheColorSetTypes()
     QCOMPARE(int(OxaThemeUtils::ColorSetType::Text), 2);
 }
 
-void tst_OxaThemeUtilsStores::tellsOfHighContrast()
+void tst_OxaThemeUtilsStores::returnsWhetherHighContrastIsOn()
 {
     StoreGuard stores({});
     QVERIFY(!OxaThemeUtils::isHighContrastEnabled());

@@ -6,7 +6,7 @@ using OxaThemeUtils::ColorSetType;
 
 Q_DECLARE_METATYPE(OxaThemeUtils::ColorSetType)
 
-/// The style language as a whole: what goes in and what comes out.
+/// The style language as a whole.
 class tst_OxaThemeUtilsStyleText : public QObject
 {
     Q_OBJECT
@@ -87,11 +87,10 @@ void tst_OxaThemeUtilsStyleText::passesEverythingElseThrough_data()
     QTest::newRow("dollars and brackets") << "$ $$ $) ) ( $ (x) $(";
     QTest::newRow("a style sheet's own words") << "background-color: x; borders: all;";
     QTest::newRow("letters beyond ASCII") << "/* \xc3\xa4\xf0\x9f\x98\x80 */";
-    QTest::newRow("a character's first half") << QString(QChar(0xd83d));
-    QTest::newRow("a character's second half") << QString(QChar(0xde00));
-    QTest::newRow("a character's halves the wrong way round")
-            << QString(QChar(0xde00)) + QChar(0xd83d);
-    QTest::newRow("tags that end nowhere")
+    QTest::newRow("a lone high surrogate") << QString(QChar(0xd83d));
+    QTest::newRow("a lone low surrogate") << QString(QChar(0xde00));
+    QTest::newRow("surrogates in the wrong order") << QString(QChar(0xde00)) + QChar(0xd83d);
+    QTest::newRow("tags without an end")
             << "$backgroundColors: x $borderColors: y $textColors: x $borders: all "
                "$borderRadius: 4 $borderWidth: 2";
 }
@@ -127,10 +126,10 @@ void tst_OxaThemeUtilsStyleText::removesDirectives_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("rest");
-    QTest::newRow("nothing from nothing") << ""
-                                          << "";
-    QTest::newRow("nothing but white space") << " \n color: red;\t"
-                                             << "color: red;";
+    QTest::newRow("an empty text") << ""
+                                   << "";
+    QTest::newRow("white space around") << " \n color: red;\t"
+                                        << "color: red;";
     QTest::newRow("each kind")
             << "a$backgroundColors: x;b$borderColors: x;c$textColors: x;d$borders: all;e"
                "$borderRadius: 4;f$borderWidth: 1;g"
@@ -144,16 +143,16 @@ void tst_OxaThemeUtilsStyleText::removesDirectives_data()
                                                   << "";
     QTest::newRow("through the next semicolon") << "$textColors: x { color: red; }"
                                                 << "}";
-    QTest::newRow("not a tag that ends nowhere") << "color: red; $textColors: x"
-                                                 << "color: red; $textColors: x";
+    QTest::newRow("not a tag without an end") << "color: red; $textColors: x"
+                                              << "color: red; $textColors: x";
     QTest::newRow("not a colour reference") << "color: $(x.hovered);"
                                             << "color: $(x.hovered);";
     QTest::newRow("white space inside stays") << " a; $textColors: x; b; "
                                               << "a;  b;";
-    QTest::newRow("a tag that another's removal makes") << "$border$textColors: x;Radius: 4;"
+    QTest::newRow("a tag formed by an earlier removal") << "$border$textColors: x;Radius: 4;"
                                                         << "";
-    QTest::newRow("a tag that a later one's removal makes") << "$text$borderRadius: 4;Colors: x;"
-                                                            << "$textColors: x;";
+    QTest::newRow("not a tag formed by a later removal") << "$text$borderRadius: 4;Colors: x;"
+                                                         << "$textColors: x;";
 }
 
 void tst_OxaThemeUtilsStyleText::removesDirectives()

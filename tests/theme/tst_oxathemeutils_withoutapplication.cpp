@@ -8,7 +8,7 @@
 
 using OxaThemeUtils::AppThemeType;
 
-/// The stores in a process whose application object is none of ours, or that has none.
+/// The stores under an application object that is not the library's, or without one.
 class tst_OxaThemeUtilsWithoutApplication : public QObject
 {
     Q_OBJECT
@@ -16,10 +16,10 @@ class tst_OxaThemeUtilsWithoutApplication : public QObject
 private Q_SLOTS:
     void handsOutEmptyStores();
     void ignoresNewStores();
-    void takesTheThemeForNotDark();
-    void takesTheThemeForNotHighContrast();
+    void assumesNoDarkTheme();
+    void assumesNoHighContrast();
     void warnsOfAnyName();
-    void saysNothingOfAnEmptyName();
+    void doesNotWarnOfAnEmptyName();
     void expandsStyleTextsWithAGivenStore();
 };
 
@@ -40,7 +40,7 @@ void tst_OxaThemeUtilsWithoutApplication::ignoresNewStores()
     handsOutEmptyStores();
 }
 
-void tst_OxaThemeUtilsWithoutApplication::takesTheThemeForNotDark()
+void tst_OxaThemeUtilsWithoutApplication::assumesNoDarkTheme()
 {
     const OxaColorSetMap *ordinary = &OxaThemeUtils::getAppOxaColorSets();
     const OxaColorSetMap *inverted = &OxaThemeUtils::getAppInvertedOxaColorSets();
@@ -51,7 +51,7 @@ void tst_OxaThemeUtilsWithoutApplication::takesTheThemeForNotDark()
     QCOMPARE(&OxaThemeUtils::getOxaColorSetsByThemeType(AppThemeType::Inverted), inverted);
 }
 
-void tst_OxaThemeUtilsWithoutApplication::takesTheThemeForNotHighContrast()
+void tst_OxaThemeUtilsWithoutApplication::assumesNoHighContrast()
 {
     QVERIFY(!OxaThemeUtils::isHighContrastEnabled());
 }
@@ -62,7 +62,7 @@ void tst_OxaThemeUtilsWithoutApplication::warnsOfAnyName()
     QCOMPARE(OxaThemeUtils::getColorSet("panel", AppThemeType::Dark), OxaColorSet());
 }
 
-void tst_OxaThemeUtilsWithoutApplication::saysNothingOfAnEmptyName()
+void tst_OxaThemeUtilsWithoutApplication::doesNotWarnOfAnEmptyName()
 {
     QCOMPARE(OxaThemeUtils::getColorSet("", AppThemeType::Dark), OxaColorSet());
 }
@@ -80,7 +80,7 @@ void tst_OxaThemeUtilsWithoutApplication::expandsStyleTextsWithAGivenStore()
                            "#bar{outline:none;}"));
 }
 
-/// Runs the test twice: without any application object, and under a plain QApplication.
+/// Runs the test without any application object, and under a plain QApplication.
 int main(int argc, char **argv)
 {
     tst_OxaThemeUtilsWithoutApplication test;

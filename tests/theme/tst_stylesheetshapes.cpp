@@ -26,7 +26,7 @@ public:
 
     QString sheet() const { return m_sheet; }
 
-    /// Puts the sheet in force and tells whether the label shows the panel's colour all over.
+    /// Sets the sheet and returns whether all of the label has the panel's colour.
     bool showsThePanel()
     {
         setStyleSheet(m_sheet);
@@ -68,7 +68,7 @@ void expectAnUnknownReference()
 
 namespace outer {
 
-/// A class whose name no selector can bear.
+/// A class whose name cannot be a selector.
 class InnerLabel : public QLabel
 {
     Q_OBJECT
@@ -76,8 +76,8 @@ class InnerLabel : public QLabel
 
 } // namespace outer
 
-/// What a user sees of a style text with something in it that could not be expanded. The text costs
-/// rules, never a widget; which rules, and whether Qt tells, depends on where the rest stands.
+/// What a user sees of a style text that could not be expanded completely. Rules are lost, never a
+/// widget. Which rules, and whether Qt warns, depends on the position of the rest.
 class tst_StyleSheetShapes : public QObject
 {
     Q_OBJECT

@@ -17,7 +17,7 @@ QString storedType(const QObject &object) { return object.property("themeType").
 /// Adds a row for each class that follows the parent that it is made with.
 void addFollowers() { addThemedClassesBut(ThemedClass::FollowsNoParent); }
 
-/// A widget that counts how often it is told to fetch its colours.
+/// A widget that counts the calls to fetch its colours.
 class FetchingWidget : public OxaWidget
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ protected Q_SLOTS:
 
 } // namespace
 
-/// How theme types travel from parents to children.
+/// How children follow the theme types of their parents.
 class tst_ThemeChain : public QObject
 {
     Q_OBJECT
@@ -67,15 +67,15 @@ private Q_SLOTS:
     void keepsItsTypeWhereNoneIsAboveIt_data() { addThemedClasses(); }
     void keepsItsTypeWhereNoneIsAboveIt();
 
-    void ripplesDownOneGenerationAtATime();
+    void changesOneGenerationAfterTheOther();
     void consultsOnlyTheWidgetAndItsWindow();
     void countsNoWidgetAsGlobal();
     void fetchesColorsAtEachChangeOfTheType();
     void leavesAParentWithoutTheSignalAlone();
     void connectsToEachOfItsParentsOnce();
-    void endsAChangeThatGoesRoundInACircle();
-    void followsAParentThatASlotChangesMeanwhile_data();
-    void followsAParentThatASlotChangesMeanwhile();
+    void stopsAChangeThatRunsInACircle();
+    void followsAParentThatASlotChanges_data();
+    void followsAParentThatASlotChanges();
     void takesTheWindowsTypeWhenAnEarlierParentChangesLast();
 
 private:
@@ -228,7 +228,7 @@ void tst_ThemeChain::keepsItsTypeWhereNoneIsAboveIt()
     QCOMPARE(storedType(*widget), QStringLiteral("dark"));
 }
 
-void tst_ThemeChain::ripplesDownOneGenerationAtATime()
+void tst_ThemeChain::changesOneGenerationAfterTheOther()
 {
     OxaWidget window;
     OxaWidget first(&window);
@@ -247,7 +247,7 @@ void tst_ThemeChain::ripplesDownOneGenerationAtATime()
     record(second, QStringLiteral("second"));
 
     window.setThemeType(QStringLiteral("dark"));
-    // A widget tells its children before its later listeners.
+    // The children are connected before the log.
     QCOMPARE(log.take(),
              QStringLiteral("window css | first css | first's child css | first's child type | "
                             "first type | second css | second type | window type"));
@@ -312,9 +312,9 @@ void tst_ThemeChain::connectsToEachOfItsParentsOnce()
     QCOMPARE(receivers(second), before);
 }
 
-void tst_ThemeChain::endsAChangeThatGoesRoundInACircle()
+void tst_ThemeChain::stopsAChangeThatRunsInACircle()
 {
-    // Each of the two follows the other, and their parent and window disagree for ever.
+    // Each of the two follows the other, and their parent and window always disagree.
     QWidget window;
     OxaWidget parent(&window);
     OxaWidget a;
@@ -334,14 +334,14 @@ void tst_ThemeChain::endsAChangeThatGoesRoundInACircle()
     QCOMPARE(storedType(b), QStringLiteral("light"));
 }
 
-void tst_ThemeChain::followsAParentThatASlotChangesMeanwhile_data()
+void tst_ThemeChain::followsAParentThatASlotChanges_data()
 {
     QTest::addColumn<QByteArray>("signal");
     QTest::newRow("at the style text") << QByteArray(SIGNAL(cssChanged()));
     QTest::newRow("at the type") << QByteArray(SIGNAL(themeTypeChanged()));
 }
 
-void tst_ThemeChain::followsAParentThatASlotChangesMeanwhile()
+void tst_ThemeChain::followsAParentThatASlotChanges()
 {
     QFETCH(const QByteArray, signal);
     OxaWidget parent;
@@ -368,7 +368,8 @@ void tst_ThemeChain::takesTheWindowsTypeWhenAnEarlierParentChangesLast()
     OxaWidget widget(&earlierParent);
     widget.setParent(&parent);
     above.setThemeType(QStringLiteral("dark"));
-    // It took "dark" from its parent first; then the earlier one called, and its parent agreed.
+    // It took "dark" from its parent first. When the earlier parent changed, its parent had that
+    // type already, so that it took the window's.
     QCOMPARE(storedType(parent), QStringLiteral("dark"));
     QCOMPARE(storedType(widget), QStringLiteral("light"));
 }

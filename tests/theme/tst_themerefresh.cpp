@@ -25,7 +25,7 @@ void replaceStores()
     OxaThemeUtils::setAppInvertedOxaColorSets(storeWith("#ffaabbcc"));
 }
 
-/// A window that takes part by a property and a signal of its own.
+/// A window that is no widget of the library, with its own theme type property and signal.
 class ForeignWindow : public QWidget
 {
     Q_OBJECT
@@ -62,16 +62,16 @@ private Q_SLOTS:
 
     void bringsNewColorsToEachClass_data() { addThemedClasses(); }
     void bringsNewColorsToEachClass();
-    void tellsListenersOfEachWidgetOnce();
+    void emitsSignalsOfEachWidgetOnce();
     void reachesParentsFirst();
     void reachesOneWidgetAndThoseBelowIt();
     void changesNoThemeType();
     void changesNoThemeTypeUnderAForeignWindow();
-    void writesTheTypeOfAForeignWidgetAnew();
+    void setsTheTypeOfAForeignWidgetAgain();
     void handsOnATypeThatASlotSets();
     void takesTheTypeOfAParentThatASlotGives();
-    void survivesWidgetsThatGoMeanwhile();
-    void survivesWidgetsThatComeMeanwhile();
+    void survivesWidgetsThatASlotDeletes();
+    void survivesWidgetsThatASlotAdds();
 
 private:
     std::unique_ptr<StoreGuard> m_stores;
@@ -89,7 +89,7 @@ void tst_ThemeRefresh::bringsNewColorsToEachClass()
     QCOMPARE(storedType(*widget), QStringLiteral("global"));
 }
 
-void tst_ThemeRefresh::tellsListenersOfEachWidgetOnce()
+void tst_ThemeRefresh::emitsSignalsOfEachWidgetOnce()
 {
     OxaWidget window;
     OxaWidget child(&window);
@@ -159,7 +159,7 @@ void tst_ThemeRefresh::changesNoThemeTypeUnderAForeignWindow()
     QCOMPARE(storedType(child), QStringLiteral("dark"));
 }
 
-void tst_ThemeRefresh::writesTheTypeOfAForeignWidgetAnew()
+void tst_ThemeRefresh::setsTheTypeOfAForeignWidgetAgain()
 {
     ForeignWindow window;
     const QSignalSpy themeTypeChanged(&window, &ForeignWindow::themeTypeChanged);
@@ -193,7 +193,7 @@ void tst_ThemeRefresh::takesTheTypeOfAParentThatASlotGives()
     QCOMPARE(storedType(child), QStringLiteral("dark"));
 }
 
-void tst_ThemeRefresh::survivesWidgetsThatGoMeanwhile()
+void tst_ThemeRefresh::survivesWidgetsThatASlotDeletes()
 {
     for (const auto signal : { &OxaWidget::cssChanged, &OxaWidget::themeTypeChanged }) {
         const QPointer<OxaWidget> window = new OxaWidget;
@@ -209,7 +209,7 @@ void tst_ThemeRefresh::survivesWidgetsThatGoMeanwhile()
     }
 }
 
-void tst_ThemeRefresh::survivesWidgetsThatComeMeanwhile()
+void tst_ThemeRefresh::survivesWidgetsThatASlotAdds()
 {
     OxaWidget window;
     OxaWidget old(&window);

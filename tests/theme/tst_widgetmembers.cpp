@@ -86,7 +86,7 @@ QStringList membersOf(const QMetaObject &type)
 
 bool isQts(const QMetaObject &type) { return type.className()[0] == 'Q'; }
 
-/// True when \a setter takes what a property's setter takes, and is not Qt's.
+/// True when the setter has one argument, and is not Qt's.
 template <typename Class, typename... Arguments>
 bool isOurs(void (Class::*)(Arguments...))
 {

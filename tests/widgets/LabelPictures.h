@@ -9,7 +9,7 @@
 #include <QPainter>
 #include <QTest>
 
-/// What the tests of OxaLabel's painting share.
+/// Helpers for the tests of OxaLabel's painting.
 namespace LabelPictures {
 
 /// The ways in which a label paints its text.
@@ -61,7 +61,7 @@ inline OxaColorSetMap store()
 /// Returns an empty picture of \a label.
 inline QImage paper(const OxaLabel &label) { return Pixels::paper(label.size()); }
 
-/// Prepares \a painter to write as \a label does.
+/// Sets \a painter up to draw text as \a label does.
 inline void takePen(QPainter &painter, const OxaLabel &label)
 {
     painter.setFont(label.font());

@@ -59,7 +59,7 @@ private Q_SLOTS:
     void recolorsAPixmapOfTwoPixelsForOne();
     void recolorsNothingWithoutAPixmap();
 
-    void tellsWhenItIsShownAndHidden();
+    void emitsSignalsWhenItIsShownAndHidden();
 
 private:
     std::unique_ptr<StoreGuard> m_stores;
@@ -211,7 +211,7 @@ void tst_OxaLabel::repaintsItsMarginsTooForAnotherText()
     OxaLabel label;
     label.setElideMode(mode);
     label.setWordWrap(wrap);
-    // What elides paints into these, what QLabel paints does not.
+    // An eliding label paints into its contents margins, a QLabel does not.
     label.setContentsMargins(20, 2, 20, 2);
     label.resize(200, 60);
     PaintCounter paints(label);
@@ -264,7 +264,7 @@ void tst_OxaLabel::recolorsNothingWithoutAPixmap()
     QCOMPARE(label.text(), QStringLiteral("text"));
 }
 
-void tst_OxaLabel::tellsWhenItIsShownAndHidden()
+void tst_OxaLabel::emitsSignalsWhenItIsShownAndHidden()
 {
     QWidget parent;
     OxaLabel label(&parent);

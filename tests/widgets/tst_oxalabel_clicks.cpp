@@ -37,7 +37,7 @@ void addInteractionFlags()
 
 Q_DECLARE_METATYPE(Qt::MouseButton)
 
-/// What mouse and keys do to an OxaLabel.
+/// Mouse and keys on an OxaLabel.
 class tst_OxaLabelClicks : public QObject
 {
     Q_OBJECT
@@ -57,15 +57,15 @@ private Q_SLOTS:
     void isClickedWhenTheButtonIsReleased();
     void isNotClickedByTheMouseWhileTextIsSelected();
     void isClickedByKeysAlsoWhileTextIsSelected();
-    void tellsOfTheClickBeforeItsLinkIsFollowed();
-    void tellsOfTheClickBeforeItsLinkIsFollowedByKey();
+    void emitsClickedBeforeItsLinkIsFollowed();
+    void emitsClickedBeforeItsLinkIsFollowedByKey();
     void leavesKeysToQtAllTheSame();
     void mayBeDeletedWhenItIsClicked_data();
     void mayBeDeletedWhenItIsClicked();
 
     void selectsAllTextByTheRightButton_data();
     void selectsAllTextByTheRightButton();
-    void keepsTheSelectionThatThereIs();
+    void keepsAnExistingSelection();
     void selectsNothingWithoutTextOrInteraction_data();
     void selectsNothingWithoutTextOrInteraction();
 
@@ -174,7 +174,7 @@ void tst_OxaLabelClicks::isClickedByKeysAlsoWhileTextIsSelected()
     QCOMPARE(label.selectedText(), QStringLiteral("ex"));
 }
 
-void tst_OxaLabelClicks::tellsOfTheClickBeforeItsLinkIsFollowed()
+void tst_OxaLabelClicks::emitsClickedBeforeItsLinkIsFollowed()
 {
     OxaLabel label;
     label.setTextFormat(Qt::RichText);
@@ -187,7 +187,7 @@ void tst_OxaLabelClicks::tellsOfTheClickBeforeItsLinkIsFollowed()
     QCOMPARE(log.take(), QStringLiteral("clicked | linkActivated"));
 }
 
-void tst_OxaLabelClicks::tellsOfTheClickBeforeItsLinkIsFollowedByKey()
+void tst_OxaLabelClicks::emitsClickedBeforeItsLinkIsFollowedByKey()
 {
     OxaLabel label;
     label.setTextFormat(Qt::RichText);
@@ -274,7 +274,7 @@ void tst_OxaLabelClicks::selectsAllTextByTheRightButton()
     QCOMPARE(label.selectionStart(), 0);
 }
 
-void tst_OxaLabelClicks::keepsTheSelectionThatThereIs()
+void tst_OxaLabelClicks::keepsAnExistingSelection()
 {
     OxaLabel label(QStringLiteral("some text"));
     label.setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -306,7 +306,7 @@ void tst_OxaLabelClicks::selectsNothingWithoutTextOrInteraction()
     QFETCH(const Qt::TextInteractionFlags, flags);
     QFETCH(const Qt::MouseButton, button);
     OxaLabel label;
-    // Rich text keeps a document in the label, whatever the flags.
+    // With rich text the label has a document, whatever the flags.
     label.setTextFormat(Qt::RichText);
     label.setTextInteractionFlags(flags);
     label.setText(text);

@@ -44,7 +44,7 @@ QColor inverse(const QColor &color)
 
 } // namespace
 
-/// What OxaLabel shows of the focus, in each of its ways of painting.
+/// How OxaLabel shows the focus, in each of its ways of painting.
 class tst_OxaLabelFocus : public QObject
 {
     Q_OBJECT
@@ -57,8 +57,8 @@ private Q_SLOTS:
     void showsAFrameForFocusByKeyboard();
     void showsNoFrameForFocusByMouse_data() { addPaths(); }
     void showsNoFrameForFocusByMouse();
-    void takesTheInverseOfWhatTheFrameLiesOn_data();
-    void takesTheInverseOfWhatTheFrameLiesOn();
+    void paintsTheFrameInTheInverseOfItsBackground_data();
+    void paintsTheFrameInTheInverseOfItsBackground();
     void leavesTheFrameToTheApplicationsStyle_data() { addPaths(); }
     void leavesTheFrameToTheApplicationsStyle();
     void keepsTheFrameInPlaceWhereverItsTextBegins();
@@ -99,7 +99,7 @@ void tst_OxaLabelFocus::showsNoFrameForFocusByMouse()
     QCOMPARE(Pixels::countNear(Pixels::render(window.label), ground, QRect(), 0), 100 * 40);
 }
 
-void tst_OxaLabelFocus::takesTheInverseOfWhatTheFrameLiesOn_data()
+void tst_OxaLabelFocus::paintsTheFrameInTheInverseOfItsBackground_data()
 {
     QTest::addColumn<QString>("styleText");
     QTest::addColumn<QColor>("under");
@@ -112,7 +112,7 @@ void tst_OxaLabelFocus::takesTheInverseOfWhatTheFrameLiesOn_data()
             << QStringLiteral("$backgroundColors: none;") << QColor(Qt::darkMagenta);
 }
 
-void tst_OxaLabelFocus::takesTheInverseOfWhatTheFrameLiesOn()
+void tst_OxaLabelFocus::paintsTheFrameInTheInverseOfItsBackground()
 {
     QFETCH(const QString, styleText);
     QFETCH(const QColor, under);

@@ -13,7 +13,7 @@ using namespace LabelPictures;
 
 namespace {
 
-const QColor dots(0x27, 0x0f, 0xef); // The inverse of the ground.
+const QColor dots(0x27, 0x0f, 0xef); // The inverse of the background.
 
 /// A window with two labels, one above the other.
 class Window : public QWidget
@@ -81,7 +81,7 @@ private Q_SLOTS:
     void showsItsFrameForFocusByTabOnly();
     void changesItsTextsColorUnderThePointer_data() { addPaths(); }
     void changesItsTextsColorUnderThePointer();
-    void tellsWhenItsWindowIsHidden();
+    void emitsASignalWhenItsWindowIsHidden();
 
 private:
     std::unique_ptr<StoreGuard> m_stores;
@@ -186,7 +186,7 @@ void tst_OxaLabelInteraction::changesItsTextsColorUnderThePointer()
     QTRY_VERIFY(isWritten(normal));
 }
 
-void tst_OxaLabelInteraction::tellsWhenItsWindowIsHidden()
+void tst_OxaLabelInteraction::emitsASignalWhenItsWindowIsHidden()
 {
     Window window;
     const QSignalSpy changes(&window.first, &OxaLabel::onVisibilityChanged);

@@ -25,7 +25,7 @@ QImage written(const OxaLabel &label, const QRect &area, int alignment, const QS
     return image;
 }
 
-/// Returns on which side of \a label, which is wide enough, its text stands.
+/// Returns on which side of the wide \a label its text is.
 QString sideOfText(OxaLabel &label)
 {
     const QColor ink = label.palette().color(QPalette::WindowText);
@@ -274,7 +274,7 @@ void tst_OxaLabelPainting::shrinksTheElidedLineByMarginPaddingAndIndent()
     label.setContentsMargins(9, 9, 9, 9);
     const QString elided = label.fontMetrics().elidedText(longText, Qt::ElideRight,
                                                           200 - 30 - 2 * 8 - 20);
-    // The indent takes room from the text, and does not move it.
+    // The indent makes the text narrower, but does not move it.
     QCOMPARE(Pixels::render(label),
              written(label, QRect(8, 8, 184, 44), Qt::AlignRight | Qt::AlignTop, elided));
 }

@@ -5,7 +5,7 @@
 
 #include <UiElements/widgets/OxaLabel.h>
 
-/// Where OxaLabel puts its text: measures, alignment and direction.
+/// The position of OxaLabel's text: measures, alignment and direction.
 class tst_OxaLabelPlacement : public QObject
 {
     Q_OBJECT
@@ -60,11 +60,11 @@ void tst_OxaLabelPlacement::elidesToTheWidthThatIsLeft_data()
     QTest::newRow("at the right") << Qt::ElideRight << 0 << 0 << 0 << 100;
     QTest::newRow("in the middle") << Qt::ElideMiddle << 0 << 0 << 0 << 100;
     QTest::newRow("at the left") << Qt::ElideLeft << 0 << 0 << 0 << 100;
-    QTest::newRow("less a padding") << Qt::ElideRight << 30 << 0 << 0 << 70;
-    QTest::newRow("less an indent") << Qt::ElideRight << 0 << 30 << 0 << 70;
-    QTest::newRow("less a margin on both sides") << Qt::ElideRight << 0 << 0 << 15 << 70;
-    QTest::newRow("less all of them") << Qt::ElideRight << 10 << 10 << 10 << 60;
-    QTest::newRow("QLabel's indent of none makes a pixel more")
+    QTest::newRow("minus a padding") << Qt::ElideRight << 30 << 0 << 0 << 70;
+    QTest::newRow("minus an indent") << Qt::ElideRight << 0 << 30 << 0 << 70;
+    QTest::newRow("minus a margin on both sides") << Qt::ElideRight << 0 << 0 << 15 << 70;
+    QTest::newRow("minus all of them") << Qt::ElideRight << 10 << 10 << 10 << 60;
+    QTest::newRow("QLabel's default indent of -1 adds a pixel")
             << Qt::ElideRight << 0 << -1 << 0 << 101;
     QTest::newRow("nothing is left") << Qt::ElideRight << 99 << 0 << 0 << 1;
 }
@@ -107,8 +107,8 @@ void tst_OxaLabelPlacement::beginsItsTextByItsVerticalAlignment_data()
     QTest::newRow("at the top, with wrapping") << top << true << 100 << 0;
     QTest::newRow("in the middle, with two lines") << middle << true << 100 << (100 - twoLines) / 2;
     QTest::newRow("at the bottom, with two lines") << bottom << true << 100 << 100 - twoLines;
-    QTest::newRow("in the middle of too little") << middle << true << line << 0;
-    QTest::newRow("at the bottom of too little") << bottom << true << line << 0;
+    QTest::newRow("in the middle, too high") << middle << true << line << 0;
+    QTest::newRow("at the bottom, too high") << bottom << true << line << 0;
 }
 
 void tst_OxaLabelPlacement::beginsItsTextByItsVerticalAlignment()
@@ -133,15 +133,15 @@ void tst_OxaLabelPlacement::alignsItsTextByTheDirections_data()
     const Qt::Alignment left = Qt::AlignLeft;
     const Qt::Alignment right = Qt::AlignRight;
     QTest::newRow("left to right") << Qt::LeftToRight << QVariant() << left;
-    QTest::newRow("left to right, text so") << Qt::LeftToRight << QVariant(0) << left;
-    QTest::newRow("left to right, text not") << Qt::LeftToRight << QVariant(1) << left;
+    QTest::newRow("left to right, text left to right") << Qt::LeftToRight << QVariant(0) << left;
+    QTest::newRow("left to right, text right to left") << Qt::LeftToRight << QVariant(1) << left;
     QTest::newRow("right to left") << Qt::RightToLeft << QVariant() << right;
-    QTest::newRow("right to left, text not") << Qt::RightToLeft << QVariant(0) << right;
-    QTest::newRow("right to left, text so") << Qt::RightToLeft << QVariant(1) << left;
-    QTest::newRow("right to left, text by itself") << Qt::RightToLeft << QVariant(2) << left;
-    QTest::newRow("right to left, text so by name")
+    QTest::newRow("right to left, text left to right") << Qt::RightToLeft << QVariant(0) << right;
+    QTest::newRow("right to left, text right to left") << Qt::RightToLeft << QVariant(1) << left;
+    QTest::newRow("right to left, text automatic") << Qt::RightToLeft << QVariant(2) << left;
+    QTest::newRow("right to left, text right to left as an enumerator")
             << Qt::RightToLeft << QVariant::fromValue(Qt::RightToLeft) << left;
-    QTest::newRow("right to left, text not by name")
+    QTest::newRow("right to left, text left to right as an enumerator")
             << Qt::RightToLeft << QVariant::fromValue(Qt::LeftToRight) << right;
 }
 

@@ -11,7 +11,7 @@ const QString link = QStringLiteral("Read <a href=\"x\">it</a>.");
 
 using Replacement = std::function<void(OxaLabel &)>;
 
-/// Notes the texts that it is given.
+/// Records the texts that are set.
 class NotingLabel : public OxaLabel
 {
 public:
@@ -90,7 +90,7 @@ void tst_OxaLabelText::givesLinksTheirColors()
     OxaLabel label;
     label.setTextFormat(Qt::RichText);
     label.setText(link);
-    // Visited links take the focused colour: meant so.
+    // Visited links take the focused colour, since a set has no state for them.
     QCOMPARE(label.text(), withLinkColors("#101112", "#505152", "#202122", link));
     const QString withPlaces = QStringLiteral("%1 <a>%2 %3 %4</a>");
     label.setText(withPlaces);
@@ -153,7 +153,7 @@ void tst_OxaLabelText::setsTheTextAgainWhenTheFormatChanges()
     QCOMPARE(label.texts, QStringList({ link }));
     QCOMPARE(label.textFormat(), Qt::RichText);
     QCOMPARE(label.text(), withLinkColors("#101112", "#505152", "#202122", link));
-    // The text as it was given, and not the one with the colours.
+    // The text as it was given, without the colours.
     label.setTextFormat(Qt::PlainText);
     QCOMPARE(label.texts, QStringList({ link, link }));
     QCOMPARE(label.text(), link);

@@ -14,7 +14,7 @@ constexpr char missingSetWarning[] = "ColorSet name does not exist!  \"button-hy
 
 } // namespace
 
-/// OxaLabel under an application that is Qt's own.
+/// OxaLabel under a plain QApplication.
 class tst_OxaLabelWithoutApplication : public QObject
 {
     Q_OBJECT
@@ -24,8 +24,8 @@ private Q_SLOTS:
 
     void takesAndPaintsATextWithoutEllipsis_data();
     void takesAndPaintsATextWithoutEllipsis();
-    void colorsLinksInBlackForWantOfColors();
-    void missesTheColorsAgainAtEachChangeOfTheThemeType();
+    void colorsLinksBlackWithoutAColorSet();
+    void warnsOfTheMissingSetAtEachChangeOfTheThemeType();
     void takesAStyleTextAsItIs();
     void isClicked();
     void followsQtsLayoutDirection();
@@ -56,7 +56,7 @@ void tst_OxaLabelWithoutApplication::takesAndPaintsATextWithoutEllipsis()
     QVERIFY(Pixels::countNear(Pixels::render(label), Qt::magenta) > 0);
 }
 
-void tst_OxaLabelWithoutApplication::colorsLinksInBlackForWantOfColors()
+void tst_OxaLabelWithoutApplication::colorsLinksBlackWithoutAColorSet()
 {
     OxaLabel label;
     label.setTextFormat(Qt::RichText);
@@ -67,7 +67,7 @@ void tst_OxaLabelWithoutApplication::colorsLinksInBlackForWantOfColors()
                             "</style><a>it</a>"));
 }
 
-void tst_OxaLabelWithoutApplication::missesTheColorsAgainAtEachChangeOfTheThemeType()
+void tst_OxaLabelWithoutApplication::warnsOfTheMissingSetAtEachChangeOfTheThemeType()
 {
     OxaLabel label;
     QTest::ignoreMessage(QtWarningMsg, missingSetWarning);

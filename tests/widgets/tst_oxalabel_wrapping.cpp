@@ -52,7 +52,7 @@ QImage writtenLines(const WrappingLabel &label, QRect area, const QStringList &l
     return image;
 }
 
-/// Puts the text further than its alignment says.
+/// Adds an offset to the position of the text.
 class OffsetLabel : public WrappingLabel
 {
 public:
@@ -160,11 +160,11 @@ void tst_OxaLabelWrapping::elidesTheLastLineThatFits_data()
     QTest::newRow("as many lines as there are")
             << words << 3.0 << 0 << QStringLiteral("one two|three|four");
     QTest::newRow("one line less") << words << 2.0 << 0 << QStringLiteral("one two|three f\u2026");
-    QTest::newRow("one line and nearly another")
+    QTest::newRow("a pixel too low for the last line")
             << words << 3.0 << 1 << QStringLiteral("one two|three f\u2026");
     QTest::newRow("one line only") << words << 1.0 << 0 << QStringLiteral("one two\u2026");
     QTest::newRow("not even one line") << words << 0.5 << 0 << QStringLiteral("one two\u2026");
-    QTest::newRow("a rest that fits")
+    QTest::newRow("the rest fits")
             << QStringLiteral("one two three") << 2.0 << 0 << QStringLiteral("one two|three");
     QTest::newRow("a long word") << QStringLiteral("abcdefghijkl") << 1.0 << 0
                                  << QStringLiteral("abcdefg\u2026");
@@ -206,7 +206,7 @@ void tst_OxaLabelWrapping::elidesTheLastLineAtItsEndWhateverTheMode()
 
 void tst_OxaLabelWrapping::paintsEachParagraphBelowTheLastLineAsOneElidedLine()
 {
-    // Some of the second line shows, and with an offset above none of the third.
+    // The second line is partly visible; with an offset at the top nothing of the third one is.
     WrappingLabel label(QStringLiteral("one two three\u2028four five six\u2028seven"));
     label.resize(label.lineWidth(8), label.lineHeight() * 7 / 4);
     const QImage image = Pixels::render(label);

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Opens what subclasses see.
+/// Gives access to protected functions.
 class OpenButton : public OxaPushButton
 {
 public:
@@ -35,7 +35,7 @@ QIcon halfIcon()
     return icon;
 }
 
-/// Returns the colour that all of the painted half has, and nothing else.
+/// Returns the colour of the painted half; invalid unless exactly that half is painted.
 QColor colorOf(const OxaPushButton &button, QIcon::Mode mode, QIcon::State state)
 {
     const QImage image = button.icon().pixmap(QSize(16, 16), mode, state).toImage();
@@ -48,7 +48,7 @@ QColor colorOf(const OxaPushButton &button, QIcon::Mode mode, QIcon::State state
 
 } // namespace
 
-/// What is OxaPushButton's own, beside painting and input.
+/// The members of OxaPushButton, without painting and input.
 class tst_OxaPushButton : public QObject
 {
     Q_OBJECT
@@ -71,7 +71,7 @@ private Q_SLOTS:
     void tintsAnIconInBothStates();
     void tintsAnIconInOneState();
     void tintsAnIconInTheButtonsIconSize();
-    void leavesAButtonWithoutAnIconWithout();
+    void addsNoIconToAButtonWithoutOne();
 
     void looksItsFocusColorsUp();
     void forgetsFocusColorsThatTheThemeLacks();
@@ -191,9 +191,9 @@ void tst_OxaPushButton::elidesTextsByItsWidth_data()
     QTest::newRow("right") << Qt::ElideRight << 0 << 0 << 93;
     QTest::newRow("left") << Qt::ElideLeft << 0 << 0 << 93;
     QTest::newRow("middle") << Qt::ElideMiddle << 0 << 0 << 93;
-    QTest::newRow("less an extra width") << Qt::ElideRight << 11 << 0 << 82;
-    QTest::newRow("less two margins") << Qt::ElideRight << 0 << 12 << 69;
-    QTest::newRow("less all of it") << Qt::ElideRight << 11 << 12 << 58;
+    QTest::newRow("minus an extra width") << Qt::ElideRight << 11 << 0 << 82;
+    QTest::newRow("minus two margins") << Qt::ElideRight << 0 << 12 << 69;
+    QTest::newRow("minus all of it") << Qt::ElideRight << 11 << 12 << 58;
 }
 
 void tst_OxaPushButton::elidesTextsByItsWidth()
@@ -257,7 +257,7 @@ void tst_OxaPushButton::tintsAnIconInTheButtonsIconSize()
              QList<QSize>({ original, QSize(8, 8) }));
 }
 
-void tst_OxaPushButton::leavesAButtonWithoutAnIconWithout()
+void tst_OxaPushButton::addsNoIconToAButtonWithoutOne()
 {
     OxaPushButton button;
     button.setIconColor(Qt::red, QIcon::Normal);

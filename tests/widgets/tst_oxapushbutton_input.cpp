@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A window with two buttons side by side, and what the first one tells.
+/// A window with two buttons side by side, and a log of the first one's signals.
 class Window : public QDialog
 {
 public:
@@ -73,12 +73,12 @@ private Q_SLOTS:
     void isNotLongPressedByAKey();
     void isNotLongPressedWhileThePointerIsOff();
     void startsTheTimerForTheRightButtonToo();
-    void tellsOfARightClickBeforeQtSeesThePress();
-    void tellsOfARightClickWhileDisabledNot();
+    void emitsRightClickBeforeQtHandlesThePress();
+    void emitsNoRightClickWhileDisabled();
     void mayBeDeletedByARightClick();
     void clicksByItsKeys();
-    void tellsOfTheFocusBeforeQtHandlesIt();
-    void tellsOfThePointer();
+    void emitsFocusSignalsBeforeQtHandlesTheFocus();
+    void emitsSignalsWhenThePointerEntersAndLeaves();
 
 private:
     std::unique_ptr<StoreGuard> m_stores;
@@ -179,11 +179,11 @@ void tst_OxaPushButtonInput::startsTheTimerForTheRightButtonToo()
     QVERIFY(window.timer()->isActive());
     QTRY_VERIFY(!window.timer()->isActive());
     QTest::mouseRelease(&window.first, Qt::RightButton);
-    // It was never down.
+    // The button was never down.
     QCOMPARE(window.log.take(), QString());
 }
 
-void tst_OxaPushButtonInput::tellsOfARightClickBeforeQtSeesThePress()
+void tst_OxaPushButtonInput::emitsRightClickBeforeQtHandlesThePress()
 {
     OxaPushButton button;
     QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), Qt::RightButton, Qt::RightButton,
@@ -197,7 +197,7 @@ void tst_OxaPushButtonInput::tellsOfARightClickBeforeQtSeesThePress()
     QVERIFY(!press.isAccepted()); // Buttons ignore other mouse buttons than the left one.
 }
 
-void tst_OxaPushButtonInput::tellsOfARightClickWhileDisabledNot()
+void tst_OxaPushButtonInput::emitsNoRightClickWhileDisabled()
 {
     OxaPushButton button;
     button.setEnabled(false);
@@ -210,11 +210,11 @@ void tst_OxaPushButtonInput::tellsOfARightClickWhileDisabledNot()
 
 void tst_OxaPushButtonInput::mayBeDeletedByARightClick()
 {
-    // As by a menu that a slot opens, with the entry that removes the button.
+    // A slot may open a menu that has an action which removes the button.
     const QPointer<OxaPushButton> button = new OxaPushButton;
     button->setLongPressEnabled(true);
     connect(button, &OxaPushButton::rightClick, this, [&] { delete button; });
-    // Qt Test would wait for the release of what it pressed.
+    // QTest::mousePress() would expect a release.
     QMouseEvent press(QEvent::MouseButtonPress, QPointF(), Qt::RightButton, Qt::RightButton,
                       Qt::NoModifier);
     QCoreApplication::sendEvent(button, &press);
@@ -227,7 +227,7 @@ void tst_OxaPushButtonInput::clicksByItsKeys()
     QVERIFY(window.appear());
     QTest::keyClick(&window.first, Qt::Key_Space);
     QCOMPARE(window.log.take(), QStringLiteral("pressed | released | clicked"));
-    // In a dialog an auto-default button takes these as well.
+    // In a dialog an auto-default button takes these keys as well.
     for (const Qt::Key key : { Qt::Key_Return, Qt::Key_Enter }) {
         QTest::keyClick(&window.first, key);
         QCOMPARE(window.log.take(), QStringLiteral("pressed | released | clicked"));
@@ -236,7 +236,7 @@ void tst_OxaPushButtonInput::clicksByItsKeys()
     QCOMPARE(window.log.take(), QString());
 }
 
-void tst_OxaPushButtonInput::tellsOfTheFocusBeforeQtHandlesIt()
+void tst_OxaPushButtonInput::emitsFocusSignalsBeforeQtHandlesTheFocus()
 {
     Window window;
     QVERIFY(window.appear());
@@ -260,7 +260,7 @@ void tst_OxaPushButtonInput::tellsOfTheFocusBeforeQtHandlesIt()
     QCOMPARE(window.log.take(), QStringLiteral("out as default | onFocusIn"));
 }
 
-void tst_OxaPushButtonInput::tellsOfThePointer()
+void tst_OxaPushButtonInput::emitsSignalsWhenThePointerEntersAndLeaves()
 {
     Window window;
     QVERIFY(window.appear());

@@ -27,7 +27,7 @@ const OxaColorSet checkedPillText(QStringLiteral("oxa-contentTabViewButtonChecke
 const OxaColorSet pillBorder(QStringLiteral("oxa-defaultBorderForButton"), Qt::black);
 const QString left = QStringLiteral("1");
 
-/// Shows \a window, with the pointer away from it. Returns whether it came.
+/// Shows \a window, with the pointer away from it. Returns whether that worked.
 bool showWindow(QWidget &window)
 {
     if (!RealInput::send({ QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") }))
@@ -38,7 +38,7 @@ bool showWindow(QWidget &window)
     return QTest::qWaitForWindowActive(&window);
 }
 
-/// A window with one button of each kind, and what the first one tells.
+/// A window with one button of each kind, and a log of the first one's signals.
 class Window : public QWidget
 {
 public:
@@ -106,8 +106,7 @@ QImage onScreen(const OxaPushButton &button)
             .toImage();
 }
 
-/// Returns whether most of \a button is filled with \a color, over which the style may lay a veil
-/// for the focus.
+/// Returns whether most of \a button has the colour \a color. The focus may tint a part of it.
 bool isFilled(const OxaPushButton &button, const QColor &color)
 {
     return Pixels::countNear(onScreen(button), color) > button.width() * button.height() / 2;
@@ -213,7 +212,7 @@ void tst_OxaPushButtonInteraction::takesTheFocusByTabAndIsClickedByKeys()
     QVERIFY(RealInput::typeKeys({ QStringLiteral("Tab") }));
     QTRY_VERIFY(window.underline.hasFocus());
     QCOMPARE(window.log.take(), QStringLiteral("onFocusIn | onFocusOut"));
-    // The dotted frame ends above the room under the text.
+    // The dotted frame ends above the bottom padding.
     const QColor dots(255, 255, 255 - 200);
     QTRY_COMPARE(Pixels::boundsNear(onScreen(window.underline), dots, 4), QRect(0, 0, 200, 58));
 }

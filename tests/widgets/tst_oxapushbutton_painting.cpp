@@ -17,7 +17,7 @@ const OxaColorSet groundColors = Faces::colors(QStringLiteral("ground"), 220);
 const QColor orange(255, 128, 0);
 const QColor frame(10, 200, 30);
 
-/// A style whose push buttons are the right half of a rectangle, and which notes what it is asked.
+/// A style whose push buttons fill the right half of a rectangle, and which records the arguments.
 class HalfStyle : public QProxyStyle
 {
 public:
@@ -150,7 +150,7 @@ void tst_OxaPushButtonPainting::paintsItsPixmapUnderTheFrame()
     button.setStyle(&style);
     button.resize(40, 40);
     button.setPixmap(pixmapOf(orange));
-    // Of 30 by 20 at the top left, what lies right of 20 is under the frame.
+    // The pixmap is 30 by 20 at the top left; the frame covers what is right of 20.
     QCOMPARE(Pixels::boundsNear(Pixels::render(button), orange), QRect(0, 0, 20, 20));
     button.setPixmapIconVisibility(false);
     QCOMPARE(Pixels::countNear(Pixels::render(button), orange), 0);
@@ -186,7 +186,7 @@ void tst_OxaPushButtonPainting::smoothsWhatHasAnIconPixmapOrBadge()
     QVERIFY(isSmooth(button));
     OxaPushButton made(QIcon(pixmapOf(orange)), QString());
     QVERIFY(isSmooth(made));
-    made.setPixmap(QPixmap()); // The last of the two decides, for the other one too.
+    made.setPixmap(QPixmap()); // The last setter decides for both.
     QVERIFY(!isSmooth(made));
 }
 
@@ -339,7 +339,7 @@ void tst_OxaPushButtonPainting::keepsTheKindOfFrameItWasMadeWith()
     const ApplicationPropertyGuard borders("useGlobalFocusBorders", true);
     const ApplicationStyleGuard style;
     Pixels::render(button);
-    // It asks no style; and its own frame stays away where the application wants the style's.
+    // It asks no style, and paints no frame of its own where the application wants the style's.
     QCOMPARE(framesAt(style, button.rect()), 0);
     QCOMPARE(Pixels::countNear(Pixels::render(button), QColor(255 - 220, 255, 255), QRect(), 0), 0);
 }

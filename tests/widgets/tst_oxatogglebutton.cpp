@@ -101,7 +101,7 @@ void tst_OxaToggleButton::changesNeitherWhenItIsClicked()
     QVERIFY(button.isChecked());
     QCOMPARE(button.toolTip(), off);
     QCOMPARE(button.accessibleName(), off);
-    // Nor through its Qt class.
+    // Not through its Qt class either.
     QAbstractButton &qtButton = button;
     qtButton.setChecked(false);
     qtButton.setChecked(true);

@@ -7,7 +7,6 @@
 
 #include <UiElements/widgets/OxaUnderlineButton.h>
 
-
 namespace {
 
 const OxaColorSet ground = Faces::colors(QStringLiteral("oxa-underlineButton-background"), 220);
@@ -29,7 +28,7 @@ QColor underlineOf(OxaUnderlineButton &button)
 
 } // namespace
 
-/// The properties of OxaUnderlineButton, and where its underline takes its colour from.
+/// The properties of OxaUnderlineButton, and the colour of its underline.
 class tst_OxaUnderlineButton : public QObject
 {
     Q_OBJECT
@@ -174,7 +173,7 @@ void tst_OxaUnderlineButton::underlinesInTheUnderlinesColorAfterAThemeChange()
 
 void tst_OxaUnderlineButton::keepsThePenWhenTheBorderWidthChanges()
 {
-    // At 2, half of the line lies below the button's last row of pixels.
+    // At a width of 2, half of the line is below the button's last row of pixels.
     const auto height = [](OxaUnderlineButton &button) {
         underlineOf(button);
         return Pixels::boundsNear(Pixels::render(button), line.normal, 100).height();

@@ -111,7 +111,7 @@ void tst_OxaUnderlineButtonPainting::paintsEachState()
     QCOMPARE(Faces::facesIn(image, ground, QRect(20, 4, 80, 30)),
              face == Face::Hovered ? QStringLiteral("hovered") : QString());
     QCOMPARE(image.pixelColor(60, 39) == line.normal, isUnderlined);
-    // The frame of the focus, in the inverse of the pressed ground.
+    // The frame of the focus, in the inverse of the pressed background.
     QCOMPARE(Pixels::countNear(image, QColor(255, 255, 35), QRect(), 0) > 100,
              face == Face::Focused);
 }
@@ -198,7 +198,7 @@ void tst_OxaUnderlineButtonPainting::placesTheLeftImage()
     setUp(button);
     button.setLeftIcon(square(orange));
     const QImage image = Pixels::render(button);
-    // It stays on the left side, whatever the direction.
+    // It is on the left side in both directions.
     QCOMPARE(Pixels::boundsNear(image, orange), QRect(3, 12, 17, 17));
     QVERIFY(qAbs(centreOf(textIn(image)) - (23 + 119) / 2) <= 1);
     button.resize(120, 41);
@@ -278,7 +278,7 @@ void tst_OxaUnderlineButtonPainting::elidesItsTextInTheRoomThatIsLeft()
     };
     const QFontMetrics metrics = OxaUnderlineButton().fontMetrics();
     for (const Qt::TextElideMode mode : { Qt::ElideLeft, Qt::ElideMiddle, Qt::ElideRight }) {
-        // First to all of the button, and then to what is left from 23 to 102.
+        // First to the whole button, then to the space that is left, from 23 to 102.
         const QString elided = metrics.elidedText(metrics.elidedText(longText, mode, 120), mode,
                                                   80);
         QCOMPARE(picture(longText, mode), picture(elided, Qt::ElideNone));

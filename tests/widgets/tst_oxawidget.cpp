@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Returns a picture with a hard edge, which shows how it was stretched.
+/// Returns a picture with a hard edge, which shows how it was scaled.
 QPixmap twoColors()
 {
     QPixmap pixmap(2, 1);
@@ -25,7 +25,7 @@ QPixmap twoColors()
 
 Q_DECLARE_METATYPE(QMargins)
 
-/// What is OxaWidget's own, beside the blocks that it shares with other classes.
+/// OxaWidget, without the blocks that it shares with other classes.
 class tst_OxaWidget : public QObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 #include <QTest>
 
-/// OxaWidget under an application that is Qt's own.
+/// OxaWidget under a plain QApplication.
 class tst_OxaWidgetWithoutApplication : public QObject
 {
     Q_OBJECT

@@ -12,7 +12,7 @@ constexpr int swatchHeight = 24;
 constexpr int swatchRadius = 4;
 constexpr int checkSize = 4;
 
-/// Paints what tells a translucent colour from a solid one: a chequered ground.
+/// Paints a chequered background, which tells a translucent colour from an opaque one.
 void paintChecks(QPainter *painter, const QRect &rect)
 {
     painter->fillRect(rect, Qt::white);
@@ -77,7 +77,7 @@ void ColorSetDelegate::paintSwatch(QPainter *painter, const QRect &rect,
     painter->setPen(look().line.normal);
     painter->drawRoundedRect(QRectF(swatch).adjusted(0.5, 0.5, -0.5, -0.5), swatchRadius,
                              swatchRadius);
-    // A value reads from left to right in any interface.
+    // A value is written from left to right in both directions.
     painter->setLayoutDirection(Qt::LeftToRight);
     painter->setFont(look().captionFont);
     painter->setPen(look().captionText.normal);

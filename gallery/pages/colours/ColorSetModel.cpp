@@ -97,7 +97,7 @@ void ColorSetModel::rebuild()
 {
     beginResetModel();
     m_rows.clear();
-    appendGroup(tr("Asked for by the library"), true);
+    appendGroup(tr("Used by the library"), true);
     appendGroup(tr("The gallery's own"), false);
     endResetModel();
 }

@@ -9,8 +9,8 @@
 
 /// The colour sets of a store as a table: the name, and a column for each state.
 ///
-/// The sets that the library asks for stand in one group, all others in another. A group begins
-/// with a row that holds its heading.
+/// The sets that the library uses are one group, all others another. A group begins with a row for
+/// its heading.
 class ColorSetModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     /// Shows the sets of \a colorSets.
     void setColorSets(const OxaColorSetMap &colorSets);
 
-    /// Shows the sets only whose name, or one of whose colours, holds \a text in any case.
+    /// Shows only the sets whose name, or one of whose colours, contains \a text in any case.
     void setFilter(const QString &text);
 
     /// Returns how many sets are shown.

@@ -6,7 +6,7 @@
 class ColorSetDelegate;
 class ColorSetModel;
 
-/// A table of colour sets. A click on a cell, or Return, copies what the cell says.
+/// A table of colour sets. A click on a cell, or Return, copies its text.
 class ColorSetTable : public TableView
 {
     Q_OBJECT

@@ -15,7 +15,7 @@
 
 ColoursPage::ColoursPage(QWidget *parent)
     : Page(tr("Colours"),
-           tr("Every colour set that this window can name, in its six states. Click a name or a "
+           tr("Every colour set that this window can use, in its six states. Click a name or a "
               "colour to copy it."),
            parent),
       m_model(new ColorSetModel(this)),

@@ -10,8 +10,7 @@ class OxaLabel;
 class QLayout;
 class SearchField;
 
-/// Shows the colour sets of the store that the window takes its colours from, and finds some of
-/// them.
+/// Shows the colour sets of the store that the window takes its colours from, with a search.
 class ColoursPage : public Page
 {
     Q_OBJECT

@@ -39,7 +39,7 @@ QString nameOf(ArtworkKind kind)
 ArtworkCard::ArtworkCard(QWidget *parent)
     : Card(tr("Artwork"),
            tr("A file for each sequence, named by its code points. A click puts the emoji into the "
-              "playground; whatever is not here stays text."),
+              "playground; emoji without a file stay text."),
            parent),
       m_model(new ArtworkModel(this))
 {

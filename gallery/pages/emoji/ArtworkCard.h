@@ -5,7 +5,7 @@
 
 class ArtworkModel;
 
-/// The artwork that the application has: how much of each kind, and all of it to look at.
+/// The artwork of the application: how much there is of each kind, and all pictures.
 class ArtworkCard : public Card
 {
     Q_OBJECT

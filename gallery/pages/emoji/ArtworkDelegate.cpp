@@ -13,7 +13,7 @@ namespace {
 constexpr int pictureSize = 32;
 constexpr int radius = 6;
 
-/// Returns the picture at \a path. Reading a file takes long enough to be felt while one scrolls.
+/// Returns the picture at \a path from a cache: reading files would make scrolling slow.
 QPixmap pictureOf(const QString &path, qreal pixelRatio)
 {
     const int edge = int(pictureSize * pixelRatio);
@@ -35,7 +35,7 @@ QPixmap pictureOf(const QString &path, qreal pixelRatio)
 
 QSize ArtworkDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
 {
-    // As wide as the name of a flag, which is of usual length.
+    // As wide as the name of a flag, a usual length.
     const QFontMetrics metrics(look().captionFont);
     return { metrics.horizontalAdvance(QStringLiteral("1f1ea-1f1ea")) + 2 * Metrics::small,
              pictureSize + metrics.height() + Metrics::tight + 2 * Metrics::small };
@@ -53,7 +53,7 @@ void ArtworkDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     painter->drawPixmap(picture,
                         pictureOf(index.data(ArtworkModel::PathRole).toString(),
                                   painter->device()->devicePixelRatioF()));
-    // A name reads from left to right in any interface.
+    // A name is written from left to right in both directions.
     painter->setLayoutDirection(Qt::LeftToRight);
     painter->setFont(look().captionFont);
     painter->setPen(colorFor(look().captionText, option.state & ~QStyle::State_Selected));

@@ -3,10 +3,10 @@
 
 #include <QString>
 
-/// What kind of sequence a piece of artwork is for.
+/// The kind of sequence that a picture is for.
 enum class ArtworkKind { Single, SkinTone, Joined, Keycap, Flag, Region };
 
-/// Returns the text of the emoji whose artwork is called \a stem; empty when it is no such name.
+/// Returns the emoji whose artwork is called \a stem; empty if that is no stem.
 QString emojiOfStem(const QString &stem);
 
 /// Returns the kind of \a emoji, the text of one sequence.

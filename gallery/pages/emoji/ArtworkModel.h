@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-/// The emoji that there is artwork for, all of them or those of a kind.
+/// The emoji with artwork, all of them or those of one kind.
 class ArtworkModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
         PathRole,                     ///< The file.
     };
 
-    /// Lists the files that the application has at this moment.
+    /// Lists the files that the application has now.
     explicit ArtworkModel(QObject *parent = nullptr);
 
     /// Shows the emoji of \a kind, or all.
@@ -43,5 +43,5 @@ private:
     };
 
     std::vector<Artwork> m_all;
-    std::vector<std::size_t> m_rows; ///< Which of them are shown.
+    std::vector<std::size_t> m_rows; ///< The indices of the shown ones.
 };

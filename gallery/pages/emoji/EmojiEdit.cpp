@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Returns the plain text of \a markup, whose pictures of emoji become the emoji again.
+/// Returns the plain text of \a markup, with emoji instead of pictures.
 QString plainText(const QString &markup)
 {
     return QTextDocumentFragment::fromHtml(EmojiTextConverter::restore(markup)).toPlainText();
@@ -23,13 +23,13 @@ EmojiEdit::EmojiEdit(QWidget *parent) : QTextEdit(parent)
     setFontToken(OxaFont::Token::BodyPrimary);
     setAcceptRichText(false);
     setTabChangesFocus(true);
-    // A step back would give the characters back, and they would become pictures again.
+    // Undo would restore the characters, which would become pictures again.
     setUndoRedoEnabled(false);
     setCSS(QStringLiteral("$backgroundColors: gallery-field-background;"
                           "$borderColors: gallery-field-border;"
                           "$borderRadius: 6;"
                           "EmojiEdit { padding: 4px; }"
-                          // Under the pointer, too, one sees where the focus is.
+                          // Shows the focus under the pointer as well.
                           "EmojiEdit:focus { padding: 3px;"
                           " border: 2px solid $(gallery-focus-border); }"));
     connect(this, &QTextEdit::textChanged, this, &EmojiEdit::showArtwork);
@@ -48,7 +48,7 @@ QMimeData *EmojiEdit::createMimeDataFromSelection() const
 
 void EmojiEdit::onThemeChanged() { }
 
-/// Puts pictures in the place of emoji that are still characters.
+/// Replaces emoji that are still characters by pictures.
 void EmojiEdit::showArtwork()
 {
     const QString characters = toPlainText();

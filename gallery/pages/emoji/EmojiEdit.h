@@ -6,8 +6,8 @@
 
 #include <QTextEdit>
 
-/// A field for text whose emoji show as artwork from the moment that they are typed, pasted or
-/// inserted, whether or not a font on the machine has them. Knows no undo.
+/// A text field that shows emoji as artwork as soon as they are typed, pasted or inserted, whether
+/// or not a font has them. Has no undo.
 class EmojiEdit : public QTextEdit
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     /// Returns the text as it was typed, with emoji as characters.
     QString text() const;
 
-    /// Replaces the text. Signals textChanged().
+    /// Replaces the text. Emits textChanged().
     void setText(const QString &text);
 
 protected:

@@ -12,7 +12,7 @@ struct Reaction
     int count;
 };
 
-/// What somebody wrote.
+/// A message in a conversation.
 struct Message
 {
     QString author;
@@ -21,5 +21,5 @@ struct Message
     std::vector<Reaction> reactions;
 };
 
-/// Returns the messages that the gallery shows. Their emoji are among those that it brings along.
+/// Returns the messages that the gallery shows. Their emoji are among the gallery's own.
 const std::vector<Message> &messages();

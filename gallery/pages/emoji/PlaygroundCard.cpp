@@ -122,7 +122,7 @@ void PlaygroundCard::showText()
     const QString text = m_text->text();
     m_label->setText(text);
     m_state->setText(m_label->shouldDrawSvgEmojis() ? tr("Emoji are drawn from artwork.")
-                                                    : tr("Emoji go out in the font."));
+                                                    : tr("Emoji are drawn by the font."));
     m_codePoints->setPlainText(TextAnalysis::codePoints(text));
     m_stems->setPlainText(TextAnalysis::stems(text));
 }

@@ -8,7 +8,7 @@ class EmojiEdit;
 class OxaLabel;
 class PlaygroundLabel;
 
-/// A text to edit, a label that shows it in a way that can be chosen, and what the converter sees.
+/// A text to edit, a label with settings that shows it, and the converter's analysis.
 class PlaygroundCard : public Card
 {
     Q_OBJECT

@@ -3,7 +3,7 @@
 
 #include <UiElements/emoji/OxaEmojiLabel.h>
 
-/// A label that tells how it shows its emoji.
+/// A label with public access to how it shows its emoji.
 class PlaygroundLabel : public OxaEmojiLabel
 {
     Q_OBJECT

@@ -3,8 +3,7 @@
 
 #include <UiElements/emoji/OxaEmojiPushButton.h>
 
-/// An emoji and the number of people who gave it. A click adds the user to them, or takes the user
-/// away again.
+/// An emoji and the number of people who gave it. A click adds or removes the user.
 class ReactionButton : public OxaEmojiPushButton
 {
     Q_OBJECT

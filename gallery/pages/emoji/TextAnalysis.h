@@ -3,13 +3,13 @@
 
 #include <QString>
 
-/// What the converter sees in a text, as lines to read.
+/// What the converter finds in a text, as lines.
 namespace TextAnalysis {
 
-/// Returns a line for each code point of \a text: its number, and what it is to a sequence.
+/// Returns a line for each code point of \a text: its number, and its class.
 QString codePoints(const QString &text);
 
-/// Returns a line for each sequence in \a text: whether it is shown by artwork, and its stem.
+/// Returns a line for each sequence in \a text: whether it has artwork, and its stem.
 QString stems(const QString &text);
 
 } // namespace TextAnalysis

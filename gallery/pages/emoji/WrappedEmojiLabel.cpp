@@ -3,7 +3,7 @@
 
 namespace {
 
-/// Lines are broken by the widths of the font's emoji; pictures may be wider than those.
+/// Lines are broken by the widths of the font's emoji; pictures may be wider.
 constexpr int roomForPictures = 16;
 
 } // namespace

@@ -3,7 +3,7 @@
 
 #include <UiElements/emoji/OxaEmojiLabel.h>
 
-/// A label for a text of any length, at the top of the room that it is given.
+/// A label for a text of any length, aligned to the top.
 class WrappedEmojiLabel : public OxaEmojiLabel
 {
     Q_OBJECT

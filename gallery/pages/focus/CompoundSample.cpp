@@ -62,8 +62,7 @@ void CompoundSample::shuffle()
     chain();
 }
 
-/// The layout runs from left to right in any direction: what starts a line is for its client to
-/// say.
+/// The layout runs from left to right in both directions: its client decides where lines begin.
 void CompoundSample::alignToStart()
 {
     m_items->setAlignment(QGuiApplication::isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);

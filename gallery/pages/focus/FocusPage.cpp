@@ -34,8 +34,8 @@ void apply(Sample sample, OxaPushButton &button)
 
 FocusPage::FocusPage(QWidget *parent)
     : Page(tr("Focus"),
-           tr("What Tab stops at in this window, and in which order. Walk it with Tab and "
-              "Shift+Tab: the number that has the focus is marked."),
+           tr("What Tab stops at in this window, and in which order. Go through it with Tab and "
+              "Shift+Tab: the number of the widget with the focus is marked."),
            parent)
 {
     auto *samples = new OxaWidget(this);
@@ -60,7 +60,7 @@ FocusPage::~FocusPage()
 Card *FocusPage::makeCompoundCard()
 {
     auto *card = new Card(tr("A compound widget"),
-                          tr("The order of its layout, and the tab order with it."), this);
+                          tr("Sorting its layout changes the tab order with it."), this);
     auto *sample = new CompoundSample(card);
     auto *order = new SegmentedControl({ tr("Forwards"), tr("Backwards"), tr("Shuffled") }, card);
     connect(order, &SegmentedControl::chosen, this, [this, sample](int i) {
@@ -78,9 +78,10 @@ Card *FocusPage::makeCompoundCard()
 
 Card *FocusPage::makeStatesCard()
 {
-    auto *card = new Card(tr("What Tab passes over"),
-                          tr("Hidden and disabled widgets, and what takes the focus by a click."),
-                          this);
+    auto *card = new Card(
+            tr("What Tab skips"),
+            tr("Hidden and disabled widgets, and those that take the focus only by a click."),
+            this);
     auto *row = new QHBoxLayout;
     row->setSpacing(Metrics::small);
     auto *name = new LineEdit(card);

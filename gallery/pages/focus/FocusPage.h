@@ -11,8 +11,7 @@ class SegmentedControl;
 class TabOrderOverlay;
 class WindowWatcher;
 
-/// Shows the tab order of the window that it is in: as numbers and arrows over the window, and as
-/// text.
+/// Shows the tab order of its window, as numbers and arrows over the window and as text.
 class FocusPage : public Page
 {
     Q_OBJECT

@@ -39,7 +39,7 @@ void TabOrderOverlay::setStops(const std::vector<QWidget *> &stops)
     int number = 0;
     for (QWidget *widget : stops) {
         ++number;
-        // What is scrolled away has no place to put a number at.
+        // Widgets that are scrolled out of view get no number.
         if (!widget->visibleRegion().isEmpty())
             m_stops.push_back({ number, badgeOf(*widget), widget->hasFocus() });
     }
@@ -70,7 +70,7 @@ void TabOrderOverlay::paintEvent(QPaintEvent *)
         paintBadge(painter, stop);
 }
 
-/// Returns where the badge of \a widget goes: onto the corner where its lines begin.
+/// Returns the position of the badge of \a widget: the corner where its lines begin.
 QPoint TabOrderOverlay::badgeOf(const QWidget &widget) const
 {
     const QRect seen = widget.visibleRegion().boundingRect();

@@ -8,7 +8,7 @@
 #include <vector>
 
 /// Draws the tab order of a window over it: a number on everything that Tab stops at, and an arrow
-/// from each to the next. The mouse goes through it.
+/// from each to the next. It is transparent for mouse events.
 class TabOrderOverlay : public QWidget
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ protected Q_SLOTS:
     virtual void onThemeChanged();
 
 private:
-    /// Something that Tab stops at and that is in sight.
+    /// A visible widget that Tab stops at.
     struct Stop
     {
         int number;

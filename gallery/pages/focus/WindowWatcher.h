@@ -5,7 +5,7 @@
 
 class QWidget;
 
-/// Tells when the tab order of a window, or the place of what it stops at, may have changed.
+/// Signals that the tab order of a window, or a widget's position in it, may have changed.
 class WindowWatcher : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
-    /// Something changed; once for all that changes in one turn of the event loop.
+    /// Something changed; emitted once in a turn of the event loop.
     void changed();
 
 private:

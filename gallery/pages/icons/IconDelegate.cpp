@@ -89,8 +89,8 @@ void IconDelegate::paintFrame(QPainter *painter, const QStyleOptionViewItem &opt
 void IconDelegate::paintName(QPainter *painter, const QStyleOptionViewItem &option,
                              const QModelIndex &index) const
 {
-    // Only the name has the ground of a chosen row: the icons have the colours of a set that is
-    // made for the ground of the card.
+    // Only the name has the background of a chosen row: the icons have the colours of a set that
+    // is made for the background of the card.
     painter->fillRect(option.rect, colorFor(look().ground, option.state));
 
     const IconDiagnosis &diagnosis = m_model->diagnosis(index.row());
@@ -138,7 +138,7 @@ void IconDelegate::paintTexts(QPainter *painter, const QStyleOptionViewItem &opt
 
 void IconDelegate::paintIcon(QPainter *painter, const QRect &rect, const QModelIndex &index) const
 {
-    // A renderer would try, and warn, at each paint.
+    // A renderer would try again, and warn, at each paint.
     if (m_model->diagnosis(index.row()).outcome == Outcome::Unreadable)
         return;
     painter->setClipRect(rect);

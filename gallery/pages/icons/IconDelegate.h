@@ -27,8 +27,7 @@ public:
     /// Returns the height of a row.
     int rowHeight() const;
 
-    /// Returns the width that the column of a state needs, whose name is no wider than that of the
-    /// longest one.
+    /// Returns the width that the column of any state needs.
     int stateColumnWidth() const;
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,

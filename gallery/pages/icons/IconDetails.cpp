@@ -87,7 +87,7 @@ void IconDetails::showIcon(const IconFile &file, const IconDiagnosis &diagnosis)
     m_name->setText(file.name);
     m_origin->setText(file.origin);
     m_origin->setToolTip(file.path);
-    // Whoever paints a file that cannot be read is warned each time.
+    // Painting a file that cannot be read logs a warning each time.
     const bool isReadable = diagnosis.outcome != Outcome::Unreadable;
     m_state->setVisible(isReadable);
     m_matrix->setVisible(isReadable);

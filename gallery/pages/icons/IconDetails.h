@@ -10,8 +10,8 @@ class QVBoxLayout;
 struct IconDiagnosis;
 struct IconFile;
 
-/// Tells all about one icon: where it comes from, whether it takes a state's colour and why, and
-/// how it looks at several sizes and pixel ratios.
+/// Describes one icon: its origin, whether it takes a state's colour and why, and its look at
+/// several sizes and pixel ratios.
 class IconDetails : public OxaWidget
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     /// Paints with \a renderers, which must outlive the widget.
     explicit IconDetails(IconRenderers *renderers, QWidget *parent = nullptr);
 
-    /// Tells about \a file, of which the library makes \a diagnosis.
+    /// Shows \a file and its \a diagnosis.
     void showIcon(const IconFile &file, const IconDiagnosis &diagnosis);
 
     /// Shows the icon in \a color, that of the state called \a state.

@@ -10,7 +10,7 @@
 #include <QPainter>
 
 #include <memory>
-// The library decides by the document that Qt made of a file, and shows it to nobody.
+// The library decides by Qt's document of a file, which is private.
 #include <qsvgnode_p.h>
 #include <qsvgstyle_p.h>
 #include <qsvgtinydocument_p.h>
@@ -57,7 +57,7 @@ QImage painted(QSvgNode *node, const QColor &color)
     return image;
 }
 
-/// Paints \a node in two colours: where the pictures differ, it takes the colour.
+/// Paints \a node in two colours: it takes the colour where the pictures differ.
 Outcome probe(QSvgNode *node)
 {
     const QImage red = painted(node, Qt::red);
@@ -77,14 +77,14 @@ Outcome probe(QSvgNode *node)
     return hasKept ? Outcome::KeepsColors : Outcome::PaintsNothing;
 }
 
-/// True when the svg element itself says how to fill or stroke, which only QSvgRenderer heeds.
+/// True when the svg element itself has a fill or stroke, which only QSvgRenderer applies.
 bool hasOwnStyle(const QSvgTinyDocument &document)
 {
     return document.styleProperty(QSvgStyleProperty::FILL)
             || document.styleProperty(QSvgStyleProperty::STROKE);
 }
 
-/// Tells of what is in the file and has no effect when a node is painted directly.
+/// Describes what has no effect when a node is painted directly.
 QString ignoredParts(const QSvgTinyDocument &document)
 {
     QString text;
@@ -93,7 +93,7 @@ QString ignoredParts(const QSvgTinyDocument &document)
                 + tr("The fill and stroke of the <svg> element itself are left out then.");
     }
     if (document.animated())
-        text += QLatin1Char(' ') + tr("Its animation stands still.");
+        text += QLatin1Char(' ') + tr("Its animation is not shown.");
     return text;
 }
 
@@ -109,20 +109,20 @@ IconDiagnosis diagnosisOfNode(const QSvgTinyDocument &document, QSvgNode *node)
         break;
     case Outcome::TakesSome:
         diagnosis.reason =
-                tr("%1, and some of its shapes bring a fill or stroke of their own, which "
-                   "beats the state's colour.")
+                tr("%1, and some of its shapes have a fill or stroke of their own, which "
+                   "overrides the state's colour.")
                         .arg(start);
         diagnosis.advice = withoutFills;
         break;
     case Outcome::KeepsColors:
         diagnosis.reason =
-                tr("%1, but it brings a fill or stroke of its own, which beats the state's "
+                tr("%1, but it has a fill or stroke of its own, which overrides the state's "
                    "colour.")
                         .arg(start);
         diagnosis.advice = withoutFills;
         break;
     default:
-        diagnosis.reason = tr("%1, but nothing of it is to be seen.").arg(start);
+        diagnosis.reason = tr("%1, but nothing of it is visible.").arg(start);
     }
     diagnosis.reason += ignoredParts(document);
     return diagnosis;

@@ -3,17 +3,17 @@
 
 #include <QString>
 
-/// What the library makes of an SVG file, and why: a user's first question is why an icon does not
-/// take the theme's colour.
+/// How the library paints an SVG file, and why: users ask first why an icon does not take the
+/// theme's colour.
 struct IconDiagnosis
 {
-    /// What one sees.
+    /// The visible result.
     enum class Outcome {
         TakesColor,    ///< All of it is painted in the state's colour.
-        TakesSome,     ///< Some of it is, some keeps a colour of its own.
+        TakesSome,     ///< Some of it is; the rest keeps its own colours.
         KeepsColors,   ///< It keeps the file's colours.
-        Animated,      ///< It keeps the file's colours, and moves.
-        PaintsNothing, ///< There is nothing to see.
+        Animated,      ///< It keeps the file's colours, and is animated.
+        PaintsNothing, ///< Nothing is visible.
         Unreadable,    ///< It cannot be loaded.
     };
 
@@ -27,15 +27,15 @@ struct IconDiagnosis
     Outcome outcome = Outcome::Unreadable;
     Painter painter = Painter::Nothing;
     QString reason; ///< Why, in whole sentences.
-    QString advice; ///< What to change in a file that is to take the colour; may be empty.
+    QString advice; ///< How to make the file take the colour; may be empty.
 
-    /// Returns the diagnosis of the file at \a path. Logs no warning: what Qt has to say about a
-    /// file that cannot be read is the reason.
+    /// Returns the diagnosis of the file at \a path. Logs no warning: Qt's message about
+    /// an unreadable file becomes the reason.
     static IconDiagnosis of(const QString &path);
 
-    /// Returns what one sees, in a few words.
+    /// Returns the outcome in a few words.
     QString title() const;
 
-    /// Returns what paints it, in a few words.
+    /// Returns the painter in a few words.
     QString painterText() const;
 };

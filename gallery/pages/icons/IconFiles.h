@@ -8,9 +8,9 @@
 /// An SVG file that the gallery shows.
 struct IconFile
 {
-    QString name;   ///< The file's name, without its ending.
-    QString path;   ///< Where the file is.
-    QString origin; ///< Whose it is.
+    QString name;   ///< The file's name, without its suffix.
+    QString path;   ///< The file's path.
+    QString origin; ///< The gallery, or a package.
 };
 
 /// The SVG files that the gallery knows.
@@ -19,7 +19,7 @@ namespace IconFiles {
 /// Returns the gallery's own icons, which are resources, where the library looks for icons by name.
 std::vector<IconFile> ofGallery();
 
-/// Returns the gallery's files that do not take the colour of a state, or not as one would think.
+/// Returns the gallery's files that do not take the colour of a state as expected.
 std::vector<IconFile> exceptions();
 
 /// Returns all SVG files of the packages in \a artworkFolder, package by package. A package is a

@@ -30,7 +30,7 @@ int headingWidth()
 
 int headingHeight() { return QFontMetrics(headingFont()).height() + Metrics::tight; }
 
-/// Returns where \a column begins, or for the number of columns where they end.
+/// Returns where \a column begins; for the number of columns, where the last one ends.
 int left(int column)
 {
     int x = headingWidth();
@@ -105,7 +105,7 @@ void IconMatrix::paintHeadings(QPainter &painter) const
 void IconMatrix::paintHeading(QPainter &painter, const QRect &cell, const QString &text) const
 {
     const Qt::Alignment start = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
-    // A value reads from left to right in any interface.
+    // A value is written from left to right in both directions.
     painter.setLayoutDirection(Qt::LeftToRight);
     painter.drawText(QStyle::visualRect(layoutDirection(), rect(), cell), int(start | Qt::AlignTop),
                      text);

@@ -8,8 +8,7 @@
 class IconRenderers;
 
 /// One icon at several sizes, each at several pixel ratios. A pixel of a picture is a pixel of the
-/// screen, so that a picture for a finer screen is as large as it would be under a magnifying
-/// glass.
+/// screen, so that a picture for a higher ratio appears magnified.
 class IconMatrix : public OxaWidget
 {
     Q_OBJECT

@@ -7,7 +7,7 @@ namespace {
 
 const char *const states[] = { "normal", "hovered", "pressed", "disabled", "focused", "checked" };
 
-/// How long the survey keeps the event loop waiting.
+/// How long the survey may block the event loop.
 constexpr int sliceMs = 8;
 
 bool takesColor(const IconDiagnosis &diagnosis)
@@ -102,7 +102,7 @@ void IconModel::rebuild()
 {
     beginResetModel();
     m_rows.clear();
-    // A list of some files only grows with the survey, which has not come to the others.
+    // A filtered list grows with the survey, which has not reached the other files.
     const std::size_t known = m_shown == Shown::All ? m_entries.size() : std::size_t(m_surveyed);
     for (std::size_t i = 0; i < known; ++i) {
         if (isListed(m_entries[i]))

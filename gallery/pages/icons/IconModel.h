@@ -10,11 +10,10 @@
 #include <optional>
 #include <vector>
 
-/// SVG files as a table: the name with what the library makes of the file, and a column for each
-/// state.
+/// SVG files as a table: the name with the diagnosis of the file, and a column for each state.
 ///
-/// A file is looked into when it is asked for, and all of them, one after the other, whenever the
-/// event loop has nothing else to do: thousands of files keep nobody waiting.
+/// A file is diagnosed when it is asked for, and all of them, one after the other, when the event
+/// loop is idle: thousands of files do not block the window.
 class IconModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -38,16 +37,16 @@ public:
     /// Lists \a files.
     void setFiles(const std::vector<IconFile> &files);
 
-    /// Lists the files only whose name holds \a text in any case.
+    /// Lists only the files whose name contains \a text in any case.
     void setFilter(const QString &text);
 
-    /// Lists those files only. They come as they are found out.
+    /// Lists only those files. They are added as they are diagnosed.
     void setShown(Shown shown);
 
     /// Returns how many files there are, listed or not.
     int fileCount() const { return int(m_entries.size()); }
 
-    /// Returns how many of the files were looked into.
+    /// Returns how many of the files were diagnosed.
     int surveyedCount() const { return m_surveyed; }
 
     /// Returns how many of those take all of the colour.
@@ -56,11 +55,10 @@ public:
     /// Returns the file at \a row.
     const IconFile &file(int row) const { return entry(row).file; }
 
-    /// Returns what the library makes of the file at \a row.
+    /// Returns the diagnosis of the file at \a row.
     const IconDiagnosis &diagnosis(int row) const;
 
-    /// Returns the word for the state of \a column, or for a column without one that of the normal
-    /// state.
+    /// Returns the word for the state of \a column; "normal" for a column without a state.
     static QString stateOf(int column);
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -70,7 +68,7 @@ public:
                         int role = Qt::DisplayRole) const override;
 
 Q_SIGNALS:
-    /// More files were looked into.
+    /// More files were diagnosed.
     void surveyed();
 
 private:

@@ -7,8 +7,7 @@
 
 class OxaSvgRenderer;
 
-/// The renderers of the files that were painted last, so that scrolling back and forth reads no
-/// file twice.
+/// The renderers of the files that were painted last, so that scrolling back reads no file again.
 class IconRenderers : public QObject
 {
     Q_OBJECT

@@ -7,8 +7,8 @@ class IconDelegate;
 class IconModel;
 class IconRenderers;
 
-/// A contact sheet: a row for each icon, in the six states of a colour set. It has a current cell,
-/// which is an icon in a state.
+/// A contact sheet: a row for each icon, in the six states of a colour set. Its current cell is an
+/// icon in a state.
 class IconTable : public TableView
 {
     Q_OBJECT
@@ -29,10 +29,10 @@ public:
     void refresh() override;
 
 Q_SIGNALS:
-    /// Another icon is the current one, or another state.
+    /// The current icon or state changed.
     void currentIconChanged();
 
-    /// The icons have other colours.
+    /// The colours of the icons changed.
     void colorsChanged();
 
 protected:

@@ -44,7 +44,7 @@ struct NamedSet
     QString name;
 };
 
-/// Returns sets whose states differ as much as those of a few kinds of controls do.
+/// Returns sets of a few kinds of controls, with differences between the states.
 QVector<NamedSet> namedSets()
 {
     return { { IconsPage::tr("Icon"), QStringLiteral("gallery-icon") },

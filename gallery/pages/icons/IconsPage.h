@@ -12,8 +12,7 @@ class OxaLabel;
 class QLayout;
 class SearchField;
 
-/// Shows icons in the states of a colour set, and tells which of them take its colours and why the
-/// others do not.
+/// Shows icons in the states of a colour set, and why they take its colours or do not.
 class IconsPage : public Page
 {
     Q_OBJECT

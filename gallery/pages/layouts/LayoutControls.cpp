@@ -49,7 +49,7 @@ void LayoutControls::setKind(LayoutSettings::Kind kind)
     Q_EMIT changed();
 }
 
-/// Returns a function that hands a number to \a store and tells of the change.
+/// Returns a function that hands a number to \a store and emits the change.
 template <typename Store>
 std::function<void(int)> LayoutControls::changing(Store store)
 {
@@ -86,7 +86,7 @@ void LayoutControls::addSmartRows()
 {
     m_smart->addChoice(tr("Rows"), { tr("Left"), tr("Centre"), tr("Right") }, 0,
                        changing([](LayoutSettings &all, int i) { all.alignment = alignments[i]; }));
-    // 0 is no limit that the layout knows.
+    // The layout has no limit of 0.
     m_smart->addNumber(tr("At most"), 0, longestRow, 0,
                        changing([](LayoutSettings &all, int value) {
                            all.maximumItemsPerRow = value == 0 ? -1 : value;

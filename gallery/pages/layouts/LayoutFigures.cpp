@@ -17,7 +17,7 @@ using Ratio = FixedItemRatioLayoutNotSupportScroll;
 constexpr int figureCount = 5;
 constexpr int figureWidth = 80;
 
-/// How the tiles of a flow came out.
+/// The result of a flow layout.
 struct Flow
 {
     explicit Flow(const FlowLayout &layout)
@@ -85,7 +85,7 @@ void LayoutFigures::showFlow()
     set(1, tr("Height for width"), QString::number(height));
     set(2, tr("Rows"), QString::number(flow.rows));
     set(3, tr("Longest row"), QString::number(flow.longestRow));
-    set(4, tr("Hangs over"), QString::number(qMax(overhang, 0)));
+    set(4, tr("Overflow"), QString::number(qMax(overhang, 0)));
 }
 
 void LayoutFigures::showRatio()

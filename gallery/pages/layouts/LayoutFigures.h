@@ -8,13 +8,13 @@
 class OxaLabel;
 class TileBoard;
 
-/// The numbers of a layout: what it has, what it needs, and how it came out.
+/// The numbers of a layout: the size that it has, the size that it needs, and its rows.
 class LayoutFigures : public OxaWidget
 {
     Q_OBJECT
 
 public:
-    /// Shows the numbers of \a board each time that its tiles are laid out.
+    /// Shows the numbers of \a board whenever its tiles are laid out.
     explicit LayoutFigures(const TileBoard *board, QWidget *parent = nullptr);
 
 private:

@@ -5,20 +5,20 @@
 
 #include <QMargins>
 
-/// What the playground lays its tiles out by.
+/// The settings of the playground.
 struct LayoutSettings
 {
     /// Which layout it is.
     enum class Kind { AutoGrid, Smart, FixedRatio };
 
-    /// How the sizes of tiles differ.
+    /// Which sizes of the tiles differ.
     enum class Sizes { Equal, Heights, Both };
 
     Kind kind = Kind::AutoGrid;
     Sizes sizes = Sizes::Heights;
     int tileCount = 240;
     QMargins margins { 8, 8, 8, 8 };
-    int horizontalSpacing = 6; ///< -1 leaves it to the style.
+    int horizontalSpacing = 6; ///< -1 for the style's.
     int verticalSpacing = 6;
 
     Qt::AlignmentFlag alignment = Qt::AlignLeft;

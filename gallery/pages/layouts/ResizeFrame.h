@@ -6,7 +6,7 @@
 class ResizeHandle;
 
 /// Shows a widget in a size that the user chooses, by dragging the handle at its corner or with the
-/// handle's arrow keys. It never is larger than the room there is.
+/// handle's arrow keys. It is never larger than the available room.
 class ResizeFrame : public OxaWidget
 {
     Q_OBJECT

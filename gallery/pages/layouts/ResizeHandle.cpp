@@ -14,7 +14,7 @@ constexpr int lineDistance = 5;
 constexpr int focusWidth = 2;
 constexpr int radius = 4;
 
-/// Returns \a by with a positive x for what goes towards the end of a line.
+/// Returns \a by with x positive towards the end of a line.
 QPoint logical(const QPoint &by)
 {
     return QGuiApplication::isRightToLeft() ? QPoint(-by.x(), by.y()) : by;
@@ -48,7 +48,7 @@ void ResizeHandle::paintEvent(QPaintEvent *)
         painter.translate(width(), 0);
         painter.scale(-1, 1);
     }
-    // Lines across the corner that the contents end in.
+    // Lines across the corner where the contents end.
     painter.setPen(QPen(m_color, 1.5, Qt::SolidLine, Qt::RoundCap));
     for (int i = 1; i <= lineCount; ++i)
         painter.drawLine(QPointF(1, i * lineDistance), QPointF(i * lineDistance, 1));
@@ -62,7 +62,7 @@ void ResizeHandle::mousePressEvent(QMouseEvent *event) { m_pressedAt = event->po
 
 void ResizeHandle::mouseMoveEvent(QMouseEvent *event)
 {
-    // The handle moves along, so that the pointer is compared with where it took hold of it.
+    // The handle moves with the pointer, so that its position is compared with the press.
     Q_EMIT dragged(logical(event->pos() - m_pressedAt));
 }
 

@@ -15,8 +15,8 @@ public:
     explicit ResizeHandle(QWidget *parent = nullptr);
 
 Q_SIGNALS:
-    /// The user wants the frame larger by so many pixels, or smaller where a number is negative.
-    /// Going towards the end of a line is larger in any direction.
+    /// The user wants the frame larger by so many pixels, or smaller if negative. Moving towards
+    /// the end of a line makes it larger in both directions of text.
     void dragged(const QPoint &by);
 
 protected:

@@ -14,7 +14,7 @@ constexpr int focusWidth = 2;
 Tile::Tile(int number, const TileLook &look, QWidget *parent)
     : QWidget(parent), m_number(number), m_look(look)
 {
-    // Tab stops once at all tiles together; the arrow keys go from one to the next.
+    // All tiles are one stop for Tab; the arrow keys go from one to the next.
     setFocusPolicy(Qt::ClickFocus);
     setAccessibleName(tr("Tile %1").arg(number));
 }
@@ -27,7 +27,7 @@ void Tile::setSizes(LayoutSettings::Sizes sizes)
 
 QSize Tile::sizeHint() const
 {
-    // Steps that share no divisor with their ranges: neighbours differ, and none looks chosen.
+    // Steps without a common divisor with their ranges: neighbours differ.
     QSize size = smallest;
     if (m_sizes != LayoutSettings::Sizes::Equal)
         size.rheight() += m_number * 17 % 37;

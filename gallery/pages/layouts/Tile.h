@@ -8,13 +8,13 @@
 
 #include <vector>
 
-/// What tiles are painted with.
+/// The look of tiles.
 struct TileLook
 {
     std::vector<QColor> grounds;
     QColor text;
     QColor focusBorder;
-    int borderWidth = 0; ///< What stays empty on each side, in pixels.
+    int borderWidth = 0; ///< Empty space on each side, in pixels.
 };
 
 /// A numbered rectangle that is laid out. It is painted rather than styled: there are hundreds.

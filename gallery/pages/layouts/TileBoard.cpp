@@ -19,8 +19,8 @@ namespace {
 
 const Tile *tileOf(QLayoutItem *item) { return static_cast<const Tile *>(item->widget()); }
 
-/// Returns \a margins, given from left to right, as they are on the screen: a layout exchanges them
-/// when the direction changes, and takes them as they are when it is made.
+/// Returns \a margins, given for left to right, as they are on the screen: a layout exchanges them
+/// when the direction changes, but not when it is made.
 QMargins onScreen(const QMargins &margins)
 {
     return QGuiApplication::isRightToLeft()
@@ -152,7 +152,7 @@ void TileBoard::makeLayout()
     }
     for (int number = m_flow->count() + 1; number <= m_settings.tileCount; ++number)
         m_flow->addWidget(makeTile(number));
-    // A new layout on a widget in sight, and items in it, do not ask for a pass by themselves.
+    // A new layout on a visible widget, and its items, do not request a pass.
     m_flow->invalidate();
     QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
 }

@@ -27,7 +27,7 @@ public:
     /// Lays the tiles out by \a settings, in their present order.
     void setSettings(const LayoutSettings &settings);
 
-    /// Returns the layout at work; a new one after each setSettings().
+    /// Returns the current layout; a new one after each setSettings().
     const FlowLayout &flow() const { return *m_flow; }
 
     void shuffle();
@@ -37,7 +37,7 @@ public:
     void prependTile();
 
 Q_SIGNALS:
-    /// The tiles stand where they belong.
+    /// The tiles were laid out.
     void laidOut();
 
 protected:

@@ -7,7 +7,7 @@ class ConversationModel;
 class ListView;
 class QStackedLayout;
 
-/// A list of conversations, or while it has none the texts that the model has for this case.
+/// A list of conversations, or the model's texts for the empty state.
 class ConversationList : public OxaWidget
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 ConversationModel::ConversationModel(QObject *parent) : EmptyStateBaseListModel(parent)
 {
     setProperty("emptyStateHeader", tr("No conversations"));
-    setProperty("emptyStateSubtitle", tr("Whom you write to appears here."));
+    setProperty("emptyStateSubtitle", tr("People you write to appear here."));
 }
 
 QHash<int, QByteArray> ConversationModel::roleNames() const

@@ -3,7 +3,7 @@
 
 #include <UiElements/models/BaseListModel.h>
 
-/// Made-up conversations. The same arguments give the same ones, so that pictures of them compare.
+/// Made-up conversations. The same arguments give the same ones, so that pictures can be compared.
 namespace Conversations {
 
 /// Returns \a count rows, of which the first is conversation number \a first.

@@ -28,8 +28,8 @@ constexpr int sliderWidth = 160;
 
 ConversationsCard::ConversationsCard(QWidget *parent)
     : Card(tr("Conversations"),
-           tr("BaseListModel tells changes exactly. Replacing all rows signals the runs that "
-              "differ, and nothing else."),
+           tr("BaseListModel reports exact changes. Replacing all rows signals only the runs of "
+              "rows that differ."),
            parent),
       m_model(new ConversationModel(this)),
       m_recorder(new ModelRecorder(m_model, this)),
@@ -113,7 +113,7 @@ void ConversationsCard::append()
 
 void ConversationsCard::answer()
 {
-    // Two neighbours behind the first row, whose run comes after the one that begins at row 0.
+    // Two neighbours after the first row: their run is signalled after the one at row 0.
     const std::vector<ModelRow> rows = m_model->getRows();
     std::vector<ModelRow> changed;
     ++m_step;

@@ -11,7 +11,7 @@ class QHBoxLayout;
 class QLayout;
 class Slider;
 
-/// A list of conversations, buttons that change it, and beside it what its model emits.
+/// A list of conversations, buttons that change it, and a log of what its model emits.
 class ConversationsCard : public Card
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-/// What the process has taken from its heap.
+/// The heap use of the process.
 namespace HeapUse {
 
 /// Returns the bytes in use, or nothing where the C library doesn't tell.

@@ -24,8 +24,7 @@ constexpr int viewHeight = 336;
 constexpr int middleRow = HistoryModel::messageCount / 2;
 constexpr int linesToKeep = 500;
 
-/// Returns what a loaded row takes from the heap: the mean of many, which are made for this and
-/// deleted again.
+/// Returns the heap use of a loaded row: the mean of many, made for this and deleted again.
 std::optional<qint64> measuredBytesPerItem()
 {
     constexpr int pages = 20;
@@ -89,7 +88,7 @@ HistoryCard::HistoryCard(QWidget *parent)
     connect(m_server, &HistoryServer::logged, this, &HistoryCard::addLine);
     connect(m_view, &LongListView::moved, m_model, &HistoryModel::setScrolledIndex);
     connect(m_view, &LongListView::moved, this, &HistoryCard::showFigures);
-    // The first answers are there at once: nobody likes to begin with waiting.
+    // The first answers come at once, so that the page does not begin with empty rows.
     m_view->scrollToRow(middleRow);
     m_server->answerAll();
 }
@@ -103,7 +102,7 @@ QGridLayout *HistoryCard::makeFigures()
     const std::pair<QString, OxaLabel *> lines[] = { { tr("In view"), m_inView },
                                                      { tr("Window"), m_window },
                                                      { tr("Requests"), m_requests },
-                                                     { tr("Held"), m_memory } };
+                                                     { tr("Loaded"), m_memory } };
     for (const auto &[caption, value] : lines) {
         const int line = grid->rowCount();
         grid->addWidget(Labels::caption(caption, this), line, 0);

@@ -11,7 +11,7 @@ class OxaLabel;
 class QGridLayout;
 class QLayout;
 
-/// A list of ten million rows, and beside it what its model holds and asks a slow server for.
+/// A list of ten million rows, with what its model holds and what it requests from a slow server.
 class HistoryCard : public Card
 {
     Q_OBJECT

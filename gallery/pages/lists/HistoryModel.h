@@ -13,7 +13,7 @@ public:
     static constexpr int pageSize = 50;
     static constexpr int pagesInWindow = 5;
 
-    /// Makes a history of which nothing is loaded.
+    /// Makes a history without loaded rows.
     explicit HistoryModel(QObject *parent = nullptr);
 
     /// Returns how many rows of the window have an item.
@@ -25,7 +25,7 @@ public:
     /// True when \a page is in the window, so that the model takes its items.
     bool wantsPage(int page) const;
 
-    /// Returns \a row as people count and write it.
+    /// Returns \a row as text, counted from 1.
     static QString textOf(int row);
 
     QHash<int, QByteArray> roleNames() const override;

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// How long answers take one after the other, in hundredths of the mean.
+/// The times of successive answers, in hundredths of the mean.
 constexpr int delayPattern[] = { 130, 70, 160, 50, 90 };
 
 } // namespace
@@ -58,7 +58,7 @@ void HistoryServer::ask(const QVector<int> &pages)
 {
     QStringList asked;
     for (const int page : pages) {
-        // An answer that is on its way serves a window that came back to its page as well.
+        // A pending answer also serves a window that has returned to its page.
         if (isPending(page) || !m_model->wantsPage(page))
             continue;
         const int share = delayPattern[std::size_t(m_figures.asked) % std::size(delayPattern)];

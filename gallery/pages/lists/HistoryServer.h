@@ -11,19 +11,19 @@
 class HistoryModel;
 class QStandardItem;
 
-/// A simulated server that answers what a HistoryModel asks for: page by page, slowly, and in
-/// another order than it was asked.
+/// A simulated server that answers the requests of a HistoryModel: page by page, slowly, and in
+/// another order.
 class HistoryServer : public QObject
 {
     Q_OBJECT
 
 public:
-    /// What became of the requests.
+    /// The numbers of requests and answers.
     struct Figures
     {
-        int asked = 0;    ///< Pages asked for.
+        int asked = 0;    ///< Pages requested.
         int answered = 0; ///< Pages that the model took.
-        int late = 0;     ///< Pages that came when the window had moved on.
+        int late = 0;     ///< Pages that came after the window had moved on.
     };
 
     /// Serves \a model, which must outlive the server.
@@ -34,7 +34,7 @@ public:
 
     const Figures &figures() const { return m_figures; }
 
-    /// Returns how many answers are still to come.
+    /// Returns the number of pending answers.
     int pendingCount() const { return int(m_pending.size()); }
 
     /// Gives all pending answers now, in the order in which they would have come.
@@ -44,7 +44,7 @@ public:
     static QVector<QStandardItem *> makeItems(int page);
 
 Q_SIGNALS:
-    /// Something was asked or answered, which \a line tells.
+    /// \a line describes a request or an answer.
     void logged(const QString &line);
 
 private:

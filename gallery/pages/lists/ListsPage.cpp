@@ -40,12 +40,11 @@ SmallListModel *makePeople(QObject *parent)
     return people;
 }
 
-/// A bar of people that can be made too narrow, and the names of those that it has no room for.
+/// A bar of people whose width can be set, and the names of those for whom it has no room.
 Card *makeOverflow()
 {
-    auto *card = new Card(
-            tr("Overflow"),
-            tr("OverflowListProxyModel has the rows that the bar in front has no room for."));
+    auto *card = new Card(tr("Overflow"),
+                          tr("OverflowListProxyModel has the rows for which the bar has no room."));
     auto *bar = new OverflowBar(makePeople(card), card);
     bar->setFixedWidth(firstWidth);
     OxaLabel *hidden = Labels::paragraph(QString());
@@ -56,7 +55,7 @@ Card *makeOverflow()
             names += people->index(row, 0).data(RowRole::Title).toString();
         hidden->setText(names.isEmpty()
                                 ? tr("There is room for all.")
-                                : tr("Behind the bar: %1").arg(names.join(QStringLiteral(", "))));
+                                : tr("Not in the bar: %1").arg(names.join(QStringLiteral(", "))));
     };
     QObject::connect(people, &OverflowListProxyModel::rowsInserted, hidden, showHidden);
     QObject::connect(people, &OverflowListProxyModel::rowsRemoved, hidden, showHidden);
@@ -70,7 +69,7 @@ Card *makeOverflow()
     return card;
 }
 
-/// A list that begins empty, and shows the texts that its model carries for this case.
+/// A list that begins empty, and shows its model's texts for the empty state.
 Card *makeEmptyState()
 {
     auto *card = new Card(
@@ -95,9 +94,8 @@ Card *makeEmptyState()
 Page *Pages::makeLists(QWidget *parent)
 {
     auto *page = new Page(tr("Lists"),
-                          tr("Models for item views and QML that tell what changed exactly, and "
-                             "hold no more than "
-                             "they have to."),
+                          tr("Models for item views and QML that report exactly what changed, "
+                             "and hold no more than needed."),
                           parent);
     ColumnsLayout *cards = page->makeColumns();
     cards->addWideWidget(new ConversationsCard);

@@ -20,7 +20,7 @@ LongListView::LongListView(QAbstractItemModel *model, QWidget *parent)
     m_themeBlock.followTheme();
 
     connect(m_model, &QAbstractItemModel::dataChanged, this, &LongListView::repaintRows);
-    // A model that pages counts its rows anew only after it told that they came or went.
+    // A paged model updates its row count only after it has signalled the change.
     connect(m_model, &QAbstractItemModel::rowsInserted, this, &LongListView::fitScrollBar,
             Qt::QueuedConnection);
     connect(m_model, &QAbstractItemModel::rowsRemoved, this, &LongListView::fitScrollBar,

@@ -8,8 +8,8 @@
 
 class RowDelegate;
 
-/// A view for lists of any length. Qt's own item views keep a figure for each row, which for ten
-/// million rows is more than all that the model holds; this one knows the rows in sight only.
+/// A view for lists of any length. Qt's own item views store data for each row, which for ten
+/// million rows takes more than the model itself; this one knows only the visible rows.
 ///
 /// Not supported: a current row and a selection.
 class LongListView : public QAbstractScrollArea
@@ -31,7 +31,7 @@ public:
     void scrollToRow(int row);
 
 Q_SIGNALS:
-    /// Other rows may be in sight now, from \a firstRow on.
+    /// Other rows may be visible now, from \a firstRow on.
     void moved(int firstRow);
 
 protected:

@@ -20,7 +20,7 @@ public:
     /// Listens to \a model, which must outlive the recorder.
     explicit ModelRecorder(const BaseListModel *model, QObject *parent = nullptr);
 
-    /// Runs \a operation, which the record calls \a name, and emits recorded().
+    /// Runs \a operation, called \a name in the record, and emits recorded().
     void record(const QString &name, const std::function<void()> &operation);
 
 Q_SIGNALS:

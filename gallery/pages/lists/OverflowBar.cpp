@@ -36,7 +36,7 @@ OverflowBar::OverflowBar(QAbstractItemModel *people, QWidget *parent)
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Metrics::small);
-    // The layout would ask for the room of all avatars before those without room are hidden.
+    // The layout would request room for all avatars before those without room are hidden.
     row->setSizeConstraint(QLayout::SetNoConstraint);
     for (int i = 0; i < people->rowCount(); ++i) {
         const QModelIndex person = people->index(i, 0);

@@ -8,7 +8,7 @@
 
 class OxaLabel;
 
-/// A bar of avatars, as many as it has room for, and "+N" for the others.
+/// A bar of as many avatars as there is room for, and "+N" for the others.
 class OverflowBar : public OxaWidget
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     /// Shows \a people, with the roles of RowRole, which must outlive the bar and stay as they are.
     explicit OverflowBar(QAbstractItemModel *people, QWidget *parent = nullptr);
 
-    /// Returns the people that there is no room for.
+    /// Returns the people for whom there is no room.
     const OverflowListProxyModel *hiddenPeople() const { return &m_hiddenPeople; }
 
     /// Returns the width that all people need.

@@ -5,8 +5,8 @@
 
 #include <vector>
 
-/// Paints a row with the roles of RowRole: an avatar, two lines, the time and what is unread. A row
-/// that is not loaded shows the shape of these things.
+/// Paints a row with the roles of RowRole: an avatar, two lines, the time and the unread count. A
+/// row that is not loaded is painted as placeholders.
 class RowDelegate : public ItemDelegate
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
                const QModelIndex &index) const override;
 
 private:
-    /// Where the parts of a row are, from left to right.
+    /// The positions of a row's parts, from left to right.
     struct Parts
     {
         QRect avatar;

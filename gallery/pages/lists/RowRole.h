@@ -3,15 +3,15 @@
 
 #include <Qt>
 
-/// What the rows of the page's lists say of themselves.
+/// The roles of the rows in the page's lists.
 namespace RowRole {
 
 enum Role {
     Title = Qt::UserRole + 1, ///< QString; a row without one is not loaded yet.
     Detail,                   ///< QString; the second line.
     Time,                     ///< QString.
-    Unread,                   ///< int; how many messages are unread.
-    Avatar,                   ///< int; which of the avatars' colours.
+    Unread,                   ///< int; the number of unread messages.
+    Avatar,                   ///< int; the index of the avatar's colour.
 };
 
 } // namespace RowRole

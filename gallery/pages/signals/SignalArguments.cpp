@@ -78,8 +78,8 @@ QString textOf(const uiWhiteboard::CreateWhiteboardInfo &info)
 }
 #endif
 
-/// A pointer by the class of its object, and an enumeration without names by its number. Whatever
-/// else an outer application may declare is nothing to look into.
+/// A pointer by the class of its object, and an enumeration without names by its number. Other
+/// types of an outer application are opaque.
 template <typename Value>
 QString textOf(const Value &value)
 {
@@ -93,7 +93,7 @@ QString textOf(const Value &value)
     }
 }
 
-/// What to do with the values of one type, which \a name calls as the meta-object does.
+/// The operations on values of one type, which \a name calls as the meta-object does.
 struct Type
 {
     const char *name;

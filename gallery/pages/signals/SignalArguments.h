@@ -11,11 +11,11 @@ class QObject;
 namespace SignalArguments {
 
 /// Returns the value at \a value as a short text: a string in quotation marks, a pointer as "null"
-/// or the class of what it points to. A type that no signal has comes to "?".
+/// or the class of what it points to. A type that no signal has gives "?".
 QString text(const QByteArray &typeName, const void *value);
 
 /// Emits \a signal of \a sender with a default-constructed value for each argument. Returns false,
-/// and emits nothing, where a type is none that the signals of the hub have.
+/// and emits nothing, if no signal of the hub has one of the types.
 bool emitWithDefaults(QObject *sender, const QMetaMethod &signal);
 
 } // namespace SignalArguments

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// Signals of the hub that belong together.
+/// A group of the hub's signals.
 struct SignalGroup
 {
     QString heading;

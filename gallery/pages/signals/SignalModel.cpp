@@ -147,6 +147,6 @@ void SignalModel::rebuild()
 
 int SignalModel::receiversOf(const QMetaMethod &signal) const
 {
-    // A watcher is no receiver that anybody asks for.
+    // The watcher is not counted as a receiver.
     return qMax(0, SignalWatcher::connectionCount(m_hub, signal) - 1);
 }

@@ -16,16 +16,16 @@ public:
         HeadingRole = Qt::UserRole, ///< True for the heading of a group.
         NameRole,                   ///< The signal's name. Qt::DisplayRole is the whole signature.
         ParametersRole,             ///< Its parameters with their types.
-        ReceiversRole,              ///< How many receivers it has, a watcher not counted.
+        ReceiversRole,              ///< The number of its receivers, without a watcher.
     };
 
     /// Lists the signals of \a hub, which must outlive the model and to which one watcher listens.
     explicit SignalModel(const QObject *hub, QObject *parent = nullptr);
 
-    /// Shows the signals only whose signature holds \a text in any case.
+    /// Shows only the signals whose signature contains \a text in any case.
     void setFilter(const QString &text);
 
-    /// Counts the receivers anew, and tells which counts have changed.
+    /// Counts the receivers again, and emits which counts have changed.
     void refreshReceivers();
 
     /// Returns how many signals are shown.

@@ -4,7 +4,7 @@
 #include <QMetaMethod>
 #include <QObject>
 
-/// Receives signals, and does nothing with them: somebody to connect to.
+/// Receives signals and does nothing with them.
 class SignalReceiver : public QObject
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     /// Connects \a signal of \a sender once more.
     void connectTo(const QObject *sender, const QMetaMethod &signal);
 
-    /// Takes all connections to \a signal of \a sender back.
+    /// Removes all its connections to \a signal of \a sender.
     void disconnectFrom(const QObject *sender, const QMetaMethod &signal);
 
 private Q_SLOTS:

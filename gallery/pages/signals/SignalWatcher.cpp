@@ -5,7 +5,7 @@
 
 namespace {
 
-/// Gives access to what QObject keeps for the classes derived from it.
+/// Gives access to protected functions of QObject.
 struct Connections : QObject
 {
     static int count(const QObject *sender, const char *signal)
@@ -44,7 +44,7 @@ QMetaMethod SignalWatcher::wholeForm(const QMetaMethod &signal)
 
 int SignalWatcher::connectionCount(const QObject *sender, const QMetaMethod &signal)
 {
-    // A signal in its text form begins with a "2", as the macro SIGNAL has it.
+    // The macro SIGNAL puts a "2" before a signal's signature.
     return Connections::count(sender, ("2" + signal.methodSignature()).constData());
 }
 

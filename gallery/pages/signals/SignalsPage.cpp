@@ -40,8 +40,8 @@ QString emissionText(const QMetaMethod &signal, const QStringList &arguments)
 
 SignalsPage::SignalsPage(QWidget *parent)
     : Page(tr("Signals"),
-           tr("What users want of the application leaves the library as one of these signals. "
-              "Choose one and emit it, or let something else do that: the log hears them all."),
+           tr("The library passes on what users want from the application by these signals. Choose "
+              "one and emit it, or let something else emit one: the log shows all of them."),
            parent),
       m_model(new SignalModel(OxaAppSignals::get(), this)),
       m_view(new ListView(m_model, new SignalDelegate, this)),
@@ -76,7 +76,7 @@ SignalsPage::SignalsPage(QWidget *parent)
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &SignalsPage::choose);
     connect(m_view, &ListView::activated, this, &SignalsPage::emitChosen);
-    // Qt tells a sender of its connections, and nobody else.
+    // Only the sender is notified of connections.
     connect(&m_recount, &QTimer::timeout, m_model, &SignalModel::refreshReceivers);
     search(QString());
     m_view->setCurrentIndex(m_model->indexOf("closeContactCards(bool)"));

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Around a value, which reads from left to right in any interface.
+/// Around a value, which is written from left to right in both directions.
 constexpr QChar leftToRightMark(0x200E);
 
 QString yesOrNo(bool value) { return value ? QStringLiteral("true") : QStringLiteral("false"); }

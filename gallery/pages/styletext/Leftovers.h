@@ -8,15 +8,15 @@
 /// A colour reference or a directive that an expansion left in the style sheet.
 struct Leftover
 {
-    /// What the style sheet parser of Qt makes of it. Rules that stand before it hold in any case.
+    /// The effect on Qt's style sheet parser. Rules before it are always kept.
     enum class Effect {
         LosesRuleAndRest, ///< Inside a rule: this rule and all that follow are lost, with a
                           ///< warning.
-        LosesRest,        ///< Before a rule: all rules that follow are lost, without a word.
+        LosesRest,        ///< Before a rule: all rules that follow are lost, without a warning.
         Harmless,         ///< Behind the last rule: nothing is lost.
     };
 
-    QString text; ///< The reference or directive as it stands in the sheet.
+    QString text; ///< The reference or directive as in the sheet.
     Effect effect = Effect::Harmless;
 };
 

@@ -5,12 +5,12 @@
 
 #include <vector>
 
-/// A style text to begin with.
+/// An example of a style text.
 struct StyleTextExample
 {
     QString title;
     QString styleText;
 };
 
-/// Returns what shows the style language best, from the plain to the faulty.
+/// Returns examples of the style language, from simple to faulty ones.
 std::vector<StyleTextExample> styleTextExamples();

@@ -21,7 +21,7 @@ namespace {
 constexpr int editorLines = 6;
 constexpr int sheetLines = 10;
 
-/// Returns \a sheet with a rule on each line, for the eye only.
+/// Returns \a sheet with a rule on each line, for display only.
 QString ruleByRule(QString sheet)
 {
     sheet.replace(QLatin1Char('}'), QStringLiteral("}\n"));
@@ -55,7 +55,7 @@ StatusBox *makeFinding(const Leftover &leftover, QWidget *parent)
                          parent);
 }
 
-/// Puts two cards one above the other; the lower one takes the room that is left.
+/// Puts two cards one above the other; the lower one takes the remaining room.
 QWidget *stacked(Card *upper, Card *lower)
 {
     auto *stack = new OxaWidget;
@@ -112,7 +112,7 @@ Card *StyleTextPage::makeSheetCard()
 
 Card *StyleTextPage::makePreviewCard()
 {
-    auto *card = new Card(tr("At work"), tr("Move the pointer over it, or the focus to it."));
+    auto *card = new Card(tr("Preview"), tr("Move the pointer over it, or the focus to it."));
     card->body()->addWidget(m_preview);
     m_findings->setSpacing(Metrics::small);
     card->body()->addLayout(m_findings);

@@ -9,7 +9,7 @@ class CssDataTable;
 class QVBoxLayout;
 class StyleTextPreview;
 
-/// Lets one type a style text and see all that comes of it.
+/// An editor for a style text, with its expansion, a preview and its structured form.
 class StyleTextPage : public Page
 {
     Q_OBJECT

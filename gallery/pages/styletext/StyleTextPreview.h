@@ -5,7 +5,7 @@
 
 class OxaLabel;
 
-/// Shows a style text at work: on a label, on a disabled one, and on a container.
+/// Shows a style text on a label, on a disabled one, and on a container.
 class StyleTextPreview : public OxaWidget
 {
     Q_OBJECT
@@ -13,10 +13,10 @@ class StyleTextPreview : public OxaWidget
 public:
     explicit StyleTextPreview(QWidget *parent = nullptr);
 
-    /// Returns the selector that the rules of the shown style text bear.
+    /// Returns the selector of the rules of the shown style text.
     static QString selector();
 
-    /// Gives \a styleText to all that is shown. What Qt says to a faulty sheet is not printed.
+    /// Sets \a styleText on all widgets. Qt's warnings about a faulty sheet are not printed.
     void setStyleText(const QString &styleText);
 
 private:

@@ -24,8 +24,7 @@ constexpr int customInset = 5;
 
 QString tr(const char *text) { return Page::tr(text); }
 
-/// Gives \a button an icon with a picture for the checked state, in the colours of the set that it
-/// was given.
+/// Gives \a button an icon with a picture for the checked state, in the colours of its set.
 void tint(OxaPushButton *button)
 {
     const std::string name = button->property("iconColorSet").toString().toStdString();
@@ -170,7 +169,7 @@ void addUnderlineButton(Page &page)
         qobject_cast<OxaUnderlineButton *>(widget)->setUnderlineColorSet(name.toString());
         widget->update();
     };
-    // The line gets its width together with its colours.
+    // Setting the colours applies the line's width.
     controls->addChoice(tr("setUnderlineColorSet()"),
                         { { tr("Accent"), QStringLiteral("gallery-accent") },
                           { tr("Busy"), QStringLiteral("presence-busy") } },
@@ -202,8 +201,8 @@ void addToggleButton(Page &page)
     controls->addReading(tr("accessibleName"), [inUse] { return inUse->accessibleName(); });
 }
 
-/// Adds a button as an application gets it whose style draws the focus frames: a button looks for
-/// that once, when it is made.
+/// Adds a button for an application whose style draws the focus frames: a button checks this once,
+/// when it is made.
 void addGlobalFocus(Page &page)
 {
     const auto make = [] {

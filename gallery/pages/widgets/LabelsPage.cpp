@@ -22,7 +22,7 @@ QWidget *makeSample()
 {
     auto *label = new OxaLabel(tr("Quarterly review with the design and platform teams"));
     label->setFontToken(OxaFont::Token::BodySecondary);
-    // With a visible background, so that one sees how wide it is.
+    // With a background that shows its width.
     label->setCSS(QStringLiteral("$backgroundColors: gallery-code-background;"
                                  "$borderColors: gallery-card-border; $borderRadius: 4;"
                                  "$textColors: gallery-body-text;"
@@ -75,7 +75,7 @@ void addText(Page &page)
     controls->addHeight(firstHeight, highest);
 }
 
-/// Paints the star of \a widget over with the colour set that it was given.
+/// Colours the star of \a widget with its colour set.
 void tint(QWidget *widget)
 {
     auto *label = qobject_cast<OxaLabel *>(widget);

@@ -24,7 +24,7 @@ constexpr int pillHeight = 32;
 
 QString tr(const char *text) { return Page::tr(text); }
 
-/// Gives \a widget, a label or a button, room around its icon and its text.
+/// Gives \a widget, a label or a button, paddings around its icon and its text.
 template <typename Widget>
 Widget *setUp(Widget *widget, const char *iconName, const char *styleText)
 {
@@ -144,8 +144,8 @@ void addPill(Page &page)
 {
     auto *controls = WidgetCard::add(
             page, tr("OxaPillTabButton"),
-            tr("A pill that restyles itself when it is toggled, round at any height. Its greatest "
-               "width is worked out when the icon changes, not when the text does."),
+            tr("A pill that restyles itself when it is toggled, round at any height. Its maximum "
+               "width is calculated when the icon changes, not when the text does."),
             [] {
                 auto *pill = new OxaPillTabButton(tr("Mentions"));
                 pill->setBackgroundColorSet(QStringLiteral("gallery-pill-background"));
@@ -181,7 +181,7 @@ Page *Pages::makeSvgWidgets(QWidget *parent)
     auto *page = new Page(
             tr("SVG widgets"),
             tr("Widgets with an icon beside their text, both in the theme's colours. A control is "
-               "called by the property that it sets; Tab shows the focus."),
+               "named after the property that it sets; Tab shows the focus."),
             parent);
     addLabel(*page);
     addButton(*page);

@@ -26,7 +26,7 @@ constexpr View views[] = { View::MessagingView, View::MeetingView };
 
 QString tr(const char *text) { return Page::tr(text); }
 
-/// Adds a card with a grid, in which the columns of samples take the room that is left.
+/// Adds a card with a grid, in which the columns of samples take the remaining room.
 QGridLayout *addGrid(Card *card, std::initializer_list<int> sampleColumns)
 {
     auto *grid = new QGridLayout;
@@ -47,7 +47,7 @@ void followSizes(OxaLabel *label, Show show)
     show();
 }
 
-/// Returns \a font's weight as Qt counts and calls it.
+/// Returns \a font's weight with Qt's number and name.
 QString weightText(const QFont &font)
 {
     const char *name = QMetaEnum::fromType<QFont::Weight>().valueToKey(font.weight());
@@ -55,7 +55,7 @@ QString weightText(const QFont &font)
                 : QString::number(font.weight());
 }
 
-/// Returns a caption that gives way to the samples where there is little room.
+/// Returns a caption that is elided first if there is little room.
 OxaLabel *elidedCaption(const QString &text)
 {
     OxaLabel *label = Labels::caption(text);
