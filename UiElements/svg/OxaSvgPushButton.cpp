@@ -120,9 +120,8 @@ QSize OxaSvgPushButton::sizeHint() const
 void OxaSvgPushButton::onCSSChanged()
 {
     const QString name = getSvgIconColorSet();
-    const OxaColorSet set = name.isEmpty()
-            ? textColors()
-            : OxaThemeUtils::getColorSet(name.toStdString(), this);
+    const OxaColorSet set = name.isEmpty() ? textColors()
+                                           : OxaThemeUtils::getColorSet(name.toStdString(), this);
     for (OxaSvgIcon *icon : { m_iconBlock.icon().get(), m_checkedIcon.get() }) {
         if (icon)
             icon->setColorSet(set);
