@@ -104,7 +104,7 @@ QString EmojiArtwork::pathOf(const QString &stem)
             return known->path;
         memory().files.clear(); // The others are likely to have changed as well.
     }
-    const QString path = QLatin1String(":/emojis/") + stem + QLatin1String(".svg");
+    QString path = QLatin1String(":/emojis/") + stem + QLatin1String(".svg");
     const QResource resource(path);
     if (!resource.data() || !QSvgRenderer(resource.uncompressedData()).isValid())
         return {};
