@@ -22,15 +22,17 @@ inline QMargins mirrored(const QMargins &margins)
 }
 
 /// Returns \a pixmap, which must not be null, painted over with \a color in its own shape.
-inline QPixmap tinted(QPixmap pixmap, const QColor &color)
+inline QPixmap tinted(const QPixmap &pixmap, const QColor &color)
 {
-    QPainter painter(&pixmap);
+    QPixmap tinted = pixmap;
+    QPainter painter(&tinted);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.setBrush(color);
     painter.setPen(color);
     painter.drawRect(pixmap.rect());
-    return pixmap;
+    painter.end();
+    return tinted;
 }
 
 } // namespace WidgetParts
