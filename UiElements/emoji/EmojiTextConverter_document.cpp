@@ -129,6 +129,9 @@ void EmojiTextConverter::setHtml(QTextDocument *document, const QString &attribu
     // An image after a block is added to it, but text starts a new one: no marks there.
     std::vector<EmojiMarkup::Source> sources;
     const QString marked = EmojiMarkup::hasBlocks(body) ? body : EmojiMarkup::marked(body, sources);
+    // An undo would bring the marks back.
+    const bool isUndoEnabled = document->isUndoRedoEnabled();
+    document->setUndoRedoEnabled(false);
     QTextCursor cursor(document);
     cursor.beginEditBlock();
     document->setHtml(QLatin1String("<div ") + attributes + QLatin1Char('>') + marked
@@ -136,4 +139,5 @@ void EmojiTextConverter::setHtml(QTextDocument *document, const QString &attribu
     insertPictures(cursor, sources.empty() ? placeholdersIn(*document) : marksIn(document, sources),
                    m_emojiSize, int(m_emojiSize * m_pixelRatio));
     cursor.endEditBlock();
+    document->setUndoRedoEnabled(isUndoEnabled);
 }

@@ -73,13 +73,21 @@ QString LabelLines::endingInEllipsis(QString line, const QFont &font, int width)
     const QString ending = QString(QChar::Nbsp) + ellipsis;
     const int endingWidth = metrics.horizontalAdvance(ending);
     const int ellipsisWidth = metrics.horizontalAdvance(ellipsis);
-    // A binary search: a line may have many characters without a width, or tags.
+    // A binary search: a line may have many characters without a width, or tags. What is left is
+    // measured by itself: at its end letters are joined and kerned in another way than inside.
     const auto lengthWithin = [&](int available) {
+        const auto fits = [&](int length) {
+            return length <= line.size()
+                    && metrics.horizontalAdvance(line.left(length)) <= available;
+        };
         int longest = 0;
         for (int tooLong = line.size() + 1; tooLong - longest > 1;) {
             const int middle = longest + (tooLong - longest) / 2;
-            (metrics.horizontalAdvance(line, middle) <= available ? longest : tooLong) = middle;
+            (fits(middle) ? longest : tooLong) = middle;
         }
+        // A letter that joins the one before it may make the line narrower.
+        while (fits(longest + 2))
+            longest += 2;
         return longest;
     };
     // A line that fits only without the added space must itself end in one.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ItemSpacing_p.h"
+#include "LayoutPass_p.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -17,8 +18,8 @@ int styleSpacing(const QStyle &style, Qt::Orientation orientation)
 } // namespace
 
 ItemSpacing::ItemSpacing(const FlowLayout &layout)
-    : m_ownX(layout.horizontalSpacing()),
-      m_ownY(layout.verticalSpacing()),
+    : m_ownX(LayoutPass::held(layout.horizontalSpacing())),
+      m_ownY(LayoutPass::held(layout.verticalSpacing())),
       m_leavesToStyle(m_ownX == noSpacing || m_ownY == noSpacing),
       m_x(m_ownX),
       m_y(m_ownY)

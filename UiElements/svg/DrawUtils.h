@@ -28,8 +28,8 @@ struct QSvgExtraStates;
 namespace DrawUtils {
 
 /// Shrinks \a rect in place to \a aspectRatio, its width divided by its height, around the same
-/// centre. Leaves it unchanged if the result would not be finite: for an empty rectangle, and for
-/// infinity and NaN in either.
+/// centre. Leaves it unchanged if the result would not be finite: for a rectangle of 0 by 0, and
+/// for infinity and NaN in either.
 UIELEMENTS_EXPORT void fitRectangle(QRectF &rect, double aspectRatio);
 
 /// Returns \a pixmap scaled, in its proportions, to fill \a rect at \a devicePixelRatio. Shrinks

@@ -88,11 +88,11 @@ void OxaPillTabButton::resizeEvent(QResizeEvent *event)
 void OxaPillTabButton::onApplyCSS(bool isChecked)
 {
     const Colors &colors = isChecked ? m_checked : m_unchecked;
-    const bool hasBorder = !colors.border.trimmed().isEmpty();
     const QPointer<OxaPillTabButton> self(this); // A slot may delete the button.
     setSvgIconColorSet(colors.icon);
     if (!self)
         return;
+    const bool hasBorder = !colors.border.trimmed().isEmpty();
     m_style.backgroundColorSetName = colors.background;
     m_style.borderColorSetName = colors.border;
     m_style.textColorSetName = colors.text;

@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <QPointer>
 #include <QStyleOptionButton>
 
 OxaSvgAnchorButton::OxaSvgAnchorButton(QWidget *parent) : OxaSvgAnchorButton(QString(), parent) { }
@@ -24,8 +25,10 @@ QString OxaSvgAnchorButton::getAnchorSvgOn() const { return m_anchorOn->getFileP
 void OxaSvgAnchorButton::setAnchorSvgOn(const QString &path)
 {
     m_anchorOn->setFilePath(path);
-    update();
+    const QPointer<OxaSvgAnchorButton> self(this); // A slot may delete the button.
     Q_EMIT anchorSvgOnChanged(path);
+    if (self)
+        update();
 }
 
 QString OxaSvgAnchorButton::getAnchorSvgOff() const { return m_anchorOff->getFilePath(); }
@@ -33,8 +36,10 @@ QString OxaSvgAnchorButton::getAnchorSvgOff() const { return m_anchorOff->getFil
 void OxaSvgAnchorButton::setAnchorSvgOff(const QString &path)
 {
     m_anchorOff->setFilePath(path);
-    update();
+    const QPointer<OxaSvgAnchorButton> self(this); // A slot may delete the button.
     Q_EMIT anchorSvgOffChanged(path);
+    if (self)
+        update();
 }
 
 QSize OxaSvgAnchorButton::getAnchorIconSize() const { return m_anchorOn->getIconSize(); }

@@ -23,8 +23,10 @@ QSize OxaSvgIconBlock::size() const { return m_icon ? m_icon->getIconSize() : QS
 void OxaSvgIconBlock::setSize(const QSize &size)
 {
     ensureSvgIconExists().setIconSize(size);
-    m_widget->update();
+    const QPointer<QWidget> widget(m_widget); // A slot may delete the widget.
     m_class.emitSizeChanged(m_widget, size);
+    if (widget)
+        widget->update();
 }
 
 void OxaSvgIconBlock::setColorSetName(const QString &name)
@@ -32,8 +34,10 @@ void OxaSvgIconBlock::setColorSetName(const QString &name)
     m_colorSetName = name;
     OxaSvgIcon &icon = ensureSvgIconExists();
     icon.setColorSet(colorSetOrFallback(name));
-    m_widget->update();
+    const QPointer<QWidget> widget(m_widget); // A slot may delete the widget.
     m_class.emitColorSetChanged(m_widget, icon.getColorSet());
+    if (widget)
+        widget->update();
 }
 
 QString OxaSvgIconBlock::innerPath() const

@@ -29,7 +29,7 @@ void MissingColors::tellOfLeftovers(const QString &sheet, const QWidget *widget)
         if (!name.isEmpty())
             tell(name, widget);
     }
-    static const QRegularExpression reference(QStringLiteral(R"(\$\(([^)]*)\))"));
+    static const QRegularExpression reference(QStringLiteral(R"(\$\(([^)$\n]*)\))"));
     for (auto found = reference.globalMatch(sheet); found.hasNext();)
         tell(found.next().captured(1), widget);
 }

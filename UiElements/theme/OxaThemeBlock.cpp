@@ -14,6 +14,17 @@ using OxaThemeUtils::AppThemeType;
 
 namespace {
 
+/// True for themed widgets. Others that have a theme type know nothing of changes, so that each
+/// signal of theirs is a change of its own.
+bool beginsChanges(const QObject *parent)
+{
+    return !parent || parent->metaObject()->indexOfSlot("refreshCSS()") >= 0;
+}
+
+} // namespace
+
+namespace {
+
 void keep(OxaColorSet *place, const OxaColorSet &set)
 {
     if (place)
@@ -85,10 +96,9 @@ void OxaThemeBlock::changeEvent(const QEvent *event)
     takeThemeTypeFromAbove();
 }
 
-void OxaThemeBlock::onParentThemeTypeChanged()
+void OxaThemeBlock::onParentThemeTypeChanged(const QObject *parent)
 {
-    if (ThemeChange::depth() == 0) {
-        // The parent is not a themed widget, which would have begun the change.
+    if (ThemeChange::depth() == 0 || !beginsChanges(parent)) {
         const ThemeChange change;
         takeThemeTypeFromAbove();
     } else if (ThemeChange::reachesChildren() && m_change != ThemeChange::depth()) {

@@ -81,9 +81,10 @@ public:
     /// Follows a new parent and takes over its theme type. For the widget's changeEvent().
     void changeEvent(const QEvent *event);
 
-    /// Takes over the theme type of the widget's parent, or else of its window, if that differs;
-    /// once in each change, for any number of calls.
-    void onParentThemeTypeChanged();
+    /// Takes over the theme type of the widget's parent, or else of its window, if that differs,
+    /// but not while the widget passes the same change on. \a parent has emitted
+    /// themeTypeChanged().
+    void onParentThemeTypeChanged(const QObject *parent);
 
 private:
     /// One widget class's signals and slots, as functions on the widget.
@@ -179,10 +180,10 @@ protected:                                                                      
                                                                                                    \
 private Q_SLOTS:                                                                                   \
     void refreshCSS() { m_themeBlock.refreshCSS(); }                                               \
-    void onParentThemeTypeChanged() { m_themeBlock.onParentThemeTypeChanged(); }                   \
+    void onParentThemeTypeChanged() { m_themeBlock.onParentThemeTypeChanged(sender()); }           \
                                                                                                    \
 private:                                                                                           \
-    friend class OxaThemeBlock;                                                                    \
+    friend class ::OxaThemeBlock;                                                                  \
     QByteArray _getCSS() const { return m_themeBlock.styleText().toUtf8(); }                       \
     void _setCSS(const QByteArray &utf8) { m_themeBlock.setCSS(QString::fromUtf8(utf8)); }         \
     QString _getThemeType() const { return m_themeBlock.themeType(); }                             \

@@ -96,11 +96,8 @@ AppThemeType OxaThemeUtils::getThemeTypeOfWidget(const QWidget *widget)
 
 OxaColorSet OxaThemeUtils::getColorSet(const std::string &name, const QWidget *widget)
 {
-    const AppThemeType themeType = getThemeTypeOfWidget(widget);
-    const OxaColorSetMap &store = getOxaColorSetsByThemeType(themeType);
-    const bool isMissing = !name.empty() && store.find(name) == store.cend();
-    const OxaColorSet set = getColorSet(name, themeType);
-    if (isMissing && widget)
+    OxaColorSet set = getColorSet(name, getThemeTypeOfWidget(widget));
+    if (widget && !set.isValid() && !name.empty())
         MissingColors::tell(QString::fromStdString(name), widget);
     return set;
 }

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void makesTwentyLinesAtMost();
     void endsInAnEllipsis_data();
     void endsInAnEllipsis();
+    void cutsALongLineAtTheLastCharacterThatFits_data();
     void cutsALongLineAtTheLastCharacterThatFits();
     void cutsALineOfManyTagsQuickly();
 };
@@ -137,10 +138,25 @@ void tst_LabelLines::endsInAnEllipsis()
         QCOMPARE(LabelLines::endingInEllipsis(line, font(), 1), QStringLiteral("\u00A0\u2026"));
 }
 
+void tst_LabelLines::cutsALongLineAtTheLastCharacterThatFits_data()
+{
+    QTest::addColumn<QFont>("lineFont");
+    QTest::addColumn<QString>("words");
+    QFont proportional(QStringLiteral("DejaVu Sans"));
+    proportional.setPixelSize(16);
+    QTest::newRow("words and tags") << font() << QStringLiteral("some words and <img src=\"x\"> ");
+    QTest::newRow("kerned letters and ligatures")
+            << proportional << QStringLiteral("AVAToffice fire ");
+    QTest::newRow("letters that join those before them")
+            << proportional << QStringLiteral("\u0628\u0628\u0628\u0633\u0628\u0633\u0628\u0628 ");
+}
+
 void tst_LabelLines::cutsALongLineAtTheLastCharacterThatFits()
 {
-    const QFontMetrics metrics(font());
-    const QString line = QStringLiteral("some words and <img src=\"x\"> ").repeated(10);
+    QFETCH(const QFont, lineFont);
+    QFETCH(const QString, words);
+    const QFontMetrics metrics(lineFont);
+    const QString line = words.repeated(10);
     for (int width = 1; width < metrics.horizontalAdvance(line) + 40; width += 7) {
         QString expected = line;
         const auto ending = [&expected] {
@@ -150,7 +166,7 @@ void tst_LabelLines::cutsALongLineAtTheLastCharacterThatFits()
         while (!expected.isEmpty()
                && metrics.horizontalAdvance(expected) + metrics.horizontalAdvance(ending()) > width)
             expected.chop(1);
-        QCOMPARE(LabelLines::endingInEllipsis(line, font(), width), expected + ending());
+        QCOMPARE(LabelLines::endingInEllipsis(line, lineFont, width), expected + ending());
     }
 }
 

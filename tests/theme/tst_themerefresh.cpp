@@ -4,6 +4,7 @@
 #include "support/SignalLog.h"
 #include "support/TestApplication.h"
 
+#include <QFrame>
 #include <QPointer>
 #include <QSignalSpy>
 
@@ -48,6 +49,23 @@ private:
 
 } // namespace
 
+namespace client {
+
+/// A client's themed widget in the client's own namespace.
+class Tag : public QFrame
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QFrame)
+
+public:
+    explicit Tag(QWidget *parent = nullptr) : QFrame(parent) { m_themeBlock.followTheme(); }
+
+protected Q_SLOTS:
+    virtual void onThemeChanged() { }
+};
+
+} // namespace client
+
 /// OxaThemeUtils::refreshThemedWidgets().
 class tst_ThemeRefresh : public QObject
 {
@@ -69,6 +87,8 @@ private Q_SLOTS:
     void changesNoThemeTypeUnderAForeignWindow();
     void setsTheTypeOfAForeignWidgetAgain();
     void handsOnATypeThatASlotSets();
+    void handsOnATypeThatASlotSetsOnAForeignWindow();
+    void refreshesAWidgetInANamespace();
     void takesTheTypeOfAParentThatASlotGives();
     void survivesWidgetsThatASlotDeletes();
     void survivesWidgetsThatASlotAdds();
@@ -227,6 +247,42 @@ void tst_ThemeRefresh::survivesWidgetsThatASlotAdds()
     QVERIFY(shows(old, "#ff778899"));
     QVERIFY(std::all_of(made.begin(), made.end(),
                         [](const OxaWidget *one) { return shows(*one, "#ff778899"); }));
+}
+
+void tst_ThemeRefresh::handsOnATypeThatASlotSetsOnAForeignWindow()
+{
+    ForeignWindow window;
+    OxaLabel label(&window);
+    const auto typeOf = [](const QWidget &widget) {
+        return widget.property("themeType").toString();
+    };
+    const auto connection = connect(&label, &OxaLabel::themeTypeChanged, &window, [&window] {
+        if (window.themeType() != QLatin1String("inverted"))
+            window.setThemeType(QStringLiteral("inverted"));
+    });
+    label.setThemeType(QStringLiteral("light"));
+    QCOMPARE(typeOf(label), QStringLiteral("inverted"));
+
+    window.setThemeType(QStringLiteral("dark"));
+    QCOMPARE(typeOf(label), QStringLiteral("inverted"));
+    disconnect(connection);
+    connect(&label, &OxaLabel::cssChanged, &window, [&window] {
+        if (window.themeType() != QLatin1String("light"))
+            window.setThemeType(QStringLiteral("light"));
+    });
+    OxaThemeUtils::refreshThemedWidgets();
+    QCOMPARE(typeOf(label), QStringLiteral("light"));
+}
+
+void tst_ThemeRefresh::refreshesAWidgetInANamespace()
+{
+    client::Tag tag;
+    tag.setObjectName(QStringLiteral("tag"));
+    tag.setCSS(QStringLiteral("$backgroundColors: panel;"));
+    const QString before = tag.styleSheet();
+    replaceStores();
+    OxaThemeUtils::refreshThemedWidgets(&tag);
+    QVERIFY(tag.styleSheet() != before);
 }
 
 UIELEMENTS_TEST_MAIN(tst_ThemeRefresh)
