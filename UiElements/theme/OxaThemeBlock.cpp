@@ -98,10 +98,12 @@ void OxaThemeBlock::changeEvent(const QEvent *event)
 
 void OxaThemeBlock::onParentThemeTypeChanged(const QObject *parent)
 {
+    if (ThemeChange::refreshes(parent))
+        return;
     if (ThemeChange::depth() == 0 || !beginsChanges(parent)) {
         const ThemeChange change;
         takeThemeTypeFromAbove();
-    } else if (ThemeChange::reachesChildren() && m_change != ThemeChange::depth()) {
+    } else if (m_change != ThemeChange::depth()) {
         takeThemeTypeFromAbove();
     }
 }

@@ -43,7 +43,7 @@ QWidgetList allWidgets()
 /// Makes \a widget, and no other with it, take the current colours.
 void refresh(QWidget *widget)
 {
-    const ThemeChange change(ThemeChange::Reach::OneWidget);
+    const ThemeChange change(widget);
     const QMetaObject *type = widget->metaObject();
     const QMetaMethod refreshCSS = type->method(type->indexOfSlot("refreshCSS()"));
     const QMetaMethod themeTypeChanged = type->method(type->indexOfSignal("themeTypeChanged()"));

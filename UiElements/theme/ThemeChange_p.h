@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-/// A change of a theme type on its way from parents to children. Changes nest: a slot may begin
-/// another one.
+class QObject;
+
+/// A change of a theme type on its way from parents to children, or the refresh of one widget.
+/// Changes nest: a slot may begin another one.
 class ThemeChange
 {
 public:
-    /// Whether children follow their parents.
-    enum class Reach { Children, OneWidget };
-
-    explicit ThemeChange(Reach reach = Reach::Children) : m_outer(s_current)
+    /// Begins a change, or the refresh of \a refreshed, whose children do not follow.
+    explicit ThemeChange(const QObject *refreshed = nullptr) : m_outer(s_current)
     {
-        s_current = { m_outer.depth + 1, reach };
+        s_current = { m_outer.depth + 1, refreshed };
     }
     ~ThemeChange() { s_current = m_outer; }
     ThemeChange(const ThemeChange &) = delete;
@@ -20,16 +20,16 @@ public:
     /// Returns how many changes are in progress: a number of its own for each of them.
     static int depth() { return s_current.depth; }
 
-    /// True when children follow in the innermost change.
-    static bool reachesChildren() { return s_current.reach == Reach::Children; }
+    /// True when the innermost change is the refresh of \a widget.
+    static bool refreshes(const QObject *widget) { return widget && s_current.refreshed == widget; }
 
 private:
     struct State
     {
         int depth;
-        Reach reach;
+        const QObject *refreshed;
     };
 
-    inline static State s_current = { 0, Reach::Children };
+    inline static State s_current = { 0, nullptr };
     const State m_outer;
 };
