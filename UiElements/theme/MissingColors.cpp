@@ -3,6 +3,7 @@
 
 #include <UiElements/theme/OxaThemeUtils.h>
 
+#include <QDebug>
 #include <QLoggingCategory>
 #include <QRegularExpression>
 #include <QWidget>
@@ -15,8 +16,10 @@ Q_LOGGING_CATEGORY(themeLog, "uielements.theme", QtWarningMsg)
 
 void MissingColors::tell(const QString &name, const QWidget *widget)
 {
-    qCInfo(themeLog) << "No colours called" << name << "for" << widget->metaObject()->className()
-                     << widget->objectName();
+    if (themeLog().isInfoEnabled())
+        QMessageLogger(nullptr, 0, nullptr, themeLog().categoryName()).info()
+                << "No colours called" << name << "for" << widget->metaObject()->className()
+                << widget->objectName();
 }
 
 void MissingColors::tellOfLeftovers(const QString &sheet, const QWidget *widget)

@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QVariant>
 #include <QVector>
+#include <QWidget>
 
 using OxaThemeUtils::AppThemeType;
 

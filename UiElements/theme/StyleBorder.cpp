@@ -106,7 +106,7 @@ QString takeDirective(QString &sheet, QStringView tag, int from, int &position)
     const auto directive = StyleDirective::find(sheet, tag, from);
     if (!directive)
         return {};
-    const QString value = directive->valueIn(sheet);
+    QString value = directive->valueIn(sheet);
     if (!value.isEmpty())
         position = directive->position;
     sheet.remove(directive->position, directive->length);
