@@ -132,28 +132,22 @@ void addPushButton(Page &page)
     controls->addWidth(narrowest, widest);
 }
 
-void addUnderlineButton(Page &page)
+QWidget *makeUnderlineButton()
 {
-    const auto make = [] {
-        auto *button = new OxaUnderlineButton;
-        button->setText(tr("Messages"));
-        button->setFontToken(OxaFont::Token::TagLabelPrimary);
-        button->setCheckable(true);
-        button->setElideMode(Qt::ElideRight);
-        button->setFixedSize(128, 36);
-        button->setUnderlineColorSet(QStringLiteral("gallery-accent"));
-        button->setShowUnreadIndicator(true);
-        button->setAnchorIcon(WidgetCard::icon("arrow-down_8"));
-        return button;
-    };
-    auto *controls = WidgetCard::add(
-            page, tr("OxaUnderlineButton"),
-            tr("A tab that is underlined while it is checked or held down, with room for a dot or "
-               "an image before its text and a small icon after it. The dot wins over the image."),
-            make);
-    addTexts(controls, tr("Messages"));
-    addRoles(controls);
-    controls->offer("ColorSet", WidgetCard::colorSets());
+    auto *button = new OxaUnderlineButton;
+    button->setText(tr("Messages"));
+    button->setFontToken(OxaFont::Token::TagLabelPrimary);
+    button->setCheckable(true);
+    button->setElideMode(Qt::ElideRight);
+    button->setFixedSize(128, 36);
+    button->setUnderlineColorSet(QStringLiteral("gallery-accent"));
+    button->setShowUnreadIndicator(true);
+    button->setAnchorIcon(WidgetCard::icon("arrow-down_8"));
+    return button;
+}
+
+void offerPictures(PropertyControls *controls)
+{
     const QImage picture = QImage(QStringLiteral(":/emojis/1f600.svg"))
                                    .scaled(2 * pictureSize, Qt::KeepAspectRatio,
                                            Qt::SmoothTransformation);
@@ -162,6 +156,19 @@ void addUnderlineButton(Page &page)
                     { { tr("None"), QString() },
                       { tr("Down"), WidgetCard::icon("arrow-down_8") },
                       { tr("Up"), WidgetCard::icon("arrow-up_8") } });
+}
+
+void addUnderlineButton(Page &page)
+{
+    auto *controls = WidgetCard::add(
+            page, tr("OxaUnderlineButton"),
+            tr("A tab that is underlined while it is checked or held down, with room for a dot or "
+               "an image before its text and a small icon after it. The dot wins over the image."),
+            makeUnderlineButton);
+    addTexts(controls, tr("Messages"));
+    addRoles(controls);
+    controls->offer("ColorSet", WidgetCard::colorSets());
+    offerPictures(controls);
     controls->setRange("borderWidth", 1, 8);
     controls->setRange("bottomPadding", 0, 16);
     controls->addAll();
