@@ -63,8 +63,10 @@ void NavigationList::setCurrentPage(const QString &name)
 
 void NavigationList::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() != Qt::Key_Home && event->key() != Qt::Key_End)
-        return OxaWidget::keyPressEvent(event);
+    if (event->key() != Qt::Key_Home && event->key() != Qt::Key_End) {
+        OxaWidget::keyPressEvent(event);
+        return;
+    }
     const QStringList names = pageNames();
     OxaToggleButton *item = m_items.at(event->key() == Qt::Key_Home ? names.first() : names.last());
     item->click();

@@ -26,8 +26,10 @@ void appendItems(const QLayout &layout, std::vector<QWidget *> &widgets)
 /// Appends all widgets inside \a parent to \a widgets, in the order of layouts where there are any.
 void appendContents(const QWidget &parent, std::vector<QWidget *> &widgets)
 {
-    if (parent.layout())
-        return appendItems(*parent.layout(), widgets);
+    if (parent.layout()) {
+        appendItems(*parent.layout(), widgets);
+        return;
+    }
     const auto children = parent.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (QWidget *child : children) {
         widgets.push_back(child);

@@ -130,15 +130,20 @@ void PropertyControls::add(const QMetaProperty &property)
     }
     switch (property.userType()) {
     case QMetaType::Bool:
-        return addChoiceOf(name, noAndYes());
+        addChoiceOf(name, noAndYes());
+        break;
     case QMetaType::Int:
-        return addNumberOf(name);
+        addNumberOf(name);
+        break;
     case QMetaType::QSize:
-        return addSizeOf(name);
+        addSizeOf(name);
+        break;
     case QMetaType::QPoint:
-        return addPointOf(name);
+        addPointOf(name);
+        break;
     case QMetaType::QString:
-        return addTextOf(name);
+        addTextOf(name);
+        break;
     default:
         break;
     }

@@ -34,12 +34,12 @@ QString textOf(const OxaColorSetMap &store)
 ApplicationState ApplicationState::now()
 {
     ApplicationState state;
-    if (!qApp)
+    if (!QCoreApplication::instance())
         return state;
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     state.addProperties();
     state.addStores();
-    if (qobject_cast<QGuiApplication *>(qApp))
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         state.addWindows();
     return state;
 }
@@ -59,33 +59,34 @@ QStringList ApplicationState::differencesTo(const ApplicationState &before) cons
 
 void ApplicationState::addProperties()
 {
-    const QMetaObject *const metaObject = qApp->metaObject();
+    const QMetaObject *const metaObject = QCoreApplication::instance()->metaObject();
     for (int i = 0; i < metaObject->propertyCount(); ++i) {
         const QMetaProperty property = metaObject->property(i);
         if (!property.isWritable())
             continue;
-        QVariant value = property.read(qApp);
+        QVariant value = property.read(QCoreApplication::instance());
         if (property.isEnumType()) // Reads as int until the type is registered.
             value.convert(QMetaType::Int);
         m_texts.insert(QLatin1String(property.name()), textOf(value));
     }
-    const QList<QByteArray> names = qApp->dynamicPropertyNames();
+    const QList<QByteArray> names = QCoreApplication::instance()->dynamicPropertyNames();
     for (const QByteArray &name : names)
-        m_texts.insert(QLatin1String(name), textOf(qApp->property(name.constData())));
+        m_texts.insert(QLatin1String(name),
+                       textOf(QCoreApplication::instance()->property(name.constData())));
 }
 
 void ApplicationState::addWindows()
 {
     m_texts.insert(QStringLiteral("font"), textOf(QGuiApplication::font()));
     m_texts.insert(QStringLiteral("palette"), textOf(QGuiApplication::palette()));
-    if (qobject_cast<QApplication *>(qApp))
+    if (qobject_cast<QApplication *>(QCoreApplication::instance()))
         m_texts.insert(QStringLiteral("widgets"), textOf(QApplication::topLevelWidgets()));
     m_texts.insert(QStringLiteral("windows"), textOf(QGuiApplication::topLevelWindows()));
 }
 
 void ApplicationState::addStores()
 {
-    const auto *const application = qobject_cast<IOxaApplication *>(qApp);
+    const auto *const application = qobject_cast<IOxaApplication *>(QCoreApplication::instance());
     if (!application)
         return;
     m_texts.insert(QStringLiteral("store"), textOf(application->getColorSets()));
