@@ -120,8 +120,10 @@ void PropertyControls::add(const QMetaProperty &property)
         || hasControl(name))
         return;
     for (const auto &[ending, choices] : qAsConst(m_offers)) {
-        if (QByteArray(name).endsWith(ending))
-            return addChoiceOf(name, choices);
+        if (QByteArray(name).endsWith(ending)) {
+            addChoiceOf(name, choices);
+            return;
+        }
     }
     if (property.isEnumType()) {
         if (!property.isFlagType() && property.enumerator().keyCount() <= mostChoices)

@@ -20,6 +20,7 @@ SearchField::SearchField(const QString &hint, QWidget *parent) : LineEdit(parent
 void SearchField::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape && !text().isEmpty())
-        return clear();
-    LineEdit::keyPressEvent(event);
+        clear();
+    else
+        LineEdit::keyPressEvent(event);
 }
