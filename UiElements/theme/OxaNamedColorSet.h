@@ -23,14 +23,17 @@ public:
     /// Returns the set as the last fetch() found it.
     const OxaColorSet &colors() const { return m_colors; }
 
-    /// Looks the set up in the theme of \a widget. Warnings as in OxaThemeUtils::getColorSet().
-    void fetch(const QWidget *widget)
+    /// Looks the set up in the theme of \a widget, a themed one. Warnings as in
+    /// OxaThemeUtils::getColorSet().
+    template <typename Widget>
+    void fetch(const Widget *widget)
     {
-        m_colors = OxaThemeUtils::getColorSet(m_name.toStdString(), widget);
+        m_colors = OxaThemeUtils::getColorSet(m_name.toStdString(), widget->getThemeType(), widget);
     }
 
     /// Does the same with the set called \a name from now on.
-    void fetch(const QString &name, const QWidget *widget)
+    template <typename Widget>
+    void fetch(const QString &name, const Widget *widget)
     {
         m_name = name;
         fetch(widget);

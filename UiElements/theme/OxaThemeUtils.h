@@ -124,6 +124,10 @@ UIELEMENTS_EXPORT OxaColorSet getColorSet(const std::string &name, AppThemeType 
 /// the logging category "uielements.theme", which is off by default, also names the widget.
 UIELEMENTS_EXPORT OxaColorSet getColorSet(const std::string &name, const QWidget *widget);
 
+/// The same for a \a widget that knows its \a themeType, which takes long to look up.
+UIELEMENTS_EXPORT OxaColorSet getColorSet(const std::string &name, AppThemeType themeType,
+                                          const QWidget *widget);
+
 /// Returns the set "transparent", with Qt::transparent in all six states. It is valid.
 UIELEMENTS_EXPORT OxaColorSet transparentColourSet();
 

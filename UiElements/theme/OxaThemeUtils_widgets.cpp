@@ -97,7 +97,13 @@ AppThemeType OxaThemeUtils::getThemeTypeOfWidget(const QWidget *widget)
 
 OxaColorSet OxaThemeUtils::getColorSet(const std::string &name, const QWidget *widget)
 {
-    OxaColorSet set = getColorSet(name, getThemeTypeOfWidget(widget));
+    return getColorSet(name, getThemeTypeOfWidget(widget), widget);
+}
+
+OxaColorSet OxaThemeUtils::getColorSet(const std::string &name, AppThemeType themeType,
+                                       const QWidget *widget)
+{
+    OxaColorSet set = getColorSet(name, themeType);
     if (widget && !set.isValid() && !name.empty())
         MissingColors::tell(QString::fromStdString(name), widget);
     return set;

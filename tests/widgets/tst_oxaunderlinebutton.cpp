@@ -219,7 +219,7 @@ void tst_OxaUnderlineButton::leavesSetsThatTheThemeLacksAlone()
 
 void tst_OxaUnderlineButton::fetchesANamedSetAgainAfterTheThemeLackedIt()
 {
-    const QWidget widget;
+    const OxaPushButton widget;
     OxaNamedColorSet set(line.name);
     QVERIFY(!set.colors().isValid());
     set.fetch(&widget);
