@@ -21,14 +21,11 @@ bool beginsChanges(const QObject *parent)
     return !parent || parent->metaObject()->indexOfSlot("refreshCSS()") >= 0;
 }
 
-} // namespace
-
-namespace {
-
-void keep(OxaColorSet *place, const OxaColorSet &set)
+template <typename Value>
+void keep(Value *place, const Value &value)
 {
     if (place)
-        *place = set;
+        *place = value;
 }
 
 } // namespace
@@ -46,8 +43,10 @@ void OxaThemeBlock::setCSS(const QString &styleText)
             WidgetStyleText::parse(m_widget, effectiveThemeType(), m_styleText,
                                    OxaThemeUtils::getAppOxaColorSets());
     m_cssData = result.oxaCSS;
-    keep(m_keptSets.text, result.textColorSet);
-    keep(m_keptSets.background, result.backgroundColorSet);
+    keep(m_kept.text, result.textColorSet);
+    keep(m_kept.background, result.backgroundColorSet);
+    keep(m_kept.border, result.borderColorSet);
+    keep(m_kept.cssData, m_cssData);
 
     const QString &sheet = result.expandedStyleSheet;
     // Never switched off: a rule in a parent's style sheet may need the attribute too.

@@ -10,12 +10,13 @@
 #include <QObject>
 #include <QWidget>
 
-/// The places where a widget keeps colour sets of its style text, to paint with them; null for a
-/// set that it does not use.
-struct OxaKeptColorSets
+/// The places where a widget keeps what it needs of its style text; null for what it does not use.
+struct OxaKeptStyle
 {
     OxaColorSet *text = nullptr;
     OxaColorSet *background = nullptr;
+    OxaColorSet *border = nullptr;
+    OxaCSSData *cssData = nullptr;
 };
 
 /// Binds a widget to the theme: the behaviour behind UIELEMENTS_THEME_BLOCK.
@@ -34,12 +35,11 @@ public:
         StyledBackground, ///< Makes a plain QWidget paint its sheet's background; follows no name.
     };
 
-    /// Serves \a widget, which must outlive the block. Each setCSS() stores the sets of the style
-    /// text where \a keptSets points.
+    /// Serves \a widget, which must outlive the block. Each setCSS() stores what \a kept points
+    /// to.
     template <typename Widget>
-    explicit OxaThemeBlock(Widget *widget, Form form = Form::Full,
-                           const OxaKeptColorSets &keptSets = {})
-        : m_widget(widget), m_class(classOf<Widget>), m_form(form), m_keptSets(keptSets)
+    explicit OxaThemeBlock(Widget *widget, Form form = Form::Full, const OxaKeptStyle &kept = {})
+        : m_widget(widget), m_class(classOf<Widget>), m_form(form), m_kept(kept)
     {
     }
     ~OxaThemeBlock() = default;
@@ -107,7 +107,7 @@ private:
     const WidgetClass &m_class;
     const Form m_form;
     int m_change = 0; ///< The change that the widget is passing on.
-    const OxaKeptColorSets m_keptSets;
+    const OxaKeptStyle m_kept;
     QString m_styleText;
     OxaCSSData m_cssData;
     QString m_themeType = QStringLiteral("global");
