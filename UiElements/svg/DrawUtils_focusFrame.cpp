@@ -9,6 +9,8 @@ namespace {
 
 QColor inverse(const QColor &color)
 {
+    if (!color.isValid())
+        return Qt::transparent;
     return { 255 - color.red(), 255 - color.green(), 255 - color.blue() };
 }
 

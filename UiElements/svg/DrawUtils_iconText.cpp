@@ -121,7 +121,7 @@ QRect drawIconText(QPainter &painter, const Block &block, const QStyleOption &op
         painter.restore();
     }
     painter.translate(place.text);
-    painter.setPen(colorForStyleState(textColors, option.state));
+    painter.setPen(orTransparent(colorForStyleState(textColors, option.state)));
     drawText(painter, block, line.text,
              QSize(available, qMax(line.size.height(), block.fontMetrics.height())));
     painter.restore();

@@ -3,6 +3,7 @@
 
 #include <UiElements/fonts/FontUtils.h>
 #include <UiElements/theme/OxaThemeUtils.h>
+#include <UiElements/theme/StateColor_p.h>
 
 #include <QDebug>
 #include <QPainter>
@@ -41,7 +42,7 @@ void DrawUtils::drawUnreadIndicator(QPixmap &pixmap, const QPointF &unreadIndica
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(normalColor("oxa-unreadCountCircle-background"));
+    painter.setBrush(orTransparent(normalColor("oxa-unreadCountCircle-background")));
     const double radius = rect.height() * 0.5;
     painter.drawRoundedRect(rect, radius, radius);
     if (count == 0)
@@ -49,7 +50,7 @@ void DrawUtils::drawUnreadIndicator(QPixmap &pixmap, const QPointF &unreadIndica
 
     painter.setFont(FontUtils::getFontByPixelSize(static_cast<int>(pixmap.width() / 1.6),
                                                   FontUtils::SupportedFontFamily::Interface));
-    painter.setPen(normalColor("oxa-unreadCountCircle-text"));
+    painter.setPen(orTransparent(normalColor("oxa-unreadCountCircle-text")));
     // Centred horizontally only: the number is at the top of the badge.
     painter.drawText(rect, Qt::AlignHCenter, QString::number(qMin(count, maximumCount)));
 }

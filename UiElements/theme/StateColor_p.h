@@ -5,6 +5,12 @@
 
 #include <QStyle>
 
+/// Returns \a color, or a transparent one if it is not valid: Qt would paint that in black.
+inline QColor orTransparent(const QColor &color)
+{
+    return color.isValid() ? color : Qt::transparent;
+}
+
 /// Returns the colour of \a set for a widget in \a state. The strongest state wins: disabled before
 /// pressed, hovered, focused and checked.
 inline QColor colorForStyleState(const OxaColorSet &set, QStyle::State state)

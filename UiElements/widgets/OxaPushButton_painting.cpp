@@ -3,6 +3,7 @@
 
 #include <UiElements/svg/DrawUtils.h>
 #include <UiElements/theme/FocusFrame_p.h>
+#include <UiElements/theme/StateColor_p.h>
 
 #include <QPainter>
 #include <QStyleOptionButton>
@@ -58,8 +59,8 @@ void OxaPushButton::paintFocusFrame(QPainter &painter, const QStyleOptionButton 
 void OxaPushButton::paintBadge(QPainter &painter) const
 {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(
+    painter.setBrush(orTransparent(
             OxaThemeUtils::getColorSet("badge-background", OxaThemeUtils::AppThemeType::Global)
-                    .normal);
+                    .normal));
     painter.drawEllipse(rect().topRight() + badgeOffset, badgeRadius, badgeRadius);
 }

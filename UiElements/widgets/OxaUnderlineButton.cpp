@@ -3,6 +3,7 @@
 
 #include <UiElements/svg/DrawUtils.h>
 #include <UiElements/svg/OxaSvgIcon.h>
+#include <UiElements/theme/StateColor_p.h>
 
 #include <QPainter>
 #include <QStyleOptionButton>
@@ -119,7 +120,7 @@ void OxaUnderlineButton::paintEvent(QPaintEvent *)
 
     const QColor textColor = paintGround(painter, option);
     const QRect textRect = paintIcons(painter, option);
-    painter.setPen(textColor);
+    painter.setPen(orTransparent(textColor));
     painter.drawText(textRect, Qt::AlignCenter,
                      painter.fontMetrics().elidedText(option.text, getElideMode(),
                                                       textRect.width()));
@@ -137,7 +138,8 @@ OxaColorSet OxaUnderlineButton::colorSet(const QString &name) const
 
 QPen OxaUnderlineButton::penOf(const QColor &color) const
 {
-    return { QBrush(color), qreal(m_borderWidth), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin };
+    return { QBrush(orTransparent(color)), qreal(m_borderWidth), Qt::SolidLine, Qt::SquareCap,
+             Qt::BevelJoin };
 }
 
 /// Paints the fill and the underline for the option's state, and returns the colour of its text.
@@ -148,7 +150,7 @@ QColor OxaUnderlineButton::paintGround(QPainter &painter, const QStyleOptionButt
     if (!option.state.testFlag(QStyle::State_Enabled)) {
         textColor = m_textColorSet.colors().disabled;
     } else if (option.state.testFlag(QStyle::State_MouseOver)) {
-        painter.setBrush(m_backgroundColorSet.colors().hovered);
+        painter.setBrush(orTransparent(m_backgroundColorSet.colors().hovered));
         painter.drawRoundedRect(rect, groundRadius, groundRadius);
         textColor = m_textColorSet.colors().hovered;
     }
@@ -189,7 +191,8 @@ QRect OxaUnderlineButton::paintIcons(QPainter &painter, const QStyleOptionButton
 
 void OxaUnderlineButton::drawUnreadDot(QPainter &painter, const QRect &rect) const
 {
-    painter.setBrush(colorSet(QStringLiteral("oxa-unreadCountCircle-background")).normal);
+    painter.setBrush(
+            orTransparent(colorSet(QStringLiteral("oxa-unreadCountCircle-background")).normal));
     painter.setPen(Qt::NoPen);
     painter.drawEllipse(QRect(QPoint(rect.left(), rect.top() + unreadDotTop), unreadDotSize));
 }

@@ -21,9 +21,12 @@ inline QMargins mirrored(const QMargins &margins)
     return { margins.right(), margins.top(), margins.left(), margins.bottom() };
 }
 
-/// Returns \a pixmap, which must not be null, painted over with \a color in its own shape.
+/// Returns \a pixmap, which must not be null, painted over with \a color in its own shape; itself
+/// for a colour that is not valid.
 inline QPixmap tinted(const QPixmap &pixmap, const QColor &color)
 {
+    if (!color.isValid())
+        return pixmap;
     QPixmap tinted = pixmap;
     QPainter painter(&tinted);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
