@@ -14,9 +14,9 @@ set(floors object drag layouts models theme fonts keyboard drawing app widgets s
 set(objectFiles app/OxaObject)
 set(svgFiles svg/OxaPillTabButton svg/OxaSvgAnchorButton svg/OxaSvgLabel svg/OxaSvgPushButton)
 
-# What sources include from above: the application object, a widget's own answer to arrow keys, and the widgets that
-# icon and text are painted for.
-set(upwards theme-app fonts-app keyboard-widgets drawing-svg)
+# What sources include from above: the application object, a widget's own answer to arrow keys, the widgets that are
+# painted for, and the icon buttons of a text input.
+set(upwards theme-app fonts-app keyboard-widgets drawing-svg drawing-widgets widgets-svg)
 
 # Sets <result> to the floor of <file>, a path below SOURCE_DIR.
 function(floor_of file result)

@@ -11,6 +11,7 @@
 #include <memory>
 #include <tuple>
 
+class OxaCheckBox;
 class OxaColorSet;
 class OxaSvgIcon;
 class OxaSvgLabel;
@@ -64,6 +65,16 @@ UIELEMENTS_EXPORT QRect drawSvgIconText(QPainter *painter, const OxaSvgPushButto
 UIELEMENTS_EXPORT QRect drawPixmapIconText(QPainter *painter, const OxaSvgPushButton *button,
                                            QTextDocument *document, const QStyleOption &option,
                                            const QPixmap &pixmap, const OxaColorSet &textColors);
+
+/// Paints box, tick and text of \a checkBox, and its focus frame, in the colours for the option's
+/// state. \a icon is the tick, null for none; \a rounded gives the box corners of \a radius. The
+/// painter stays moved to the place of box and text.
+UIELEMENTS_EXPORT void drawCheckbox(QPainter *painter, const OxaCheckBox *checkBox,
+                                    const QStyleOption &option,
+                                    const std::unique_ptr<OxaSvgIcon> &icon,
+                                    const OxaColorSet &text, const OxaColorSet &border,
+                                    const OxaColorSet &background, const OxaColorSet &focus,
+                                    bool rounded, int radius);
 
 // SVG
 

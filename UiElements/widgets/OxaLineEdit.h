@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+#include <UiElements/fonts/OxaFontBlock.h>
+#include <UiElements/theme/OxaThemeBlock.h>
+
+#include <QLineEdit>
+
+/// A one-line field that takes part in theming: its placeholder has a colour set, its context menu
+/// the theme's colours, and what AltGr types reaches the text instead of firing a shortcut.
+///
+/// QEvent::PaletteChange, QEvent::HoverEnter and QEvent::HoverLeave end here: QLineEdit, and
+/// changeEvent() with it, does not see them. An event filter does.
+///
+/// The contents margins and the alignment follow the layout direction of the application when it
+/// changes, the alignment only where it is not Qt::AlignCenter or Qt::AlignHCenter.
+class UIELEMENTS_EXPORT OxaLineEdit : public QLineEdit
+{
+    Q_OBJECT
+    UIELEMENTS_THEME_BLOCK(QLineEdit)
+    UIELEMENTS_FONT_BLOCK
+    Q_PROPERTY(QString placeholderColorSetName READ getPlaceholderColorSetName WRITE
+                       setPlaceholderColorSetName)
+
+public:
+    /// Makes an empty field.
+    explicit OxaLineEdit(QWidget *parent = nullptr);
+
+    /// Makes a field with \a text.
+    explicit OxaLineEdit(const QString &text, QWidget *parent = nullptr);
+
+    /// Returns the name of the placeholder's colour set. Empty by default.
+    QString getPlaceholderColorSetName() const;
+
+    /// Colours the placeholder with the set called \a name in the field's theme: hovered under the
+    /// pointer, disabled where the field is, else normal. A set that does not exist warns and
+    /// leaves the palette alone.
+    void setPlaceholderColorSetName(const QString &name);
+
+    /// Has the application's style draw a focus frame while the field has the focus by keyboard. It
+    /// cannot be turned off again.
+    void enableFocusRing();
+
+public Q_SLOTS:
+    /// Swaps the left and right contents margins, and aligns the text to the side where its
+    /// language starts: left where the application's property "TextDirection" is not 0, else by the
+    /// layout direction.
+    void onLayoutDirectionChanged();
+
+Q_SIGNALS:
+    /// The pointer came onto the field, or left it.
+    void hoveredChanged(bool state);
+
+protected Q_SLOTS:
+    /// Looks the placeholder's set up again. Runs at each change of the theme type.
+    virtual void onThemeChanged();
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
+private:
+    void initialise();
+    void updatePlaceholderColor();
+
+    OxaColorSet m_placeholderColorSet;
+    bool m_isFocusRingEnabled = false;
+};
