@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QStandardItem>
 
+#include <limits>
 #include <numeric>
 #include <utility>
 
@@ -13,7 +14,8 @@ LazyLoadedListModel::~LazyLoadedListModel() { clearList(); }
 
 void LazyLoadedListModel::setPagingConfig(unsigned int pageSize, unsigned int storagePages)
 {
-    if (pageSize == 0 || storagePages == 0)
+    constexpr auto most = unsigned(std::numeric_limits<int>::max());
+    if (pageSize == 0 || storagePages == 0 || storagePages > most / pageSize)
         return;
     m_pageSize = int(pageSize);
     m_storagePages = int(storagePages);

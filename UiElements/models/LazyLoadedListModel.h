@@ -33,7 +33,8 @@ public:
     ~LazyLoadedListModel() override;
 
     /// Sets pages of \a pageSize rows, \a storagePages of them in the window. Calls reset(), so set
-    /// the size after it. Does nothing when either is 0.
+    /// the size after it. Does nothing when either is 0, or when
+    /// the rows of the window do not fit in an int.
     void setPagingConfig(unsigned int pageSize, unsigned int storagePages);
 
     /// Deletes all items, removes all rows and takes the window back to row 0.

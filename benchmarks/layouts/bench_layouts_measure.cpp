@@ -42,7 +42,8 @@ void measure(benchmark::State &state, Tiles::Kind kind, int count)
     comparison.ratioAtMost(4.0);
 }
 
-/// Ten times the items, compared with ten calls.
+/// Ten times the items, compared with ten calls. A thousand items stay in the processor's caches
+/// between calls, ten thousand do not.
 void measureManyItems(benchmark::State &state, Tiles::Kind kind)
 {
     const Tiles::Window many(kind, 10000);
@@ -55,7 +56,7 @@ void measureManyItems(benchmark::State &state, Tiles::Kind kind)
                                  benchmark::DoNotOptimize(few.layout->heightForWidth(width));
                          },
                          10);
-    comparison.ratioAtMost(2.0);
+    comparison.ratioAtMost(3.0);
 }
 
 const bool areAdded = [] {

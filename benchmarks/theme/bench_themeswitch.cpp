@@ -156,7 +156,8 @@ BENCHMARK(switchAll)
         ->Iterations(15)
         ->UseManualTime();
 
-void switchLeaves(benchmark::State &state) { switchTheme(state, StyledWidgets::Leaves, 1.05); }
+/// Leaves are what Qt is fastest with, so that the expansion of their texts shows.
+void switchLeaves(benchmark::State &state) { switchTheme(state, StyledWidgets::Leaves, 1.25); }
 BENCHMARK(switchLeaves)
         ->Name("theme switch of 900 leaves/QWidget::setStyleSheet")
         ->Iterations(15)

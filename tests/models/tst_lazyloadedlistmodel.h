@@ -50,8 +50,8 @@ private Q_SLOTS:
     void deletesItemsThatItNoLongerHolds();
 
     // Setting paging and size, and resetting them.
-    void ignoresPagingWithoutPages_data();
-    void ignoresPagingWithoutPages();
+    void ignoresPagingThatMakesNoWindow_data();
+    void ignoresPagingThatMakesNoWindow();
     void startsOverWithNewPaging();
     void startsOverWithTheSamePaging();
     void resetsSilentlyWithoutRows();

@@ -19,7 +19,7 @@ void recordWindow(SignalLog &log, const LazyLetterModel &model)
 
 } // namespace
 
-void tst_LazyLoadedListModel::ignoresPagingWithoutPages_data()
+void tst_LazyLoadedListModel::ignoresPagingThatMakesNoWindow_data()
 {
     QTest::addColumn<unsigned>("pageSize");
     QTest::addColumn<unsigned>("storagePages");
@@ -27,9 +27,11 @@ void tst_LazyLoadedListModel::ignoresPagingWithoutPages_data()
     QTest::newRow("no rows on a page") << 0U << 5U;
     QTest::newRow("no pages in the window") << 5U << 0U;
     QTest::newRow("neither") << 0U << 0U;
+    QTest::newRow("more rows than an int can count") << 100000U << 100000U;
+    QTest::newRow("pages beyond an int") << 1U << 0x80000000U;
 }
 
-void tst_LazyLoadedListModel::ignoresPagingWithoutPages()
+void tst_LazyLoadedListModel::ignoresPagingThatMakesNoWindow()
 {
     QFETCH(const unsigned, pageSize);
     QFETCH(const unsigned, storagePages);
