@@ -6,8 +6,8 @@
 /// Stores of colour sets for benchmarks.
 namespace Stores {
 
-/// Returns \a count sets "set-0", "set-1" and so on, whose states all differ, and the one that
-/// labels ask for themselves. Stores of different \a shade differ in every colour.
+/// Returns \a count sets "set-0", "set-1" and so on, whose states all differ, and those that
+/// widgets ask for themselves. Stores of different \a shade differ in every colour.
 inline OxaColorSetMap make(int count, int shade = 0)
 {
     OxaColorSetMap store;
@@ -20,8 +20,13 @@ inline OxaColorSetMap make(int count, int shade = 0)
             *color = QColor(i % 256, i / 256, blue++);
         store.emplace(set.name.toStdString(), set);
     }
-    const QString linkColors = QStringLiteral("button-hyperlink-text");
-    store.emplace(linkColors.toStdString(), OxaColorSet(linkColors, QColor(0, 0, shade)));
+    for (const char *name :
+         { "background-primary", "button-hyperlink-text", "checkbox-checked-background",
+           "checkbox-unchecked-background", "oxa-default-text",
+           "oxa-reaction-list-item-gradient-background-end-color", "oxa-recorder-comboBox-border",
+           "oxa-rills-combobox-background", "oxa-rills-combobox-border",
+           "oxa-rills-combobox-dropdown-arrow", "oxa-rills-combobox-text" })
+        store.emplace(name, OxaColorSet(QString::fromLatin1(name), QColor(0, 0, shade)));
     return store;
 }
 

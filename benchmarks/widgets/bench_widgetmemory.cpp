@@ -6,6 +6,12 @@
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/theme/OxaThemeUtils.h>
+#include <UiElements/widgets/OxaCheckBox.h>
+#include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaRadioButton.h>
+#include <UiElements/widgets/OxaTextBrowser.h>
+#include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaWidget.h>
 
 #include <QTextDocument>
@@ -13,6 +19,7 @@
 #include <malloc.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace {
@@ -47,6 +54,15 @@ const auto filledDocument = [](const QString &sheet) {
     document->setDefaultStyleSheet(sheet);
     document->setHtml(shortText);
     return document;
+};
+const auto icon = [](const QString &) {
+    return std::make_unique<OxaSvgIcon>(QStringLiteral(":/Resources/check_12_w.svg"));
+};
+const auto twoIcons = [](const QString &) {
+    auto icons = std::make_unique<OxaSvgIcon>(QStringLiteral(":/Resources/arrow-down_8.svg"));
+    auto *second = new OxaSvgIcon(QStringLiteral(":/Resources/arrow-up_8.svg"));
+    second->setParent(icons.get());
+    return icons;
 };
 
 /// The heap use of a widget with a style text, compared with the Qt class with the finished sheet.
@@ -85,77 +101,40 @@ void heap(benchmark::State &state, Use use, Besides besides)
     comparison.ratioAtMost(1.15);
 }
 
-void container(benchmark::State &state) { heap<OxaWidget, QWidget>(state, asNew, nothing); }
-BENCHMARK(container)->Name("heap of OxaWidget/QWidget")->Iterations(5)->UseManualTime();
-
-template <typename Use>
-void label(benchmark::State &state, Use use)
+/// Adds a row for \a Widget, which is called \a name with what it is compared with.
+template <typename Widget, typename QtClass, typename Use = decltype(asNew),
+          typename Besides = decltype(nothing)>
+void add(const std::string &name, Use use = asNew, Besides besides = nothing)
 {
-    heap<OxaLabel, QLabel>(state, use, nothing);
+    benchmark::RegisterBenchmark(("heap of " + name).c_str(),
+                                 [use, besides](benchmark::State &state) {
+                                     heap<Widget, QtClass>(state, use, besides);
+                                 })
+            ->Iterations(5)
+            ->UseManualTime();
 }
-BENCHMARK_CAPTURE(label, asNew, asNew)
-        ->Name("heap of OxaLabel/QLabel")
-        ->Iterations(5)
-        ->UseManualTime();
-BENCHMARK_CAPTURE(label, withText, withText)
-        ->Name("heap of OxaLabel with a text/QLabel")
-        ->Iterations(5)
-        ->UseManualTime();
 
-template <typename Use>
-void svgLabel(benchmark::State &state, Use use)
-{
-    heap<OxaSvgLabel, QLabel>(state, use, nothing);
-}
-BENCHMARK_CAPTURE(svgLabel, asNew, asNew)
-        ->Name("heap of OxaSvgLabel/QLabel")
-        ->Iterations(5)
-        ->UseManualTime();
-BENCHMARK_CAPTURE(svgLabel, withText, withText)
-        ->Name("heap of OxaSvgLabel with a text/QLabel")
-        ->Iterations(5)
-        ->UseManualTime();
-
-template <typename Use>
-void button(benchmark::State &state, Use use)
-{
-    heap<OxaPushButton, QPushButton>(state, use, nothing);
-}
-BENCHMARK_CAPTURE(button, asNew, asNew)
-        ->Name("heap of OxaPushButton/QPushButton")
-        ->Iterations(5)
-        ->UseManualTime();
-BENCHMARK_CAPTURE(button, withText, withText)
-        ->Name("heap of OxaPushButton with a text/QPushButton")
-        ->Iterations(5)
-        ->UseManualTime();
-
-template <typename Use>
-void svgButton(benchmark::State &state, Use use)
-{
-    heap<OxaSvgPushButton, QPushButton>(state, use, nothing);
-}
-BENCHMARK_CAPTURE(svgButton, asNew, asNew)
-        ->Name("heap of OxaSvgPushButton/QPushButton")
-        ->Iterations(5)
-        ->UseManualTime();
-BENCHMARK_CAPTURE(svgButton, withText, withText)
-        ->Name("heap of OxaSvgPushButton with a text/QPushButton")
-        ->Iterations(5)
-        ->UseManualTime();
-
-template <typename Use, typename Besides>
-void emojiLabel(benchmark::State &state, Use use, Besides besides)
-{
-    heap<OxaEmojiLabel, QLabel>(state, use, besides);
-}
-BENCHMARK_CAPTURE(emojiLabel, asNew, asNew, emptyDocument)
-        ->Name("heap of OxaEmojiLabel/QLabel and an empty QTextDocument")
-        ->Iterations(5)
-        ->UseManualTime();
-BENCHMARK_CAPTURE(emojiLabel, withText, withText, filledDocument)
-        ->Name("heap of OxaEmojiLabel with a text/QLabel and a QTextDocument")
-        ->Iterations(5)
-        ->UseManualTime();
+const bool areAdded = [] {
+    add<OxaWidget, QWidget>("OxaWidget/QWidget");
+    add<OxaLabel, QLabel>("OxaLabel/QLabel");
+    add<OxaLabel, QLabel>("OxaLabel with a text/QLabel", withText);
+    add<OxaSvgLabel, QLabel>("OxaSvgLabel/QLabel");
+    add<OxaSvgLabel, QLabel>("OxaSvgLabel with a text/QLabel", withText);
+    add<OxaPushButton, QPushButton>("OxaPushButton/QPushButton");
+    add<OxaPushButton, QPushButton>("OxaPushButton with a text/QPushButton", withText);
+    add<OxaSvgPushButton, QPushButton>("OxaSvgPushButton/QPushButton");
+    add<OxaSvgPushButton, QPushButton>("OxaSvgPushButton with a text/QPushButton", withText);
+    add<OxaEmojiLabel, QLabel>("OxaEmojiLabel/QLabel and an empty QTextDocument", asNew,
+                               emptyDocument);
+    add<OxaEmojiLabel, QLabel>("OxaEmojiLabel with a text/QLabel and a QTextDocument", withText,
+                               filledDocument);
+    add<OxaCheckBox, QCheckBox>("OxaCheckBox/QCheckBox and an icon", asNew, icon);
+    add<OxaRadioButton, QRadioButton>("OxaRadioButton/QRadioButton");
+    add<OxaComboBox, QComboBox>("OxaComboBox/QComboBox and two icons", asNew, twoIcons);
+    add<OxaLineEdit, QLineEdit>("OxaLineEdit/QLineEdit");
+    add<OxaTextEdit, QTextEdit>("OxaTextEdit/QTextEdit");
+    add<OxaTextBrowser, QTextBrowser>("OxaTextBrowser/QTextBrowser");
+    return true;
+}();
 
 } // namespace
