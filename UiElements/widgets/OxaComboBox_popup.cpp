@@ -67,6 +67,7 @@ bool OxaComboBox::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != view())
         return false;
+    const QPointer<OxaComboBox> self(this);
     switch (event->type()) {
     case QEvent::Show:
     case QEvent::Hide:
@@ -74,7 +75,7 @@ bool OxaComboBox::eventFilter(QObject *watched, QEvent *event)
     case QEvent::HideToParent:
         m_isExpanded = view()->isVisible();
         applyCustomCSS();
-        return false;
+        return self.isNull(); // The list is gone too.
     case QEvent::KeyPress:
         return onListKeyPressed(static_cast<QKeyEvent *>(event)->key());
     default:
