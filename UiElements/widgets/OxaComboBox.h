@@ -40,6 +40,7 @@ class UIELEMENTS_EXPORT OxaComboBox : public QComboBox
     Q_OBJECT
     UIELEMENTS_THEME_BLOCK(QComboBox)
     UIELEMENTS_FONT_BLOCK
+    Q_PROPERTY(bool editable READ isEditable WRITE setEditable)
     Q_PROPERTY(QString svgDropdownIcon READ getSvgDropdownIcon WRITE setSvgDropdownIcon NOTIFY
                        svgDropdownIconChanged)
     Q_PROPERTY(QString svgDropDownIconExpanded READ getSvgDropDownIconExpanded WRITE
