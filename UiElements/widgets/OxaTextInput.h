@@ -32,7 +32,8 @@ class QValidator;
 ///   While the text is masked, it can be neither copied nor cut, and assistive technology is not
 ///   told it.
 ///
-/// A slot may delete the field.
+/// A slot may delete the field, save in textChanged(), in returnPressed(), and in what else follows
+/// a change of the text: QLineEdit uses itself after it.
 class UIELEMENTS_EXPORT OxaTextInput : public OxaWidget
 {
     Q_OBJECT
