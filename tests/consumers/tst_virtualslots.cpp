@@ -8,6 +8,13 @@
 #include <UiElements/models/LazyLoadedListModel.h>
 #include <UiElements/models/OverflowListProxyModel.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
+#include <UiElements/widgets/OxaCheckBox.h>
+#include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaRadioButton.h>
+#include <UiElements/widgets/OxaTextBrowser.h>
+#include <UiElements/widgets/OxaTextEdit.h>
+#include <UiElements/widgets/OxaTextInput.h>
 
 #include <QTest>
 
@@ -30,6 +37,17 @@ struct OpenButton : OxaPushButton
 struct OpenLabel : OxaLabel
 {
     using OxaLabel::onThemeChanged;
+};
+struct OpenComboBox : OxaComboBox
+{
+    using OxaComboBox::applyCustomCSS;
+    using OxaComboBox::onThemeChanged;
+};
+/// The same for a class that adds the hook of themed classes alone.
+template <typename Widget>
+struct OpenThemed : Widget
+{
+    using Widget::onThemeChanged;
 };
 struct OpenLayout : FlowLayout
 {
@@ -68,6 +86,13 @@ void addRow(const Slots &slots)
 {
     QTest::newRow(Class::staticMetaObject.className())
             << slotCount<Base>() << slotCount<Class>() << slots;
+}
+
+/// Adds a row for \a Widget, which adds the hook of themed classes alone.
+template <typename Widget, typename Base>
+void addThemedRow()
+{
+    addRow<Widget, Base>({ slotOf(&OpenThemed<Widget>::onThemeChanged) });
 }
 
 } // namespace
@@ -109,6 +134,16 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
             slotOf(&Open::initButtonStyleOption),
             slotOf(&OpenButton::onThemeChanged),
     });
+    addRow<OxaComboBox, QComboBox>({
+            slotOf(&OpenComboBox::onThemeChanged),
+            slotOf(&OpenComboBox::applyCustomCSS),
+    });
+    addThemedRow<OxaCheckBox, QCheckBox>();
+    addThemedRow<OxaRadioButton, QRadioButton>();
+    addThemedRow<OxaLineEdit, QLineEdit>();
+    addThemedRow<OxaTextEdit, QTextEdit>();
+    addThemedRow<OxaTextBrowser, QTextBrowser>();
+    addRow<OxaTextInput, OxaWidget>({});
     addRow<OxaSvgPushButton, OxaPushButton>({ slotOf(&Open::onCSSChanged) });
     // The last three come from QLayout's second base class, QLayoutItem.
     addRow<FlowLayout, QLayout>({

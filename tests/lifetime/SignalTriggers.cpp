@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "SignalTriggers.h"
+#include "WidgetTriggers.h"
 
 // Longer than sources are: one table, with a row for each way in which a signal is emitted.
-
-#include "support/SvgFiles.h"
 
 #include <UiElements/app/OxaApplication.h>
 #include <UiElements/app/OxaGlobalSignalListener.h>
@@ -14,58 +12,8 @@
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/svg/OxaSvgRenderer.h>
-#include <UiElements/widgets/OxaWidget.h>
-
-#include <QKeyEvent>
 
 namespace {
-
-void sendMouse(QWidget &widget, QEvent::Type type, Qt::MouseButton button)
-{
-    const QPointF inside = widget.rect().center();
-    const auto buttons = type == QEvent::MouseButtonPress ? Qt::MouseButtons(button) : Qt::NoButton;
-    QMouseEvent event(type, inside, button, buttons, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
-void press(QWidget &widget) { sendMouse(widget, QEvent::MouseButtonPress, Qt::LeftButton); }
-void release(QWidget &widget) { sendMouse(widget, QEvent::MouseButtonRelease, Qt::LeftButton); }
-
-void sendKey(QWidget &widget, QEvent::Type type, Qt::Key key)
-{
-    QKeyEvent event(type, key, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
-template <typename Event>
-void send(QWidget &widget, Event &&event)
-{
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
-void setParentsThemeType(QWidget &widget)
-{
-    static_cast<OxaWidget *>(widget.parentWidget())->setThemeType(QStringLiteral("dark"));
-}
-
-template <typename Widget>
-void addThemeRows(SignalTriggers &rows)
-{
-    for (const char *signal : { "cssChanged()", "themeTypeChanged()" }) {
-        rows.push_back(row<Widget>(signal, "setThemeType()", [](Widget &widget) {
-            widget.setThemeType(QStringLiteral("dark"));
-        }));
-        rows.push_back(row<Widget>(signal, "its parent's theme type",
-                                   [](Widget &widget) { setParentsThemeType(widget); }));
-    }
-    rows.push_back(row<Widget>("cssChanged()", "setCSS()", [](Widget &widget) {
-        widget.setCSS(QStringLiteral("color: red;"));
-    }));
-    rows.push_back(row<Widget>(
-            "cssChanged()", "its object name",
-            [](Widget &widget) { widget.setObjectName(QStringLiteral("another")); },
-            [](Widget &widget) { widget.setCSS(QStringLiteral("color: red;")); }));
-}
 
 template <typename Label>
 void addClickRows(SignalTriggers &rows)
@@ -127,49 +75,18 @@ void addButtonRows(SignalTriggers &rows)
     rows.insert(rows.end(), own.begin(), own.end());
 }
 
-void addAbstractButtonRows(SignalTriggers &rows)
-{
-    const auto makeCheckable = [](OxaPushButton &button) { button.setCheckable(true); };
-    const auto pressIt = [](OxaPushButton &button) {
-        button.setCheckable(true);
-        press(button);
-    };
-    const auto releaseIt = [](OxaPushButton &button) { release(button); };
-    const auto click = [](OxaPushButton &button) { button.click(); };
-
-    rows.push_back(row<OxaPushButton>(
-            "pressed()", "a press", [](OxaPushButton &button) { press(button); },
-            [](OxaPushButton &button) { button.setLongPressEnabled(true); }));
-    rows.push_back(row<OxaPushButton>("pressed()", "a key", [](OxaPushButton &button) {
-        sendKey(button, QEvent::KeyPress, Qt::Key_Space);
-    }));
-    for (const char *signal : { "released()", "clicked(bool)" }) {
-        rows.push_back(row<OxaPushButton>(signal, "a release", releaseIt, pressIt));
-        rows.push_back(row<OxaPushButton>(signal, "click()", click, makeCheckable));
-    }
-}
-
+/// Adds rows for a class that looks the icon's set up again for a new theme type.
 template <typename Widget>
-void addIconRows(SignalTriggers &rows)
+void addThemedIconRows(SignalTriggers &rows)
 {
-    const auto nameSets = [](Widget &widget) {
-        widget.setSvgIconColorSet(QStringLiteral("icon"));
-        widget.setInnerSvgIconColorSet(QStringLiteral("icon"));
-    };
-    rows.push_back(row<Widget>("svgIconChanged(QString)", "setSvgIcon()",
-                               [](Widget &widget) { widget.setSvgIcon(QString()); }));
-    rows.push_back(row<Widget>("svgIconSizeChanged(QSize)", "setSvgIconSize()",
-                               [](Widget &widget) { widget.setSvgIconSize(QSize(9, 9)); }));
-    rows.push_back(
-            row<Widget>("svgIconColorSetChanged(OxaColorSet)", "setSvgIconColorSet()",
-                        [](Widget &widget) { widget.setSvgIconColorSet(QStringLiteral("icon")); }));
-    rows.push_back(row<Widget>(
-            "svgIconColorSetChanged(OxaColorSet)", "refreshSvgIconColorSet()",
-            [](Widget &widget) { widget.refreshSvgIconColorSet(); }, nameSets));
+    addIconRows<Widget>(rows);
     rows.push_back(row<Widget>(
             "svgIconColorSetChanged(OxaColorSet)", "setThemeType()",
-            [](Widget &widget) { widget.setThemeType(QStringLiteral("dark")); }, nameSets));
+            [](Widget &widget) { widget.setThemeType(QStringLiteral("dark")); },
+            &nameIconSets<Widget>));
 }
+
+void enableLongPress(OxaPushButton &button) { button.setLongPressEnabled(true); }
 
 void addAnchorRows(SignalTriggers &rows)
 {
@@ -297,14 +214,15 @@ SignalTriggers allRows()
     addClickRows<OxaEmojiLabel>(rows);
     addLabelRows(rows);
     addButtonRows(rows);
-    addAbstractButtonRows(rows);
-    addIconRows<OxaSvgLabel>(rows);
-    addIconRows<OxaSvgPushButton>(rows);
+    addAbstractButtonRows<OxaPushButton, &enableLongPress>(rows);
+    addThemedIconRows<OxaSvgLabel>(rows);
+    addThemedIconRows<OxaSvgPushButton>(rows);
     addAnchorRows(rows);
     addPillRows(rows);
     addPictureRows(rows);
     addValueRows(rows);
     addApplicationRows(rows);
+    addFormTriggers(rows);
     addModelTriggers(rows);
     return rows;
 }
@@ -336,8 +254,10 @@ bool isLeftOut(const QMetaObject *metaObject, const QMetaMethod &signal)
     if (signal == QMetaMethod::fromSignal(&QAbstractButton::toggled))
         return true;
     // The button's handlers replace the label's.
-    return metaObject->inherits(&OxaEmojiPushButton::staticMetaObject)
-            && signal == QMetaMethod::fromSignal(&OxaLabel::clicked);
+    if (metaObject->inherits(&OxaEmojiPushButton::staticMetaObject)
+        && signal == QMetaMethod::fromSignal(&OxaLabel::clicked))
+        return true;
+    return isNoForms(signal);
 }
 
 void emitAsHubUser(QObject *sender, const QMetaMethod &signal)

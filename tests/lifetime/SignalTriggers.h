@@ -35,6 +35,12 @@ SignalTrigger row(const char *signal, const char *cause, Act<Object> run,
     return { &Object::staticMetaObject, signal, cause, onObject(prepare), onObject(run) };
 }
 
+/// Adds the triggers of the controls of forms to \a rows.
+void addFormTriggers(SignalTriggers &rows);
+
+/// Returns whether \a signal of a control of forms needs no trigger.
+bool isNoForms(const QMetaMethod &signal);
+
 /// Adds the triggers of the list models to \a rows.
 void addModelTriggers(SignalTriggers &rows);
 

@@ -14,6 +14,14 @@
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/svg/OxaSvgRenderer.h>
+#include <UiElements/widgets/OxaCheckBox.h>
+#include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaRadioButton.h>
+#include <UiElements/widgets/OxaTextBrowser.h>
+#include <UiElements/widgets/OxaTextEdit.h>
+#include <UiElements/widgets/OxaTextInput.h>
+#include <UiElements/widgets/OxaTextInputFactory.h>
 #include <UiElements/widgets/OxaToggleButton.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
 #include <UiElements/widgets/OxaWidget.h>
@@ -58,6 +66,12 @@ Subject smallListModel()
              } };
 }
 
+Subject textInput()
+{
+    return { OxaTextInput::staticMetaObject.className(), &OxaTextInput::staticMetaObject,
+             [](QWidget *parent) -> QObject * { return OxaTextInputFactory({}).make(parent); } };
+}
+
 bool isWalked(const QMetaObject &metaObject)
 {
     const QByteArray name = metaObject.className();
@@ -80,6 +94,13 @@ const std::vector<Subject> &subjects()
         subject<OxaSvgPushButton>(),
         subject<OxaSvgAnchorButton>(),
         subject<OxaPillTabButton>(),
+        subject<OxaCheckBox>(),
+        subject<OxaRadioButton>(),
+        subject<OxaComboBox>(),
+        subject<OxaLineEdit>(),
+        textInput(),
+        subject<OxaTextEdit>(),
+        subject<OxaTextBrowser>(),
         subject<OxaSvgRenderer>(),
         subjectWithoutParent<OxaSvgIcon>(),
         subject<OxaScaledFonts>(),

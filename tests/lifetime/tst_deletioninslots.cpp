@@ -67,9 +67,14 @@ struct Family
 OxaColorSetMap storeOfAllSets()
 {
     OxaColorSetMap store;
-    for (const char *name : { "button-hyperlink-text", "icon", "oxa-contentTabViewButton-text",
-                              "oxa-contentTabViewButtonChecked-text",
-                              "oxa-underlineButton-background", "oxa-underlineButton-text" })
+    for (const char *name :
+         { "background-primary", "button-hyperlink-text", "checkbox-checked-background",
+           "checkbox-unchecked-background", "icon", "oxa-contentTabViewButton-text",
+           "oxa-contentTabViewButtonChecked-text", "oxa-default-text",
+           "oxa-reaction-list-item-gradient-background-end-color", "oxa-recorder-comboBox-border",
+           "oxa-rills-combobox-background", "oxa-rills-combobox-border",
+           "oxa-rills-combobox-dropdown-arrow", "oxa-rills-combobox-text",
+           "oxa-underlineButton-background", "oxa-underlineButton-text" })
         store.emplace(name, OxaColorSet(QString::fromLatin1(name), Qt::red));
     return store;
 }

@@ -7,6 +7,7 @@
 #include "support/SignalLog.h"
 #include "support/SvgFiles.h"
 #include "support/TestApplication.h"
+#include "theme/ThemedWidgets.h"
 
 #include <QSignalSpy>
 
@@ -16,7 +17,6 @@ const OxaColorSet textColors = Faces::colors(QStringLiteral("text"), 130);
 const OxaColorSet iconColors = Faces::colors(QStringLiteral("icon"), 220);
 const OxaColorSet darkColors = Faces::colors(QStringLiteral("icon"), 70);
 const OxaColorSet lateColors = Faces::colors(QStringLiteral("late"), 170);
-const OxaColorSet linkColors(QStringLiteral("button-hyperlink-text"), Qt::blue);
 
 void ignoreUnknownSet(const QString &name)
 {
@@ -25,16 +25,19 @@ void ignoreUnknownSet(const QString &name)
                                             .arg(name)));
 }
 
-/// Returns the set whose normal colour the icon of \a widget has.
+/// Returns the set in whose normal or, for a check box, checked colour the icon of \a widget is.
 QString paintedSet(QWidget &widget)
 {
     widget.resize(60, 40);
     const QImage image = Pixels::render(widget);
+    const auto shows = [&image](const OxaColorSet &set) {
+        return Pixels::countNear(image, set.normal) + Pixels::countNear(image, set.checked) > 200;
+    };
     for (const OxaColorSet &set : { textColors, iconColors, lateColors }) {
-        if (Pixels::countNear(image, set.normal) > 200)
+        if (shows(set))
             return set.name;
     }
-    if (Pixels::countNear(image, darkColors.normal) > 200)
+    if (shows(darkColors))
         return QStringLiteral("dark icon");
     return QStringLiteral("none");
 }
@@ -50,22 +53,22 @@ private Q_SLOTS:
     void init();
     void cleanup() { m_stores.reset(); }
 
-    void startsWithoutAnIcon_data() { addIconWidgets(); }
+    void startsWithoutAnIcon_data() { addPlainIconWidgets(); }
     void startsWithoutAnIcon();
-    void makesAnIconWhenASizeOrSetIsFirst_data() { addIconWidgets(); }
+    void makesAnIconWhenASizeOrSetIsFirst_data() { addPlainIconWidgets(); }
     void makesAnIconWhenASizeOrSetIsFirst();
 
-    void takesTheTextsColorsUntilItHasItsOwn_data() { addIconWidgets(); }
+    void takesTheTextsColorsUntilItHasItsOwn_data() { addPlainIconWidgets(); }
     void takesTheTextsColorsUntilItHasItsOwn();
     void emitsItsColors_data() { addIconWidgets(); }
     void emitsItsColors();
-    void triesAnUnknownColorSetAgainAtTheNextThemeChange_data() { addIconWidgets(); }
+    void triesAnUnknownColorSetAgainAtTheNextThemeChange_data() { addPlainIconWidgets(); }
     void triesAnUnknownColorSetAgainAtTheNextThemeChange();
-    void followsTheTheme_data() { addIconWidgets(); }
+    void followsTheTheme_data() { addPlainIconWidgets(); }
     void followsTheTheme();
     void refreshesItsSetsOnCall_data() { addIconWidgets(); }
     void refreshesItsSetsOnCall();
-    void colorsTheInnerPictureLikeTheOuterOne_data() { addIconWidgets(); }
+    void colorsTheInnerPictureLikeTheOuterOne_data() { addPlainIconWidgets(); }
     void colorsTheInnerPictureLikeTheOuterOne();
 
     void emitsNothingForTheInnerPicture_data() { addIconWidgets(); }
@@ -80,7 +83,7 @@ private Q_SLOTS:
     void repaintsForEveryOtherProperty();
     void storesAWholePaddingWithoutRepainting_data() { addIconWidgets(); }
     void storesAWholePaddingWithoutRepainting();
-    void repaintsForTheFramesOfItsIcon_data() { addIconWidgets(); }
+    void repaintsForTheFramesOfItsIcon_data() { addPlainIconWidgets(); }
     void repaintsForTheFramesOfItsIcon();
 
 private:
@@ -90,10 +93,12 @@ private:
 
 void tst_OxaSvgIconBlock::init()
 {
-    m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf(
-                                                    { textColors, iconColors, linkColors }),
-                                            ColorSets::storeOf({ textColors, darkColors, lateColors,
-                                                                 linkColors }));
+    // With the sets that classes ask for themselves.
+    OxaColorSetMap store = storeWith("#ffffffff");
+    OxaColorSetMap invertedStore = store;
+    store.merge(ColorSets::storeOf({ textColors, iconColors }));
+    invertedStore.merge(ColorSets::storeOf({ textColors, darkColors, lateColors }));
+    m_stores = std::make_unique<StoreGuard>(store, invertedStore);
 }
 
 void tst_OxaSvgIconBlock::startsWithoutAnIcon()

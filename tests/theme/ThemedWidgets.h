@@ -8,6 +8,14 @@
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
+#include <UiElements/widgets/OxaCheckBox.h>
+#include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaRadioButton.h>
+#include <UiElements/widgets/OxaTextBrowser.h>
+#include <UiElements/widgets/OxaTextEdit.h>
+#include <UiElements/widgets/OxaTextInput.h>
+#include <UiElements/widgets/OxaTextInputFactory.h>
 #include <UiElements/widgets/OxaToggleButton.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
 #include <UiElements/widgets/OxaWidget.h>
@@ -30,31 +38,23 @@ struct ThemedClass
         StyledBackground = 2, ///< Is OxaThemeBlock::Form::StyledBackground.
         StartsStyled = 4,     ///< Has a style text or a font of its own from the start.
         FollowsNoParent = 8,  ///< Does not follow the parent that it is made with.
-        NeedsName = 16,       ///< Expands no style text before it has an object name.
+        HasName = 16,         ///< Is made with its class's name as object name.
+        WritesItsText = 32,   ///< With an object name, writes its style text at each new type.
     };
     using Make = std::function<std::unique_ptr<QWidget>(QWidget *parent)>;
 
     bool is(Trait trait) const { return (traits & trait) != 0; }
 
-    /// Makes a widget, named "w" where it needs a name.
-    std::unique_ptr<QWidget> make(QWidget *parent) const
-    {
-        auto widget = makeUnnamed(parent);
-        if (is(NeedsName))
-            widget->setObjectName(QStringLiteral("w"));
-        return widget;
-    }
-
     /// Returns what a style text of a widget from make() selects it by.
     QString selector() const
     {
-        return is(NeedsName) ? QStringLiteral("#w") : QString::fromLatin1(name);
+        return QString::fromLatin1(is(HasName) ? "#" : "") + QLatin1String(name);
     }
 
     const char *name;
     int traits;
     std::vector<const char *> colorSets; ///< Those that it asks for itself.
-    Make makeUnnamed;
+    Make make;
     std::function<OxaThemeUtils::AppThemeType(const QWidget &)> themeType;
     std::function<OxaCSSData(const QWidget &)> cssData;
     std::function<void(QWidget &, const OxaCSSData &)> setCSSData;
@@ -85,14 +85,40 @@ ThemedClass themedClass(int traits = ThemedClass::NoTraits,
                                [](QWidget *parent) { return std::make_unique<Widget>(parent); });
 }
 
+/// Makes a text input that looks the same in all its states.
+inline std::unique_ptr<QWidget> makeTextInput(QWidget *parent)
+{
+    return std::unique_ptr<QWidget>(OxaTextInputFactory({}).make(parent));
+}
+
 /// Every themed widget class of the library, and one of a client. A new one is one row.
 inline const std::vector<ThemedClass> &themedClasses()
 {
     using T = ThemedClass;
     static const std::vector<const char *> linkColors = { "button-hyperlink-text" };
+    static const std::vector<const char *> checkBoxColors = {
+        "background-primary",
+        "checkbox-checked-background",
+        "checkbox-unchecked-background",
+        "oxa-default-text",
+        "oxa-reaction-list-item-gradient-background-end-color",
+        "oxa-recorder-comboBox-border",
+    };
+    static const std::vector<const char *> comboBoxColors = {
+        "oxa-rills-combobox-background",
+        "oxa-rills-combobox-border",
+        "oxa-rills-combobox-dropdown-arrow",
+        "oxa-rills-combobox-text",
+    };
     static const std::vector<ThemedClass> classes = {
+        themedClass<OxaCheckBox>(T::NoTraits, checkBoxColors),
+        themedClass<OxaComboBox>(T::WritesItsText, comboBoxColors),
         themedClass<OxaLabel>(T::NoTraits, linkColors),
+        themedClass<OxaLineEdit>(),
         themedClass<OxaPushButton>(),
+        themedClass<OxaRadioButton>(T::NoTraits, { "background-primary" }),
+        themedClass<OxaTextBrowser>(),
+        themedClass<OxaTextEdit>(),
         themedClass<OxaWidget>(T::StyledBackground),
         // These inherit the block.
         themedClass<OxaEmojiLabel>(T::NoTraits, linkColors),
@@ -101,6 +127,8 @@ inline const std::vector<ThemedClass> &themedClasses()
         themedClass<OxaSvgAnchorButton>(),
         themedClass<OxaSvgLabel>(T::NoTraits, linkColors),
         themedClass<OxaSvgPushButton>(),
+        themedClass<OxaTextInput>(T::StyledBackground | T::StartsStyled | T::HasName, {},
+                                  &makeTextInput),
         themedClass<OxaToggleButton>(T::StartsStyled),
         themedClass<OxaUnderlineButton>(T::NoTraits,
                                         { "oxa-underlineButton-background",

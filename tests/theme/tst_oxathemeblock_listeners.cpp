@@ -68,13 +68,19 @@ private Q_SLOTS:
 
     void findTheNewStyleTextInForce_data() { addThemedClasses(); }
     void findTheNewStyleTextInForce();
-    void findTheNewTypeInForce_data() { addThemedClasses(); }
+    void findTheNewTypeInForce_data() { addThemedClassesBut(ThemedClass::WritesItsText); }
     void findTheNewTypeInForce();
     void maySetAnotherStyleTextWhenTheTypeChanges_data() { addThemedClasses(); }
     void maySetAnotherStyleTextWhenTheTypeChanges();
-    void maySetAnotherTypeWhenTheStyleTextChanges_data() { addThemedClasses(); }
+    void maySetAnotherTypeWhenTheStyleTextChanges_data()
+    {
+        addThemedClassesBut(ThemedClass::WritesItsText);
+    }
     void maySetAnotherTypeWhenTheStyleTextChanges();
-    void mayReplaceTheStoresWhenTheTypeChanges_data() { addThemedClasses(); }
+    void mayReplaceTheStoresWhenTheTypeChanges_data()
+    {
+        addThemedClassesBut(ThemedClass::WritesItsText);
+    }
     void mayReplaceTheStoresWhenTheTypeChanges();
 
     void mayDeleteTheWidgetWhenItsStyleTextIsSet_data() { addThemedClasses(); }

@@ -46,7 +46,10 @@ private Q_SLOTS:
     void defersToTheWindowWhenGlobal();
     void keepsItsTypeWhenMadeUnderATypedParent_data() { addThemedClasses(); }
     void keepsItsTypeWhenMadeUnderATypedParent();
-    void takesTheTypeOfAParentItIsAddedTo_data() { addThemedClasses(); }
+    void takesTheTypeOfAParentItIsAddedTo_data()
+    {
+        addThemedClassesBut(ThemedClass::WritesItsText);
+    }
     void takesTheTypeOfAParentItIsAddedTo();
     void takesTheTypeWithoutAStyleTextToo_data() { addThemedClasses(); }
     void takesTheTypeWithoutAStyleTextToo();
