@@ -32,6 +32,9 @@ void appendContents(const QWidget &parent, std::vector<QWidget *> &widgets)
     }
     const auto children = parent.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     for (QWidget *child : children) {
+        // The list of a combo box is a child too.
+        if (child->isWindow())
+            continue;
         widgets.push_back(child);
         appendContents(*child, widgets);
     }

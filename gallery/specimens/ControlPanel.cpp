@@ -3,12 +3,13 @@
 
 #include "looks/Metrics.h"
 #include "widgets/ColumnsLayout.h"
+#include "widgets/Fields.h"
 #include "widgets/Labels.h"
-#include "widgets/LineEdit.h"
 #include "widgets/SegmentedControl.h"
 #include "widgets/Slider.h"
 
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaLineEdit.h>
 
 #include <QHBoxLayout>
 
@@ -60,10 +61,10 @@ Slider *ControlPanel::addNumber(const QString &caption, int minimum, int maximum
     return slider;
 }
 
-LineEdit *ControlPanel::addText(const QString &caption, const QString &text,
-                                const std::function<void(const QString &)> &change)
+OxaLineEdit *ControlPanel::addText(const QString &caption, const QString &text,
+                                   const std::function<void(const QString &)> &change)
 {
-    auto *field = new LineEdit;
+    auto *field = Fields::line();
     field->setText(text);
     field->setCursorPosition(0);
     connect(field, &QLineEdit::textChanged, this, change);

@@ -5,8 +5,8 @@
 
 #include <functional>
 
-class LineEdit;
 class OxaLabel;
+class OxaLineEdit;
 class SegmentedControl;
 class Slider;
 
@@ -29,8 +29,8 @@ public:
                       const QString &word = QString());
 
     /// Adds a field for a text.
-    LineEdit *addText(const QString &caption, const QString &text,
-                      const std::function<void(const QString &text)> &change);
+    OxaLineEdit *addText(const QString &caption, const QString &text,
+                         const std::function<void(const QString &text)> &change);
 
     /// Adds a read-only text, and returns its label.
     OxaLabel *addValue(const QString &caption, const QString &text = QString());

@@ -2,11 +2,11 @@
 #include "PropertyControls.h"
 
 #include "looks/Metrics.h"
-#include "widgets/LineEdit.h"
 #include "widgets/SegmentedControl.h"
 #include "widgets/Slider.h"
 
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaLineEdit.h>
 
 #include <QHBoxLayout>
 #include <QMetaProperty>
@@ -225,8 +225,8 @@ void PropertyControls::addPointOf(const char *property)
 void PropertyControls::addTextOf(const char *property)
 {
     const Apply apply = setter(property);
-    LineEdit *field = addText(QString::fromLatin1(property), value(property).toString(),
-                              [this, apply](const QString &text) { applyToAll(apply, text); });
+    OxaLineEdit *field = addText(QString::fromLatin1(property), value(property).toString(),
+                                 [this, apply](const QString &text) { applyToAll(apply, text); });
     keepUpToDate([this, field, property] {
         if (field->text() != value(property).toString())
             field->setText(value(property).toString());

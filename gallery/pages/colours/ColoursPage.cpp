@@ -5,11 +5,12 @@
 #include "ColorSetTable.h"
 #include "looks/Metrics.h"
 #include "widgets/EmptyState.h"
+#include "widgets/Fields.h"
 #include "widgets/Labels.h"
-#include "widgets/SearchField.h"
 #include "widgets/WrapLayout.h"
 
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaTextInput.h>
 
 #include <QVBoxLayout>
 
@@ -23,7 +24,7 @@ ColoursPage::ColoursPage(QWidget *parent)
       m_emptyState(
               new EmptyState(tr("Try a part of a name, such as “border”, or of a colour value."),
                              tr("Clear the search"), this)),
-      m_search(new SearchField(tr("Search names and colour values"), this)),
+      m_search(Fields::search(tr("Search names and colour values"), this)),
       m_copied(Labels::caption(QString(), this)),
       m_count(Labels::chip(QString(), this)),
       m_store(Labels::chip(QString(), this))
@@ -33,8 +34,9 @@ ColoursPage::ColoursPage(QWidget *parent)
     body()->addWidget(m_table, 1);
     body()->addWidget(m_emptyState, 1);
 
-    connect(m_search, &QLineEdit::textChanged, this, &ColoursPage::search);
-    connect(m_emptyState, &EmptyState::actionTriggered, m_search, &QLineEdit::clear);
+    connect(m_search, &OxaTextInput::textChanged, this, &ColoursPage::search);
+    connect(m_emptyState, &EmptyState::actionTriggered, m_search,
+            [this] { Fields::clear(m_search); });
     connect(m_table, &ColorSetTable::copied, this,
             [this](const QString &text) { m_copied->setText(tr("Copied %1").arg(text)); });
     showStore();

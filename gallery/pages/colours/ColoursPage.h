@@ -8,7 +8,7 @@ class ColorSetTable;
 class EmptyState;
 class OxaLabel;
 class QLayout;
-class SearchField;
+class OxaTextInput;
 
 /// Shows the colour sets of the store that the window takes its colours from, with a search.
 class ColoursPage : public Page
@@ -30,7 +30,7 @@ private:
     ColorSetModel *m_model;
     ColorSetTable *m_table;
     EmptyState *m_emptyState;
-    SearchField *m_search;
+    OxaTextInput *m_search;
     OxaLabel *m_copied;
     OxaLabel *m_count;
     OxaLabel *m_store;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "EmojiEdit.h"
 
+#include "widgets/Fields.h"
+
 #include <UiElements/emoji/EmojiTextConverter.h>
 
 #include <QMimeData>
@@ -17,21 +19,13 @@ QString plainText(const QString &markup)
 
 } // namespace
 
-EmojiEdit::EmojiEdit(QWidget *parent) : QTextEdit(parent)
+EmojiEdit::EmojiEdit(QWidget *parent) : OxaTextEdit(parent)
 {
-    m_themeBlock.followTheme();
     setFontToken(OxaFont::Token::BodyPrimary);
     setAcceptRichText(false);
-    setTabChangesFocus(true);
     // Undo would restore the characters, which would become pictures again.
     setUndoRedoEnabled(false);
-    setCSS(QStringLiteral("$backgroundColors: gallery-field-background;"
-                          "$borderColors: gallery-field-border;"
-                          "$borderRadius: 6;"
-                          "EmojiEdit { padding: 4px; }"
-                          // Shows the focus under the pointer as well.
-                          "EmojiEdit:focus { padding: 3px;"
-                          " border: 2px solid $(gallery-focus-border); }"));
+    setCSS(Fields::area("EmojiEdit"));
     connect(this, &QTextEdit::textChanged, this, &EmojiEdit::showArtwork);
 }
 
@@ -45,8 +39,6 @@ QMimeData *EmojiEdit::createMimeDataFromSelection() const
     mimeData->setText(plainText(textCursor().selection().toHtml()));
     return mimeData;
 }
-
-void EmojiEdit::onThemeChanged() { }
 
 /// Replaces emoji that are still characters by pictures.
 void EmojiEdit::showArtwork()

@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <UiElements/fonts/OxaFontBlock.h>
-#include <UiElements/theme/OxaThemeBlock.h>
-
-#include <QTextEdit>
+#include <UiElements/widgets/OxaTextEdit.h>
 
 /// A text field that shows emoji as artwork as soon as they are typed, pasted or inserted, whether
 /// or not a font has them. Has no undo.
-class EmojiEdit : public QTextEdit
+class EmojiEdit : public OxaTextEdit
 {
     Q_OBJECT
-    UIELEMENTS_THEME_BLOCK(QTextEdit)
-    UIELEMENTS_FONT_BLOCK
 
 public:
     explicit EmojiEdit(QWidget *parent = nullptr);
@@ -25,9 +20,6 @@ public:
 
 protected:
     QMimeData *createMimeDataFromSelection() const override;
-
-protected Q_SLOTS:
-    virtual void onThemeChanged();
 
 private:
     void showArtwork();

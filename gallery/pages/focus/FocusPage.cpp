@@ -11,8 +11,10 @@
 #include "widgets/CodeEdit.h"
 #include "widgets/ColumnsLayout.h"
 #include "widgets/ControlRow.h"
-#include "widgets/LineEdit.h"
+#include "widgets/Fields.h"
 #include "widgets/SegmentedControl.h"
+
+#include <UiElements/widgets/OxaLineEdit.h>
 
 #include <QHBoxLayout>
 
@@ -84,7 +86,7 @@ Card *FocusPage::makeStatesCard()
             this);
     auto *row = new QHBoxLayout;
     row->setSpacing(Metrics::small);
-    auto *name = new LineEdit(card);
+    auto *name = Fields::line(card);
     name->setAccessibleName(tr("Name"));
     name->setPlaceholderText(tr("Name"));
     auto *button = Buttons::make(tr("Invite"), card);

@@ -9,12 +9,13 @@
 #include "shell/GalleryApplication.h"
 #include "widgets/ControlRow.h"
 #include "widgets/EmptyState.h"
+#include "widgets/Fields.h"
 #include "widgets/Labels.h"
-#include "widgets/SearchField.h"
 #include "widgets/SegmentedControl.h"
 #include "widgets/WrapLayout.h"
 
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaTextInput.h>
 
 #include <QLocale>
 #include <QVBoxLayout>
@@ -73,7 +74,7 @@ IconsPage::IconsPage(QWidget *parent)
       m_noPackage(new EmptyState(tr("./dev artwork fetches one. It is looked for in %1")
                                          .arg(GalleryApplication::get()->artworkFolder()),
                                  tr("Look again"), this)),
-      m_search(new SearchField(tr("Search names"), this)),
+      m_search(Fields::search(tr("Search names"), this)),
       m_count(Labels::chip(QString(), this))
 {
     m_sheet->setMinimumHeight(Metrics::leastListHeight);
@@ -90,8 +91,8 @@ IconsPage::IconsPage(QWidget *parent)
     body()->addWidget(m_noMatch, 1);
     body()->addWidget(m_noPackage, 1);
 
-    connect(m_search, &QLineEdit::textChanged, this, &IconsPage::search);
-    connect(m_noMatch, &EmptyState::actionTriggered, m_search, &QLineEdit::clear);
+    connect(m_search, &OxaTextInput::textChanged, this, &IconsPage::search);
+    connect(m_noMatch, &EmptyState::actionTriggered, m_search, [this] { Fields::clear(m_search); });
     connect(m_noPackage, &EmptyState::actionTriggered, this, [this] { showSource(Packages); });
     connect(m_table, &IconTable::currentIconChanged, this, &IconsPage::showIcon);
     connect(m_table, &IconTable::colorsChanged, this, &IconsPage::showColor);

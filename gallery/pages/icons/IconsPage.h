@@ -10,7 +10,7 @@ class IconRenderers;
 class IconTable;
 class OxaLabel;
 class QLayout;
-class SearchField;
+class OxaTextInput;
 
 /// Shows icons in the states of a colour set, and why they take its colours or do not.
 class IconsPage : public Page
@@ -38,6 +38,6 @@ private:
     IconDetails *m_details;
     EmptyState *m_noMatch;
     EmptyState *m_noPackage;
-    SearchField *m_search;
+    OxaTextInput *m_search;
     OxaLabel *m_count;
 };

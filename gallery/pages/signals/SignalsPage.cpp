@@ -9,13 +9,14 @@
 #include "widgets/Buttons.h"
 #include "widgets/CodeEdit.h"
 #include "widgets/EmptyState.h"
+#include "widgets/Fields.h"
 #include "widgets/Labels.h"
 #include "widgets/ListView.h"
-#include "widgets/SearchField.h"
 #include "widgets/WrapLayout.h"
 
 #include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaTextInput.h>
 
 #include <QTime>
 #include <QVBoxLayout>
@@ -47,7 +48,7 @@ SignalsPage::SignalsPage(QWidget *parent)
       m_view(new ListView(m_model, new SignalDelegate, this)),
       m_emptyState(new EmptyState(tr("Try a part of a name, such as “space”, or of a type."),
                                   tr("Clear the search"), this)),
-      m_search(new SearchField(tr("Search names and types"), this)),
+      m_search(Fields::search(tr("Search names and types"), this)),
       m_count(Labels::chip(QString(), this)),
       m_log(new CodeEdit(this)),
       m_emit(makeButton(tr("Emit"), &SignalsPage::emitChosen)),
@@ -71,8 +72,9 @@ SignalsPage::SignalsPage(QWidget *parent)
     body()->addLayout(makeToolbar());
     body()->addLayout(row, 1);
 
-    connect(m_search, &QLineEdit::textChanged, this, &SignalsPage::search);
-    connect(m_emptyState, &EmptyState::actionTriggered, m_search, &QLineEdit::clear);
+    connect(m_search, &OxaTextInput::textChanged, this, &SignalsPage::search);
+    connect(m_emptyState, &EmptyState::actionTriggered, m_search,
+            [this] { Fields::clear(m_search); });
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &SignalsPage::choose);
     connect(m_view, &ListView::activated, this, &SignalsPage::emitChosen);

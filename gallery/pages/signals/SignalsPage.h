@@ -13,7 +13,7 @@ class ListView;
 class OxaLabel;
 class QBoxLayout;
 class QLayout;
-class SearchField;
+class OxaTextInput;
 class SignalModel;
 
 /// Shows the signals of the hub, how many receivers each has, and what is emitted.
@@ -42,7 +42,7 @@ private:
     SignalModel *m_model;
     ListView *m_view;
     EmptyState *m_emptyState;
-    SearchField *m_search;
+    OxaTextInput *m_search;
     OxaLabel *m_count;
     CodeEdit *m_log;
     OxaPushButton *m_emit;

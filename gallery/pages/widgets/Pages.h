@@ -10,6 +10,7 @@ namespace Pages {
 Page *makeTypography(QWidget *parent);
 Page *makeLabels(QWidget *parent);
 Page *makeButtons(QWidget *parent);
+Page *makeForms(QWidget *parent);
 Page *makeSvgWidgets(QWidget *parent);
 Page *makeEmojiText(QWidget *parent);
 Page *makeLists(QWidget *parent);

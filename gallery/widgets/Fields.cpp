@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Fields.h"
+
+#include <UiElements/svg/OxaSvgPushButton.h>
+#include <UiElements/svg/OxaSvgRenderer.h>
+#include <UiElements/widgets/OxaCheckBox.h>
+#include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaRadioButton.h>
+#include <UiElements/widgets/OxaTextBrowser.h>
+#include <UiElements/widgets/OxaTextEdit.h>
+#include <UiElements/widgets/OxaTextInput.h>
+#include <UiElements/widgets/OxaTextInputFactory.h>
+
+namespace {
+
+constexpr int radius = 6;
+constexpr int searchWidth = 320;
+constexpr int comboHeight = 32;
+constexpr QSize checkBoxSize(16, 16);
+constexpr OxaFont::Token token = OxaFont::Token::BodySecondary;
+const QString placeholderColors = QStringLiteral("gallery-field-placeholder-text");
+
+QString icon(const char *name) { return OxaSvgRenderer::resourcePath(QString::fromLatin1(name)); }
+
+OxaCSSData look(const char *border, int width)
+{
+    OxaCSSData css;
+    css.backgroundColorSetName = QStringLiteral("gallery-field-background");
+    css.borderColorSetName = QString::fromLatin1(border);
+    css.borderTop = css.borderRight = css.borderBottom = css.borderLeft = true;
+    css.borderRadius = radius;
+    css.borderWidth = static_cast<quint8>(width);
+    return css;
+}
+
+const OxaTextInputFactory &factory()
+{
+    static const OxaTextInputFactory fields({ look("gallery-field-border", 1),
+                                              look("gallery-focus-border", 2),
+                                              look("gallery-error-text", 2) });
+    return fields;
+}
+
+template <typename Area>
+Area *makeArea(const QString &name, QWidget *parent)
+{
+    auto *area = new Area(parent);
+    area->setAccessibleName(name);
+    area->setFontToken(token);
+    area->setCSS(Fields::area(Area::staticMetaObject.className()));
+    return area;
+}
+
+} // namespace
+
+QString Fields::area(const char *className)
+{
+    // No text colours: with them Qt derives a placeholder colour that is too faint to read. The
+    // palette has a better one.
+    return QStringLiteral("$backgroundColors: gallery-field-background;"
+                          "$borderColors: gallery-field-border;"
+                          "$borderRadius: 6;"
+                          "%1 { padding: 4px; }"
+                          // Shows the focus under the pointer as well.
+                          "%1:focus { padding: 3px; border: 2px solid $(gallery-focus-border); }")
+            .arg(QLatin1String(className));
+}
+
+OxaLineEdit *Fields::line(QWidget *parent)
+{
+    auto *field = new OxaLineEdit(parent);
+    field->setFontToken(token);
+    field->setPlaceholderColorSetName(placeholderColors);
+    field->setCSS(QStringLiteral("$backgroundColors: gallery-field-background;"
+                                 "$borderColors: gallery-field-border;"
+                                 "$borderRadius: 6;"
+                                 "OxaLineEdit { padding: 6px 8px; }"
+                                 // Shows the focus under the pointer as well.
+                                 "OxaLineEdit:focus { padding: 5px 7px;"
+                                 " border: 2px solid $(gallery-focus-border); }"));
+    return field;
+}
+
+OxaTextInput *Fields::input(const QString &name, QWidget *parent)
+{
+    OxaTextInput *field = factory().make(parent);
+    field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    field->setTextInputAccessibleText(name);
+    field->updateFontToken(token);
+    field->setPlaceholderColorSetName(placeholderColors);
+    field->setIcon(icon("close_16"));
+    // The frame around it is the field's.
+    field->getLineEdit()->setCSS(QStringLiteral(
+            "OxaLineEdit { background: transparent; border: none; padding: 3px 0; }"));
+    auto *counter = field->findChild<OxaLabel *>();
+    counter->setFontToken(OxaFont::Token::RadioButtonLabelSecondary);
+    counter->setCSS(QStringLiteral("$textColors: gallery-caption-text;"));
+    const auto buttons = field->findChildren<OxaSvgPushButton *>();
+    for (OxaSvgPushButton *button : buttons)
+        button->setSvgIconColorSet(QStringLiteral("gallery-icon"));
+    return field;
+}
+
+OxaTextInput *Fields::password(const QString &name, QWidget *parent)
+{
+    OxaTextInput *field = input(name, parent);
+    field->setPasswordIcons(icon("eye-off_13"), icon("eye_13"));
+    field->setPasswordField(true);
+    return field;
+}
+
+OxaTextInput *Fields::search(const QString &hint, QWidget *parent)
+{
+    OxaTextInput *field = input(QObject::tr("Search"), parent);
+    field->setSearchIcon(icon("search_16"));
+    field->setPlaceholderText(hint);
+    field->setFixedWidth(searchWidth);
+    QObject::connect(field, &OxaTextInput::keyPressed, field, [field](int key) {
+        if (key == Qt::Key_Escape)
+            field->setText(QString());
+    });
+    return field;
+}
+
+void Fields::clear(OxaTextInput *field)
+{
+    field->setText(QString());
+    field->setFocus();
+}
+
+OxaComboBox *Fields::combo(const QString &name, const QStringList &texts, QWidget *parent)
+{
+    auto *combo = new OxaComboBox(parent);
+    // Any name: without one a combo box has no style.
+    combo->setObjectName(QStringLiteral("combo"));
+    combo->setAccessibleName(name);
+    combo->addItems(texts);
+    combo->setFontToken(token);
+    combo->setMinimumHeight(comboHeight);
+    combo->setItemViewBorderRadius(radius);
+    combo->setSelectedBackgroundColor(QStringLiteral("gallery-selection-background"));
+    combo->updateStyle({ "oxa-rills-combobox-text", "oxa-rills-combobox-background",
+                         "oxa-rills-combobox-border", 1, radius });
+    return combo;
+}
+
+OxaCheckBox *Fields::checkBox(const QString &text, QWidget *parent)
+{
+    auto *box = new OxaCheckBox(parent, true);
+    box->setText(text);
+    box->setFontToken(token);
+    box->setCheckboxSize(checkBoxSize);
+    return box;
+}
+
+OxaRadioButton *Fields::radioButton(const QString &text, QWidget *parent)
+{
+    auto *button = new OxaRadioButton(text, parent);
+    button->setFontToken(token);
+    button->setCSS(QStringLiteral(
+            "$textColors: oxa-default-text;"
+            "OxaRadioButton { spacing: 10px; }"
+            "OxaRadioButton::indicator { width: 14px; height: 14px; border-radius: 8px;"
+            " border: 1px solid $(oxa-recorder-comboBox-border);"
+            " background: $(checkbox-unchecked-background); }"
+            "OxaRadioButton::indicator:checked { width: 6px; height: 6px;"
+            " border: 5px solid $(checkbox-checked-background); }"
+            "OxaRadioButton::indicator:disabled {"
+            " border-color: $(oxa-recorder-comboBox-border.disabled); }"));
+    return button;
+}
+
+OxaTextEdit *Fields::edit(const QString &name, QWidget *parent)
+{
+    return makeArea<OxaTextEdit>(name, parent);
+}
+
+OxaTextBrowser *Fields::browser(const QString &name, QWidget *parent)
+{
+    return makeArea<OxaTextBrowser>(name, parent);
+}
