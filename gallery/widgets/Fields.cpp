@@ -13,11 +13,14 @@
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTextInputFactory.h>
 
+#include <QGuiApplication>
+#include <QTextBlock>
+
 namespace {
 
 constexpr int radius = 6;
 constexpr int searchWidth = 320;
-constexpr int comboHeight = 32;
+constexpr int comboHeight = 34;
 constexpr QSize checkBoxSize(16, 16);
 constexpr OxaFont::Token token = OxaFont::Token::BodySecondary;
 const QString placeholderColors = QStringLiteral("gallery-field-placeholder-text");
@@ -43,6 +46,37 @@ const OxaTextInputFactory &factory()
     return fields;
 }
 
+/// Keeps the text of \a field on the side where the layout begins, as that of labels. By itself it
+/// goes where its own direction begins.
+void alignToLayout(QLineEdit *field)
+{
+    const auto align = [field] {
+        const bool isRight = QGuiApplication::isRightToLeft();
+        field->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter
+                            | (isRight ? Qt::AlignRight : Qt::AlignLeft));
+    };
+    QObject::connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, field, align);
+    align();
+}
+
+/// Gives the links of \a area the theme's colour: a document keeps the one that it was read with.
+void colorLinks(QTextEdit *area)
+{
+    QTextCharFormat format;
+    format.setForeground(area->palette().link());
+    for (QTextBlock block = area->document()->begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            if (!it.fragment().charFormat().isAnchor())
+                continue;
+            QTextCursor link(area->document());
+            link.setPosition(it.fragment().position());
+            link.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor,
+                              it.fragment().length());
+            link.mergeCharFormat(format);
+        }
+    }
+}
+
 template <typename Area>
 Area *makeArea(const QString &name, QWidget *parent)
 {
@@ -50,6 +84,7 @@ Area *makeArea(const QString &name, QWidget *parent)
     area->setAccessibleName(name);
     area->setFontToken(token);
     area->setCSS(Fields::area(Area::staticMetaObject.className()));
+    QObject::connect(area, &Area::themeTypeChanged, area, [area] { colorLinks(area); });
     return area;
 }
 
@@ -76,10 +111,11 @@ OxaLineEdit *Fields::line(QWidget *parent)
     field->setCSS(QStringLiteral("$backgroundColors: gallery-field-background;"
                                  "$borderColors: gallery-field-border;"
                                  "$borderRadius: 6;"
-                                 "OxaLineEdit { padding: 6px 8px; }"
+                                 "OxaLineEdit { padding: 5px 8px; }"
                                  // Shows the focus under the pointer as well.
-                                 "OxaLineEdit:focus { padding: 5px 7px;"
+                                 "OxaLineEdit:focus { padding: 4px 7px;"
                                  " border: 2px solid $(gallery-focus-border); }"));
+    alignToLayout(field);
     return field;
 }
 
@@ -93,13 +129,16 @@ OxaTextInput *Fields::input(const QString &name, QWidget *parent)
     field->setIcon(icon("close_16"));
     // The frame around it is the field's.
     field->getLineEdit()->setCSS(QStringLiteral(
-            "OxaLineEdit { background: transparent; border: none; padding: 3px 0; }"));
+            "OxaLineEdit { background: transparent; border: none; padding: 3px 5px; }"));
     auto *counter = field->findChild<OxaLabel *>();
     counter->setFontToken(OxaFont::Token::RadioButtonLabelSecondary);
     counter->setCSS(QStringLiteral("$textColors: gallery-caption-text;"));
     const auto buttons = field->findChildren<OxaSvgPushButton *>();
-    for (OxaSvgPushButton *button : buttons)
+    for (OxaSvgPushButton *button : buttons) {
         button->setSvgIconColorSet(QStringLiteral("gallery-icon"));
+        button->setFlat(true);
+    }
+    alignToLayout(field->getLineEdit());
     return field;
 }
 
@@ -165,10 +204,16 @@ OxaRadioButton *Fields::radioButton(const QString &text, QWidget *parent)
             "OxaRadioButton::indicator { width: 14px; height: 14px; border-radius: 8px;"
             " border: 1px solid $(oxa-recorder-comboBox-border);"
             " background: $(checkbox-unchecked-background); }"
-            "OxaRadioButton::indicator:checked { width: 6px; height: 6px;"
-            " border: 5px solid $(checkbox-checked-background); }"
+            "OxaRadioButton::indicator:hover {"
+            " background: $(checkbox-unchecked-background.hovered); }"
+            "OxaRadioButton::indicator:pressed {"
+            " background: $(checkbox-unchecked-background.pressed); }"
             "OxaRadioButton::indicator:disabled {"
-            " border-color: $(oxa-recorder-comboBox-border.disabled); }"));
+            " border-color: $(oxa-recorder-comboBox-border.disabled); }"
+            // The dot is what a wide border leaves free.
+            "OxaRadioButton::indicator:checked { width: 6px; height: 6px;"
+            " border: 5px solid $(checkbox-checked-background);"
+            " background: $(oxa-reaction-list-item-gradient-background-end-color); }"));
     return button;
 }
 

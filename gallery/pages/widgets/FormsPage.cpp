@@ -82,16 +82,19 @@ Card *makeSignIn()
     address->setPlaceholderText(QStringLiteral("ada@example.org"));
     address->setInputValidator(isMailAddress, false);
     auto *error = makeError(tr("Enter an address such as ada@example.org."), address);
+    OxaTextInput *password = Fields::password(tr("Password"));
+    password->setPlaceholderText(tr("Eight characters or more"));
     auto *column = new QVBoxLayout;
     column->setSpacing(Metrics::tight);
     addField(column, tr("Mail address"), address);
     column->addWidget(error);
+    addField(column, tr("Password"), password);
     card->body()->addLayout(column);
 
-    OxaTextInput *password = Fields::password(tr("Password"));
-    password->setPlaceholderText(tr("Eight characters or more"));
-    addField(card->body(), tr("Password"), password);
-    card->body()->addWidget(Fields::checkBox(tr("Remember me")));
+    OxaCheckBox *remember = Fields::checkBox(tr("Remember me"));
+    // The box stands in from the edge: like this it is below the fields' edges.
+    remember->setSvgIconTopLeftPadding({ 1 - remember->getCheckboxMargin(), 0 });
+    card->body()->addWidget(remember);
     addButton(card, tr("Sign in"));
     return card;
 }
@@ -123,13 +126,14 @@ Card *makeProfile()
     OxaComboBox *captions = Fields::combo(tr("Captions"),
                                           { tr("Off"), tr("In calls"), tr("Always") });
     captions->setOpenedUpwards(true);
-    OxaComboBox *clock = Fields::combo(tr("Clock"), { tr("12 hours"), tr("24 hours") });
-    clock->setComboBoxAnimationEnabled(false);
+    OxaComboBox *day = Fields::combo(tr("First day"),
+                                     { tr("Monday"), tr("Saturday"), tr("Sunday") });
+    day->setComboBoxAnimationEnabled(false);
     auto *row = new QHBoxLayout;
     row->setSpacing(Metrics::spacing);
     addField(card->body(), tr("Language"), language);
     addField(row, tr("Captions"), captions);
-    addField(row, tr("Clock"), clock);
+    addField(row, tr("First day"), day);
     card->body()->addLayout(row);
 
     auto *who = new QHBoxLayout;
@@ -227,7 +231,14 @@ void addTextInput(Page &page)
             tr("A field with a counter, a button that clears it or shows a password, and a search "
                "icon. Type an upper-case letter to see the error look."),
             make);
-    controls->setRange("axLength", 1, longestName);
+    controls->setRange("maxLength", 1, longestName);
+    controls->addChoice(tr("setText()"),
+                        { { tr("None"), QString() },
+                          { tr("Valid"), tr("word") },
+                          { tr("Invalid"), tr("WORD") } },
+                        [](QWidget *widget, const QVariant &text) {
+                            widget->setProperty("text", text);
+                        });
     controls->addAll();
     controls->addChoice(tr("setPasswordField()"), PropertyControls::noAndYes(),
                         [](QWidget *widget, const QVariant &isPassword) {
@@ -246,14 +257,17 @@ void addComboBox(Page &page)
             tr("A list in the colours of the theme, which can open upwards or without animation. "
                "Without its list it is one big button."),
             make);
-    controls->offer("Icon", WidgetCard::icons({ tr("Arrow"), WidgetCard::icon("arrow-down_8") }));
-    controls->offer("IconExpanded",
-                    WidgetCard::icons({ tr("Arrow"), WidgetCard::icon("arrow-up_8") }));
+    const PropertyControls::Choice filter = { tr("Filter"), WidgetCard::icon("filter_16") };
+    controls->offer("Icon", { { tr("Arrow"), WidgetCard::icon("arrow-down_8") }, filter });
+    controls->offer("IconExpanded", { { tr("Arrow"), WidgetCard::icon("arrow-up_8") }, filter });
     controls->offer("BackgroundColor",
                     { { tr("Own"), QString() },
                       { tr("Chip"), QStringLiteral("gallery-chip-background") },
                       { tr("Selection"), QStringLiteral("gallery-selection-background") } });
-    controls->addProperty("editable");
+    controls->addChoice(tr("setEditable()"), PropertyControls::noAndYes(),
+                        [](QWidget *widget, const QVariant &isEditable) {
+                            qobject_cast<OxaComboBox *>(widget)->setEditable(isEditable.toBool());
+                        });
     controls->addAll();
 }
 
