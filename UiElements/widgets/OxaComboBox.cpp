@@ -157,8 +157,10 @@ void OxaComboBox::setComboBoxAnimationEnabled(bool enabled) { m_isAnimated = ena
 
 void OxaComboBox::setLeftPadding(double padding)
 {
-    constexpr double most = std::numeric_limits<int>::max();
-    m_leftPadding = std::isnan(padding) ? 0 : static_cast<int>(qBound(-most, padding, most));
+    using Limits = std::numeric_limits<int>;
+    m_leftPadding = std::isnan(padding)
+            ? 0
+            : static_cast<int>(qBound(double(Limits::min()), padding, double(Limits::max())));
     applyCustomCSS();
 }
 
