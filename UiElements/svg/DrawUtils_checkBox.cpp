@@ -10,6 +10,7 @@
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <QPainterPath>
 #include <QStyleOption>
 
 namespace {
@@ -53,16 +54,19 @@ void drawBox(QPainter &painter, const OxaCheckBox &box, const QColor &border,
 {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(orTransparent(border));
-    painter.setBrush(orTransparent(background));
     const QSize size = box.getCheckboxSize();
     if (!rounded) {
+        painter.setBrush(orTransparent(background));
         painter.drawRect(0, 0, size.width(), size.height());
         return;
     }
     const int half = radius / 2;
-    painter.drawRoundedRect(QRectF(indentOf(box, rounded), 0, size.width() - half,
-                                   size.height() - half),
-                            radius, radius);
+    QPainterPath path;
+    path.addRoundedRect(QRectF(indentOf(box, rounded), 0, size.width() - half,
+                               size.height() - half),
+                        radius, radius);
+    painter.fillPath(path, orTransparent(background));
+    painter.drawPath(path);
 }
 
 void drawTick(QPainter &painter, const OxaCheckBox &box, const OxaSvgIcon &tick,
