@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "DrawUtils.h"
 
+#include <UiElements/theme/StateColor_p.h>
+
 #include <QPainter>
 #include <QPixmap>
 #include <qsvgnode_p.h>
@@ -77,7 +79,7 @@ void DrawUtils::drawSVG(QPainter *painter, QSvgNode *node, QSvgExtraStates &stat
     painter->save();
     mapSourceToTarget(*painter, source, target);
     painter->setPen(initialPen());
-    painter->setBrush(QBrush(color, Qt::SolidPattern));
+    painter->setBrush(QBrush(orTransparent(color), Qt::SolidPattern));
     painter->setOpacity(opacity);
     painter->setRenderHints(smoothHints);
     node->draw(painter, states);
@@ -92,7 +94,7 @@ QPixmap DrawUtils::renderPixmap(QSvgNode *node, const QRectF &iconRect, const QS
         return {};
     QPixmap pixmap(pixmapSize);
     pixmap.setDevicePixelRatio(devicePixelRatio);
-    pixmap.fill(backgroundColor);
+    pixmap.fill(orTransparent(backgroundColor));
     QPainter painter(&pixmap);
     QSvgExtraStates states;
     drawSVG(&painter, node, states, iconRect, color, 1.0);

@@ -17,8 +17,8 @@ struct OxaSvgIcon::IconData
 
     void draw(QPainter *painter, QStyle::State state) const
     {
-        renderer->draw(painter, QRectF(QPointF(), iconSize),
-                       orTransparent(colorForStyleState(colorSet, state)), 1.0);
+        renderer->draw(painter, QRectF(QPointF(), iconSize), colorForStyleState(colorSet, state),
+                       1.0);
     }
 
     QPointer<OxaSvgRenderer> renderer;

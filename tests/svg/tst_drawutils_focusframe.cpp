@@ -82,8 +82,6 @@ void tst_DrawUtilsFocusFrame::paintsADottedFrameInTheInverseColor_data()
     QTest::newRow("of black") << QRect(4, 6, 20, 10) << QColor(Qt::black) << QColor(Qt::white);
     QTest::newRow("of a translucent color is opaque")
             << QRect(4, 6, 20, 10) << QColor(200, 100, 30, 40) << inverse;
-    QTest::newRow("of no color is white, the inverse of black")
-            << QRect(4, 6, 20, 10) << QColor() << QColor(Qt::white);
 }
 
 void tst_DrawUtilsFocusFrame::paintsADottedFrameInTheInverseColor()

@@ -195,12 +195,15 @@ void tst_OxaSvgPushButtonPainting::hasNoColorsAfterAStyleTextWhenTheThemeLacksTh
     const StoreGuard stores(ColorSets::storeOf({ textColors }));
     QTest::ignoreMessage(QtWarningMsg, "ColorSet name does not exist!  \"icon\"");
     button.setCSS(QStringLiteral("$textColors: text;"));
-    // Qt would paint a colour that is not valid in black. The text's colours are for an empty name.
+    // The text's colours are for an empty name. The icons are in the middle of the frame.
+    const QRect middle(20, 10, 80, 20);
+    OxaSvgPushButton plain;
+    plain.setCheckable(true);
+    plain.setCSS(button.getCSS());
     for (const bool isChecked : { false, true }) {
         button.setChecked(isChecked);
-        const QImage image = picture(button);
-        QCOMPARE(Pixels::countNear(image, Qt::black, QRect(52, 12, 16, 16), 0), 0);
-        QCOMPARE(Faces::facesIn(image, textColors), QString());
+        plain.setChecked(isChecked);
+        QCOMPARE(picture(button).copy(middle), picture(plain).copy(middle));
     }
 }
 

@@ -118,6 +118,9 @@ private Q_SLOTS:
 
     void paintsBoxTickAndText_data();
     void paintsBoxTickAndText();
+    void wrapsAndElidesAtEachWidth_data();
+    void wrapsAndElidesAtEachWidth();
+    void wrapsInAFontThatIsTooLargeForTheLine();
     void placesTheBoxBesideTheText_data();
     void placesTheBoxBesideTheText();
     void placesTheTickInTheMiddleOfTheBox_data();
@@ -171,6 +174,54 @@ void tst_OxaCheckBoxDrawing::paintsBoxTickAndText()
             QCOMPARE(image, expected);
         }
     }
+}
+
+void tst_OxaCheckBoxDrawing::wrapsAndElidesAtEachWidth_data()
+{
+    QTest::addColumn<bool>("wordWrap");
+    QTest::newRow("wrapped") << true;
+    QTest::newRow("elided") << false;
+}
+
+void tst_OxaCheckBoxDrawing::wrapsAndElidesAtEachWidth()
+{
+    QFETCH(const bool, wordWrap);
+    OxaCheckBox checkBox;
+    plain(checkBox);
+    checkBox.setText(QStringLiteral("one two three"));
+    checkBox.setWordWrap(wordWrap);
+    checkBox.setElideMode(wordWrap ? Qt::ElideNone : Qt::ElideRight);
+    const int enough = checkBox.geTextPadding()
+            + checkBox.fontMetrics().horizontalAdvance(checkBox.text());
+    for (int width = enough - 4; width < enough + 4; ++width) {
+        checkBox.resize(width, 40);
+        const QImage image = drawing(checkBox, [&checkBox](QPainter *painter) {
+            drawCheckbox(painter, checkBox, { false, false }, noTick);
+        });
+        const QImage expected = drawing(checkBox, [&checkBox](QPainter *painter) {
+            paint(painter, checkBox, { false, false });
+        });
+        QCOMPARE(image, expected);
+    }
+}
+
+void tst_OxaCheckBoxDrawing::wrapsInAFontThatIsTooLargeForTheLine()
+{
+    OxaCheckBox checkBox;
+    plain(checkBox);
+    checkBox.setText(QStringLiteral("one two"));
+    checkBox.setWordWrap(false); // Counts for the place of the text, not for its painting.
+    QFont large = checkBox.font();
+    large.setPixelSize(18);
+    const QImage image = drawing(checkBox, [&](QPainter *painter) {
+        painter->setFont(large);
+        drawCheckbox(painter, checkBox, { false, false }, noTick);
+    });
+    const QImage expected = drawing(checkBox, [&](QPainter *painter) {
+        painter->setFont(large);
+        paint(painter, checkBox, { false, false });
+    });
+    QCOMPARE(image, expected);
 }
 
 void tst_OxaCheckBoxDrawing::placesTheBoxBesideTheText_data()

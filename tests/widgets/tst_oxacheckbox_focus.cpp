@@ -37,6 +37,8 @@ private Q_SLOTS:
 
     void leavesTheFrameToTheApplicationsStyle_data();
     void leavesTheFrameToTheApplicationsStyle();
+    void framesABoxAboveTheTop_data();
+    void framesABoxAboveTheTop();
     void framesTheWidgetForABoxOfNoSize();
     void framesAsTheApplicationsStyleWhateverTheFocusSet();
     void asksNoStyleWithoutFocusByKeyboard_data();
@@ -103,6 +105,35 @@ void tst_OxaCheckBoxFocus::leavesTheFrameToTheApplicationsStyle()
     QCOMPARE(call.painter, used);
     QCOMPARE(call.widget, &checkBox);
     QCOMPARE(checkBox.property("hasCustomRect"), QVariant(true));
+}
+
+void tst_OxaCheckBoxFocus::framesABoxAboveTheTop_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<bool>("isMoved");
+    QTest::newRow("left to right") << Qt::LeftToRight << true;
+    // The block's height does not count there.
+    QTest::newRow("right to left") << Qt::RightToLeft << false;
+}
+
+void tst_OxaCheckBoxFocus::framesABoxAboveTheTop()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    QFETCH(const bool, isMoved);
+    const LayoutDirectionGuard layoutDirection(direction);
+    const ApplicationPropertyGuard borders("useGlobalFocusBorders", true);
+    const ApplicationStyleGuard style;
+    OxaCheckBox checkBox;
+    checkBox.setText(QStringLiteral("abc"));
+    checkBox.setCheckboxSize(QSize(45, 45));
+    checkBox.resize(140, 40);
+    drawing(checkBox, [&](QPainter *painter) {
+        drawCheckbox(painter, checkBox, { false, false, 2, keyboardFocus }, noTick, focusColors);
+    });
+    const int top = placesIn(checkBox).block.y();
+    QVERIFY(top < -5);
+    QCOMPARE(style.calls().size(), std::size_t(1));
+    QCOMPARE(style.calls().front().rect.top(), isMoved ? top : 0);
 }
 
 void tst_OxaCheckBoxFocus::framesTheWidgetForABoxOfNoSize()
