@@ -31,6 +31,9 @@ inline OxaColorSetMap store()
             { textColors, borderColors, iconColors, checkedColors, uncheckedColors, focusColors });
 }
 
+/// A tick that fills the size of its icon.
+const QString squareTick = QStringLiteral(":/widgets/square.svg");
+
 /// As odd as the height of a line, so that the box stands on whole pixels.
 constexpr QSize oddSize(15, 15);
 constexpr QSize paperSize(160, 60);
@@ -188,10 +191,10 @@ inline void drawCheckbox(QPainter *painter, const OxaCheckBox &checkBox, const L
                             look.isRounded, look.radius);
 }
 
-/// Returns the tick of \a checkBox: a square in its icon size.
+/// Returns a square tick in the icon size of \a checkBox.
 inline std::unique_ptr<OxaSvgIcon> makeTick(const OxaCheckBox &checkBox)
 {
-    auto tick = std::make_unique<OxaSvgIcon>(checkBox.getSvgIcon());
+    auto tick = std::make_unique<OxaSvgIcon>(squareTick);
     tick->setIconSize(checkBox.getSvgIconSize());
     tick->setColorSet(iconColors);
     return tick;

@@ -229,6 +229,7 @@ void tst_OxaCheckBox::looksItsSetsUpAtEachThemeType()
 void tst_OxaCheckBox::followsSignalsWithItsTick()
 {
     OxaCheckBox checkBox;
+    checkBox.setSvgIcon(squareTick);
     checkBox.setChecked(true);
     const OxaColorSet orange(QStringLiteral("orange"), QColor(255, 128, 0));
     Q_EMIT checkBox.svgIconColorSetChanged(orange);
@@ -241,6 +242,7 @@ void tst_OxaCheckBox::followsSignalsWithItsTick()
 void tst_OxaCheckBox::returnsToItsTicksColorsForAStyleText()
 {
     OxaCheckBox checkBox;
+    checkBox.setSvgIcon(squareTick);
     checkBox.setChecked(true);
     Q_EMIT checkBox.svgIconColorSetChanged(OxaColorSet(QStringLiteral("red"), Qt::red));
     checkBox.setCSS(QStringLiteral("$textColors: background-primary;"));

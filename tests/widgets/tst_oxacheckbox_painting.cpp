@@ -15,9 +15,10 @@ const QString longText = QStringLiteral("A text that is too long for one line of
 /// Returns what Qt's class hints for a check box like \a checkBox.
 QSize baseHint(const OxaCheckBox &checkBox) { return checkBox.QCheckBox::sizeHint(); }
 
-/// Gives \a checkBox a size and a text.
+/// Gives \a checkBox a size, a square tick and a text.
 void setUp(OxaCheckBox &checkBox)
 {
+    checkBox.setSvgIcon(squareTick);
     checkBox.setCheckboxSize(QSize(24, 14));
     checkBox.setText(QStringLiteral("abc"));
     checkBox.resize(120, 40);
@@ -96,6 +97,7 @@ void tst_OxaCheckBoxPainting::paintsItselfByDrawCheckbox()
     QFETCH(const bool, isRounded);
     QFETCH(const bool, isEnabled);
     OxaCheckBox checkBox(nullptr, isRounded);
+    checkBox.setSvgIcon(squareTick);
     checkBox.setCheckboxSize(QSize(25, 21));
     checkBox.setText(longText);
     checkBox.setEnabled(isEnabled);
