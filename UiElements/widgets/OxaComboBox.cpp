@@ -54,7 +54,8 @@ OxaComboBox::OxaComboBox(QWidget *parent)
 
     view()->window()->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint
                                      | Qt::NoDropShadowWindowHint);
-    view()->installEventFilter(this);
+    m_list = view();
+    m_list->installEventFilter(this);
     connect(this, QOverload<int>::of(&QComboBox::highlighted), this,
             &OxaComboBox::highLightedIndex);
     m_themeBlock.followTheme();

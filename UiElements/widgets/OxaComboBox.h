@@ -8,7 +8,9 @@
 #include <UiElements/svg/OxaSvgIcon.h>
 #include <UiElements/theme/OxaThemeBlock.h>
 
+#include <QAbstractItemView>
 #include <QComboBox>
+#include <QPointer>
 
 #include <string>
 
@@ -20,7 +22,8 @@ struct UTComboBoxConfig
     std::string textColorSetName;       ///< Also the arrow's colours.
     std::string backgroundColorSetName; ///< The field's, and the list's too.
     std::string borderColorSetName;     ///< The field's and the list's.
-    int borderWidth = 0;                ///< Pixels, 0 to 255.
+    int borderWidth = 0;                ///< Pixels, to 255; 0 counts as 1 if there is a border set,
+                                        ///< and drops the radius.
     int borderRadius = 0;               ///< Pixels, 0 to 255.
 };
 
@@ -29,12 +32,17 @@ struct UTComboBoxConfig
 /// "oxa-rills-combobox-text", or those given to updateStyle(); its arrow is an SVG icon in the set
 /// "oxa-rills-combobox-dropdown-arrow".
 ///
-/// **A combo box without an object name stays unstyled**: the selectors of its style text need one.
-/// A name given later takes effect when the combo box is shown next.
+/// **A combo box without an object name stays unstyled**: the selectors of its style text need one,
+/// of letters, digits, "-" and "_". A name given later takes effect when the combo box is shown
+/// next. Colour sets that don't exist leave their declarations out.
 ///
 /// The list can be moved by an offset, open upwards and without animation. With the popup off, the
 /// combo box is one big button that emits contentAreaClicked(). Space in the list chooses the
-/// highlighted row.
+/// highlighted row, and emits activated() also if it was the current one.
+///
+/// Slots may delete the combo box, except where Qt goes on with it: in cssChanged() while the box
+/// or its list is shown or hidden, in highlighted() and in currentIndexChanged(). There use
+/// deleteLater().
 class UIELEMENTS_EXPORT OxaComboBox : public QComboBox
 {
     Q_OBJECT
@@ -136,7 +144,8 @@ public:
     /// Stores whether the list opens with the platform's animation.
     void setComboBoxAnimationEnabled(bool enabled);
 
-    /// Sets the space in front of the text in pixels, truncated; 12 at first. Styles the box anew.
+    /// Sets the space in front of the text in pixels, truncated; 12 at first. What is not a number
+    /// counts as 0. Styles the box anew.
     void setLeftPadding(double padding);
 
     /// Makes the text editable or not, as QComboBox, and styles the box anew.
@@ -146,7 +155,8 @@ public:
     /// styles the box anew. Does not repaint a box without an object name.
     void updateStyle(const UTComboBoxConfig &config);
 
-    /// Opens the list, moved by the offset. Does nothing where it cannot be opened.
+    /// Opens the list, moved by the offset; upwards the offset counts upwards. Does nothing where
+    /// it cannot be opened.
     void showPopup() override;
 
     void hidePopup() override;
@@ -174,8 +184,8 @@ Q_SIGNALS:
     /// The arrow has another space around it.
     void svgDropdownIconPaddingChanged(int padding);
 
-    /// The left button went down beside the arrow, or anywhere with the popup off. \a event is null
-    /// for a key in the list.
+    /// The left button went down beside the arrow, or anywhere with the popup off. With the popup
+    /// off, any key that the list gets emits it too: then \a event is null.
     void contentAreaClicked(QMouseEvent *event);
 
 protected Q_SLOTS:
@@ -197,6 +207,7 @@ private:
     QString fieldStyleSheet() const;
     QString listStyleSheet() const;
     void styleList();
+    void followList();
     void placePopup(QWidget *frame) const;
     bool onListKeyPressed(int key);
     void drawDropdownIcon(QPainter *painter, const QStyleOptionComboBox &option);
@@ -207,6 +218,7 @@ private:
     OxaColorSet m_textColors;
     OxaSvgIcon m_dropdownIcon;
     OxaSvgIcon m_dropdownIconExpanded;
+    QPointer<QAbstractItemView> m_list; ///< The one whose events arrive.
     QPoint m_itemViewDropdownOffset { 0, 4 };
     QString m_selectedBackgroundColor;
     QString m_popupBackgroundColor;

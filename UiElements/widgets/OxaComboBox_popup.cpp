@@ -9,6 +9,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QFrame>
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
@@ -38,10 +39,23 @@ void OxaComboBox::showPopup()
     if (!m_isShowPopupEnabled)
         return;
     m_isExpanded = true;
+    followList();
     const AnimationGuard animation(m_isAnimated);
     QComboBox::showPopup();
     if (auto *frame = findChild<QFrame *>())
         placePopup(frame);
+}
+
+/// Follows a list that setView() has set since, of whose current row QComboBox does not tell.
+void OxaComboBox::followList()
+{
+    if (m_list == view())
+        return;
+    m_list = view();
+    m_list->installEventFilter(this);
+    if (const QItemSelectionModel *selection = m_list->selectionModel())
+        connect(selection, &QItemSelectionModel::currentChanged, this,
+                [this](const QModelIndex &current) { highLightedIndex(current.row()); });
 }
 
 void OxaComboBox::hidePopup()

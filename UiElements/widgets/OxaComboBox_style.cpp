@@ -48,10 +48,11 @@ void OxaComboBox::applyCustomCSS()
     css.borderColorSetName = m_borderColors.name;
     css.textColorSetName = m_textColors.name;
     css.plainStyleSheet = fieldStyleSheet();
-    styleList();
 
     const QPointer<OxaComboBox> self(this);
-    setCSS(OxaThemeUtils::convertToOxaCSS(css));
+    styleList();
+    if (self)
+        setCSS(OxaThemeUtils::convertToOxaCSS(css));
     if (self)
         Q_EMIT cssChanged();
     if (self)
@@ -104,11 +105,14 @@ QString OxaComboBox::listStyleSheet() const
 
 void OxaComboBox::styleList()
 {
-    QAbstractItemView *list = view();
+    // A slot of its name's signal may delete the list, and the box with it.
+    const QPointer<QAbstractItemView> list(view());
+    const QString sheet = listStyleSheet();
+    if (list)
+        list->setObjectName(QStringLiteral("rillsAstractItemView"));
     if (!list)
         return;
-    list->setObjectName(QStringLiteral("rillsAstractItemView"));
-    list->setStyleSheet(listStyleSheet());
+    list->setStyleSheet(sheet);
     list->style()->unpolish(this);
     list->style()->polish(this);
 }

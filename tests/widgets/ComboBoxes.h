@@ -8,6 +8,7 @@
 #include <UiElements/widgets/OxaComboBox.h>
 
 #include <QAbstractItemView>
+#include <QMouseEvent>
 
 #include <functional>
 
@@ -55,12 +56,9 @@ inline QString rulesOf(const Field &field)
                           "OxaComboBox::drop-down {background-color: transparent; width: %3px;"
                           "padding-left: %4px;padding-right: %4px;}"
                           "OxaComboBox#%1::down-arrow {width: %5px;height %6px; }")
-            .arg(field.name)
-            .arg(field.leftPadding)
-            .arg(field.dropDownWidth)
-            .arg(field.arrowPadding)
-            .arg(field.arrow.width())
-            .arg(field.arrow.height());
+            .arg(field.name, QString::number(field.leftPadding),
+                 QString::number(field.dropDownWidth), QString::number(field.arrowPadding),
+                 QString::number(field.arrow.width()), QString::number(field.arrow.height()));
 }
 
 /// Returns the style text of \a field.
@@ -129,6 +127,22 @@ public:
 
 /// Something done with a box.
 using Action = std::function<void(OpenBox &)>;
+
+/// Presses the left button in the content area of \a box.
+inline void press(OpenBox &box)
+{
+    box.resize(120, 30);
+    QMouseEvent event(QEvent::MouseButtonPress, QPointF(5, 5), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(&box, &event);
+}
+
+/// Presses Space in the list of \a box.
+inline void pressSpace(OpenBox &box)
+{
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+    QCoreApplication::sendEvent(box.view(), &event);
+}
 
 /// What a box logs each time it is styled.
 inline const QString styled = QStringLiteral("apply | cssChanged | cssChanged");
