@@ -8,12 +8,12 @@
 #include <UiElements/svg/OxaSvgIcon.h>
 #include <UiElements/theme/OxaThemeBlock.h>
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QPointer>
 
 #include <string>
 
+class QAbstractItemView;
 class QStyleOptionComboBox;
 
 /// What OxaComboBox::updateStyle() takes.
