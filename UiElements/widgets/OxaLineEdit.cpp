@@ -2,6 +2,7 @@
 #include "OxaLineEdit.h"
 
 #include "ContextMenu_p.h"
+#include "MaskedUpdates_p.h"
 #include "WidgetParts_p.h"
 
 #include <UiElements/svg/VisualUtils.h>
@@ -52,9 +53,25 @@ bool OxaLineEdit::event(QEvent *event)
     if (!isHover && type != QEvent::PaletteChange)
         return QLineEdit::event(event);
     updatePlaceholderColor();
-    if (isHover)
+    if (isHover) {
+        update(); // As QWidget does, for rules of a sheet.
         Q_EMIT hoveredChanged(type == QEvent::HoverEnter);
+    }
     return true;
+}
+
+QVariant OxaLineEdit::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    return inputMethodQuery(query, QVariant());
+}
+
+QVariant OxaLineEdit::inputMethodQuery(Qt::InputMethodQuery query, const QVariant &argument) const
+{
+    constexpr auto texts = Qt::ImSurroundingText | Qt::ImCurrentSelection | Qt::ImTextBeforeCursor
+            | Qt::ImTextAfterCursor;
+    if (texts.testFlag(query) && echoMode() != QLineEdit::Normal)
+        return QString();
+    return QLineEdit::inputMethodQuery(query, argument);
 }
 
 void OxaLineEdit::paintEvent(QPaintEvent *event)
@@ -76,6 +93,8 @@ void OxaLineEdit::contextMenuEvent(QContextMenuEvent *event)
 /// What both constructors share.
 void OxaLineEdit::initialise()
 {
+    setAttribute(Qt::WA_Hover); // QLineEdit gets no hover events otherwise.
+    MaskedUpdates::ensureInstalled();
     connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this,
             &OxaLineEdit::onLayoutDirectionChanged);
     m_themeBlock.followTheme();

@@ -10,8 +10,14 @@
 /// A one-line field that takes part in theming: its placeholder has a colour set, its context menu
 /// the theme's colours, and what AltGr types reaches the text instead of firing a shortcut.
 ///
-/// QEvent::PaletteChange, QEvent::HoverEnter and QEvent::HoverLeave end here: QLineEdit, and
-/// changeEvent() with it, does not see them. An event filter does.
+/// A masked text stays here: input methods are not told it, and assistive technology hears stars as
+/// it changes, from Qt's update events too. For the latter the first line edit installs a handler
+/// by QAccessible::installUpdateHandler(). A client that installs one later hears all texts, unless
+/// it hands its events on.
+///
+/// QEvent::PaletteChange, QEvent::HoverEnter and QEvent::HoverLeave end in event(): it updates the
+/// placeholder's colour and answers true. QLineEdit does not see them, and neither does
+/// changeEvent() of a subclass. To follow them, use hoveredChanged(), an event filter, or event().
 ///
 /// The contents margins and the alignment follow the layout direction of the application when it
 /// changes, the alignment only where it is not Qt::AlignCenter or Qt::AlignHCenter.
@@ -41,6 +47,11 @@ public:
     /// Has the application's style draw a focus frame while the field has the focus by keyboard. It
     /// cannot be turned off again.
     void enableFocusRing();
+
+    /// Answers an input method as QLineEdit, but tells it nothing of a masked text.
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    Q_INVOKABLE QVariant inputMethodQuery(Qt::InputMethodQuery query,
+                                          const QVariant &argument) const;
 
 public Q_SLOTS:
     /// Swaps the left and right contents margins, and aligns the text to the side where its

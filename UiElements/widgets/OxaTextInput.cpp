@@ -3,6 +3,7 @@
 
 #include "OxaLabel.h"
 #include "OxaLineEdit.h"
+#include "TextInputParts_p.h"
 
 #include <UiElements/svg/OxaSvgPushButton.h>
 
@@ -12,36 +13,41 @@
 
 namespace {
 
-constexpr int unlimitedLength = 32767;
-constexpr int actionButtonSize = 14;
-constexpr int searchIconSize = 12;
 constexpr QSize maskedIconSize(13, 8);
 constexpr QSize shownIconSize(13, 13);
 constexpr QMargins plainMargins(5, 3, 12, 3);
-constexpr QMargins searchMargins(12, 3, 12, 3);
 
-/// Sets both sizes that a button knows, Qt's and the one that its SVG icon is painted in.
-void setIconSizes(OxaSvgPushButton *button, const QSize &size)
+/// Shows or hides a part that a client may have deleted.
+void setShown(QWidget *part, bool isVisible)
 {
-    button->resize(size);
-    button->setIconSize(size);
-    button->setSvgIconSize(size);
-}
-
-OxaSvgPushButton *makeActionButton(const QString &name, QWidget *parent)
-{
-    auto *button = new OxaSvgPushButton(parent);
-    button->setObjectName(name);
-    button->hide();
-    button->setFixedSize(actionButtonSize, actionButtonSize);
-    OxaCSSData round;
-    round.borderTop = round.borderRight = round.borderBottom = round.borderLeft = true;
-    round.borderRadius = static_cast<quint8>(button->height() / 2);
-    button->setCSS(OxaThemeUtils::convertToOxaCSS(round));
-    return button;
+    if (part)
+        part->setVisible(isVisible);
 }
 
 } // namespace
+
+/// Tells whether a slot has deleted the field while its line edit sends it an event or a signal.
+/// QLineEdit uses itself after that, so while one lives the line edit outlives the field.
+class OxaTextInput::LineEditCall
+{
+    Q_DISABLE_COPY_MOVE(LineEditCall)
+
+public:
+    explicit LineEditCall(OxaTextInput *field) : m_field(field) { ++field->m_lineEditCalls; }
+    ~LineEditCall()
+    {
+        if (m_field)
+            --m_field->m_lineEditCalls;
+    }
+
+    bool isFieldAlive() const { return !m_field.isNull(); }
+
+    /// True when the line edit can have the event that it has sent.
+    bool isLineEditAlive() const { return m_field && m_field->m_lineEdit; }
+
+private:
+    const QPointer<OxaTextInput> m_field;
+};
 
 OxaTextInput::OxaTextInput(QWidget *parent) : OxaWidget(parent)
 {
@@ -54,43 +60,15 @@ OxaTextInput::OxaTextInput(QWidget *parent) : OxaWidget(parent)
     showOrHideActionButtons();
 }
 
-QString OxaTextInput::text() const { return m_lineEdit->text(); }
-
-void OxaTextInput::setText(const QString &text) { m_lineEdit->setText(text); }
-
-QString OxaTextInput::placeholderText() const { return m_lineEdit->placeholderText(); }
-
-void OxaTextInput::setPlaceholderText(const QString &text) { m_lineEdit->setPlaceholderText(text); }
-
-void OxaTextInput::setPlaceholderColorSetName(const QString &name)
+OxaTextInput::~OxaTextInput()
 {
-    m_lineEdit->setPlaceholderColorSetName(name);
+    if (m_lineEditCalls == 0 || !m_lineEdit)
+        return;
+    m_lineEdit->removeEventFilter(this);
+    m_lineEdit->blockSignals(true);
+    m_lineEdit->setParent(nullptr);
+    m_lineEdit->deleteLater();
 }
-
-int OxaTextInput::maxLength() const { return m_lineEdit->maxLength(); }
-
-void OxaTextInput::setMaxLength(int length)
-{
-    m_lineEdit->setMaxLength(length);
-    m_displayMaxLength = length;
-    showOrHideActionButtons();
-}
-
-int OxaTextInput::getDisplayMaxLength() const { return m_displayMaxLength; }
-
-void OxaTextInput::setDisplayMaxLength(int length) { m_displayMaxLength = length; }
-
-bool OxaTextInput::isReadOnly() const { return m_lineEdit->isReadOnly(); }
-
-void OxaTextInput::setReadOnly(bool readOnly)
-{
-    m_lineEdit->setReadOnly(readOnly);
-    showOrHideActionButtons();
-}
-
-bool OxaTextInput::getValidateErrorWhenEmpty() const { return m_validateErrorWhenEmpty; }
-
-void OxaTextInput::setValidateErrorWhenEmpty(bool validate) { m_validateErrorWhenEmpty = validate; }
 
 void OxaTextInput::setInputValidator(const std::function<bool(const QString &)> &validator,
                                      bool validateWhileTyping)
@@ -101,87 +79,35 @@ void OxaTextInput::setInputValidator(const std::function<bool(const QString &)> 
         cssUpdated();
 }
 
-bool OxaTextInput::isValidInput() const { return !m_inputValidator || m_inputValidator(text()); }
-
-void OxaTextInput::setValidator(const QValidator *validator)
+bool OxaTextInput::isValidInput() const
 {
-    m_lineEdit->setValidator(validator);
-}
-
-void OxaTextInput::setAlignment(Qt::Alignment alignment) { m_lineEdit->setAlignment(alignment); }
-
-int OxaTextInput::cursorPosition() const { return m_lineEdit->cursorPosition(); }
-
-void OxaTextInput::setCursorPosition(int position) { m_lineEdit->setCursorPosition(position); }
-
-bool OxaTextInput::hasFocus() const { return m_lineEdit->hasFocus(); }
-
-void OxaTextInput::setFocus() { m_lineEdit->setFocus(Qt::OtherFocusReason); }
-
-void OxaTextInput::setIcon(const QString &path)
-{
-    m_clearButton->setSvgIcon(path);
-    setIconSizes(m_clearButton, QSize(actionButtonSize, actionButtonSize));
-}
-
-void OxaTextInput::setSearchIcon(const QString &path)
-{
-    setLayoutContentsMargins(searchMargins);
-    m_searchIconButton->setSvgIcon(path);
-    m_searchIconButton->show();
+    const auto validator = m_inputValidator; // It may delete the field, or set another one.
+    return !validator || validator(text());
 }
 
 void OxaTextInput::setPasswordIcons(const QString &shownIcon, const QString &maskedIcon)
 {
     m_passwordIconMasked = maskedIcon;
     m_passwordIconShown = shownIcon;
-    m_passwordButton->setAccessibleName(tr("Show password"));
-    showPasswordIcon(m_passwordIconMasked, maskedIconSize);
-    showOrHideActionButtons();
+    const QPointer<OxaTextInput> self(this);
+    showPasswordIcon(tr("Show password"), m_passwordIconMasked, maskedIconSize);
+    if (self)
+        showOrHideActionButtons();
 }
 
 void OxaTextInput::setPasswordField(bool isPasswordField)
 {
     m_isPasswordField = isPasswordField;
     showOrHideActionButtons();
-    m_lineEdit->setEchoMode(isPasswordField ? QLineEdit::Password : QLineEdit::Normal);
-}
-
-void OxaTextInput::updateFontToken(OxaFont::Token token) { m_lineEdit->setFontToken(token); }
-
-void OxaTextInput::updateIconSizes(int searchSize, int clearSize)
-{
-    m_searchIconButton->setFixedSize(searchSize, searchSize);
-    m_searchIconButton->setSvgIconSize(QSize(searchSize, searchSize));
-    m_clearButton->setFixedSize(clearSize, clearSize);
-    m_clearButton->setSvgIconSize(QSize(clearSize, clearSize));
-}
-
-void OxaTextInput::toggleClearButtonFocus(bool canFocus)
-{
-    m_clearButton->setFocusPolicy(canFocus ? Qt::StrongFocus : Qt::NoFocus);
-}
-
-void OxaTextInput::setTextInputAccessibleText(const QString &name)
-{
-    m_lineEdit->setAccessibleName(name);
-}
-
-void OxaTextInput::setButtonAccessibleText(const QString &name)
-{
-    m_clearButton->setAccessibleName(name);
-}
-
-OxaLineEdit *OxaTextInput::getLineEdit() const { return m_lineEdit; }
-
-QPointer<OxaSvgPushButton> OxaTextInput::getPasswordActionButton() const
-{
-    return m_passwordButton;
+    if (m_lineEdit)
+        m_lineEdit->setEchoMode(isPasswordField ? QLineEdit::Password : QLineEdit::Normal);
 }
 
 void OxaTextInput::cssUpdated()
 {
-    if (!updateCSS(hasFocus() ? m_cssFocused : m_cssNormal))
+    const QPointer<OxaTextInput> self(this);
+    updateCSS(hasFocus() ? m_cssFocused : m_cssNormal);
+    if (!self)
         return;
     style()->unpolish(this);
     style()->polish(this);
@@ -205,27 +131,14 @@ bool OxaTextInput::eventFilter(QObject *watched, QEvent *event)
 
 void OxaTextInput::makeParts()
 {
-    m_lineEdit = new OxaLineEdit(this);
-    m_lineEdit->setObjectName(QStringLiteral("textInput"));
-    m_lineEdit->setFocusPolicy(Qt::StrongFocus);
-    m_lineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    m_lineEdit = TextInputParts::makeLineEdit(this);
     m_lineEdit->installEventFilter(this);
     setFocusProxy(m_lineEdit);
-
-    m_counterLabel = new OxaLabel(this);
-    m_counterLabel->setObjectName(QStringLiteral("textInputCounterLabel"));
-    m_counterLabel->hide();
-    m_counterLabel->setFocusPolicy(Qt::NoFocus);
-
-    m_clearButton = makeActionButton(QStringLiteral("clearInputButton"), this);
-    m_passwordButton = makeActionButton(QStringLiteral("passwordActionButton"), this);
-
-    m_searchIconButton = new OxaSvgPushButton(this);
-    m_searchIconButton->setObjectName(QStringLiteral("searchIcon"));
-    m_searchIconButton->hide();
-    m_searchIconButton->setFocusPolicy(Qt::NoFocus);
-    m_searchIconButton->setFixedSize(searchIconSize, searchIconSize);
-    m_searchIconButton->setSvgIconSize(QSize(searchIconSize, searchIconSize));
+    m_counterLabel = TextInputParts::makeCounter(this);
+    m_clearButton = TextInputParts::makeActionButton(QStringLiteral("clearInputButton"), this);
+    m_passwordButton = TextInputParts::makeActionButton(QStringLiteral("passwordActionButton"),
+                                                        this);
+    m_searchIconButton = TextInputParts::makeSearchIcon(this);
 
     auto *row = new QHBoxLayout(this);
     row->setSpacing(4);
@@ -239,9 +152,15 @@ void OxaTextInput::makeParts()
 
 void OxaTextInput::makeConnections()
 {
-    connect(m_lineEdit, &QLineEdit::textEdited, this, &OxaTextInput::textEdited);
+    connect(m_lineEdit, &QLineEdit::textEdited, this, [this] {
+        const LineEditCall call(this);
+        Q_EMIT textEdited();
+    });
     connect(m_lineEdit, &QLineEdit::textChanged, this, &OxaTextInput::onTextChanged);
-    connect(m_lineEdit, &QLineEdit::returnPressed, this, &OxaTextInput::returnPressed);
+    connect(m_lineEdit, &QLineEdit::returnPressed, this, [this] {
+        const LineEditCall call(this);
+        Q_EMIT returnPressed();
+    });
     connect(m_lineEdit, &QLineEdit::editingFinished, this, &OxaTextInput::onEditingFinished);
     connect(m_counterLabel, &OxaLabel::onVisibilityChanged, this, [this](bool isVisible) {
         if (isVisible)
@@ -252,22 +171,23 @@ void OxaTextInput::makeConnections()
             &OxaTextInput::passwordActionPressed);
 }
 
-/// Answers whether the line edit must not see the event: it is gone when a slot deleted the field.
+/// Returns whether the line edit must not see the event.
 bool OxaTextInput::onFocusChanged(const OxaCSSData &css)
 {
-    const QPointer<OxaTextInput> self(this);
-    if (!updateCSS(css))
-        return true;
-    if (&css == &m_cssFocused)
+    const LineEditCall call(this);
+    const bool hasCome = &css == &m_cssFocused;
+    updateCSS(css);
+    if (hasCome && call.isLineEditAlive())
         m_lineEdit->setFocus(Qt::OtherFocusReason);
-    if (self)
+    if (call.isFieldAlive())
         showOrHideActionButtons();
-    return self.isNull();
+    return !call.isLineEditAlive();
 }
 
-/// Answers whether the line edit must not see the key.
+/// Returns whether the line edit must not see the key.
 bool OxaTextInput::onKeyPressed(int key)
 {
+    const LineEditCall call(this);
     if (key == Qt::Key_Tab) {
         focusNextChild();
         return true;
@@ -276,42 +196,47 @@ bool OxaTextInput::onKeyPressed(int key)
         focusPreviousChild();
         return true;
     }
-    const QPointer<OxaTextInput> self(this);
     Q_EMIT keyPressed(key);
-    return self.isNull();
+    return !call.isLineEditAlive();
 }
 
 void OxaTextInput::onEditingFinished()
 {
-    if (text().isEmpty())
+    const LineEditCall call(this);
+    if (text().isEmpty()) {
         Q_EMIT showErrorLabel(false);
-    else if (m_inputValidator)
-        Q_EMIT showErrorLabel(!isValidInput());
+    } else if (m_inputValidator) {
+        const bool isError = !isValidInput();
+        if (call.isFieldAlive())
+            Q_EMIT showErrorLabel(isError);
+    }
 }
 
 void OxaTextInput::onTextChanged(const QString &text)
 {
-    const QPointer<OxaTextInput> self(this);
+    const LineEditCall call(this);
     showOrHideActionButtons();
-    const bool isError = m_validateWhileTyping && !isValidInput() && !text.isEmpty();
-    setCSS(OxaThemeUtils::convertToOxaCSS(isError ? m_cssError : m_cssFocused));
-    if (!self)
-        return;
-    updateMaxLengthCounter();
-    Q_EMIT textChanged(text);
-    if (self)
+    const bool isError = m_validateWhileTyping && !text.isEmpty() && !isValidInput();
+    if (call.isFieldAlive())
+        setCSS(isError ? m_cssError : m_cssFocused);
+    if (call.isFieldAlive()) {
+        updateMaxLengthCounter();
+        Q_EMIT textChanged(text);
+    }
+    if (call.isFieldAlive())
         Q_EMIT showErrorLabel(isError);
 }
 
 void OxaTextInput::clearAndFocusInput()
 {
     const QPointer<OxaTextInput> self(this);
-    m_clearButton->hide();
-    m_lineEdit->clear();
+    setShown(m_clearButton, false);
+    if (self && m_lineEdit)
+        m_lineEdit->clear();
     if (self)
-        m_lineEdit->setFocus(Qt::OtherFocusReason);
+        setFocus();
     if (self)
-        setCSS(OxaThemeUtils::convertToOxaCSS(m_cssFocused));
+        setCSS(m_cssFocused);
     if (self)
         Q_EMIT textEdited();
     if (self)
@@ -320,43 +245,50 @@ void OxaTextInput::clearAndFocusInput()
 
 void OxaTextInput::passwordActionPressed()
 {
-    if (m_lineEdit->echoMode() != QLineEdit::Password) {
-        m_passwordButton->setAccessibleName(tr("Show password"));
-        m_lineEdit->setEchoMode(QLineEdit::Password);
-        showPasswordIcon(m_passwordIconMasked, maskedIconSize);
-    } else {
-        m_passwordButton->setAccessibleName(tr("Hide password"));
-        m_lineEdit->setEchoMode(QLineEdit::Normal);
-        showPasswordIcon(m_passwordIconShown, shownIconSize);
-    }
-    m_lineEdit->setFocus(Qt::OtherFocusReason);
+    if (!m_lineEdit)
+        return;
+    const QPointer<OxaTextInput> self(this);
+    const bool isShown = m_lineEdit->echoMode() != QLineEdit::Password;
+    m_lineEdit->setEchoMode(isShown ? QLineEdit::Password : QLineEdit::Normal);
+    if (isShown)
+        showPasswordIcon(tr("Show password"), m_passwordIconMasked, maskedIconSize);
+    else
+        showPasswordIcon(tr("Hide password"), m_passwordIconShown, shownIconSize);
+    if (self)
+        setFocus();
 }
 
-void OxaTextInput::showPasswordIcon(const QString &icon, const QSize &size)
+void OxaTextInput::showPasswordIcon(const QString &name, const QString &icon, const QSize &size)
 {
-    m_passwordButton->setSvgIcon(icon);
-    setIconSizes(m_passwordButton, size);
+    const QPointer<OxaSvgPushButton> button = m_passwordButton;
+    if (!button)
+        return;
+    button->setAccessibleName(name);
+    button->setSvgIcon(icon);
+    TextInputParts::setIconSizes(button, size);
 }
 
-/// Shows \a css, or the error look where the validator rejects the text. Returns whether the field
-/// is still there: a slot may delete it.
-bool OxaTextInput::updateCSS(const OxaCSSData &css)
+/// Shows \a css, or the error look where the validator rejects the text.
+void OxaTextInput::updateCSS(const OxaCSSData &css)
 {
     const QPointer<OxaTextInput> self(this);
-    const bool isChecked = m_inputValidator && (!text().isEmpty() || m_validateErrorWhenEmpty);
-    const bool isError = isChecked && !isValidInput();
-    // Written before the signal, since a slot may delete the field and its looks.
-    const QString styleText = OxaThemeUtils::convertToOxaCSS(isError ? m_cssError : css);
-    if (isError)
-        Q_EMIT showErrorLabel(true);
+    OxaCSSData shown = css;
+    if (m_inputValidator && (!text().isEmpty() || m_validateErrorWhenEmpty)) {
+        const bool isError = !isValidInput();
+        if (!self)
+            return;
+        if (isError) {
+            shown = m_cssError;
+            Q_EMIT showErrorLabel(true);
+        }
+    }
     if (self)
-        setCSS(styleText);
-    return !self.isNull();
+        setCSS(shown);
 }
 
 void OxaTextInput::updateMaxLengthCounter()
 {
-    if (m_counterLabel->isVisible())
+    if (m_counterLabel && m_counterLabel->isVisible())
         m_counterLabel->setText(QStringLiteral("%1/%2").arg(QString::number(text().size()),
                                                             QString::number(m_displayMaxLength)));
 }
@@ -365,15 +297,15 @@ void OxaTextInput::showOrHideActionButtons()
 {
     showOrHideMaxLengthCounter();
     const bool hasText = !text().isEmpty();
-    const bool counterStandsThere = m_counterLabel->isVisible() && m_lineEdit->hasFocus();
-    m_clearButton->setVisible(!m_isPasswordField && hasText && !isReadOnly()
-                              && !counterStandsThere);
-    m_passwordButton->setVisible(m_isPasswordField && hasText);
+    const bool isCounting = m_counterLabel && m_counterLabel->isVisible() && hasFocus();
+    const bool isPassword = m_isPasswordField;
+    const QPointer<OxaSvgPushButton> passwordButton = m_passwordButton;
+    setShown(m_clearButton, !isPassword && hasText && !isReadOnly() && !isCounting);
+    setShown(passwordButton, isPassword && hasText);
 }
 
 void OxaTextInput::showOrHideMaxLengthCounter()
 {
-    const bool isLimited = maxLength() != unlimitedLength;
-    m_counterLabel->setVisible(isLimited && !isReadOnly()
-                               && (text().isEmpty() || m_lineEdit->hasFocus()));
+    const bool isLimited = maxLength() != TextInputParts::unlimitedLength;
+    setShown(m_counterLabel, isLimited && !isReadOnly() && (text().isEmpty() || hasFocus()));
 }

@@ -32,8 +32,8 @@ class QValidator;
 ///   While the text is masked, it can be neither copied nor cut, and assistive technology is not
 ///   told it.
 ///
-/// A slot may delete the field, save in textChanged(), in returnPressed(), and in what else follows
-/// a change of the text: QLineEdit uses itself after it.
+/// A slot of the field's signals, or the validator, may delete the field, and a client any of its
+/// parts; a slot of the line edit's own signals may do so by deleteLater() only, as with QLineEdit.
 class UIELEMENTS_EXPORT OxaTextInput : public OxaWidget
 {
     Q_OBJECT
@@ -46,6 +46,8 @@ class UIELEMENTS_EXPORT OxaTextInput : public OxaWidget
                        setValidateErrorWhenEmpty)
 
 public:
+    ~OxaTextInput() override;
+
     /// Returns the text.
     QString text() const;
 
@@ -174,6 +176,8 @@ protected:
 private:
     friend class OxaTextInputFactory;
 
+    class LineEditCall;
+
     explicit OxaTextInput(QWidget *parent);
 
     void makeParts();
@@ -184,8 +188,8 @@ private:
     void onTextChanged(const QString &text);
     void clearAndFocusInput();
     void passwordActionPressed();
-    void showPasswordIcon(const QString &icon, const QSize &size);
-    bool updateCSS(const OxaCSSData &css);
+    void showPasswordIcon(const QString &name, const QString &icon, const QSize &size);
+    void updateCSS(const OxaCSSData &css);
     void updateMaxLengthCounter();
     void showOrHideActionButtons();
     void showOrHideMaxLengthCounter();
@@ -205,4 +209,5 @@ private:
     QString m_passwordIconMasked;
     QString m_passwordIconShown;
     int m_displayMaxLength = 0;
+    int m_lineEditCalls = 0;
 };

@@ -11,7 +11,7 @@
 #include <UiElements/widgets/OxaTextInputFactory.h>
 
 #include <QPushButton>
-#include <QVBoxLayout>
+#include <QTest>
 
 /// Text inputs for tests: their looks, their parts, and a window with one.
 namespace TextInputParts {
@@ -34,11 +34,10 @@ const QColor errorColor(200, 0, 0);
 /// Returns the sets of the looks, and the one that the counter's label asks for.
 inline OxaColorSetMap store()
 {
-    return ColorSets::storeOf(
-            { OxaColorSet(normal.backgroundColorSetName, normalColor),
-              OxaColorSet(focused.backgroundColorSetName, focusedColor),
-              OxaColorSet(error.backgroundColorSetName, errorColor),
-              OxaColorSet(QStringLiteral("button-hyperlink-text"), Qt::blue) });
+    return ColorSets::storeOf({ OxaColorSet(normal.backgroundColorSetName, normalColor),
+                                OxaColorSet(focused.backgroundColorSetName, focusedColor),
+                                OxaColorSet(error.backgroundColorSetName, errorColor),
+                                OxaColorSet(QStringLiteral("button-hyperlink-text"), Qt::blue) });
 }
 
 /// Returns a new field in these looks.
@@ -124,11 +123,16 @@ class Window : public QWidget
 public:
     Window()
     {
-        auto *layout = new QVBoxLayout(this);
-        for (QWidget *part : std::initializer_list<QWidget *> { &before, &field, &after })
-            layout->addWidget(part);
+        resize(300, 140);
+        int y = 10;
+        for (QWidget *part : std::initializer_list<QWidget *> { &before, &field, &after }) {
+            part->setGeometry(10, y, 280, 30);
+            y += 40;
+        }
         record(log, &field);
     }
+    ~Window() override { delete &field; } // Before the log.
+    Q_DISABLE_COPY_MOVE(Window)
 
     /// Shows the window with the focus on the button before the field. Returns whether that worked.
     bool open()

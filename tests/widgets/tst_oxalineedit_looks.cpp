@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "support/ColorSets.h"
 #include "support/Faces.h"
 #include "support/Guards.h"
 #include "support/TestApplication.h"
 
-#include <UiElements/fonts/OxaFont.h>
 #include <UiElements/widgets/OxaLineEdit.h>
 
-#include <QContextMenuEvent>
-#include <QMenu>
 #include <QProxyStyle>
 #include <QStyleOption>
 
@@ -49,52 +45,11 @@ public:
     FrameStyle *const style = new FrameStyle;
 };
 
-/// Opens the context menu of \a edit at \a position in it, and returns it.
-QMenu *openMenu(QWidget &edit, const QPoint &position)
-{
-    QContextMenuEvent event(QContextMenuEvent::Mouse, position, edit.mapToGlobal(position));
-    QCoreApplication::sendEvent(&edit, &event);
-    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
-}
-
-/// Returns the finished sheet of context menus, for sets whose colours are those below plus
-/// \a shade.
-QString menuSheet(int shade)
-{
-    const QString sheet = QStringLiteral(
-            "QMenu {     background-color: #ff0000%1; } QMenu::item {     color: #ff0001%1;     "
-            "background-color: #ff0002%1;     height: 32px;     width: 238px;     "
-            "padding-top: 5px;     padding-bottom: 5px;     padding-left: 12px;     "
-            "padding-right: 12px; } QMenu::item:hover {     color: #ff0101%1;     "
-            "background-color: #ff0102%1; } QMenu::item:selected {     color: #ff0101%1;     "
-            "background-color: #ff0102%1; } QMenu::item:disabled {     color: #ff0201%1;     "
-            "background-color: #ff0202%1; } QMenu::separator {     height: 1px;     "
-            "background: #ff0003%1;     margin-left: 12px;     margin-right: 12px; } ");
-    return sheet.arg(shade, 2, 16, QLatin1Char('0'));
-}
-
-/// Returns the sets of context menus: the red part of a colour tells its state, the green one its
-/// set.
-OxaColorSetMap menuStore(int shade)
-{
-    OxaColorSetMap store;
-    int number = 0;
-    for (const char *name : { "menulistbackground-secondary-background", "listitem-textprimary",
-                              "listitem-background", "separator-primary" }) {
-        OxaColorSet set(QString::fromLatin1(name), QColor(0, number, shade));
-        set.hovered = QColor(1, number, shade);
-        set.disabled = QColor(2, number, shade);
-        ++number;
-        store.emplace(name, set);
-    }
-    return store;
-}
-
 } // namespace
 
 Q_DECLARE_METATYPE(Qt::Alignment)
 
-/// What a line edit looks like: its sides, its focus frame, and its context menu.
+/// What a line edit looks like: its sides and its focus frame.
 class tst_OxaLineEditLooks : public QObject
 {
     Q_OBJECT
@@ -105,10 +60,6 @@ private Q_SLOTS:
     void alignsItsTextWithTheLayoutDirection();
     void drawsNoFocusFrameByItself();
     void drawsAFocusFrameForTheKeyboardAlone();
-    void opensAContextMenuInTheColorsOfItsTheme_data();
-    void opensAContextMenuInTheColorsOfItsTheme();
-    void deletesItsContextMenuAsItCloses();
-    void opensNoContextMenuWhereNoneIsWanted();
 };
 
 void tst_OxaLineEditLooks::swapsItsMarginsWithTheLayoutDirection()
@@ -193,52 +144,6 @@ void tst_OxaLineEditLooks::drawsAFocusFrameForTheKeyboardAlone()
     guard.style->frames = 0;
     edit.repaint();
     QCOMPARE(guard.style->frames, 0);
-}
-
-void tst_OxaLineEditLooks::opensAContextMenuInTheColorsOfItsTheme_data()
-{
-    QTest::addColumn<QString>("themeType");
-    QTest::addColumn<int>("shade");
-    QTest::newRow("ordinary theme") << QStringLiteral("global") << 16;
-    QTest::newRow("inverted theme") << QStringLiteral("inverted") << 32;
-}
-
-void tst_OxaLineEditLooks::opensAContextMenuInTheColorsOfItsTheme()
-{
-    QFETCH(const QString, themeType);
-    QFETCH(const int, shade);
-    const StoreGuard stores(menuStore(16), menuStore(32));
-    OxaLineEdit edit(QStringLiteral("abc"));
-    edit.setThemeType(themeType);
-    edit.move(50, 60);
-    edit.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&edit));
-    const QMenu *menu = openMenu(edit, QPoint(5, 7));
-    QVERIFY(menu);
-    QCOMPARE(menu->styleSheet(), menuSheet(shade));
-    QCOMPARE(menu->font(), QFont(OxaFont(OxaFont::Token::BodySecondary)));
-    QVERIFY(menu->testAttribute(Qt::WA_DeleteOnClose));
-    QCOMPARE(menu->pos(), edit.mapToGlobal(QPoint(5, 7)));
-    QVERIFY(menu->actions().size() > 5);
-}
-
-void tst_OxaLineEditLooks::deletesItsContextMenuAsItCloses()
-{
-    const StoreGuard stores(menuStore(0));
-    OxaLineEdit edit(QStringLiteral("abc"));
-    edit.show();
-    const QPointer<QMenu> menu = openMenu(edit, QPoint());
-    QVERIFY(menu);
-    menu->close();
-    QTRY_VERIFY(!menu);
-}
-
-void tst_OxaLineEditLooks::opensNoContextMenuWhereNoneIsWanted()
-{
-    OxaLineEdit edit;
-    edit.setContextMenuPolicy(Qt::PreventContextMenu);
-    edit.show();
-    QVERIFY(!openMenu(edit, QPoint()));
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaLineEditLooks)

@@ -6,6 +6,7 @@
 
 #include <UiElements/fonts/OxaFont.h>
 
+#include <QHBoxLayout>
 #include <QIntValidator>
 #include <QProxyStyle>
 
@@ -114,8 +115,8 @@ void tst_OxaTextInput::startsWithHiddenParts_data()
                              << any;
     QTest::newRow("clear button") << QStringLiteral("clearInputButton") << true << Qt::StrongFocus
                                   << QSize(14, 14);
-    QTest::newRow("password button") << QStringLiteral("passwordActionButton") << true
-                                     << Qt::StrongFocus << QSize(14, 14);
+    QTest::newRow("password button")
+            << QStringLiteral("passwordActionButton") << true << Qt::StrongFocus << QSize(14, 14);
     QTest::newRow("search icon") << QStringLiteral("searchIcon") << true << Qt::NoFocus
                                  << QSize(12, 12);
 }
@@ -140,8 +141,9 @@ void tst_OxaTextInput::makesItsButtonsRound()
     QWidget parent;
     const OxaTextInput *field = makeField(&parent);
     for (const OxaSvgPushButton *button : { &clearButtonOf(*field), &passwordButtonOf(*field) })
-        QCOMPARE(button->getCSS(), QStringLiteral("$borders: all; $borderWidth:1;"
-                                                  "$borderRadius:7;"));
+        QCOMPARE(button->getCSS(),
+                 QStringLiteral("$borders: all; $borderWidth:1;"
+                                "$borderRadius:7;"));
     QCOMPARE(searchIconOf(*field).getCSS(), QString());
     QCOMPARE(searchIconOf(*field).getSvgIconSize(), QSize(12, 12));
     QCOMPARE(textOf(*field).getFontToken(), OxaFont::Token::Default);
@@ -197,6 +199,7 @@ void tst_OxaTextInput::stylesItselfAgainForNewLooks()
     QWidget parent;
     OxaTextInput *field = makeField(&parent);
     field->setStyle(&style);
+    field->setCSS(normal);
     style.polished = style.unpolished = 0;
     field->setCSS(normal);
     const int polishedByTheSheet = style.polished;

@@ -45,10 +45,13 @@ void tst_OxaTextInputLooks::changesWithTheFocus_data()
 
     const QString bad = QStringLiteral("bad");
     const QString good = QStringLiteral("good");
-    QTest::newRow("empty") << QString() << false << false << "focused" << "normal | hide error";
+    QTest::newRow("empty") << QString() << false << false << "focused"
+                           << "normal | hide error";
     QTest::newRow("empty, to be validated without a validator")
-            << QString() << false << true << "focused" << "normal | hide error";
-    QTest::newRow("a text") << bad << false << false << "focused" << "normal";
+            << QString() << false << true << "focused"
+            << "normal | hide error";
+    QTest::newRow("a text") << bad << false << false << "focused"
+                            << "normal";
     QTest::newRow("a text, accepted") << good << true << false << "asked \"good\" | focused"
                                       << "asked \"good\" | normal | asked \"good\" | hide error";
     QTest::newRow("a text, rejected")
@@ -56,9 +59,9 @@ void tst_OxaTextInputLooks::changesWithTheFocus_data()
             << "asked \"bad\" | show error | error | asked \"bad\" | show error";
     QTest::newRow("empty, not to be validated") << QString() << true << false << "focused"
                                                 << "normal | hide error";
-    QTest::newRow("empty, rejected") << QString() << true << true
-                                     << "asked \"\" | show error | error"
-                                     << "asked \"\" | show error | error | hide error";
+    QTest::newRow("empty, rejected")
+            << QString() << true << true << "asked \"\" | show error | error"
+            << "asked \"\" | show error | error | hide error";
 }
 
 void tst_OxaTextInputLooks::changesWithTheFocus()
@@ -93,10 +96,10 @@ void tst_OxaTextInputLooks::changesWithTheText_data()
                               << "asked \"good\" | focused | textChanged \"good\" | hide error";
     QTest::newRow("emptied") << bad << QString() << true
                              << "focused | textChanged \"\" | hide error";
-    QTest::newRow("rejected, not while typing") << good << bad << false
-                                                << "focused | textChanged \"bad\" | hide error";
-    QTest::newRow("emptied, not while typing") << bad << QString() << false
-                                               << "focused | textChanged \"\" | hide error";
+    QTest::newRow("rejected, not while typing")
+            << good << bad << false << "focused | textChanged \"bad\" | hide error";
+    QTest::newRow("emptied, not while typing")
+            << bad << QString() << false << "focused | textChanged \"\" | hide error";
 }
 
 void tst_OxaTextInputLooks::changesWithTheText()
@@ -211,8 +214,7 @@ void tst_OxaTextInputLooks::reportsKeysBeforeTheyAreTyped()
     QVERIFY(window.open());
     window.field.setFocus();
     QStringList texts;
-    connect(&window.field, &OxaTextInput::keyPressed, this,
-            [&] { texts += window.field.text(); });
+    connect(&window.field, &OxaTextInput::keyPressed, this, [&] { texts += window.field.text(); });
     QTest::keyClicks(&textOf(window.field), QStringLiteral("ab"));
     QTest::keyClick(&textOf(window.field), Qt::Key_Escape);
     QCOMPARE(texts, QStringList({ QString(), QStringLiteral("a"), QStringLiteral("ab") }));
@@ -230,7 +232,7 @@ void tst_OxaTextInputLooks::movesTheFocusByTab()
     window.field.setFocus();
     QTest::keyClick(&textOf(window.field), Qt::Key_Backtab, Qt::ShiftModifier);
     QVERIFY(window.before.hasFocus());
-    QVERIFY(!window.log.take().contains(QLatin1String("key")));
+    QVERIFY(!window.log.take().contains(QLatin1String("key 100000"))); // Other than Shift.
 }
 
 void tst_OxaTextInputLooks::insertsNoTab()
@@ -249,7 +251,7 @@ void tst_OxaTextInputLooks::insertsNoTab()
     QTest::sendKeyEvent(QTest::Click, &textOf(*field), Qt::Key_Backtab, QStringLiteral("\t"),
                         Qt::ShiftModifier);
     QCOMPARE(field->text(), QString());
-    QVERIFY(!log.take().contains(QLatin1String("key")));
+    QVERIFY(!log.take().contains(QLatin1String("key 100000"))); // Other than Shift.
 }
 
 void tst_OxaTextInputLooks::doesNotChangeForTheSameText()
@@ -267,9 +269,9 @@ void tst_OxaTextInputLooks::looksAsItsValidatorSaysAfterAThemeChange()
     window.validate(true);
     window.field.setText(QStringLiteral("bad"));
     QVERIFY(window.open());
-    const StoreGuard others(ColorSets::storeOf(
-            { OxaColorSet(error.backgroundColorSetName, Qt::magenta),
-              OxaColorSet(QStringLiteral("button-hyperlink-text"), Qt::blue) }));
+    const StoreGuard others(
+            ColorSets::storeOf({ OxaColorSet(error.backgroundColorSetName, Qt::magenta),
+                                 OxaColorSet(QStringLiteral("button-hyperlink-text"), Qt::blue) }));
     window.field.setThemeType(QStringLiteral("light"));
     QCOMPARE(lookOf(window.field), QStringLiteral("error"));
     QVERIFY(window.field.styleSheet().contains(QColor(Qt::magenta).name(QColor::HexArgb)));
