@@ -329,11 +329,11 @@ void tst_OxaTextInputButtons::hasItsRoleForAssistiveTechnology_data()
                              << int(QAccessible::StaticText) << QStringLiteral("3/5") << false;
     QTest::newRow("clear button") << QStringLiteral("clearInputButton") << int(QAccessible::Button)
                                   << QStringLiteral("Clear Input") << true;
-    QTest::newRow("password button") << QStringLiteral("passwordActionButton")
-                                     << int(QAccessible::Button) << QStringLiteral("Show password")
-                                     << true;
-    QTest::newRow("search icon, a picture") << QStringLiteral("searchIcon")
-                                            << int(QAccessible::Graphic) << QString() << false;
+    QTest::newRow("password button")
+            << QStringLiteral("passwordActionButton") << int(QAccessible::Button)
+            << QStringLiteral("Show password") << true;
+    QTest::newRow("search icon, a picture")
+            << QStringLiteral("searchIcon") << int(QAccessible::Graphic) << QString() << false;
 }
 
 void tst_OxaTextInputButtons::hasItsRoleForAssistiveTechnology()
