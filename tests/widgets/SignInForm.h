@@ -46,8 +46,8 @@ public:
         column->addWidget(error);
 
         OxaTextInput *password = addField(column, tr("Password"));
-        password->setPasswordIcons(QStringLiteral(":/Resources/hide.svg"),
-                                   QStringLiteral(":/Resources/show.svg"));
+        password->setPasswordIcons(QStringLiteral(":/Resources/eye-off_13.svg"),
+                                   QStringLiteral(":/Resources/eye_13.svg"));
         password->setPasswordField(true);
 
         auto *remember = new OxaCheckBox(this);
