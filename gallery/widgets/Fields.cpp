@@ -13,7 +13,9 @@
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTextInputFactory.h>
 
+#include <QAbstractItemView>
 #include <QGuiApplication>
+#include <QStyledItemDelegate>
 #include <QTextBlock>
 
 namespace {
@@ -123,10 +125,12 @@ OxaTextInput *Fields::input(const QString &name, QWidget *parent)
 {
     OxaTextInput *field = factory().make(parent);
     field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    field->setAccessibleName(name);
     field->setTextInputAccessibleText(name);
     field->updateFontToken(token);
     field->setPlaceholderColorSetName(placeholderColors);
     field->setIcon(icon("close_16"));
+    field->setPasswordIcons(icon("eye-off_13"), icon("eye_13"));
     // The frame around it is the field's.
     field->getLineEdit()->setCSS(QStringLiteral(
             "OxaLineEdit { background: transparent; border: none; padding: 3px 5px; }"));
@@ -145,7 +149,6 @@ OxaTextInput *Fields::input(const QString &name, QWidget *parent)
 OxaTextInput *Fields::password(const QString &name, QWidget *parent)
 {
     OxaTextInput *field = input(name, parent);
-    field->setPasswordIcons(icon("eye-off_13"), icon("eye_13"));
     field->setPasswordField(true);
     return field;
 }
@@ -175,10 +178,15 @@ OxaComboBox *Fields::combo(const QString &name, const QStringList &texts, QWidge
     // Any name: without one a combo box has no style.
     combo->setObjectName(QStringLiteral("combo"));
     combo->setAccessibleName(name);
+    combo->view()->setAccessibleName(name);
     combo->addItems(texts);
     combo->setFontToken(token);
     combo->setMinimumHeight(comboHeight);
     combo->setItemViewBorderRadius(radius);
+    // The text of a row begins below that of the field. Qt's own delegate ignores the padding.
+    combo->setItemDelegate(new QStyledItemDelegate(combo));
+    combo->view()->parentWidget()->setStyleSheet(
+            QStringLiteral("QAbstractItemView::item { border: none; padding: 4px 9px; }"));
     combo->setSelectedBackgroundColor(QStringLiteral("gallery-selection-background"));
     combo->updateStyle({ "oxa-rills-combobox-text", "oxa-rills-combobox-background",
                          "oxa-rills-combobox-border", 1, radius });

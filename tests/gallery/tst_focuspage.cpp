@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "GalleryTest.h"
+
+#include <UiElements/widgets/OxaLineEdit.h>
 #include "support/Pixels.h"
 
 #include <QPointer>
@@ -11,7 +13,7 @@
 #include <shell/TabOrder.h>
 #include <widgets/Buttons.h>
 #include <widgets/CodeEdit.h>
-#include <widgets/LineEdit.h>
+#include <widgets/Fields.h>
 #include <widgets/SegmentedControl.h>
 #include <widgets/Slider.h>
 
@@ -189,10 +191,10 @@ void tst_FocusPage::describesWidgets_data()
     QTest::newRow("a button, by its text")
             << static_cast<QWidget *>(Buttons::make(QStringLiteral("Send"), parent))
             << QStringLiteral("OxaPushButton “Send”");
-    auto *field = new LineEdit(parent);
+    auto *field = Fields::line(parent);
     field->setAccessibleName(QStringLiteral("Name"));
     QTest::newRow("a field, by its accessible name")
-            << static_cast<QWidget *>(field) << QStringLiteral("LineEdit “Name”");
+            << static_cast<QWidget *>(field) << QStringLiteral("OxaLineEdit “Name”");
     QTest::newRow("what has no name")
             << static_cast<QWidget *>(new Slider(0, 1, 0, parent)) << QStringLiteral("Slider");
 }

@@ -84,6 +84,7 @@ private Q_SLOTS:
     void stopsAtAPageOnlyWhereItScrolls();
     void keepsCardsAsWideBesideAScrollBar();
     void stylesEveryScrollBar();
+    void usesTheLibrarysControlsForForms();
     void bringsTheCurrentPageIntoSight();
     void ignoresAnUnknownPage();
     void stopsInTheOrderOnScreen_data();
@@ -244,6 +245,26 @@ void tst_GalleryWindow::stylesEveryScrollBar()
         const int thickness = bar->orientation() == Qt::Vertical ? size.width() : size.height();
         QVERIFY2(thickness == Metrics::scrollBar, bar->parentWidget()->metaObject()->className());
     }
+}
+
+void tst_GalleryWindow::usesTheLibrarysControlsForForms()
+{
+    const auto window = makeWindow();
+    const QByteArrayList classes = { "QCheckBox", "QComboBox", "QLineEdit", "QRadioButton",
+                                     "QTextEdit" };
+    QSet<QByteArray> found;
+    const auto widgets = window->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        bool isOfTheLibrary = false;
+        const QMetaObject *type = widget->metaObject();
+        for (; type && !classes.contains(type->className()); type = type->superClass())
+            isOfTheLibrary |= QByteArray(type->className()).startsWith("Oxa");
+        if (!type)
+            continue;
+        found.insert(type->className());
+        QVERIFY2(isOfTheLibrary, widget->metaObject()->className());
+    }
+    QCOMPARE(found.size(), classes.size());
 }
 
 void tst_GalleryWindow::bringsTheCurrentPageIntoSight()

@@ -2,13 +2,19 @@
 #include "Controls.h"
 #include "GalleryTest.h"
 
+#include <UiElements/widgets/OxaCheckBox.h>
+#include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaTextInput.h>
+
+#include <QAbstractItemView>
+
 #include <shell/GalleryWindow.h>
 #include <shell/NavigationList.h>
 #include <shell/PageRegistry.h>
 #include <shell/PageStack.h>
 #include <shell/TabOrder.h>
 #include <support/RealInput.h>
-#include <widgets/SearchField.h>
 #include <widgets/TableView.h>
 
 namespace {
@@ -68,6 +74,7 @@ private Q_SLOTS:
     void goesBetweenThePanesByF6();
     void choosesTheFirstAndTheLastPageByHomeAndEnd();
     void clearsASearchByEscape();
+    void fillsInAFormByKeys();
     void showsTheCurrentCellOfATable();
     void showsWhereTheFocusIs_data();
     void showsWhereTheFocusIs();
@@ -144,12 +151,46 @@ void tst_GalleryWindow_keys::clearsASearchByEscape()
 {
     const Shown shown("colours");
     QVERIFY(shown.isActive);
-    auto *search = shown.page()->findChild<SearchField *>();
+    auto *search = shown.page()->findChild<OxaTextInput *>();
     search->setText(QStringLiteral("border"));
     search->setFocus();
     QVERIFY(RealInput::typeKeys({ QStringLiteral("Escape") }));
     QTRY_COMPARE(search->text(), QString());
     QVERIFY(search->hasFocus());
+}
+
+void tst_GalleryWindow_keys::fillsInAFormByKeys()
+{
+    const Shown shown("forms");
+    QVERIFY(shown.isActive);
+    const auto typeText = [](const char *text) {
+        return RealInput::send({ QStringLiteral("type"), QString::fromLatin1(text) });
+    };
+    auto *address = Controls::called<OxaTextInput>(*shown.page(), "Mail address");
+    address->setFocus();
+    QVERIFY(typeText("ada@"));
+    QTRY_COMPARE(address->text(), QStringLiteral("ada@"));
+    QCOMPARE(shown.type("Tab")->accessibleName(), QStringLiteral("Clear Input"));
+    QCOMPARE(shown.type("Tab")->accessibleName(), QStringLiteral("Password"));
+    QVERIFY(typeText("secret"));
+    QCOMPARE(shown.type("Tab")->accessibleName(), QStringLiteral("Show password"));
+    auto *remember = qobject_cast<OxaCheckBox *>(shown.type("Tab"));
+    QVERIFY(remember);
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("space") }));
+    QTRY_VERIFY(remember->isChecked());
+    QVERIFY(shown.type("Tab"));
+    QCOMPARE(shown.focusedText(), QStringLiteral("Sign in"));
+    QCOMPARE(shown.type("Tab")->accessibleName(), QStringLiteral("Name"));
+    QCOMPARE(shown.type("Tab")->accessibleName(), QStringLiteral("Language"));
+    auto *captions = qobject_cast<OxaComboBox *>(shown.type("Tab"));
+    QVERIFY(captions);
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("space") }));
+    QTRY_VERIFY(captions->view()->isVisible());
+    QVERIFY(captions->view()->window()->frameGeometry().bottom()
+            < captions->mapToGlobal(QPoint()).y());
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("Down"), QStringLiteral("space") }));
+    QTRY_COMPARE(captions->currentText(), QStringLiteral("In calls"));
+    QTRY_VERIFY(!captions->view()->isVisible());
 }
 
 void tst_GalleryWindow_keys::showsTheCurrentCellOfATable()
@@ -164,7 +205,7 @@ void tst_GalleryWindow_keys::showsTheCurrentCellOfATable()
         const QImage image = table->viewport()->grab().toImage();
         return image.pixelColor(table->visualRect(index).topLeft() + QPoint(1, 5)) == border;
     };
-    shown.page()->findChild<SearchField *>()->setFocus();
+    shown.page()->findChild<OxaTextInput *>()->setFocus();
     QCOMPARE(shown.type("Tab"), table);
     const QModelIndex first = table->currentIndex();
     QVERIFY(first.isValid());

@@ -4,6 +4,7 @@
 
 #include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaTextInput.h>
 
 #include <QMetaMethod>
 #include <QSignalSpy>
@@ -15,7 +16,6 @@
 #include <pages/signals/SignalsPage.h>
 #include <widgets/CodeEdit.h>
 #include <widgets/EmptyState.h>
-#include <widgets/LineEdit.h>
 #include <widgets/ListView.h>
 
 Q_DECLARE_METATYPE(QMetaMethod)
@@ -312,7 +312,7 @@ void tst_SignalsPage::connectsAndDisconnectsReceivers()
 void tst_SignalsPage::keepsTheChosenSignalThroughASearch()
 {
     const PageWith page("showContactCard(QRect,QString,Qt::ArrowType)");
-    auto *search = page.page.findChild<LineEdit *>();
+    auto *search = page.page.findChild<OxaTextInput *>();
     const auto chosen = [&page] {
         return page.view.currentIndex().data(SignalModel::NameRole).toString();
     };
@@ -330,14 +330,14 @@ void tst_SignalsPage::keepsTheChosenSignalThroughASearch()
     }));
     search->setText(QStringLiteral("nowhere"));
     QVERIFY(!page.view.currentIndex().isValid());
-    search->clear();
+    search->setText(QString());
     QCOMPARE(chosen(), QStringLiteral("closeContactCards"));
 }
 
 void tst_SignalsPage::offersToClearASearchThatFindsNothing()
 {
     const PageWith page("contactPerson()");
-    auto *search = page.page.findChild<LineEdit *>();
+    auto *search = page.page.findChild<OxaTextInput *>();
     auto *emptyState = page.page.findChild<EmptyState *>();
     auto *emitButton = Controls::withText(page.page, "Emit");
     QVERIFY(emptyState->isHidden());

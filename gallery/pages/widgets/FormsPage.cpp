@@ -88,13 +88,14 @@ Card *makeSignIn()
     column->setSpacing(Metrics::tight);
     addField(column, tr("Mail address"), address);
     column->addWidget(error);
+    column->addSpacing(Metrics::tight);
     addField(column, tr("Password"), password);
     card->body()->addLayout(column);
 
     OxaCheckBox *remember = Fields::checkBox(tr("Remember me"));
     // The box stands in from the edge: like this it is below the fields' edges.
     remember->setSvgIconTopLeftPadding({ 1 - remember->getCheckboxMargin(), 0 });
-    card->body()->addWidget(remember);
+    card->body()->addWidget(remember, 0, Qt::AlignLeft);
     addButton(card, tr("Sign in"));
     return card;
 }
@@ -198,6 +199,7 @@ void addLineEdit(Page &page)
 {
     const auto make = [] {
         OxaLineEdit *field = Fields::line();
+        field->setAccessibleName(tr("Line"));
         field->setPlaceholderText(tr("Placeholder"));
         field->setFixedWidth(fieldWidth);
         return field;
@@ -221,7 +223,6 @@ void addTextInput(Page &page)
     const auto make = [] {
         OxaTextInput *field = Fields::input(tr("Word"));
         field->setPlaceholderText(tr("A word in lower case"));
-        field->setPasswordIcons(WidgetCard::icon("eye-off_13"), WidgetCard::icon("eye_13"));
         field->setInputValidator([](const QString &text) { return text == text.toLower(); }, true);
         field->setFixedWidth(fieldWidth);
         return field;

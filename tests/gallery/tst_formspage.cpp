@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controls.h"
+#include "GalleryTest.h"
+
+#include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaTextBrowser.h>
+#include <UiElements/widgets/OxaTextEdit.h>
+#include <UiElements/widgets/OxaTextInput.h>
+
+#include <QTextBlock>
+
+#include <looks/TextSettings.h>
+#include <looks/ThemeSwitcher.h>
+#include <shell/Page.h>
+#include <shell/PageRegistry.h>
+
+namespace {
+
+/// The page in a window that is shown.
+struct FormsWindow
+{
+    FormsWindow()
+    {
+        page->resize(window.size());
+        window.show();
+    }
+
+    template <typename Widget>
+    Widget *called(const char *name) const
+    {
+        return Controls::called<Widget>(*page, name);
+    }
+
+    QWidget window;
+    Page *page = findPageEntry(QStringLiteral("forms"))->make(&window);
+};
+
+/// Returns the colour of the first link in \a area.
+QColor linkColor(const QTextEdit &area)
+{
+    for (QTextBlock block = area.document()->begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            if (it.fragment().charFormat().isAnchor())
+                return it.fragment().charFormat().foreground().color();
+        }
+    }
+    return {};
+}
+
+QColor colorOf(const char *set)
+{
+    return OxaThemeUtils::getColorSet(set, OxaThemeUtils::AppThemeType::Global).normal;
+}
+
+} // namespace
+
+/// The forms of the page Forms.
+class tst_FormsPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void tellsOfAnAddressThatIsWrong_data();
+    void tellsOfAnAddressThatIsWrong();
+    void stylesEachCombo();
+    void showsInTheBrowserWhatIsEdited();
+    void marksWhatIsSearched();
+    void givesLinksTheColorOfTheTheme();
+    void putsTextsOnTheSideWhereTheLayoutBegins();
+};
+
+void tst_FormsPage::cleanup()
+{
+    GalleryApplication::get()->themeSwitcher()->setAppearance(ThemeSwitcher::Appearance::Light);
+    GalleryApplication::get()->textSettings()->setDirection(Qt::LeftToRight);
+}
+
+void tst_FormsPage::tellsOfAnAddressThatIsWrong_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::addColumn<bool>("isWrong");
+    QTest::newRow("none") << QString() << false;
+    QTest::newRow("a valid one") << QStringLiteral("ada@example.org") << false;
+    QTest::newRow("with a dot and a subdomain") << QStringLiteral("a.b@mail.example.org") << false;
+    QTest::newRow("without a domain") << QStringLiteral("ada@") << true;
+    QTest::newRow("without a dot") << QStringLiteral("ada@example") << true;
+    QTest::newRow("with two ats") << QStringLiteral("ada@b@example.org") << true;
+    QTest::newRow("with a space") << QStringLiteral("a da@example.org") << true;
+}
+
+void tst_FormsPage::tellsOfAnAddressThatIsWrong()
+{
+    QFETCH(const QString, address);
+    FormsWindow forms;
+    forms.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&forms.window));
+    auto *field = forms.called<OxaTextInput>("Mail address");
+    const auto labels = forms.page->findChildren<OxaLabel *>();
+    const auto error = std::find_if(labels.begin(), labels.end(), [](const OxaLabel *label) {
+        return label->text() == QLatin1String("Enter an address such as ada@example.org.");
+    });
+    QVERIFY(error != labels.end());
+    QVERIFY(!(*error)->isVisible());
+    field->setFocus();
+    QTest::keyClicks(field->getLineEdit(), address);
+    QVERIFY(!(*error)->isVisible());
+    forms.called<OxaTextInput>("Password")->setFocus();
+    QTEST((*error)->isVisible(), "isWrong");
+    QTEST(field->property("css").toString().contains(QLatin1String("gallery-error-text")),
+          "isWrong");
+}
+
+void tst_FormsPage::stylesEachCombo()
+{
+    const FormsWindow forms;
+    const auto combos = forms.page->findChildren<OxaComboBox *>();
+    QVERIFY(combos.size() > 3);
+    for (const OxaComboBox *combo : combos)
+        QVERIFY2(!combo->styleSheet().isEmpty(), qPrintable(combo->accessibleName()));
+    QVERIFY(forms.called<OxaComboBox>("Language")->count() > 100);
+    QVERIFY(forms.called<OxaComboBox>("Captions")->isOpenedUpwards());
+    QVERIFY(!forms.called<OxaComboBox>("First day")->isComboBoxAnimationEnabled());
+}
+
+void tst_FormsPage::showsInTheBrowserWhatIsEdited()
+{
+    const FormsWindow forms;
+    auto *editor = forms.called<OxaTextEdit>("Editor");
+    const auto *browser = forms.called<OxaTextBrowser>("Browser");
+    QCOMPARE(browser->toPlainText(), editor->toPlainText());
+    editor->setHtml(QStringLiteral("One <b>two</b>"));
+    QCOMPARE(browser->toPlainText(), QStringLiteral("One two"));
+}
+
+void tst_FormsPage::marksWhatIsSearched()
+{
+    const FormsWindow forms;
+    const auto *browser = forms.called<OxaTextBrowser>("Browser");
+    auto *search = Controls::called<OxaTextInput>(*browser->parentWidget(), "Search");
+    search->setText(QStringLiteral("the"));
+    const auto marks = browser->extraSelections();
+    QCOMPARE(marks.size(), 6);
+    for (const auto &mark : marks)
+        QCOMPARE(mark.cursor.selectedText().toLower(), QStringLiteral("the"));
+    search->setText(QString());
+    QVERIFY(browser->extraSelections().isEmpty());
+}
+
+void tst_FormsPage::givesLinksTheColorOfTheTheme()
+{
+    const FormsWindow forms;
+    for (const auto appearance :
+         { ThemeSwitcher::Appearance::Dark, ThemeSwitcher::Appearance::HighContrast }) {
+        GalleryApplication::get()->themeSwitcher()->setAppearance(appearance);
+        for (const char *name : { "Editor", "Browser", "OxaTextEdit", "OxaTextBrowser" })
+            QCOMPARE(linkColor(*forms.called<QTextEdit>(name)), colorOf("button-hyperlink-text"));
+    }
+}
+
+void tst_FormsPage::putsTextsOnTheSideWhereTheLayoutBegins()
+{
+    const FormsWindow forms;
+    const auto *field = forms.called<OxaTextInput>("Mail address")->getLineEdit();
+    QVERIFY(field->alignment().testFlag(Qt::AlignLeft));
+    GalleryApplication::get()->textSettings()->setDirection(Qt::RightToLeft);
+    QVERIFY(field->alignment().testFlag(Qt::AlignRight));
+    QVERIFY(field->alignment().testFlag(Qt::AlignAbsolute));
+}
+
+GALLERY_TEST_MAIN(tst_FormsPage)
+#include "tst_formspage.moc"
