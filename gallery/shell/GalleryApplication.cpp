@@ -5,11 +5,11 @@
 #include "PageRegistry.h"
 #include "Screenshots.h"
 #include "looks/EmojiFiles.h"
+#include "looks/FocusFrameStyle.h"
 #include "looks/TextSettings.h"
 #include "looks/ThemeSwitcher.h"
 
 #include <QProcess>
-#include <QStyleFactory>
 #include <QTextStream>
 
 namespace {
@@ -43,7 +43,7 @@ GalleryApplication::GalleryApplication(int &argc, char **argv)
     setApplicationName(QStringLiteral("uielements-gallery"));
     setApplicationVersion(QStringLiteral(UIELEMENTS_VERSION));
     setApplicationDisplayName(tr("UiElements Gallery"));
-    setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    setStyle(new FocusFrameStyle);
     substituteFonts();
 }
 

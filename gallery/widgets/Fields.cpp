@@ -44,7 +44,7 @@ const OxaTextInputFactory &factory()
 {
     static const OxaTextInputFactory fields({ look("gallery-field-border", 1),
                                               look("gallery-focus-border", 2),
-                                              look("gallery-error-text", 2) });
+                                              look("gallery-field-error-border", 2) });
     return fields;
 }
 
@@ -182,11 +182,14 @@ OxaComboBox *Fields::combo(const QString &name, const QStringList &texts, QWidge
     combo->addItems(texts);
     combo->setFontToken(token);
     combo->setMinimumHeight(comboHeight);
-    combo->setItemViewBorderRadius(radius);
+    combo->view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     // The text of a row begins below that of the field. Qt's own delegate ignores the padding.
     combo->setItemDelegate(new QStyledItemDelegate(combo));
     combo->view()->parentWidget()->setStyleSheet(
-            QStringLiteral("QAbstractItemView::item { border: none; padding: 4px 9px; }"));
+            QStringLiteral("QAbstractItemView { outline: none; }"
+                           "QAbstractItemView::item { border: none; padding: 4px 9px; }"
+                           "QAbstractItemView::item:selected { background: palette(highlight);"
+                           " color: palette(highlighted-text); }"));
     combo->setSelectedBackgroundColor(QStringLiteral("gallery-selection-background"));
     combo->updateStyle({ "oxa-rills-combobox-text", "oxa-rills-combobox-background",
                          "oxa-rills-combobox-border", 1, radius });
@@ -199,6 +202,8 @@ OxaCheckBox *Fields::checkBox(const QString &text, QWidget *parent)
     box->setText(text);
     box->setFontToken(token);
     box->setCheckboxSize(checkBoxSize);
+    // A wrapped text asks for no more width than it has, also when its font grows.
+    box->setWordWrap(false);
     return box;
 }
 

@@ -2,6 +2,7 @@
 #include "Controls.h"
 #include "GalleryTest.h"
 
+#include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
@@ -9,6 +10,9 @@
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
 
+#include <QAbstractItemView>
+#include <QPainter>
+#include <QStyleOption>
 #include <QTextBlock>
 
 #include <looks/TextSettings.h>
@@ -49,6 +53,19 @@ QColor linkColor(const QTextEdit &area)
     return {};
 }
 
+/// Returns the frame that the style draws around a field of 40 by 40 pixels.
+QImage focusFrame(const QWidget &field)
+{
+    QImage image(40, 40, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QStyleOptionFocusRect option;
+    option.rect = image.rect();
+    option.state = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    QPainter painter(&image);
+    QApplication::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, &field);
+    return image;
+}
+
 QColor colorOf(const char *set)
 {
     return OxaThemeUtils::getColorSet(set, OxaThemeUtils::AppThemeType::Global).normal;
@@ -70,12 +87,16 @@ private Q_SLOTS:
     void marksWhatIsSearched();
     void givesLinksTheColorOfTheTheme();
     void putsTextsOnTheSideWhereTheLayoutBegins();
+    void keepsACheckBoxOnOneLineInLargerText();
+    void framesTheFocusByALineAlone();
+    void leavesTheFocusOfAnEditorToItsBorder();
 };
 
 void tst_FormsPage::cleanup()
 {
     GalleryApplication::get()->themeSwitcher()->setAppearance(ThemeSwitcher::Appearance::Light);
     GalleryApplication::get()->textSettings()->setDirection(Qt::LeftToRight);
+    GalleryApplication::get()->textSettings()->setFontScale(1.0F);
 }
 
 void tst_FormsPage::tellsOfAnAddressThatIsWrong_data()
@@ -109,7 +130,7 @@ void tst_FormsPage::tellsOfAnAddressThatIsWrong()
     QVERIFY(!(*error)->isVisible());
     forms.called<OxaTextInput>("Password")->setFocus();
     QTEST((*error)->isVisible(), "isWrong");
-    QTEST(field->property("css").toString().contains(QLatin1String("gallery-error-text")),
+    QTEST(field->property("css").toString().contains(QLatin1String("gallery-field-error-border")),
           "isWrong");
 }
 
@@ -120,7 +141,9 @@ void tst_FormsPage::stylesEachCombo()
     QVERIFY(combos.size() > 3);
     for (const OxaComboBox *combo : combos)
         QVERIFY2(!combo->styleSheet().isEmpty(), qPrintable(combo->accessibleName()));
-    QVERIFY(forms.called<OxaComboBox>("Language")->count() > 100);
+    const auto *language = forms.called<OxaComboBox>("Language");
+    QVERIFY(language->count() > 100);
+    QCOMPARE(language->view()->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
     QVERIFY(forms.called<OxaComboBox>("Captions")->isOpenedUpwards());
     QVERIFY(!forms.called<OxaComboBox>("First day")->isComboBoxAnimationEnabled());
 }
@@ -168,6 +191,33 @@ void tst_FormsPage::putsTextsOnTheSideWhereTheLayoutBegins()
     GalleryApplication::get()->textSettings()->setDirection(Qt::RightToLeft);
     QVERIFY(field->alignment().testFlag(Qt::AlignRight));
     QVERIFY(field->alignment().testFlag(Qt::AlignAbsolute));
+}
+
+void tst_FormsPage::keepsACheckBoxOnOneLineInLargerText()
+{
+    const FormsWindow forms;
+    auto *box = Controls::withText<OxaCheckBox>(*forms.page, "Remember me");
+    GalleryApplication::get()->textSettings()->setFontScale(1.5F);
+    QTRY_VERIFY(box->width() >= box->fontMetrics().horizontalAdvance(box->text()));
+    QVERIFY(box->height() < 2 * box->fontMetrics().height());
+}
+
+void tst_FormsPage::framesTheFocusByALineAlone()
+{
+    const FormsWindow forms;
+    const QImage frame = focusFrame(*forms.called<OxaComboBox>("Language"));
+    QCOMPARE(frame.pixelColor(0, 20), colorOf("gallery-focus-border"));
+    QCOMPARE(frame.pixelColor(1, 20), colorOf("gallery-focus-border"));
+    QCOMPARE(frame.pixelColor(2, 20).alpha(), 0);
+    // The corners are as round as the field's.
+    QCOMPARE(frame.pixelColor(0, 0).alpha(), 0);
+}
+
+void tst_FormsPage::leavesTheFocusOfAnEditorToItsBorder()
+{
+    const FormsWindow forms;
+    const QImage frame = focusFrame(*forms.called<OxaTextEdit>("Editor"));
+    QCOMPARE(frame.pixelColor(0, 20).alpha(), 0);
 }
 
 GALLERY_TEST_MAIN(tst_FormsPage)
