@@ -62,7 +62,11 @@ OxaTextInput::OxaTextInput(QWidget *parent) : OxaWidget(parent)
 
 OxaTextInput::~OxaTextInput()
 {
-    if (m_lineEditCalls == 0 || !m_lineEdit)
+    if (!m_lineEdit)
+        return;
+    // It loses the focus in ~QWidget(), and would tell a field that is gone.
+    m_lineEdit->disconnect(this);
+    if (m_lineEditCalls == 0)
         return;
     m_lineEdit->removeEventFilter(this);
     m_lineEdit->blockSignals(true);

@@ -7,6 +7,8 @@
 #include <UiElements/fonts/OxaFontManager.h>
 #include <UiElements/fonts/OxaScaledFonts.h>
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaTextInput.h>
+#include <UiElements/widgets/OxaTextInputFactory.h>
 #include <UiElements/widgets/OxaWidget.h>
 
 #include <QDirIterator>
@@ -118,6 +120,7 @@ private Q_SLOTS:
     void survivesDeletions();
     void makesFontsAgainThatASlotDeleted();
     void followsNoFontsThatWereDeleted();
+    void asksNothingOfATextInputThatGoesWithTheFocus();
 
 private:
     void ensureApplication();
@@ -281,6 +284,30 @@ void tst_DeletionInSlots::followsNoFontsThatWereDeleted()
     label.setFontToken(OxaFont::Token::BodyPrimary);
     OxaFontManager::get()->setScalingFactor(view, FontManagerEnum::FontScalingFactor::Large);
     QCOMPARE(label.font().pixelSize(), 26);
+}
+
+void tst_DeletionInSlots::asksNothingOfATextInputThatGoesWithTheFocus()
+{
+    ensureApplication();
+    const StoreGuard stores(storeOfAllSets());
+    QWidget window;
+    OxaTextInput *field = OxaTextInputFactory({}).make(&window);
+    int questions = 0;
+    field->setInputValidator(
+            [&questions](const QString &) {
+                ++questions;
+                return false;
+            },
+            false);
+    field->setText(QStringLiteral("text"));
+    window.show();
+    QApplication::setActiveWindow(&window);
+    field->setFocus();
+    QVERIFY(field->hasFocus());
+    questions = 0;
+    // Its line edit loses the focus as the field's widget goes, and then ends its editing.
+    delete field;
+    QCOMPARE(questions, 0);
 }
 
 UIELEMENTS_APPLESS_TEST_MAIN(tst_DeletionInSlots)
