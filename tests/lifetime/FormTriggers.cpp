@@ -115,8 +115,7 @@ void reject(OxaTextInput &input)
     input.setInputValidator([](const QString &) { return false; }, false);
 }
 
-/// Adds a row for each way in which a field shows one of its looks. Changes of the text are not
-/// among them, since QLineEdit uses itself after telling of one.
+/// Adds a row for each way in which a field shows one of its looks.
 void addTextInputLookRows(SignalTriggers &rows)
 {
     using Input = OxaTextInput;
@@ -141,14 +140,25 @@ void addTextInputRows(SignalTriggers &rows)
 {
     using Input = OxaTextInput;
     addTextInputLookRows(rows);
+    const auto setText = [](Input &input) { input.setText(QStringLiteral("other")); };
+    const auto erase = [](Input &input) {
+        sendKey(*input.getLineEdit(), QEvent::KeyPress, Qt::Key_Backspace);
+    };
     const auto clear = [](Input &input) {
         input.findChild<OxaSvgPushButton *>(QStringLiteral("clearInputButton"))->click();
     };
+    for (const char *signal : { "textChanged(QString)", "showErrorLabel(bool)", "cssChanged()" }) {
+        rows.push_back(row<Input>(signal, "setText()", setText));
+        rows.push_back(row<Input>(signal, "a key that changes the text", erase, &reject));
+        rows.push_back(row<Input>(signal, "its button", clear, &reject));
+    }
+    rows.push_back(row<Input>("textEdited()", "a key that changes the text", erase, &reject));
     rows.push_back(row<Input>("textEdited()", "its button", clear));
-    rows.push_back(row<Input>("showErrorLabel(bool)", "its button", clear));
-    rows.push_back(row<Input>("keyPressed(int)", "a key", [](Input &input) {
-        sendKey(*input.getLineEdit(), QEvent::KeyPress, Qt::Key_A);
-    }));
+    const auto pressReturn = [](Input &input) {
+        sendKey(*input.getLineEdit(), QEvent::KeyPress, Qt::Key_Return);
+    };
+    for (const char *signal : { "returnPressed()", "showErrorLabel(bool)", "keyPressed(int)" })
+        rows.push_back(row<Input>(signal, "Return", pressReturn, &reject));
 }
 
 } // namespace
@@ -165,11 +175,8 @@ void addFormTriggers(SignalTriggers &rows)
     addThemeRows<OxaTextBrowser>(rows);
 }
 
-bool isNoForms(const QMetaMethod &signal)
+bool isNeverEmitted(const QMetaMethod &signal)
 {
-    // Nothing emits the first two. QLineEdit uses itself after it told the field of the others.
     return signal == QMetaMethod::fromSignal(&OxaComboBox::svgDropdownBorderRadiusChanged)
-            || signal == QMetaMethod::fromSignal(&OxaComboBox::svgDropdownBorderWidthChanged)
-            || signal == QMetaMethod::fromSignal(&OxaTextInput::textChanged)
-            || signal == QMetaMethod::fromSignal(&OxaTextInput::returnPressed);
+            || signal == QMetaMethod::fromSignal(&OxaComboBox::svgDropdownBorderWidthChanged);
 }

@@ -257,7 +257,7 @@ bool isLeftOut(const QMetaObject *metaObject, const QMetaMethod &signal)
     if (metaObject->inherits(&OxaEmojiPushButton::staticMetaObject)
         && signal == QMetaMethod::fromSignal(&OxaLabel::clicked))
         return true;
-    return isNoForms(signal);
+    return isNeverEmitted(signal);
 }
 
 void emitAsHubUser(QObject *sender, const QMetaMethod &signal)

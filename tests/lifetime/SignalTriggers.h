@@ -38,8 +38,8 @@ SignalTrigger row(const char *signal, const char *cause, Act<Object> run,
 /// Adds the triggers of the controls of forms to \a rows.
 void addFormTriggers(SignalTriggers &rows);
 
-/// Returns whether \a signal of a control of forms needs no trigger.
-bool isNoForms(const QMetaMethod &signal);
+/// Returns whether nothing emits \a signal of a control of forms.
+bool isNeverEmitted(const QMetaMethod &signal);
 
 /// Adds the triggers of the list models to \a rows.
 void addModelTriggers(SignalTriggers &rows);

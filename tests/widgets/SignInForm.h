@@ -59,9 +59,7 @@ public:
             if (mail->isValidInput())
                 Q_EMIT submitted(mail->text(), password->text(), remember->isChecked());
         });
-        // Queued, since the line edit goes on with itself after Return: now a slot may close us.
-        connect(password, &OxaTextInput::returnPressed, signIn, &OxaPushButton::click,
-                Qt::QueuedConnection);
+        connect(password, &OxaTextInput::returnPressed, signIn, &OxaPushButton::click);
     }
 
 Q_SIGNALS:
