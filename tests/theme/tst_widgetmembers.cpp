@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
+
+// Longer than sources are: two tables, of members and of setters, with a row for each.
+
 #include "support/TestMain.h"
 
 #include <UiElements/emoji/OxaEmojiPushButton.h>
