@@ -90,8 +90,8 @@ bool TestMain::add(const TestClass &testClass)
 
 int main(int argc, char **argv)
 {
-    Q_INIT_RESOURCE(
-            widgeticons); // The icons that widgets load by themselves, as a client has them.
+    // The icons that widgets load by themselves, as a client has them.
+    Q_INIT_RESOURCE(widgeticons);
     const std::vector<TestClass> &classes = testClasses();
     if (!agreeOnTheApplication(classes))
         return 1;

@@ -68,17 +68,24 @@ QString described(const QMetaProperty &property)
             : text;
 }
 
+/// Returns "signal", "invokable", or "slot" with its access.
+QString kindOf(const QMetaMethod &method)
+{
+    if (method.methodType() == QMetaMethod::Signal)
+        return QStringLiteral("signal");
+    if (method.methodType() == QMetaMethod::Method)
+        return QStringLiteral("invokable");
+    const char *const access[] = { "private", "protected", "public" };
+    return QLatin1String(access[method.access()]) + QLatin1String(" slot");
+}
+
 QString described(const QMetaMethod &method)
 {
     QStringList parameters;
     for (int i = 0; i < method.parameterCount(); ++i)
         parameters += QString::fromLatin1(method.parameterTypes().at(i) + ' '
                                           + method.parameterNames().at(i));
-    const char *const access[] = { "private", "protected", "public" };
-    return (method.methodType() == QMetaMethod::Signal
-                    ? QStringLiteral("signal ")
-                    : QLatin1String(access[method.access()]) + QLatin1String(" slot "))
-            + QString::fromLatin1(method.name()) + QLatin1Char('(')
+    return kindOf(method) + QLatin1Char(' ') + QString::fromLatin1(method.name()) + QLatin1Char('(')
             + parameters.join(QLatin1String(", ")) + QLatin1Char(')');
 }
 
@@ -335,6 +342,8 @@ void addFields()
 {
     addRow<OxaLineEdit, QLineEdit>(themeBlock + fontBlock,
                                    { "QString placeholderColorSetName",
+                                     "invokable inputMethodQuery(Qt::InputMethodQuery query, "
+                                     "QVariant argument)",
                                      "signal hoveredChanged(bool state)",
                                      "public slot onLayoutDirectionChanged()" });
     addRow<OxaTextInput, OxaWidget>({},
