@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CodeEdit.h"
 
+#include "Fields.h"
 #include "looks/Metrics.h"
 
 CodeEdit::CodeEdit(QWidget *parent) : QPlainTextEdit(parent)
@@ -9,14 +10,8 @@ CodeEdit::CodeEdit(QWidget *parent) : QPlainTextEdit(parent)
     setFontToken(OxaFont::Token::CodeBlocks);
     setTabChangesFocus(true);
     setLayoutDirection(Qt::LeftToRight);
-    setCSS(QStringLiteral("$backgroundColors: gallery-code-background;"
-                          "$borderColors: gallery-field-border;"
-                          "$borderRadius: 6;"
-                          "$textColors: gallery-code-text;"
-                          "CodeEdit { padding: 4px; }"
-                          // Shows the focus under the pointer as well.
-                          "CodeEdit:focus { padding: 3px;"
-                          " border: 2px solid $(gallery-focus-border); }"));
+    setCSS(QStringLiteral("$textColors: gallery-code-text;")
+           + Fields::look("CodeEdit", { 4, 4 }, "gallery-code-background"));
 }
 
 void CodeEdit::setMinimumLines(int lines)

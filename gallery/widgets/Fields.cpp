@@ -85,24 +85,29 @@ Area *makeArea(const QString &name, QWidget *parent)
     auto *area = new Area(parent);
     area->setAccessibleName(name);
     area->setFontToken(token);
-    area->setCSS(Fields::area(Area::staticMetaObject.className()));
+    area->setCSS(Fields::look(Area::staticMetaObject.className(), { 4, 4 }));
     QObject::connect(area, &Area::themeTypeChanged, area, [area] { colorLinks(area); });
     return area;
 }
 
 } // namespace
 
-QString Fields::area(const char *className)
+QString Fields::look(const char *className, const QSize &padding, const char *background)
 {
     // No text colours: with them Qt derives a placeholder colour that is too faint to read. The
     // palette has a better one.
-    return QStringLiteral("$backgroundColors: gallery-field-background;"
+    return QStringLiteral("$backgroundColors: %1;"
                           "$borderColors: gallery-field-border;"
                           "$borderRadius: 6;"
-                          "%1 { padding: 4px; }"
+                          "%2 { padding: %3px %4px; }"
                           // Shows the focus under the pointer as well.
-                          "%1:focus { padding: 3px; border: 2px solid $(gallery-focus-border); }")
-            .arg(QLatin1String(className));
+                          "%2:focus { padding: %5px %6px;"
+                          " border: 2px solid $(gallery-focus-border); }")
+            .arg(QLatin1String(background), QLatin1String(className))
+            .arg(padding.height())
+            .arg(padding.width())
+            .arg(padding.height() - 1)
+            .arg(padding.width() - 1);
 }
 
 OxaLineEdit *Fields::line(QWidget *parent)
@@ -110,13 +115,9 @@ OxaLineEdit *Fields::line(QWidget *parent)
     auto *field = new OxaLineEdit(parent);
     field->setFontToken(token);
     field->setPlaceholderColorSetName(placeholderColors);
-    field->setCSS(QStringLiteral("$backgroundColors: gallery-field-background;"
-                                 "$borderColors: gallery-field-border;"
-                                 "$borderRadius: 6;"
-                                 "OxaLineEdit { padding: 5px 8px; }"
-                                 // Shows the focus under the pointer as well.
-                                 "OxaLineEdit:focus { padding: 4px 7px;"
-                                 " border: 2px solid $(gallery-focus-border); }"));
+    field->setCSS(look("OxaLineEdit", { 8, 5 }));
+    // Qt is not told of the pointer, which changes the look.
+    QObject::connect(field, &OxaLineEdit::hoveredChanged, field, QOverload<>::of(&QWidget::update));
     alignToLayout(field);
     return field;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QSize>
 #include <QStringList>
 
 class OxaCheckBox;
@@ -17,8 +18,9 @@ class QWidget;
 /// A control is known to assistive technology by the \a name that it is made with.
 namespace Fields {
 
-/// Returns the style text of a field of several lines, whose class is \a className.
-QString area(const char *className);
+/// Returns the style text of a field whose class is \a className.
+QString look(const char *className, const QSize &padding,
+             const char *background = "gallery-field-background");
 
 /// Returns a field for one line of text.
 OxaLineEdit *line(QWidget *parent = nullptr);

@@ -11,6 +11,7 @@
 #include <UiElements/widgets/OxaTextInput.h>
 
 #include <QAbstractItemView>
+#include <QHoverEvent>
 #include <QPainter>
 #include <QStyleOption>
 #include <QTextBlock>
@@ -19,6 +20,8 @@
 #include <looks/ThemeSwitcher.h>
 #include <shell/Page.h>
 #include <shell/PageRegistry.h>
+#include <support/PaintCounter.h>
+#include <widgets/Fields.h>
 
 namespace {
 
@@ -89,6 +92,7 @@ private Q_SLOTS:
     void putsTextsOnTheSideWhereTheLayoutBegins();
     void keepsACheckBoxOnOneLineInLargerText();
     void framesTheFocusByALineAlone();
+    void repaintsALineAsThePointerComesAndGoes();
     void leavesTheFocusOfAnEditorToItsBorder();
 };
 
@@ -211,6 +215,18 @@ void tst_FormsPage::framesTheFocusByALineAlone()
     QCOMPARE(frame.pixelColor(2, 20).alpha(), 0);
     // The corners are as round as the field's.
     QCOMPARE(frame.pixelColor(0, 0).alpha(), 0);
+}
+
+void tst_FormsPage::repaintsALineAsThePointerComesAndGoes()
+{
+    const std::unique_ptr<OxaLineEdit> field(Fields::line());
+    field->setText(QStringLiteral("Text"));
+    PaintCounter counter(*field);
+    for (const auto type : { QEvent::HoverEnter, QEvent::HoverLeave }) {
+        QHoverEvent event(type, QPointF(5, 5), QPointF());
+        QCoreApplication::sendEvent(field.get(), &event);
+        QCOMPARE(counter.take(), 1);
+    }
 }
 
 void tst_FormsPage::leavesTheFocusOfAnEditorToItsBorder()

@@ -25,7 +25,7 @@ EmojiEdit::EmojiEdit(QWidget *parent) : OxaTextEdit(parent)
     setAcceptRichText(false);
     // Undo would restore the characters, which would become pictures again.
     setUndoRedoEnabled(false);
-    setCSS(Fields::area("EmojiEdit"));
+    setCSS(Fields::look("EmojiEdit", { 4, 4 }));
     connect(this, &QTextEdit::textChanged, this, &EmojiEdit::showArtwork);
 }
 
