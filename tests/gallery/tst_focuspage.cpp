@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "GalleryTest.h"
+#include "support/Pixels.h"
 
 #include <UiElements/widgets/OxaLineEdit.h>
-#include "support/Pixels.h"
 
 #include <QPointer>
 #include <QSignalSpy>

@@ -131,6 +131,7 @@ private Q_SLOTS:
     void setsAPropertyOfAllWidgets_data();
     void setsAPropertyOfAllWidgets();
     void setsTheCoordinatesOfAPoint();
+    void setsThePaddingOfAnArrow();
     void setsTheText();
     void hidesTheIcons();
     void showsWhatAnotherControlChanged();
@@ -259,6 +260,15 @@ void tst_WidgetPages::setsTheCoordinatesOfAPoint()
     card.control<Slider>("svgIconBottomRightPadding, down")->setValue(7);
     for (const QVariant &padding : card.values("svgIconBottomRightPadding"))
         QCOMPARE(padding.toPoint(), QPoint(5, 7));
+}
+
+void tst_WidgetPages::setsThePaddingOfAnArrow()
+{
+    const Sample card("forms", 2);
+    QCOMPARE(card.control<Slider>("svgDropdownIconPadding")->value(), 5);
+    card.control<Slider>("svgDropdownIconPadding")->setValue(9);
+    for (const QVariant &padding : card.values("svgDropdownIconPadding"))
+        QCOMPARE(padding.toInt(), 9);
 }
 
 void tst_WidgetPages::setsTheText()

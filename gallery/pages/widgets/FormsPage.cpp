@@ -18,6 +18,7 @@
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
 
+#include <QLocale>
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QVBoxLayout>
@@ -268,6 +269,13 @@ void addComboBox(Page &page)
     controls->addChoice(tr("setEditable()"), PropertyControls::noAndYes(),
                         [](QWidget *widget, const QVariant &isEditable) {
                             qobject_cast<OxaComboBox *>(widget)->setEditable(isEditable.toBool());
+                        });
+    // A property that only a function sets.
+    controls->addNumber(tr("svgDropdownIconPadding"), 0, Metrics::gap,
+                        controls->front()->property("svgDropdownIconPadding").toInt(),
+                        [](QWidget *widget, const QVariant &padding) {
+                            qobject_cast<OxaComboBox *>(widget)->setSvgDropdownIconPaddingRight(
+                                    padding.toInt());
                         });
     controls->addAll();
 }
