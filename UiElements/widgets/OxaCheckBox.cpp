@@ -85,9 +85,7 @@ QSize OxaCheckBox::sizeHint() const
         // Higher than the box on purpose: rows without a text keep apart.
         size.rheight() += m_checkboxSize.height() + padding.top() + padding.bottom();
     } else {
-        QStyleOptionButton option;
-        initStyleOption(&option);
-        const QRect room = option.rect.adjusted(0, 0, -geTextPadding(), 0);
+        const QRect room = rect().adjusted(0, 0, -geTextPadding(), 0);
         const QRect bounds = fontMetrics().boundingRect(room, textFlags(), text());
         size = QSize(bounds.width() + getTextLeftPadding() + getTextRightPadding(),
                      bounds.height());
