@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/Faces.h"
 #include "support/Guards.h"
-#include "support/SvgFiles.h"
 #include "support/TestApplication.h"
 
 #include <UiElements/emoji/OxaEmojiPushButton.h>
@@ -23,6 +22,7 @@ namespace {
 
 constexpr QSize size(120, 40);
 const QString text = QStringLiteral("abc");
+const QString squareFile = QStringLiteral(":/widgets/square.svg");
 const QString missing = QStringLiteral("missing");
 const QString missingSets = QStringLiteral("$textColors: missing; $backgroundColors: missing; "
                                            "$borderColors: missing;");
@@ -71,14 +71,132 @@ std::unique_ptr<Button> flatButton(const QString &buttonText = QString())
 
 /// Gives \a widget icons in colours that are missing.
 template <typename Widget>
-void addIcons(Widget &widget, const QString &file)
+void addIcons(Widget &widget)
 {
-    widget.setSvgIcon(file);
+    widget.setSvgIcon(squareFile);
     widget.setSvgIconColorSet(missing);
-    widget.setInnerSvgIcon(file);
+    widget.setInnerSvgIcon(squareFile);
     widget.setInnerSvgIconSize(QSize(8, 8));
     widget.setInnerSvgIconColorSet(missing);
 }
+
+template <typename Widget>
+std::unique_ptr<Widget> withText()
+{
+    auto widget = std::make_unique<Widget>();
+    widget->setText(text);
+    return widget;
+}
+
+template <typename Widget>
+std::unique_ptr<Widget> styled()
+{
+    auto widget = withText<Widget>();
+    widget->setCSS(missingSets);
+    return widget;
+}
+
+std::unique_ptr<QWidget> makeFlatPeer()
+{
+    auto button = withText<QPushButton>();
+    button->setStyleSheet(flatSheet);
+    button->setAutoDefault(true);
+    return button;
+}
+
+std::unique_ptr<QWidget> makeCheckBox(bool isRounded)
+{
+    auto checkBox = std::make_unique<OxaCheckBox>(nullptr, isRounded);
+    checkBox->setText(text);
+    addIcons(*checkBox);
+    return checkBox;
+}
+
+/// Widgets that paint nothing without colours.
+const std::pair<const char *, Make> painters[] = {
+    { "SVG label",
+      [] {
+          auto label = std::make_unique<OxaSvgLabel>(text);
+          label->setCSS(missingSets);
+          addIcons(*label);
+          return label;
+      } },
+    { "push button with a badge",
+      [] {
+          auto button = flatButton<OxaPushButton>();
+          button->setBadgeVisible(true);
+          button->setFocusRectColorSet(missing);
+          return button;
+      } },
+    { "SVG button",
+      [] {
+          auto button = flatButton<OxaSvgPushButton>(text);
+          addIcons(*button);
+          button->setSvgIconChecked(squareFile);
+          return button;
+      } },
+    { "SVG button with a rich text",
+      [] {
+          auto button = flatButton<OxaSvgPushButton>();
+          button->setTextFormat(Qt::RichText);
+          button->setText(QStringLiteral("<b>abc</b>"));
+          return button;
+      } },
+    { "anchor button",
+      [] {
+          auto button = flatButton<OxaSvgAnchorButton>(text);
+          addIcons(*button);
+          button->setAnchorSvgOn(squareFile);
+          button->setAnchorSvgOff(squareFile);
+          button->setAnchorSvgColorSet(missing);
+          return button;
+      } },
+    { "pill",
+      [] {
+          auto button = std::make_unique<OxaPillTabButton>(text);
+          button->setSvgIcon(squareFile);
+          return button;
+      } },
+    { "underline button",
+      [] {
+          auto button = std::make_unique<OxaUnderlineButton>();
+          button->setText(text);
+          button->setUnderlineColorSet(missing);
+          button->setAnchorIcon(squareFile);
+          button->setShowUnreadIndicator(true);
+          return button;
+      } },
+    { "check box", [] { return makeCheckBox(false); } },
+    { "rounded check box", [] { return makeCheckBox(true); } },
+};
+
+/// A widget, and one that looks like it.
+struct Alike
+{
+    const char *name;
+    Make make;
+    Make makePeer;
+};
+
+/// Widgets whose texts or boxes Qt paints, in the palette's colours without any of ours.
+const Alike alikes[] = {
+    { "label", [] { return styled<OxaLabel>(); }, [] { return withText<QLabel>(); } },
+    { "label that elides",
+      [] {
+          auto label = styled<OxaLabel>();
+          label->setElideMode(Qt::ElideRight);
+          return label;
+      },
+      [] { return withText<QLabel>(); } },
+    { "emoji label", [] { return styled<OxaEmojiLabel>(); },
+      [] { return withText<OxaEmojiLabel>(); } },
+    { "emoji button", [] { return styled<OxaEmojiPushButton>(); },
+      [] { return withText<OxaEmojiPushButton>(); } },
+    { "push button", [] { return flatButton<OxaPushButton>(text); }, &makeFlatPeer },
+    { "toggle button", [] { return flatButton<OxaToggleButton>(text); }, &makeFlatPeer },
+    { "radio button", [] { return withText<OxaRadioButton>(); },
+      [] { return withText<QRadioButton>(); } },
+};
 
 } // namespace
 
@@ -104,7 +222,6 @@ private Q_SLOTS:
     void tintsNothingInAColorThatIsMissing();
 
 private:
-    SvgFiles m_files;
     std::unique_ptr<StoreGuard> m_stores;
     std::unique_ptr<MissingSets> m_warnings;
 };
@@ -125,63 +242,8 @@ void tst_MissingColors::cleanup()
 void tst_MissingColors::paintsNothingInColorsThatAreMissing_data()
 {
     QTest::addColumn<Make>("make");
-    const QString file = m_files.square();
-    const auto addRow = [](const char *name, const Make &make) { QTest::newRow(name) << make; };
-    addRow("SVG label", [file] {
-        auto label = std::make_unique<OxaSvgLabel>(text);
-        label->setCSS(missingSets);
-        addIcons(*label, file);
-        return label;
-    });
-    addRow("push button with a badge", [] {
-        auto button = flatButton<OxaPushButton>();
-        button->setBadgeVisible(true);
-        button->setFocusRectColorSet(missing);
-        return button;
-    });
-    addRow("SVG button", [file] {
-        auto button = flatButton<OxaSvgPushButton>(text);
-        addIcons(*button, file);
-        button->setSvgIconChecked(file);
-        return button;
-    });
-    addRow("SVG button with a rich text", [] {
-        auto button = flatButton<OxaSvgPushButton>();
-        button->setTextFormat(Qt::RichText);
-        button->setText(QStringLiteral("<b>abc</b>"));
-        return button;
-    });
-    addRow("anchor button", [file] {
-        auto button = flatButton<OxaSvgAnchorButton>(text);
-        addIcons(*button, file);
-        button->setAnchorSvgOn(file);
-        button->setAnchorSvgOff(file);
-        button->setAnchorSvgColorSet(missing);
-        return button;
-    });
-    addRow("pill", [file] {
-        auto button = std::make_unique<OxaPillTabButton>(text);
-        button->setSvgIcon(file);
-        // Its style text comes from its properties; the sheet on top only removes Qt's frame.
-        button->setStyleSheet(flatSheet);
-        return button;
-    });
-    addRow("underline button", [file] {
-        auto button = std::make_unique<OxaUnderlineButton>();
-        button->setText(text);
-        button->setUnderlineColorSet(missing);
-        button->setAnchorIcon(file);
-        button->setShowUnreadIndicator(true);
-        return button;
-    });
-    for (const bool isRounded : { false, true }) {
-        addRow(isRounded ? "rounded check box" : "check box", [file, isRounded] {
-            auto checkBox = std::make_unique<OxaCheckBox>(nullptr, isRounded);
-            checkBox->setText(text);
-            addIcons(*checkBox, file);
-            return checkBox;
-        });
-    }
+    for (const auto &[name, make] : painters)
+        QTest::newRow(name) << make;
 }
 
 void tst_MissingColors::paintsNothingInColorsThatAreMissing()
@@ -202,7 +264,7 @@ void tst_MissingColors::paintsNothingInColorsThatAreMissing()
         QVERIFY(Faces::put(*widget, face));
         widget->resize(size);
         if (auto *pill = qobject_cast<OxaPillTabButton *>(widget.get()))
-            pill->setStyleSheet(flatSheet); // Again: it has set one of its own.
+            pill->setStyleSheet(flatSheet); // Last: it sets one of its own.
         QVERIFY2(Pixels::render(*widget) == Pixels::paper(widget->size()), name);
     }
 }
@@ -211,61 +273,8 @@ void tst_MissingColors::looksLikeQtsWidget_data()
 {
     QTest::addColumn<Make>("make");
     QTest::addColumn<Make>("makePeer");
-    const auto addRow = [](const char *name, const Make &make, const Make &makePeer) {
-        QTest::newRow(name) << make << makePeer;
-    };
-    const auto withText = [](auto widget) {
-        widget->setText(text);
-        return widget;
-    };
-    const Make makeLabel = [withText] { return withText(std::make_unique<QLabel>()); };
-    addRow(
-            "label",
-            [withText] {
-                auto label = withText(std::make_unique<OxaLabel>());
-                label->setCSS(missingSets);
-                return label;
-            },
-            makeLabel);
-    addRow(
-            "label that elides",
-            [withText] {
-                auto label = withText(std::make_unique<OxaLabel>());
-                label->setElideMode(Qt::ElideRight);
-                label->setCSS(missingSets);
-                return label;
-            },
-            makeLabel);
-    const Make makeEmojiLabel = [withText] { return withText(std::make_unique<OxaEmojiLabel>()); };
-    addRow(
-            "emoji label",
-            [withText] {
-                auto label = withText(std::make_unique<OxaEmojiLabel>());
-                label->setCSS(missingSets);
-                return label;
-            },
-            makeEmojiLabel);
-    addRow(
-            "emoji button",
-            [withText] {
-                auto button = withText(std::make_unique<OxaEmojiPushButton>());
-                button->setCSS(missingSets);
-                return button;
-            },
-            [withText] { return withText(std::make_unique<OxaEmojiPushButton>()); });
-    const Make makeFlat = [withText] {
-        auto button = withText(std::make_unique<QPushButton>());
-        button->setStyleSheet(flatSheet);
-        button->setAutoDefault(true);
-        return button;
-    };
-    addRow(
-            "push button", [] { return flatButton<OxaPushButton>(text); }, makeFlat);
-    addRow(
-            "toggle button", [] { return flatButton<OxaToggleButton>(text); }, makeFlat);
-    addRow(
-            "radio button", [] { return std::make_unique<OxaRadioButton>(text); },
-            [withText] { return withText(std::make_unique<QRadioButton>()); });
+    for (const Alike &alike : alikes)
+        QTest::newRow(alike.name) << alike.make << alike.makePeer;
 }
 
 void tst_MissingColors::looksLikeQtsWidget()
@@ -294,10 +303,9 @@ void tst_MissingColors::looksLikeQtsWidget()
 
 void tst_MissingColors::paintsNoPictureInColorsThatAreMissing()
 {
-    const QString file = m_files.square();
-    OxaSvgIcon icon(file);
-    icon.setInnerFilePath(file);
-    const OxaSvgRenderer renderer(file);
+    OxaSvgIcon icon(squareFile);
+    icon.setInnerFilePath(squareFile);
+    const OxaSvgRenderer renderer(squareFile);
     const QImage image = Pixels::drawing(size, [&](QPainter *painter) {
         icon.draw(painter, QStyle::State_Enabled);
         icon.draw(painter, QStyle::State_None);
