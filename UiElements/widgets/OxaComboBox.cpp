@@ -29,7 +29,6 @@ void refreshColorSet(OxaSvgIcon &icon, const OxaComboBox *box)
 OxaCSSData initialBorder()
 {
     OxaCSSData border;
-    border.borderRadius = 1;
     border.borderTop = border.borderRight = border.borderBottom = border.borderLeft = true;
     return border;
 }
@@ -44,9 +43,7 @@ OxaComboBox::OxaComboBox(QWidget *parent)
       m_dropdownIconExpanded(QStringLiteral(":/Resources/arrow-up_8.svg")),
       m_border(initialBorder())
 {
-    m_backgroundColors = colorSet("oxa-rills-combobox-background", this);
-    m_borderColors = colorSet("oxa-rills-combobox-border", this);
-    m_textColors = colorSet("oxa-rills-combobox-text", this);
+    takeConfig();
     const OxaColorSet arrowColors = colorSet("oxa-rills-combobox-dropdown-arrow", this);
     m_dropdownIcon.setColorSet(arrowColors);
     m_dropdownIconExpanded.setColorSet(arrowColors);
@@ -173,14 +170,31 @@ void OxaComboBox::setEditable(bool editable)
 
 void OxaComboBox::updateStyle(const UTComboBoxConfig &config)
 {
-    m_textColors = colorSet(config.textColorSetName, this);
-    m_backgroundColors = colorSet(config.backgroundColorSetName, this);
-    m_borderColors = colorSet(config.borderColorSetName, this);
-    m_border.borderWidth = static_cast<quint8>(config.borderWidth);
-    m_border.borderRadius = static_cast<quint8>(config.borderRadius);
+    m_config = config;
+    takeConfig();
     m_dropdownIcon.setColorSet(m_textColors);
     m_dropdownIconExpanded.setColorSet(m_textColors);
     applyCustomCSS();
+}
+
+void OxaComboBox::takeConfig()
+{
+    m_textColors = colorSet(m_config.textColorSetName, this);
+    m_backgroundColors = colorSet(m_config.backgroundColorSetName, this);
+    m_borderColors = colorSet(m_config.borderColorSetName, this);
+    m_border.borderWidth = static_cast<quint8>(m_config.borderWidth);
+    m_border.borderRadius = static_cast<quint8>(m_config.borderRadius);
+}
+
+/// Before the box is first styled, a change of its theme or name applies an empty style text, which
+/// takes sets and border away.
+void OxaComboBox::restoreConfig()
+{
+    const bool isTakenAway = getCSS().isEmpty() && !m_border.borderTop;
+    if (!isTakenAway)
+        return;
+    m_border = initialBorder();
+    takeConfig();
 }
 
 void OxaComboBox::highLightedIndex(int index) { m_highlightedIndex = index; }

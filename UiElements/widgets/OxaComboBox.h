@@ -156,7 +156,8 @@ public:
     void updateStyle(const UTComboBoxConfig &config);
 
     /// Opens the list, moved by the offset; upwards the offset counts upwards. Does nothing where
-    /// it cannot be opened.
+    /// it cannot be opened. A box without items has no list to open, but shows the arrow of an open
+    /// one until hidePopup().
     void showPopup() override;
 
     void hidePopup() override;
@@ -204,6 +205,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void takeConfig();
+    void restoreConfig();
     QString fieldStyleSheet() const;
     QString listStyleSheet() const;
     void styleList();
@@ -213,6 +216,8 @@ private:
     void drawDropdownIcon(QPainter *painter, const QStyleOptionComboBox &option);
     int dropDownWidth() const;
 
+    UTComboBoxConfig m_config { "oxa-rills-combobox-text", "oxa-rills-combobox-background",
+                                "oxa-rills-combobox-border", 1, 1 };
     OxaColorSet m_backgroundColors;
     OxaColorSet m_borderColors;
     OxaColorSet m_textColors;

@@ -37,6 +37,7 @@ void OxaComboBox::applyCustomCSS()
 {
     if (objectName().isEmpty())
         return;
+    restoreConfig();
     OxaCSSData css; // Every corner has the radius, whatever a style text said.
     css.borderRadius = m_border.borderRadius;
     css.borderWidth = m_border.borderWidth;

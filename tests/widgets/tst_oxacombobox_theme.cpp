@@ -57,6 +57,8 @@ private Q_SLOTS:
     void forgetsABorderWithoutWidth();
     void declaresNoMissingColors();
     void looksItsSetsUpInTheNewTheme();
+    void looksItsSetsUpInAThemeBeforeItsFirstStyleText();
+    void keepsAConfigurationAtAThemeChangeBeforeItsFirstStyleText();
     void looksTheArrowsSetUpInTheNewTheme();
     void keepsNoColorsThatTheThemeLacks();
     void takesThemeAndStyleOfAParent();
@@ -206,6 +208,35 @@ void tst_OxaComboBoxTheme::looksItsSetsUpInTheNewTheme()
     List list;
     list.background = QStringLiteral("rgba(107,108,109,1.0)");
     QCOMPARE(box.view()->styleSheet(), sheetOf(list));
+}
+
+/// A box that no one has shown yet, in a window whose theme changes.
+void tst_OxaComboBoxTheme::looksItsSetsUpInAThemeBeforeItsFirstStyleText()
+{
+    for (const QString &name : { QStringLiteral("box"), QString() }) {
+        OpenBox box(nullptr, name);
+        box.setThemeType(QStringLiteral("inverted"));
+        box.setObjectName(QStringLiteral("box"));
+        box.show();
+        QCOMPARE(box.getCSS(), styleTextOf({}));
+        List list;
+        list.background = QStringLiteral("rgba(107,108,109,1.0)");
+        QCOMPARE(box.view()->styleSheet(), sheetOf(list));
+    }
+}
+
+void tst_OxaComboBoxTheme::keepsAConfigurationAtAThemeChangeBeforeItsFirstStyleText()
+{
+    OpenBox box(nullptr, QString());
+    box.updateStyle({ "a", "b", "a", 2, 7 });
+    box.setThemeType(QStringLiteral("inverted"));
+    box.setObjectName(QStringLiteral("box"));
+    box.show();
+    Field field;
+    field.borders = QStringLiteral("$borders: all; $borderWidth:2;$borderRadius:7;");
+    field.background = QStringLiteral("b");
+    field.border = field.text = QStringLiteral("a");
+    QCOMPARE(box.getCSS(), styleTextOf(field));
 }
 
 void tst_OxaComboBoxTheme::looksTheArrowsSetUpInTheNewTheme()
