@@ -66,9 +66,9 @@ OxaTextInput::~OxaTextInput()
         return;
     // It loses the focus in ~QWidget(), and would tell a field that is gone.
     m_lineEdit->disconnect(this);
+    m_lineEdit->removeEventFilter(this);
     if (m_lineEditCalls == 0)
         return;
-    m_lineEdit->removeEventFilter(this);
     m_lineEdit->blockSignals(true);
     m_lineEdit->setParent(nullptr);
     m_lineEdit->deleteLater();

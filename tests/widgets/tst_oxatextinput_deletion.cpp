@@ -6,6 +6,7 @@
 
 #include <QHoverEvent>
 #include <QPointer>
+#include <QSignalSpy>
 
 using namespace TextInputParts;
 
@@ -250,6 +251,7 @@ private Q_SLOTS:
 
     void survivesItsDeletion_data();
     void survivesItsDeletion();
+    void saysNothingAsItIsDeleted();
     void worksWithoutParts_data();
     void worksWithoutParts();
     void survivesValidatorsThatChangeIt_data();
@@ -287,6 +289,25 @@ void tst_OxaTextInputDeletion::survivesItsDeletion()
     trigger->run(family);
     QVERIFY(!chosen);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!family.lineEdit);
+}
+
+void tst_OxaTextInputDeletion::saysNothingAsItIsDeleted()
+{
+    Family family;
+    fillFocusAndReject(family);
+    type(family);
+    QSignalSpy errors(family.field, &OxaTextInput::showErrorLabel);
+    int asked = 0;
+    family.field->setInputValidator(
+            [&asked](const QString &) {
+                ++asked;
+                return false;
+            },
+            true);
+    delete family.field; // Its line edit loses the focus.
+    QCOMPARE(errors.size(), 0);
+    QCOMPARE(asked, 0);
     QVERIFY(!family.lineEdit);
 }
 

@@ -62,7 +62,7 @@ void tst_OxaTextInputExtremes::takesAnyIconSize_data()
             << -3
             << QStringLiteral("QWidget::setMinimumSize: (%1/OxaSvgPushButton) Negative sizes "
                               "(-3,-3) are not possible");
-    QTest::newRow("huge") << 100000 << QString();
+    QTest::newRow("huge") << 4000 << QString();
 }
 
 void tst_OxaTextInputExtremes::takesAnyIconSize()
@@ -76,11 +76,7 @@ void tst_OxaTextInputExtremes::takesAnyIconSize()
     window.field.setSearchIcon(m_files.square());
     if (!warning.isEmpty()) {
         for (const char *name : { "searchIcon", "clearInputButton" }) {
-            const QString text = warning.arg(QLatin1String(name));
-            QTest::ignoreMessage(QtWarningMsg, qPrintable(text));
-            QTest::ignoreMessage(QtWarningMsg,
-                                 qPrintable(QString(text).replace(QLatin1String("Minimum"),
-                                                                  QLatin1String("Maximum"))));
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(warning.arg(QLatin1String(name))));
         }
     }
     window.field.updateIconSizes(size, size);
