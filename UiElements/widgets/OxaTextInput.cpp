@@ -119,7 +119,9 @@ void OxaTextInput::cssUpdated()
 
 bool OxaTextInput::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_lineEdit)
+    // While it is destroyed, a line edit loses the focus and is only a QWidget.
+    const auto *lineEdit = qobject_cast<OxaLineEdit *>(watched);
+    if (!lineEdit || lineEdit != m_lineEdit)
         return false;
     switch (event->type()) {
     case QEvent::FocusOut:

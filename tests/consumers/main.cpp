@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// The smallest program that an installed library must serve. It exits with 0 when a label and a
-// text input, which only its factory can make, have turned a colour set's name into the colour.
+// The smallest program that an installed library must serve. It exits with 0 when a label has
+// turned a colour set's name into the colour, and a field has shown its three looks.
 
 #include <UiElements/app/OxaApplication.h>
 #include <UiElements/theme/OxaThemeUtils.h>
@@ -9,8 +9,6 @@
 #include <UiElements/widgets/OxaTextInputFactory.h>
 
 #include <QTextStream>
-
-#include <memory>
 
 namespace {
 
@@ -24,15 +22,30 @@ public:
     void registerMainWindowShortcuts(OxaMainWindow *) override { }
 };
 
-const QColor bannerColor(0x12, 0x34, 0x56);
-
-/// Returns whether \a widget has the banner's colour as its background.
-bool showsBanner(QWidget &widget)
+OxaCSSData look(const QString &colorSetName)
 {
-    widget.ensurePolished();
-    const QColor background = widget.palette().color(QPalette::Window);
-    QTextStream(stdout) << widget.styleSheet() << '\n' << background.name() << '\n';
-    return background == bannerColor;
+    OxaCSSData css;
+    css.backgroundColorSetName = colorSetName;
+    return css;
+}
+
+/// Returns the names of the sets in which a field is painted at first, with a text, and with one
+/// that its validator rejects.
+QStringList looksOfAField()
+{
+    const OxaTextInputFactory fields({ look(QStringLiteral("field")),
+                                       look(QStringLiteral("field-focused")),
+                                       look(QStringLiteral("field-error")) });
+    OxaWidget window;
+    OxaTextInput *field = fields.make(&window);
+    QStringList looks { field->getOxaCSS().backgroundColorSetName };
+    field->setInputValidator([](const QString &text) { return text != QLatin1String("bad"); },
+                             true);
+    for (const char *text : { "good", "bad" }) {
+        field->setText(QLatin1String(text));
+        looks += field->getOxaCSS().backgroundColorSetName;
+    }
+    return looks;
 }
 
 } // namespace
@@ -42,17 +55,20 @@ int main(int argc, char **argv)
     const Application application(argc, argv);
 
     OxaColorSetMap colorSets;
-    for (const char *name : { "banner", "button-hyperlink-text" })
-        colorSets.emplace(name, OxaColorSet(QLatin1String(name), bannerColor));
+    for (const char *name :
+         { "banner", "button-hyperlink-text", "field", "field-focused", "field-error" })
+        colorSets.emplace(name, OxaColorSet(QLatin1String(name), QColor(0x12, 0x34, 0x56)));
     OxaThemeUtils::setAppOxaColorSets(colorSets);
 
     OxaLabel label;
     label.setCSS(QStringLiteral("$backgroundColors: banner;"));
+    label.ensurePolished();
 
-    OxaCSSData look;
-    look.backgroundColorSetName = QStringLiteral("banner");
-    const OxaTextInputFactory fields({ look, look, look });
-    const std::unique_ptr<OxaTextInput> field(fields.make(nullptr));
-
-    return showsBanner(label) && showsBanner(*field) ? 0 : 1;
+    const QColor background = label.palette().color(QPalette::Window);
+    QTextStream(stdout) << label.styleSheet() << '\n' << background.name() << '\n';
+    const QString looks = looksOfAField().join(QLatin1Char(' '));
+    QTextStream(stdout) << looks << '\n';
+    const bool isRight = background == QColor(0x12, 0x34, 0x56)
+            && looks == QLatin1String("field field-focused field-error");
+    return isRight ? 0 : 1;
 }

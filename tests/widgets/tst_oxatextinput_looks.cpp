@@ -237,9 +237,9 @@ void tst_OxaTextInputLooks::movesTheFocusByTab()
 
 void tst_OxaTextInputLooks::insertsNoTab()
 {
+    SignalLog log;
     QWidget window; // Where Tab has nowhere else to go.
     OxaTextInput *field = makeField(&window);
-    SignalLog log;
     record(log, field);
     window.show();
     window.activateWindow();
