@@ -135,6 +135,15 @@ bool OxaTextInput::eventFilter(QObject *watched, QEvent *event)
     }
 }
 
+void OxaTextInput::changeEvent(QEvent *event)
+{
+    // What the sheet says may be covered now, until it is set again.
+    const QEvent::Type type = event->type();
+    if (type == QEvent::PaletteChange || type == QEvent::FontChange || type == QEvent::StyleChange)
+        m_isTypingLookShown = false;
+    OxaWidget::changeEvent(event);
+}
+
 void OxaTextInput::makeParts()
 {
     m_lineEdit = TextInputParts::makeLineEdit(this);
@@ -224,13 +233,34 @@ void OxaTextInput::onTextChanged(const QString &text)
     showOrHideActionButtons();
     const bool isError = m_validateWhileTyping && !text.isEmpty() && !isValidInput();
     if (call.isFieldAlive())
-        setCSS(isError ? m_cssError : m_cssFocused);
+        showTypingLook(isError ? m_cssError : m_cssFocused);
     if (call.isFieldAlive()) {
         updateMaxLengthCounter();
         Q_EMIT textChanged(text);
     }
     if (call.isFieldAlive())
         Q_EMIT showErrorLabel(isError);
+}
+
+/// Shows \a css. At most keys it is what Qt shows already: computing the styles of all parts again
+/// would take longer than the rest of a key.
+void OxaTextInput::showTypingLook(const OxaCSSData &css)
+{
+    const QString styleText = OxaThemeUtils::convertToOxaCSS(css);
+    // The rest of a style text may select by properties, whose changes Qt does not notice.
+    const bool isShown = m_isTypingLookShown && css.plainStyleSheet.isEmpty()
+            && styleText == getCSS()
+            && OxaThemeUtils::parseCSS(this, styleText, OxaThemeUtils::getAppOxaColorSets())
+                            .expandedStyleSheet
+                    == styleSheet();
+    if (isShown) {
+        Q_EMIT cssChanged();
+        return;
+    }
+    const QPointer<OxaTextInput> self(this);
+    setCSS(styleText);
+    if (self)
+        m_isTypingLookShown = true;
 }
 
 void OxaTextInput::clearAndFocusInput()

@@ -172,6 +172,7 @@ protected:
     void cssUpdated();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     friend class OxaTextInputFactory;
@@ -186,6 +187,7 @@ private:
     bool onKeyPressed(int key);
     void onEditingFinished();
     void onTextChanged(const QString &text);
+    void showTypingLook(const OxaCSSData &css);
     void clearAndFocusInput();
     void passwordActionPressed();
     void showPasswordIcon(const QString &name, const QString &icon, const QSize &size);
@@ -210,4 +212,5 @@ private:
     QString m_passwordIconShown;
     int m_displayMaxLength = 0;
     int m_lineEditCalls = 0;
+    bool m_isTypingLookShown = false;
 };

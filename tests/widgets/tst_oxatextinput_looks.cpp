@@ -3,7 +3,30 @@
 #include "support/Guards.h"
 #include "support/TestApplication.h"
 
+#include <QSignalSpy>
+
 using namespace TextInputParts;
+
+namespace {
+
+/// Counts how often Qt computes the style of a widget again.
+class StyleChanges : public QObject
+{
+public:
+    explicit StyleChanges(QWidget &watched) { watched.installEventFilter(this); }
+
+    int count = 0;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::StyleChange ? 1 : 0;
+        return false;
+    }
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(std::function<void(OxaTextInput &)>)
 
 /// When a field asks its validator, how it looks then, and which signals come in which order.
 class tst_OxaTextInputLooks : public QObject
@@ -30,6 +53,9 @@ private Q_SLOTS:
     void insertsNoTab();
     void doesNotChangeForTheSameText();
     void looksAsItsValidatorSaysAfterAThemeChange();
+    void setsTheSameSheetOnceWhileTyping();
+    void setsTheSheetAgainWhereThatCanBeSeen_data();
+    void setsTheSheetAgainWhereThatCanBeSeen();
 
 private:
     std::unique_ptr<StoreGuard> m_stores;
@@ -275,6 +301,66 @@ void tst_OxaTextInputLooks::looksAsItsValidatorSaysAfterAThemeChange()
     window.field.setThemeType(QStringLiteral("light"));
     QCOMPARE(lookOf(window.field), QStringLiteral("error"));
     QVERIFY(window.field.styleSheet().contains(QColor(Qt::magenta).name(QColor::HexArgb)));
+}
+
+void tst_OxaTextInputLooks::setsTheSameSheetOnceWhileTyping()
+{
+    Window window;
+    QVERIFY(window.open());
+    window.field.setFocus();
+    QTest::keyClick(&textOf(window.field), Qt::Key_A);
+    StyleChanges changes(window.field);
+    const QSignalSpy cssChanged(&window.field, &OxaTextInput::cssChanged);
+    QTest::keyClicks(&textOf(window.field), QStringLiteral("bc"));
+    QCOMPARE(changes.count, 0);
+    QCOMPARE(cssChanged.size(), 2);
+    QCOMPARE(window.field.text(), QStringLiteral("abc"));
+}
+
+using Change = std::function<void(OxaTextInput &)>;
+
+void tst_OxaTextInputLooks::setsTheSheetAgainWhereThatCanBeSeen_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::newRow("palette") << Change([](OxaTextInput &field) {
+        QPalette palette;
+        palette.setColor(QPalette::Window, Qt::cyan);
+        field.setPalette(palette);
+    });
+    QTest::newRow("another sheet") << Change(
+            [](OxaTextInput &field) { field.setStyleSheet(QStringLiteral("color: red;")); });
+    QTest::newRow("another name") << Change([](OxaTextInput &field) {
+        const QSignalBlocker blocker(field);
+        field.setObjectName(QStringLiteral("renamed"));
+    });
+    QTest::newRow("other colours") << Change([](OxaTextInput &) {
+        OxaColorSetMap sets = store();
+        sets[focused.backgroundColorSetName.toStdString()].normal = Qt::cyan;
+        OxaThemeUtils::setAppOxaColorSets(sets);
+    });
+    QTest::newRow("a style text of its own") << Change([](OxaTextInput &field) {
+        OxaCSSData own = focused;
+        own.plainStyleSheet = QStringLiteral("OxaTextInput[invalid=true] { color: red; }");
+        OxaTextInputFactory({ normal, own, error }).apply(&field);
+        QTest::keyClick(&textOf(field), Qt::Key_B);
+    });
+}
+
+void tst_OxaTextInputLooks::setsTheSheetAgainWhereThatCanBeSeen()
+{
+    QFETCH(const Change, change);
+    const StoreGuard stores(store());
+    Window window;
+    QVERIFY(window.open());
+    window.field.setFocus();
+    QTest::keyClick(&textOf(window.field), Qt::Key_A);
+    change(window.field);
+    StyleChanges changes(window.field);
+    QTest::keyClick(&textOf(window.field), Qt::Key_C);
+    QVERIFY(changes.count > 0);
+    const auto expected = OxaThemeUtils::parseCSS(&window.field, window.field.getCSS(),
+                                                  OxaThemeUtils::getAppOxaColorSets());
+    QCOMPARE(window.field.styleSheet(), expected.expandedStyleSheet);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaTextInputLooks)
