@@ -77,8 +77,8 @@ void drawTick(QPainter &painter, const OxaCheckBox &box, const OxaSvgIcon &tick,
     const int indent = indentOf(box, true);
     painter.save();
     painter.translate(boxOffset
-                      + QPointF((size.width() - tickSize.width()) / 2 + indent,
-                                (size.height() - tickSize.height()) / 2));
+                      + QPoint((size.width() - tickSize.width()) / 2 + indent,
+                               (size.height() - tickSize.height()) / 2));
     tick.draw(&painter, state);
     painter.restore();
 }
@@ -101,6 +101,7 @@ QRect focusRectOf(const OxaCheckBox &box, const IconTextPlacement &place, const 
 
 } // namespace
 
+// NOLINTNEXTLINE(readability-function-size): the number of parameters is part of the interface
 void DrawUtils::drawCheckbox(QPainter *painter, const OxaCheckBox *box, const QStyleOption &option,
                              const std::unique_ptr<OxaSvgIcon> &icon, const OxaColorSet &text,
                              const OxaColorSet &border, const OxaColorSet &background,

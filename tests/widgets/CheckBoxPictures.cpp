@@ -99,7 +99,7 @@ void CheckBoxPictures::paint(QPainter *painter, const OxaCheckBox &checkBox, con
         return;
     const int x = (boxSize.width() - tick.width()) / 2
             + (QGuiApplication::isRightToLeft() ? -margin : margin);
-    QRectF square(x, (boxSize.height() - tick.height()) / 2, tick.width(), tick.height());
+    QRectF square(QPoint(x, (boxSize.height() - tick.height()) / 2), tick);
     DrawUtils::fitRectangle(square, 1.0);
     QPainterPath path;
     path.addRect(square.normalized());

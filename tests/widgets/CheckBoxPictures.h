@@ -36,7 +36,7 @@ const QString squareTick = QStringLiteral(":/widgets/square.svg");
 constexpr QSize oddSize(15, 15);
 constexpr QSize paperSize(160, 60);
 constexpr int margin = 3;
-constexpr int radius = 2;
+constexpr int boxRadius = 2;
 
 /// Returns the inside of a box of 24 by 14 beside a line of text in a widget that is \a width wide,
 /// without lines and corners.
@@ -50,7 +50,7 @@ struct Look
 {
     bool isRounded = false;
     bool hasTick = true;
-    int radius = CheckBoxPictures::radius;
+    int radius = boxRadius;
     QStyle::State state = QStyle::State_Enabled | QStyle::State_On;
 };
 

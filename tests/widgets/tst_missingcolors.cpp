@@ -112,6 +112,51 @@ std::unique_ptr<QWidget> makeCheckBox(bool isRounded)
     return checkBox;
 }
 
+/// Whether \a widget knows \a face.
+bool hasFace(const QWidget &widget, Faces::Face face)
+{
+    return qobject_cast<const QAbstractButton *>(&widget)
+            || (face != Faces::Face::Pressed && face != Faces::Face::Checked);
+}
+
+/// Returns whether a widget of \a make paints nothing with \a face.
+bool paintsNothing(const Make &make, Faces::Face face)
+{
+    QWidget window;
+    const auto widget = make();
+    widget->setParent(&window);
+    // Under the pointer, its outline is in the palette's colour.
+    const bool hasOutline = face == Faces::Face::Hovered && widget->inherits("OxaUnderlineButton");
+    if (hasOutline || !hasFace(*widget, face))
+        return true;
+    widget->resize(size);
+    if (!Faces::put(*widget, face))
+        return false;
+    widget->resize(size);
+    if (widget->inherits("OxaPillTabButton"))
+        widget->setStyleSheet(flatSheet); // Last: it sets one of its own.
+    return Pixels::render(*widget) == Pixels::paper(widget->size());
+}
+
+/// Returns whether widgets of \a make and \a makePeer look alike with \a face.
+bool lookAlike(const Make &make, const Make &makePeer, Faces::Face face)
+{
+    const auto widget = make();
+    const auto peer = makePeer();
+    // A label's frame is in the inverse of the colour that is behind it.
+    const bool hasFrame = face == Faces::Face::Focused && widget->inherits("OxaLabel");
+    if (hasFrame || !hasFace(*widget, face))
+        return true;
+    peer->setFont(widget->font());
+    peer->setAttribute(Qt::WA_Hover, widget->testAttribute(Qt::WA_Hover));
+    for (QWidget *each : { peer.get(), widget.get() })
+        each->resize(size);
+    if (!Faces::put(*peer, face))
+        return false;
+    const QImage expected = Pixels::render(*peer);
+    return Faces::put(*widget, face) && Pixels::render(*widget) == expected;
+}
+
 /// Widgets that paint nothing without colours.
 const std::pair<const char *, Make> painters[] = {
     { "SVG label",
@@ -249,24 +294,8 @@ void tst_MissingColors::paintsNothingInColorsThatAreMissing_data()
 void tst_MissingColors::paintsNothingInColorsThatAreMissing()
 {
     QFETCH(const Make, make);
-    for (const auto &[face, name] : Faces::all) {
-        QWidget window;
-        const auto widget = make();
-        widget->setParent(&window);
-        // Under the pointer, its outline is in the palette's colour.
-        const bool hasOutline = qobject_cast<OxaUnderlineButton *>(widget.get());
-        if (face == Faces::Face::Hovered && hasOutline)
-            continue;
-        const bool isButton = qobject_cast<QAbstractButton *>(widget.get());
-        if (!isButton && (face == Faces::Face::Pressed || face == Faces::Face::Checked))
-            continue;
-        widget->resize(size);
-        QVERIFY(Faces::put(*widget, face));
-        widget->resize(size);
-        if (auto *pill = qobject_cast<OxaPillTabButton *>(widget.get()))
-            pill->setStyleSheet(flatSheet); // Last: it sets one of its own.
-        QVERIFY2(Pixels::render(*widget) == Pixels::paper(widget->size()), name);
-    }
+    for (const auto &[face, name] : Faces::all)
+        QVERIFY2(paintsNothing(make, face), name);
 }
 
 void tst_MissingColors::looksLikeQtsWidget_data()
@@ -281,24 +310,8 @@ void tst_MissingColors::looksLikeQtsWidget()
 {
     QFETCH(const Make, make);
     QFETCH(const Make, makePeer);
-    for (const auto &[face, name] : Faces::all) {
-        const auto widget = make();
-        const auto peer = makePeer();
-        const bool isButton = qobject_cast<QAbstractButton *>(widget.get());
-        if (!isButton && (face == Faces::Face::Pressed || face == Faces::Face::Checked))
-            continue;
-        // A label's frame is in the inverse of the colour that is behind it.
-        if (face == Faces::Face::Focused && widget->inherits("OxaLabel"))
-            continue;
-        peer->setFont(widget->font());
-        peer->setAttribute(Qt::WA_Hover, widget->testAttribute(Qt::WA_Hover));
-        for (QWidget *each : { peer.get(), widget.get() })
-            each->resize(size);
-        QVERIFY(Faces::put(*peer, face));
-        const QImage expected = Pixels::render(*peer);
-        QVERIFY(Faces::put(*widget, face));
-        QVERIFY2(Pixels::render(*widget) == expected, name);
-    }
+    for (const auto &[face, name] : Faces::all)
+        QVERIFY2(lookAlike(make, makePeer, face), name);
 }
 
 void tst_MissingColors::paintsNoPictureInColorsThatAreMissing()

@@ -349,7 +349,8 @@ void tst_OxaCheckBoxDrawing::paintsInTheColorsOfTheState()
     const QRect box(0, 0, 30, 23);
     for (const bool isRounded : { false, true }) {
         const QImage image = drawing(checkBox, [&](QPainter *painter) {
-            drawCheckbox(painter, checkBox, { isRounded, true, radius, state }, makeTick(checkBox));
+            drawCheckbox(painter, checkBox, { isRounded, true, boxRadius, state },
+                         makeTick(checkBox));
         });
         QVERIFY(Faces::facesIn(image, borderColors, box).contains(face));
         QCOMPARE(Faces::facesIn(image, iconColors, insideOfBox(120)), face);

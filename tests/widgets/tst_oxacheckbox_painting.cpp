@@ -105,7 +105,7 @@ void tst_OxaCheckBoxPainting::paintsItselfByDrawCheckbox()
     for (const bool isChecked : { true, false }) {
         checkBox.setChecked(isChecked);
         const QStyle::State enabled = isEnabled ? QStyle::State_Enabled : QStyle::State_None;
-        const Look look { isRounded, isChecked, radius,
+        const Look look { isRounded, isChecked, boxRadius,
                           enabled | (isChecked ? QStyle::State_On : QStyle::State_Off) };
         const QImage expected = drawing(checkBox,
                                         [&](QPainter *painter) { paint(painter, checkBox, look); });
