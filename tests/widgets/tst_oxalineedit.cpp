@@ -13,14 +13,12 @@
 namespace {
 
 const QString hint = QStringLiteral("hint");
-const OxaColorSet hintColors = ColorSets::make(hint, { "#ff010101", "#ff020202", "#ff030303",
-                                                       "#ff040404", "#ff050505", "#ff060606" });
+const OxaColorSet hintColors = ColorSets::make(hint,
+                                               { "#ff010101", "#ff020202", "#ff030303", "#ff040404",
+                                                 "#ff050505", "#ff060606" });
 const OxaColorSet invertedHintColors = ColorSets::make(hint, { "#ff111111", "#ff121212" });
 
-QColor hintColorOf(const QWidget &edit)
-{
-    return edit.palette().color(QPalette::PlaceholderText);
-}
+QColor hintColorOf(const QWidget &edit) { return edit.palette().color(QPalette::PlaceholderText); }
 
 /// Sends a hover event of the type \a type to \a edit as Qt does. Returns whether it was answered
 /// with true.
@@ -163,6 +161,10 @@ void tst_OxaLineEdit::setsNoPaletteForTheSameColor()
     QCOMPARE(changes.count, 1);
     hover(edit, QEvent::HoverLeave);
     QCOMPARE(changes.count, 1);
+    OxaLineEdit other; // Where the palette has the colour already, it is not set either.
+    const StoreGuard stores(ColorSets::storeOf({ OxaColorSet(hint, hintColorOf(other)) }));
+    other.setPlaceholderColorSetName(hint);
+    QVERIFY(!other.testAttribute(Qt::WA_SetPalette));
 }
 
 void tst_OxaLineEdit::putsItsColorIntoAnotherPalette()
