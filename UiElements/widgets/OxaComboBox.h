@@ -40,6 +40,9 @@ struct UTComboBoxConfig
 /// combo box is one big button that emits contentAreaClicked(). Space in the list chooses the
 /// highlighted row, and emits activated() also if it was the current one.
 ///
+/// Its list scrolls by a bar, and takes the accessible name that the combo box has when it is
+/// styled.
+///
 /// Slots may delete the combo box, except where Qt goes on with it: in cssChanged() while the box
 /// or its list is shown or hidden, in highlighted() and in currentIndexChanged(). There use
 /// deleteLater().

@@ -113,6 +113,10 @@ void OxaComboBox::styleList()
         list->setObjectName(QStringLiteral("rillsAstractItemView"));
     if (!list)
         return;
+    if (!accessibleName().isEmpty())
+        list->setAccessibleName(accessibleName());
+    // Qt made the list before the sheet asked for one that scrolls by a bar.
+    list->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     list->setStyleSheet(sheet);
     list->style()->unpolish(this);
     list->style()->polish(this);

@@ -62,6 +62,7 @@ OxaSvgPushButton *TextInputParts::makeSearchIcon(QWidget *parent)
     QAccessible::installFactory(makeInterface); // Once: Qt knows it the next time.
     auto *icon = new SearchIcon(parent);
     icon->setObjectName(QStringLiteral("searchIcon"));
+    icon->setFlat(true); // The style would draw a button around the picture.
     icon->hide();
     icon->setFocusPolicy(Qt::NoFocus);
     icon->setFixedSize(searchIconSize);

@@ -179,11 +179,9 @@ OxaComboBox *Fields::combo(const QString &name, const QStringList &texts, QWidge
     // Any name: without one a combo box has no style.
     combo->setObjectName(QStringLiteral("combo"));
     combo->setAccessibleName(name);
-    combo->view()->setAccessibleName(name);
     combo->addItems(texts);
     combo->setFontToken(token);
     combo->setMinimumHeight(comboHeight);
-    combo->view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     // The text of a row begins below that of the field. Qt's own delegate ignores the padding.
     combo->setItemDelegate(new QStyledItemDelegate(combo));
     combo->view()->parentWidget()->setStyleSheet(

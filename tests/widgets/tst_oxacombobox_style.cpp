@@ -64,6 +64,7 @@ private Q_SLOTS:
     void followsItsNameFromTheFirstStyleTextOnly();
     void stylesTheListFirst();
     void isPolishedAfterItsList();
+    void givesItsListABarAndItsOwnName();
 
 private:
     std::unique_ptr<StoreGuard> m_stores;
@@ -309,6 +310,20 @@ void tst_OxaComboBoxStyle::isPolishedAfterItsList()
     const int unpolish = style.calls.indexOf(QStringLiteral("unpolish box"));
     QVERIFY(unpolish >= 0);
     QCOMPARE(style.calls.indexOf(QStringLiteral("polish box")), unpolish + 1);
+}
+
+void tst_OxaComboBoxStyle::givesItsListABarAndItsOwnName()
+{
+    OxaComboBox box;
+    box.setAccessibleName(QStringLiteral("Language"));
+    box.setObjectName(QStringLiteral("box"));
+    box.setLeftPadding(4);
+    QCOMPARE(box.view()->accessibleName(), QStringLiteral("Language"));
+    QCOMPARE(box.view()->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+
+    box.setAccessibleName(QString());
+    box.setLeftPadding(5);
+    QCOMPARE(box.view()->accessibleName(), QStringLiteral("Language"));
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaComboBoxStyle)
