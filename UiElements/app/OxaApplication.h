@@ -55,7 +55,7 @@ public:
     virtual void restart() = 0;
 
     /// Called from the constructor of each main window, so that the outer application can register
-    /// its shortcuts on \a window. This version has no main window and never calls it.
+    /// its shortcuts on \a window, which is not yet more than an OxaMainWindow.
     virtual void registerMainWindowShortcuts(OxaMainWindow *window) = 0;
 
     /// Returns the signal hub, or null once it is deleted.

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OxaSeparator.h"
+
+#include <QPainter>
+
+OxaSeparator::OxaSeparator(QWidget *parent) : OxaWidget(parent)
+{
+    setFixedHeight(1);
+    OxaSeparator::onThemeChanged();
+}
+
+QString OxaSeparator::getColorSetName() const { return m_colorSetName; }
+
+void OxaSeparator::setColorSetName(const QString &name) { m_colorSetName = name; }
+
+void OxaSeparator::onThemeChanged()
+{
+    m_color = OxaThemeUtils::getColorSet(m_colorSetName.toStdString(), this).normal;
+    update();
+}
+
+void OxaSeparator::paintEvent(QPaintEvent *)
+{
+    if (!m_color.isValid())
+        return;
+    QPainter painter(this);
+    painter.setPen(m_color);
+    painter.setBrush(m_color);
+    painter.drawRect(rect());
+}
