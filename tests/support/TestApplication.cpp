@@ -5,7 +5,11 @@ void TestApplication::onQmlEngineCreated(OxaQmlEngine *) { }
 
 void TestApplication::restart() { }
 
-void TestApplication::registerMainWindowShortcuts(OxaMainWindow *) { }
+void TestApplication::registerMainWindowShortcuts(OxaMainWindow *window)
+{
+    if (mainWindowHook)
+        mainWindowHook(window);
+}
 
 void TestApplication::setPublishingInfo(const AppPublishing::OxaPublishingInfo &info)
 {

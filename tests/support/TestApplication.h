@@ -5,7 +5,10 @@
 
 #include <UiElements/app/OxaApplication.h>
 
-/// The application object of tests. The hooks for outer applications do nothing.
+#include <functional>
+
+/// The application object of tests. The hooks for outer applications do nothing, except where a
+/// test gives one for main windows.
 class TestApplication : public OxaApplication
 {
     Q_OBJECT
@@ -19,6 +22,9 @@ public:
 
     /// Sets the publishing information.
     void setPublishingInfo(const AppPublishing::OxaPublishingInfo &info);
+
+    /// Gets each new main window.
+    std::function<void(OxaMainWindow *)> mainWindowHook;
 };
 
 /// Runs a test class under a TestApplication. TestMain.h has macros for other applications.
