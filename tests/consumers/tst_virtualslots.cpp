@@ -10,11 +10,21 @@
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaDateTimeEdit.h>
+#include <UiElements/widgets/OxaDialog.h>
+#include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaMainWindow.h>
+#include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
+#include <UiElements/widgets/OxaSeparator.h>
+#include <UiElements/widgets/OxaSlider.h>
+#include <UiElements/widgets/OxaSplitter.h>
+#include <UiElements/widgets/OxaStackedWidget.h>
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
+#include <UiElements/widgets/OxaTimeEdit.h>
 
 #include <QTest>
 
@@ -144,6 +154,16 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
     addThemedRow<OxaTextEdit, QTextEdit>();
     addThemedRow<OxaTextBrowser, QTextBrowser>();
     addRow<OxaTextInput, OxaWidget>({});
+    addThemedRow<OxaMainWindow, QMainWindow>();
+    addThemedRow<OxaDialog, QDialog>();
+    addThemedRow<OxaFrame, QFrame>();
+    addThemedRow<OxaSplitter, QSplitter>();
+    addThemedRow<OxaStackedWidget, QStackedWidget>();
+    addThemedRow<OxaDateTimeEdit, QDateTimeEdit>();
+    addThemedRow<OxaTimeEdit, QTimeEdit>();
+    addThemedRow<OxaSlider, QSlider>();
+    addThemedRow<OxaProgressBar, QProgressBar>();
+    addRow<OxaSeparator, OxaWidget>({});
     addRow<OxaSvgPushButton, OxaPushButton>({ slotOf(&Open::onCSSChanged) });
     // The last three come from QLayout's second base class, QLayoutItem.
     addRow<FlowLayout, QLayout>({

@@ -222,6 +222,7 @@ SignalTriggers allRows()
     addPictureRows(rows);
     addValueRows(rows);
     addApplicationRows(rows);
+    addContainerTriggers(rows);
     addFormTriggers(rows);
     addModelTriggers(rows);
     return rows;

@@ -35,6 +35,9 @@ SignalTrigger row(const char *signal, const char *cause, Act<Object> run,
     return { &Object::staticMetaObject, signal, cause, onObject(prepare), onObject(run) };
 }
 
+/// Adds the triggers of containers and range controls to \a rows.
+void addContainerTriggers(SignalTriggers &rows);
+
 /// Adds the triggers of the controls of forms to \a rows.
 void addFormTriggers(SignalTriggers &rows);
 

@@ -16,12 +16,22 @@
 #include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaDateTimeEdit.h>
+#include <UiElements/widgets/OxaDialog.h>
+#include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaMainWindow.h>
+#include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
+#include <UiElements/widgets/OxaSeparator.h>
+#include <UiElements/widgets/OxaSlider.h>
+#include <UiElements/widgets/OxaSplitter.h>
+#include <UiElements/widgets/OxaStackedWidget.h>
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTextInputFactory.h>
+#include <UiElements/widgets/OxaTimeEdit.h>
 #include <UiElements/widgets/OxaToggleButton.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
 #include <UiElements/widgets/OxaWidget.h>
@@ -72,6 +82,12 @@ Subject textInput()
              [](QWidget *parent) -> QObject * { return OxaTextInputFactory({}).make(parent); } };
 }
 
+Subject progressBar()
+{
+    return { OxaProgressBar::staticMetaObject.className(), &OxaProgressBar::staticMetaObject,
+             [](QWidget *parent) -> QObject * { return new OxaProgressBar(parent, 10); } };
+}
+
 bool isWalked(const QMetaObject &metaObject)
 {
     const QByteArray name = metaObject.className();
@@ -101,6 +117,16 @@ const std::vector<Subject> &subjects()
         textInput(),
         subject<OxaTextEdit>(),
         subject<OxaTextBrowser>(),
+        subject<OxaMainWindow>(),
+        subject<OxaDialog>(),
+        subject<OxaFrame>(),
+        subject<OxaSplitter>(),
+        subject<OxaStackedWidget>(),
+        subject<OxaSeparator>(),
+        subject<OxaDateTimeEdit>(),
+        subject<OxaTimeEdit>(),
+        subject<OxaSlider>(),
+        progressBar(),
         subject<OxaSvgRenderer>(),
         subjectWithoutParent<OxaSvgIcon>(),
         subject<OxaScaledFonts>(),

@@ -41,19 +41,28 @@ inline void setParentsThemeType(QWidget &widget)
     static_cast<OxaWidget *>(widget.parentWidget())->setThemeType(QStringLiteral("dark"));
 }
 
+/// Adds rows for a class that follows neither its parent nor its name.
 template <typename Widget>
-void addThemeRows(SignalTriggers &rows)
+void addOwnThemeRows(SignalTriggers &rows)
 {
     for (const char *signal : { "cssChanged()", "themeTypeChanged()" }) {
         rows.push_back(row<Widget>(signal, "setThemeType()", [](Widget &widget) {
             widget.setThemeType(QStringLiteral("dark"));
         }));
-        rows.push_back(row<Widget>(signal, "its parent's theme type",
-                                   [](Widget &widget) { setParentsThemeType(widget); }));
     }
     rows.push_back(row<Widget>("cssChanged()", "setCSS()", [](Widget &widget) {
         widget.setCSS(QStringLiteral("color: red;"));
     }));
+}
+
+template <typename Widget>
+void addThemeRows(SignalTriggers &rows)
+{
+    addOwnThemeRows<Widget>(rows);
+    for (const char *signal : { "cssChanged()", "themeTypeChanged()" }) {
+        rows.push_back(row<Widget>(signal, "its parent's theme type",
+                                   [](Widget &widget) { setParentsThemeType(widget); }));
+    }
     rows.push_back(row<Widget>(
             "cssChanged()", "its object name",
             [](Widget &widget) { widget.setObjectName(QStringLiteral("another")); },

@@ -71,8 +71,9 @@ OxaColorSetMap storeOfAllSets()
     OxaColorSetMap store;
     for (const char *name :
          { "background-primary", "button-hyperlink-text", "checkbox-checked-background",
-           "checkbox-unchecked-background", "icon", "oxa-contentTabViewButton-text",
-           "oxa-contentTabViewButtonChecked-text", "oxa-default-text",
+           "checkbox-unchecked-background", "icon", "legacy-separator-primary",
+           "oxa-contentTabViewButton-text", "oxa-contentTabViewButtonChecked-text",
+           "oxa-default-text", "oxa-percentage-indicator-possessive", "oxa-progressbar",
            "oxa-reaction-list-item-gradient-background-end-color", "oxa-recorder-comboBox-border",
            "oxa-rills-combobox-background", "oxa-rills-combobox-border",
            "oxa-rills-combobox-dropdown-arrow", "oxa-rills-combobox-text",

@@ -10,12 +10,22 @@
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaDateTimeEdit.h>
+#include <UiElements/widgets/OxaDialog.h>
+#include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaMainWindow.h>
+#include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
+#include <UiElements/widgets/OxaSeparator.h>
+#include <UiElements/widgets/OxaSlider.h>
+#include <UiElements/widgets/OxaSplitter.h>
+#include <UiElements/widgets/OxaStackedWidget.h>
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTextInputFactory.h>
+#include <UiElements/widgets/OxaTimeEdit.h>
 #include <UiElements/widgets/OxaToggleButton.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
 #include <UiElements/widgets/OxaWidget.h>
@@ -40,6 +50,8 @@ struct ThemedClass
         FollowsNoParent = 8,  ///< Does not follow the parent that it is made with.
         HasName = 16,         ///< Is made with its class's name as object name.
         WritesItsText = 32,   ///< With an object name, writes its style text at each new type.
+        FollowsNoName = 64,   ///< Does not follow its object name.
+        IsWindow = 128,       ///< Is made as a window, which no other window gives a theme type.
     };
     using Make = std::function<std::unique_ptr<QWidget>(QWidget *parent)>;
 
@@ -113,17 +125,32 @@ inline const std::vector<ThemedClass> &themedClasses()
     static const std::vector<ThemedClass> classes = {
         themedClass<OxaCheckBox>(T::NoTraits, checkBoxColors),
         themedClass<OxaComboBox>(T::WritesItsText, comboBoxColors),
+        themedClass<OxaDateTimeEdit>(),
+        themedClass<OxaDialog>(T::IsWindow),
+        themedClass<OxaFrame>(),
         themedClass<OxaLabel>(T::NoTraits, linkColors),
         themedClass<OxaLineEdit>(),
+        themedClass<OxaMainWindow>(T::NoFont | T::StyledBackground | T::FollowsNoParent
+                                   | T::FollowsNoName | T::IsWindow),
+        themedClass<OxaProgressBar>(T::NoFont,
+                                    { "oxa-percentage-indicator-possessive", "oxa-progressbar" },
+                                    [](QWidget *parent) {
+                                        return std::make_unique<OxaProgressBar>(parent, 10);
+                                    }),
         themedClass<OxaPushButton>(),
         themedClass<OxaRadioButton>(T::NoTraits, { "background-primary" }),
+        themedClass<OxaSlider>(T::NoFont),
+        themedClass<OxaSplitter>(),
+        themedClass<OxaStackedWidget>(),
         themedClass<OxaTextBrowser>(),
         themedClass<OxaTextEdit>(),
+        themedClass<OxaTimeEdit>(),
         themedClass<OxaWidget>(T::StyledBackground),
         // These inherit the block.
         themedClass<OxaEmojiLabel>(T::NoTraits, linkColors),
         themedClass<OxaEmojiPushButton>(T::NoTraits, linkColors),
         themedClass<OxaPillTabButton>(T::StartsStyled),
+        themedClass<OxaSeparator>(T::StyledBackground, { "legacy-separator-primary" }),
         themedClass<OxaSvgAnchorButton>(),
         themedClass<OxaSvgLabel>(T::NoTraits, linkColors),
         themedClass<OxaSvgPushButton>(),

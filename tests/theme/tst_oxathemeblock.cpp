@@ -22,6 +22,9 @@ QString sheetOf(const QString &selector, const char *color)
             .arg(selector, QLatin1String(color));
 }
 
+/// Adds a row for each class that follows its object name.
+void addNamed() { addThemedClassesBut(ThemedClass::FollowsNoName); }
+
 } // namespace
 
 /// The common members and behaviour of themed widgets: a row for each class.
@@ -59,12 +62,12 @@ private Q_SLOTS:
     void paintsAStyledBackgroundFromItsFirstSheetOn();
     void followsItsObjectNameFromTheFirstStyleTextOn_data()
     {
-        addThemedClassesBut(ThemedClass::StartsStyled);
+        addThemedClassesBut(ThemedClass::FollowsNoName | ThemedClass::StartsStyled);
     }
     void followsItsObjectNameFromTheFirstStyleTextOn();
-    void expandsAgainUnderANewObjectName_data() { addThemedClasses(); }
+    void expandsAgainUnderANewObjectName_data() { addNamed(); }
     void expandsAgainUnderANewObjectName();
-    void expandsOnceForOneNewNameAfterManyStyleTexts_data() { addThemedClasses(); }
+    void expandsOnceForOneNewNameAfterManyStyleTexts_data() { addNamed(); }
     void expandsOnceForOneNewNameAfterManyStyleTexts();
     void followsItsNameAgainFromAStyleTextAfterADisconnect_data()
     {

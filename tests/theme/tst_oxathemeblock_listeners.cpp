@@ -85,7 +85,10 @@ private Q_SLOTS:
 
     void mayDeleteTheWidgetWhenItsStyleTextIsSet_data() { addThemedClasses(); }
     void mayDeleteTheWidgetWhenItsStyleTextIsSet();
-    void mayDeleteTheWidgetWhenItsNameIsSet_data() { addThemedClasses(); }
+    void mayDeleteTheWidgetWhenItsNameIsSet_data()
+    {
+        addThemedClassesBut(ThemedClass::FollowsNoName);
+    }
     void mayDeleteTheWidgetWhenItsNameIsSet();
     void mayDeleteTheWidgetWhenItsTypeIsSet_data() { addWaysToHear(); }
     void mayDeleteTheWidgetWhenItsTypeIsSet();

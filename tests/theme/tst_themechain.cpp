@@ -42,9 +42,12 @@ private Q_SLOTS:
     void init();
     void cleanup() { m_stores.reset(); }
 
-    void defersToTheWindowWhenGlobal_data() { addThemedClasses(); }
+    void defersToTheWindowWhenGlobal_data() { addThemedClassesBut(ThemedClass::IsWindow); }
     void defersToTheWindowWhenGlobal();
-    void keepsItsTypeWhenMadeUnderATypedParent_data() { addThemedClasses(); }
+    void keepsItsTypeWhenMadeUnderATypedParent_data()
+    {
+        addThemedClassesBut(ThemedClass::IsWindow);
+    }
     void keepsItsTypeWhenMadeUnderATypedParent();
     void takesTheTypeOfAParentItIsAddedTo_data()
     {
@@ -61,7 +64,10 @@ private Q_SLOTS:
     void staysConnectedToAnEarlierParent();
     void comparesTypesAndNotWords_data() { addFollowers(); }
     void comparesTypesAndNotWords();
-    void takesTheWindowsTypeWhenItsParentAgreesWithIt_data() { addThemedClasses(); }
+    void takesTheWindowsTypeWhenItsParentAgreesWithIt_data()
+    {
+        addThemedClassesBut(ThemedClass::IsWindow);
+    }
     void takesTheWindowsTypeWhenItsParentAgreesWithIt();
     void readsAPropertyOfThatNameOnAnyParent_data() { addThemedClasses(); }
     void readsAPropertyOfThatNameOnAnyParent();

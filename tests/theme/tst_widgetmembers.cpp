@@ -10,11 +10,21 @@
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaDateTimeEdit.h>
+#include <UiElements/widgets/OxaDialog.h>
+#include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaMainWindow.h>
+#include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
+#include <UiElements/widgets/OxaSeparator.h>
+#include <UiElements/widgets/OxaSlider.h>
+#include <UiElements/widgets/OxaSplitter.h>
+#include <UiElements/widgets/OxaStackedWidget.h>
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
+#include <UiElements/widgets/OxaTimeEdit.h>
 #include <UiElements/widgets/OxaToggleButton.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
 #include <UiElements/widgets/OxaWidget.h>
@@ -359,6 +369,27 @@ void addFields()
                                          { "QAccessible::Role accessibleRole" });
 }
 
+void addContainers()
+{
+    addRow<OxaMainWindow, QMainWindow>(themeBlock, {});
+    addRow<OxaDialog, QDialog>(themeBlock + fontBlock,
+                               { "signal onClose()",
+                                 "private slot closeEvent(QCloseEvent* event)" });
+    addRow<OxaFrame, QFrame>(themeBlock + fontBlock, {});
+    addRow<OxaSplitter, QSplitter>(themeBlock + fontBlock, {});
+    addRow<OxaStackedWidget, QStackedWidget>(themeBlock + fontBlock, {});
+    addRow<OxaSeparator, OxaWidget>({}, { "QString colorSetName", "public slot onThemeChanged()" });
+}
+
+void addRanges()
+{
+    addRow<OxaDateTimeEdit, QDateTimeEdit>(themeBlock + fontBlock, {});
+    addRow<OxaTimeEdit, QTimeEdit>(themeBlock + fontBlock, {});
+    addRow<OxaSlider, QSlider>(themeBlock, {});
+    addRow<OxaProgressBar, QProgressBar>(themeBlock,
+                                         { "int barWidth", "int barHeight", "int idleBarHeight" });
+}
+
 } // namespace
 
 /// What each widget class of the library declares to Qt's meta-object system: a row for each.
@@ -391,6 +422,8 @@ void tst_WidgetMembers::addRows()
     addButtons();
     addChoices();
     addFields();
+    addContainers();
+    addRanges();
 }
 
 void tst_WidgetMembers::areThoseOfTheTable()
