@@ -8,9 +8,9 @@
 
 /// A main window that takes part in theming, and on which the application registers its shortcuts.
 ///
-/// It is the top of the theme: its children follow its theme type, but it does not follow the
-/// parent that it is made with, nor its own object name, and onThemeChanged() does not run by
-/// itself. It has no font token. Dock widgets and tool bars move without animation.
+/// It is the top of the theme: its children follow its theme type, but it does not follow the type
+/// of the parent that it is made with. Its style text is not expanded again for a new object name.
+/// It has no font token. Dock widgets and tool bars move without animation.
 class UIELEMENTS_EXPORT OxaMainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -22,6 +22,6 @@ public:
     explicit OxaMainWindow(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
 
 protected Q_SLOTS:
-    /// For subclasses that connect their theme type to it.
+    /// For subclasses, which connect themeTypeChanged() to it themselves: nothing calls it here.
     virtual void onThemeChanged();
 };

@@ -8,10 +8,20 @@
 #include <UiElements/theme/OxaThemeUtils.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaDateTimeEdit.h>
+#include <UiElements/widgets/OxaDialog.h>
+#include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaMainWindow.h>
+#include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
+#include <UiElements/widgets/OxaSeparator.h>
+#include <UiElements/widgets/OxaSlider.h>
+#include <UiElements/widgets/OxaSplitter.h>
+#include <UiElements/widgets/OxaStackedWidget.h>
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
+#include <UiElements/widgets/OxaTimeEdit.h>
 #include <UiElements/widgets/OxaWidget.h>
 
 #include <QTextDocument>
@@ -29,6 +39,13 @@ constexpr int widgetCount = 100;
 const QString styleText = QStringLiteral("$backgroundColors: set-1; $textColors: set-2; "
                                          "$borderRadius: 4;");
 const QString shortText = QStringLiteral("See you at four");
+
+/// A progress bar that is made without arguments.
+class ProgressBar : public OxaProgressBar
+{
+public:
+    ProgressBar() : OxaProgressBar(nullptr, 20) { }
+};
 
 /// What is done with a widget before it is measured.
 const auto asNew = [](auto &) {};
@@ -134,6 +151,16 @@ const bool areAdded = [] {
     add<OxaLineEdit, QLineEdit>("OxaLineEdit/QLineEdit");
     add<OxaTextEdit, QTextEdit>("OxaTextEdit/QTextEdit");
     add<OxaTextBrowser, QTextBrowser>("OxaTextBrowser/QTextBrowser");
+    add<OxaMainWindow, QMainWindow>("OxaMainWindow/QMainWindow");
+    add<OxaDialog, QDialog>("OxaDialog/QDialog");
+    add<OxaFrame, QFrame>("OxaFrame/QFrame");
+    add<OxaSplitter, QSplitter>("OxaSplitter/QSplitter");
+    add<OxaStackedWidget, QStackedWidget>("OxaStackedWidget/QStackedWidget");
+    add<OxaSeparator, QWidget>("OxaSeparator/QWidget");
+    add<OxaDateTimeEdit, QDateTimeEdit>("OxaDateTimeEdit/QDateTimeEdit");
+    add<OxaTimeEdit, QTimeEdit>("OxaTimeEdit/QTimeEdit");
+    add<OxaSlider, QSlider>("OxaSlider/QSlider");
+    add<ProgressBar, QProgressBar>("OxaProgressBar/QProgressBar");
     return true;
 }();
 
