@@ -71,8 +71,12 @@ void tst_OxaSeparator::fillsItselfWithTheNormalColor()
 {
     OxaSeparator separator;
     separator.resize(30, 1);
+    const QColor normal(0x10, 0x20, 0x30);
     QCOMPARE(separator.getColorSetName(), QStringLiteral("legacy-separator-primary"));
-    QCOMPARE(Pixels::render(separator), lineOf(QColor(0x10, 0x20, 0x30)));
+    QCOMPARE(Pixels::render(separator), lineOf(normal));
+    // At 200 % it is two pixels of the screen high.
+    QCOMPARE(Pixels::countNear(Pixels::render(separator, Qt::white, 2.0), normal, QRect(), 0),
+             60 * 2);
 }
 
 void tst_OxaSeparator::paintsATranslucentColorAsPenAndAsBrush()
