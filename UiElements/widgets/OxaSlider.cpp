@@ -35,6 +35,9 @@ void OxaSlider::onThemeChanged() { }
 void OxaSlider::paintEvent(QPaintEvent *event)
 {
     QSlider::paintEvent(event);
+    // Most sliders need no option to know.
+    if (!hasFocus())
+        return;
     QStyleOptionFocusRect option;
     option.initFrom(this);
     if (!FocusFrame::isShown(option.state))

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int widgetCount = 1000;
+constexpr int widgetCount = 100;
 constexpr int barCount = 20;
 constexpr int filledCount = 13;
 
@@ -71,8 +71,8 @@ void progressBars(benchmark::State &state)
     painting<Bar, Rectangles>(state, [](QProgressBar &) {});
 }
 BENCHMARK(progressBars)
-        ->Name("repainting 1,000 progress bars/QPainter::fillRect of their rectangles")
-        ->Iterations(200)
+        ->Name("repainting 100 progress bars/QPainter::fillRect of their rectangles")
+        ->Iterations(2000)
         ->UseManualTime();
 
 void sliders(benchmark::State &state)
@@ -82,6 +82,6 @@ void sliders(benchmark::State &state)
         slider.setValue(30);
     });
 }
-BENCHMARK(sliders)->Name("repainting 1,000 sliders/QSlider")->Iterations(100)->UseManualTime();
+BENCHMARK(sliders)->Name("repainting 100 sliders/QSlider")->Iterations(1000)->UseManualTime();
 
 } // namespace
