@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/ColorSets.h"
+#include "support/Guards.h"
+#include "support/Pixels.h"
 #include "support/TestApplication.h"
 
 #include <UiElements/widgets/OxaMainWindow.h>
 #include <UiElements/widgets/OxaWidget.h>
 
-#include <QPointer>
 #include <QSignalSpy>
 
 namespace {
@@ -55,6 +57,7 @@ private Q_SLOTS:
     void followsNeitherItsParentNorItsName();
     void looksNoColorsUpByItself();
     void handsItsThemeTypeDown();
+    void paintsTheBackgroundOfItsStyleText();
 };
 
 void tst_OxaMainWindow::takesParentAndWindowFlags()
@@ -164,6 +167,17 @@ void tst_OxaMainWindow::handsItsThemeTypeDown()
     window.setCentralWidget(child);
     window.setThemeType(QStringLiteral("dark"));
     QCOMPARE(storedType(*child), QStringLiteral("dark"));
+}
+
+void tst_OxaMainWindow::paintsTheBackgroundOfItsStyleText()
+{
+    const StoreGuard stores(
+            ColorSets::storeOf({ ColorSets::make(QStringLiteral("panel"), { "#123456" }) }));
+    OxaMainWindow window;
+    window.resize(20, 10);
+    window.setCSS(QStringLiteral("$backgroundColors: panel;"));
+    QCOMPARE(Pixels::countNear(Pixels::render(window), QColor(0x12, 0x34, 0x56), QRect(), 0),
+             20 * 10);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaMainWindow)
