@@ -120,7 +120,6 @@ void tst_OxaProgressBar::startsWithItsMeasures()
     QCOMPARE(bar.property("barWidth").toInt(), 2);
     QCOMPARE(bar.property("barHeight").toInt(), 8);
     QCOMPARE(bar.property("idleBarHeight").toInt(), 6);
-    QCOMPARE(bar.property("themeType").toString(), QStringLiteral("global"));
 }
 
 void tst_OxaProgressBar::fillsAsManyBarsAsItsValueSays_data()
@@ -178,9 +177,9 @@ void tst_OxaProgressBar::paintsTheIdleBarsOfANewOne()
 void tst_OxaProgressBar::paintsBarsOfItsMeasures()
 {
     Bar bar(5, 40);
-    QVERIFY(bar.setProperty("barWidth", 4));
-    QVERIFY(bar.setProperty("barHeight", 13));
-    QVERIFY(bar.setProperty("idleBarHeight", 5));
+    bar.setProperty("barWidth", 4);
+    bar.setProperty("barHeight", 13);
+    bar.setProperty("idleBarHeight", 5);
     QCOMPARE(bar.getBarWidth(), 4);
     QCOMPARE(bar.getBarHeight(), 13);
     QCOMPARE(bar.getIdleBarHeight(), 5);
@@ -220,21 +219,19 @@ void tst_OxaProgressBar::paintsTranslucentBarsOverEachOther()
 void tst_OxaProgressBar::paintsBarsWiderThanItself_data()
 {
     QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<QRect>("idle");
-    QTest::newRow("left to right") << Qt::LeftToRight << QRect(-25, 7, 150, 6);
-    QTest::newRow("right to left") << Qt::RightToLeft << QRect(-25, 7, 150, 6);
+    QTest::newRow("left to right") << Qt::LeftToRight;
+    QTest::newRow("right to left") << Qt::RightToLeft;
 }
 
 void tst_OxaProgressBar::paintsBarsWiderThanItself()
 {
     QFETCH(const Qt::LayoutDirection, direction);
-    QFETCH(const QRect, idle);
     const LayoutDirectionGuard guard(direction);
     Bar bar(3, 40);
     bar.setBarWidth(150);
-    const QImage expected = drawn([&idle](QPainter *painter) {
+    const QImage expected = drawn([](QPainter *painter) {
         painter->fillRect(0, 6, 100, 8, Qt::red);
-        painter->fillRect(idle, Qt::gray);
+        painter->fillRect(0, 7, 100, 6, Qt::gray);
     });
     QCOMPARE(Pixels::render(bar), expected);
 }
@@ -252,13 +249,13 @@ void tst_OxaProgressBar::takesADirectionAtTheNextThemeTypeOnly()
 {
     Bar bar(5, 40);
     const QString leftToRight = QStringLiteral("F0 F24 T48 T72 T96");
+    const QString rightToLeft = QStringLiteral("T2 T26 T50 F74 F98");
     const LayoutDirectionGuard guard(Qt::RightToLeft);
     QCOMPARE(barsIn(Pixels::render(bar)), leftToRight);
     bar.setThemeType(QStringLiteral("global"));
-    QCOMPARE(barsIn(Pixels::render(bar)), QStringLiteral("T2 T26 T50 F74 F98"));
+    QCOMPARE(barsIn(Pixels::render(bar)), rightToLeft);
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
-    bar.setLayoutDirection(Qt::LeftToRight);
-    QCOMPARE(barsIn(Pixels::render(bar)), QStringLiteral("T2 T26 T50 F74 F98"));
+    QCOMPARE(barsIn(Pixels::render(bar)), rightToLeft);
     bar.setThemeType(QStringLiteral("global"));
     QCOMPARE(barsIn(Pixels::render(bar)), leftToRight);
 }
