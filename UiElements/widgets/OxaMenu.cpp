@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "OxaMenu.h"
+
+OxaMenu::OxaMenu(QWidget *parent, bool) : QMenu(parent) { m_themeBlock.followTheme(); }
+
+OxaMenu::OxaMenu(QMenu *other, QWidget *parent) : OxaMenu(parent) { copyActions(other); }
+
+OxaMenu::OxaMenu(QMenu *other) { copyActions(other); }
+
+void OxaMenu::addAction(QAction *action)
+{
+    QMenu::addAction(action);
+    becomeFirst(action);
+}
+
+QAction *OxaMenu::addAction(const QString &text)
+{
+    QAction *action = QMenu::addAction(text);
+    becomeFirst(action);
+    return action;
+}
+
+void OxaMenu::popupAt(const QPoint &position)
+{
+    m_popupPosition = position;
+    popup(position);
+    setActiveAction(m_firstAction);
+}
+
+QPoint OxaMenu::getPopupPosition() const { return m_popupPosition; }
+
+void OxaMenu::setFirstAction(QAction *action) { m_firstAction = action; }
+
+void OxaMenu::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    adjustSize();
+}
+
+void OxaMenu::onThemeChanged() { }
+
+void OxaMenu::becomeFirst(QAction *action)
+{
+    if (!m_firstAction)
+        m_firstAction = action;
+}
+
+void OxaMenu::copyActions(const QMenu *other)
+{
+    if (other)
+        insertActions(nullptr, other->actions());
+}
