@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/widgets/OxaPushButton.h>
+#include <UiElements/widgets/OxaTabBar.h>
+
+#include <QPushButton>
+
+/// What tests of tab bars have in common.
+namespace TabBars {
+
+/// A bar with the tabs "a", "b" and so on.
+class Bar : public OxaTabBar
+{
+public:
+    using OxaTabBar::addTabItem;
+
+    explicit Bar(int tabs = 0, QWidget *parent = nullptr) : OxaTabBar(parent)
+    {
+        for (int i = 0; i < tabs; ++i)
+            addTab(QString(QLatin1Char(char('a' + i))));
+    }
+};
+
+/// Describes the tabs by their texts: "*" after one that is checked, "!" after one that Tab
+/// reaches, "^" after the bar's focus proxy.
+inline QString describe(const OxaTabBar &bar)
+{
+    QStringList tabs;
+    for (int i = 0; i < bar.count(); ++i) {
+        const OxaPushButton *tab = bar.getTab(i);
+        QString text = tab->text();
+        if (tab->isChecked())
+            text += QLatin1Char('*');
+        if (tab->focusPolicy() & Qt::TabFocus)
+            text += QLatin1Char('!');
+        if (bar.focusProxy() == tab)
+            text += QLatin1Char('^');
+        tabs += text;
+    }
+    return tabs.join(QLatin1Char(' '));
+}
+
+} // namespace TabBars
