@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "support/ColorSets.h"
+#include "support/Guards.h"
+#include "support/TestApplication.h"
+
+#include <UiElements/widgets/OxaMenu.h>
+#include <UiElements/widgets/OxaWidget.h>
+
+#include <QSignalSpy>
+
+namespace {
+
+/// A menu that counts the changes of its theme type.
+class Menu : public OxaMenu
+{
+public:
+    using OxaMenu::OxaMenu;
+
+    int themeChanges = 0;
+
+protected:
+    void onThemeChanged() override { ++themeChanges; }
+};
+
+} // namespace
+
+class tst_OxaMenu : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void opensWithItsFirstActionHighlighted();
+    void opensWithTheActionThatWasSetFirstHighlighted();
+    void opensWithNothingHighlightedWithoutActions();
+    void opensWithNothingHighlightedIfItsFirstActionIsDisabled();
+    void takesTheNextActionOnceTheFirstIsDeleted();
+    void takesNoActionThatQtAddsAsItsFirst();
+    void copiesTheActionsOfAnotherMenu_data();
+    void copiesTheActionsOfAnotherMenu();
+    void takesNoCopiedActionAsItsFirst();
+    void followsTheThemeOfItsParent();
+    void followsNoThemeAsACopyWithoutAParent();
+    void expandsItsStyleText();
+    void fitsItsActionsWhenItIsShown();
+};
+
+void tst_OxaMenu::opensWithItsFirstActionHighlighted()
+{
+    OxaMenu menu;
+    QAction first(QStringLiteral("first"));
+    menu.addAction(&first);
+    const QAction *second = menu.addAction(QStringLiteral("second"));
+    QCOMPARE(second->text(), QStringLiteral("second"));
+    QCOMPARE(menu.actions().size(), 2);
+    QCOMPARE(menu.getPopupPosition(), QPoint());
+    menu.popupAt(QPoint(30, 40));
+    QVERIFY(menu.isVisible());
+    QCOMPARE(menu.pos(), QPoint(30, 40));
+    QCOMPARE(menu.getPopupPosition(), QPoint(30, 40));
+    QCOMPARE(menu.activeAction(), &first);
+    // A plain popup() does not highlight it.
+    menu.hide();
+    menu.setActiveAction(nullptr);
+    menu.popup(QPoint(10, 10));
+    QVERIFY(!menu.activeAction());
+    QCOMPARE(menu.getPopupPosition(), QPoint(30, 40));
+}
+
+void tst_OxaMenu::opensWithTheActionThatWasSetFirstHighlighted()
+{
+    OxaMenu menu;
+    menu.addAction(QStringLiteral("a"));
+    QAction *b = menu.addAction(QStringLiteral("b"));
+    menu.setFirstAction(b);
+    menu.addAction(QStringLiteral("c"));
+    menu.popupAt(QPoint());
+    QCOMPARE(menu.activeAction(), b);
+    menu.hide();
+    menu.setFirstAction(nullptr);
+    menu.popupAt(QPoint());
+    QVERIFY(!menu.activeAction());
+}
+
+void tst_OxaMenu::opensWithNothingHighlightedWithoutActions()
+{
+    OxaMenu menu;
+    menu.popupAt(QPoint(5, 5));
+    QVERIFY(menu.isVisible());
+    QVERIFY(!menu.activeAction());
+}
+
+void tst_OxaMenu::opensWithNothingHighlightedIfItsFirstActionIsDisabled()
+{
+    OxaMenu menu;
+    menu.addAction(QStringLiteral("a"))->setEnabled(false);
+    menu.addAction(QStringLiteral("b"));
+    menu.popupAt(QPoint());
+    QVERIFY(!menu.activeAction());
+}
+
+void tst_OxaMenu::takesTheNextActionOnceTheFirstIsDeleted()
+{
+    OxaMenu menu;
+    delete menu.addAction(QStringLiteral("a"));
+    QAction *b = menu.addAction(QStringLiteral("b"));
+    menu.addAction(QStringLiteral("c"));
+    menu.popupAt(QPoint());
+    QCOMPARE(menu.activeAction(), b);
+    delete b;
+    menu.hide();
+    menu.popupAt(QPoint());
+    QVERIFY(!menu.activeAction());
+}
+
+void tst_OxaMenu::takesNoActionThatQtAddsAsItsFirst()
+{
+    OxaMenu menu;
+    menu.addAction(QIcon(), QStringLiteral("with an icon"));
+    QAction *plain = menu.addAction(QStringLiteral("plain"));
+    menu.popupAt(QPoint());
+    QCOMPARE(menu.activeAction(), plain);
+}
+
+void tst_OxaMenu::copiesTheActionsOfAnotherMenu_data()
+{
+    QTest::addColumn<bool>("hasParent");
+    QTest::newRow("with a parent") << true;
+    QTest::newRow("without a parent") << false;
+}
+
+void tst_OxaMenu::copiesTheActionsOfAnotherMenu()
+{
+    QFETCH(const bool, hasParent);
+    QWidget parent;
+    QMenu other;
+    other.addAction(QStringLiteral("a"));
+    other.addSeparator();
+    other.addAction(QStringLiteral("b"));
+    const std::unique_ptr<OxaMenu> menu(hasParent ? new OxaMenu(&other, &parent)
+                                                  : new OxaMenu(&other));
+    QCOMPARE(menu->actions(), other.actions());
+    QCOMPARE(menu->parentWidget(), hasParent ? &parent : nullptr);
+    QMenu *none = nullptr;
+    QVERIFY(OxaMenu(none).actions().isEmpty());
+    QVERIFY(OxaMenu(none, &parent).actions().isEmpty());
+}
+
+void tst_OxaMenu::takesNoCopiedActionAsItsFirst()
+{
+    QMenu other;
+    other.addAction(QStringLiteral("a"));
+    OxaMenu menu(&other);
+    menu.popupAt(QPoint());
+    QVERIFY(!menu.activeAction());
+    QAction *b = menu.addAction(QStringLiteral("b"));
+    menu.popupAt(QPoint());
+    QCOMPARE(menu.activeAction(), b);
+}
+
+void tst_OxaMenu::followsTheThemeOfItsParent()
+{
+    OxaWidget parent;
+    QMenu other;
+    Menu made(&parent, true);
+    Menu copied(&other, &parent);
+    parent.setThemeType(QStringLiteral("dark"));
+    for (const Menu *menu : { &made, &copied }) {
+        QCOMPARE(menu->property("themeType"), QVariant(QStringLiteral("dark")));
+        QCOMPARE(menu->themeChanges, 1);
+    }
+}
+
+void tst_OxaMenu::followsNoThemeAsACopyWithoutAParent()
+{
+    QMenu other;
+    Menu menu(&other);
+    QSignalSpy changed(&menu, &OxaMenu::themeTypeChanged);
+    menu.setThemeType(QStringLiteral("dark"));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(menu.themeChanges, 0);
+}
+
+void tst_OxaMenu::expandsItsStyleText()
+{
+    const StoreGuard stores(
+            ColorSets::storeOf({ ColorSets::make(QStringLiteral("panel"), { "#112233" }) }));
+    OxaMenu menu;
+    menu.setCSS(QStringLiteral("$backgroundColors: panel;"));
+    QVERIFY(menu.styleSheet().contains(QLatin1String("#ff112233")));
+}
+
+void tst_OxaMenu::fitsItsActionsWhenItIsShown()
+{
+    OxaMenu menu;
+    menu.addAction(QStringLiteral("a"));
+    menu.resize(700, 500);
+    menu.show();
+    QCOMPARE(menu.size(), menu.sizeHint());
+}
+
+UIELEMENTS_TEST_MAIN(tst_OxaMenu)
+#include "tst_oxamenu.moc"
