@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "support/FocusLog.h"
 #include "support/RealInput.h"
 #include "support/TestMain.h"
 
@@ -26,14 +27,6 @@ Class *make(const char *name)
 class Window : public QWidget
 {
 public:
-    Window()
-    {
-        connect(qApp, &QApplication::focusChanged, &m_listener,
-                [this](const QWidget *, const QWidget *now) {
-                    m_visited += now ? now->objectName() : QStringLiteral("nothing");
-                });
-    }
-
     QWidget *child(const char *name) const
     {
         return findChild<QWidget *>(QString::fromLatin1(name));
@@ -52,14 +45,12 @@ public:
     }
 
     /// Returns the names of the widgets that had the focus since then.
-    QString visited() const { return m_visited.join(QLatin1Char(' ')); }
+    QString visited() const { return m_visited.names(); }
 
     QVBoxLayout *const column = new QVBoxLayout(this);
 
 private:
-    QStringList m_visited;
-    QObject m_listener; ///< Destroyed before the record: the focus changes while the window is
-                        ///< destroyed.
+    FocusLog m_visited;
 };
 
 /// A row of buttons that is one stop for Tab, and whose buttons are reached by the arrow keys.
