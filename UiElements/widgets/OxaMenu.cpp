@@ -33,8 +33,11 @@ void OxaMenu::setFirstAction(QAction *action) { m_firstAction = action; }
 
 void OxaMenu::showEvent(QShowEvent *event)
 {
+    const QSize before = size();
     QWidget::showEvent(event);
     adjustSize();
+    // That is at most two thirds of the screen, which would cut the last actions of a long menu off.
+    resize(size().expandedTo(before.boundedTo(sizeHint())));
 }
 
 void OxaMenu::onThemeChanged() { }

@@ -47,7 +47,8 @@ public:
     void setFirstAction(QAction *action);
 
 protected:
-    /// Resizes the menu to its contents, but at most to two thirds of the screen.
+    /// Resizes the menu to its actions, but to no more than two thirds of the screen, or what
+    /// popup() has found room for.
     void showEvent(QShowEvent *event) override;
 
 protected Q_SLOTS:

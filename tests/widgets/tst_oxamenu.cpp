@@ -6,6 +6,7 @@
 #include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaWidget.h>
 
+#include <QScreen>
 #include <QSignalSpy>
 
 namespace {
@@ -42,6 +43,8 @@ private Q_SLOTS:
     void followsNoThemeAsACopyWithoutAParent();
     void expandsItsStyleText();
     void fitsItsActionsWhenItIsShown();
+    void showsAsManyActionsAsQtsMenu_data();
+    void showsAsManyActionsAsQtsMenu();
 };
 
 void tst_OxaMenu::opensWithItsFirstActionHighlighted()
@@ -196,6 +199,31 @@ void tst_OxaMenu::fitsItsActionsWhenItIsShown()
     menu.resize(700, 500);
     menu.show();
     QCOMPARE(menu.size(), menu.sizeHint());
+}
+
+void tst_OxaMenu::showsAsManyActionsAsQtsMenu_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::newRow("few") << 5;
+    QTest::newRow("more than two thirds of the screen") << 30;
+    QTest::newRow("more than the screen") << 100;
+}
+
+void tst_OxaMenu::showsAsManyActionsAsQtsMenu()
+{
+    QFETCH(const int, count);
+    OxaMenu menu;
+    for (int i = 0; i < count; ++i)
+        menu.addAction(QString::number(i));
+    menu.popupAt(QPoint(20, 30));
+    const QRect geometry = menu.geometry();
+    menu.hide();
+    QMenu plain;
+    plain.setFont(menu.font());
+    plain.addActions(menu.actions());
+    plain.popup(QPoint(20, 30));
+    QCOMPARE(geometry, plain.geometry());
+    QVERIFY(count < 30 || geometry.height() > plain.screen()->geometry().height() * 2 / 3);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaMenu)
