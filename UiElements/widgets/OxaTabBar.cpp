@@ -126,15 +126,16 @@ void OxaTabBar::setCurrentIndex(int index)
     tab->setFocusPolicy(Qt::StrongFocus);
     moveTabStop(*tab);
     tab->setChecked(true);
+    // A slot of toggled() may have removed other tabs, and made one of them current.
     QPushButton *const previous = buttonAt(m_currentIndex);
-    m_currentIndex = m_layout->indexOf(tab); // A slot of toggled() may have removed others.
+    m_currentIndex = m_layout->indexOf(tab);
     if (previous == tab)
         return;
-    if (previous) {
-        if (previous != focusProxy())
-            previous->setFocusPolicy(Qt::ClickFocus);
+    if (previous)
+        previous->setFocusPolicy(Qt::ClickFocus);
+    moveTabStop(*tab);
+    if (previous)
         previous->setChecked(false);
-    }
     Q_EMIT currentChanged(m_currentIndex);
 }
 

@@ -80,6 +80,7 @@ private Q_SLOTS:
     void letsTabReachAnotherTabWhileTheCurrentOneTakesNoFocus_data();
     void letsTabReachAnotherTabWhileTheCurrentOneTakesNoFocus();
     void letsTabReachTheCurrentTabAgain();
+    void letsTabReachACurrentTabThatIsYetToBeShown();
     void keepsTheCurrentTabInTheTabChainWhileTheBarIsDisabled();
     void letsTabReachItselfWhileNoTabTakesTheFocus();
     void hintsAtTheWidthOfItsTextsAndItsHeight();
@@ -87,6 +88,7 @@ private Q_SLOTS:
     void isDeletedInASlot();
     void losesATabInASlot_data();
     void losesATabInASlot();
+    void losesATabWhileAnotherIsChecked();
 };
 
 void tst_OxaTabBar::startsWithoutTabs()
@@ -453,6 +455,19 @@ void tst_OxaTabBar::letsTabReachTheCurrentTabAgain()
     QCOMPARE(describe(window.bar), QStringLiteral("a b*!^"));
 }
 
+void tst_OxaTabBar::letsTabReachACurrentTabThatIsYetToBeShown()
+{
+    Window window(1, 0);
+    QVERIFY(window.appear());
+    window.bar.addTab(QStringLiteral("b"));
+    QVERIFY(window.bar.isTabHidden(1));
+    QCOMPARE(window.bar.selectFirstTab(), 0);
+    window.bar.setCurrentIndex(1);
+    QCOMPARE(describe(window.bar), QStringLiteral("a b*!^"));
+    QTRY_VERIFY(window.bar.isTabVisible(1));
+    QCOMPARE(describe(window.bar), QStringLiteral("a b*!^"));
+}
+
 void tst_OxaTabBar::keepsTheCurrentTabInTheTabChainWhileTheBarIsDisabled()
 {
     Window window(3, 1);
@@ -556,6 +571,21 @@ void tst_OxaTabBar::losesATabInASlot()
     QCOMPARE(log.take(), emitted);
     QCOMPARE(bar.currentIndex(), 0);
     QCOMPARE(describe(bar), removed == 1 ? QStringLiteral("a*!^ c") : QStringLiteral("a*!^ b"));
+}
+
+void tst_OxaTabBar::losesATabWhileAnotherIsChecked()
+{
+    Bar bar(3);
+    SignalLog log;
+    record(log, bar);
+    connect(bar.getTab(2), &OxaPushButton::toggled, this, [&bar] {
+        if (bar.count() == 3)
+            bar.removeTab(0);
+    });
+    bar.setCurrentIndex(2);
+    QCOMPARE(bar.currentIndex(), 1);
+    QCOMPARE(describe(bar), QStringLiteral("b c*!^"));
+    QCOMPARE(log.take(), QStringLiteral("current 0 | current 1"));
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaTabBar)
