@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaTabBar.h"
 
+#include "FocusStop_p.h"
 #include "OxaPushButton.h"
 
 #include <UiElements/keyboard/TabOrderUtils.h>
 
 #include <QDebug>
-#include <QEvent>
 #include <QHBoxLayout>
 
 #include <memory>
@@ -18,13 +18,6 @@ constexpr char notAButtonWarning[] =
 
 /// The type of buttons that keep Left and Right to themselves, see TabOrderUtils.
 constexpr auto tabAcceleratorType = RillsAccessible::AcceleratorType(1);
-
-/// True unless \a tab is disabled or was hidden. A tab that its layout has yet to show is neither.
-bool isFocusable(const QPushButton &tab)
-{
-    return tab.isEnabledTo(tab.parentWidget())
-            && !(tab.isHidden() && tab.testAttribute(Qt::WA_WState_ExplicitShowHide));
-}
 
 } // namespace
 
@@ -180,16 +173,9 @@ QSize OxaTabBar::sizeHint() const
 
 bool OxaTabBar::eventFilter(QObject *watched, QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::EnabledChange:
-    case QEvent::HideToParent:
-    case QEvent::ShowToParent:
-        if (QPushButton *current = buttonAt(m_currentIndex))
-            moveTabStop(*current);
-        break;
-    default:
-        break;
-    }
+    QPushButton *const current = buttonAt(m_currentIndex);
+    if (current && FocusStop::isAffectedBy(*event))
+        moveTabStop(*current);
     return ContainerWidget::eventFilter(watched, event);
 }
 
@@ -197,16 +183,6 @@ QPushButton *OxaTabBar::buttonAt(int index) const
 {
     QLayoutItem *item = m_layout->itemAt(index);
     return item ? qobject_cast<QPushButton *>(item->widget()) : nullptr;
-}
-
-QPushButton *OxaTabBar::firstFocusable() const
-{
-    for (int i = 0; i < count(); ++i) {
-        QPushButton *tab = buttonAt(i);
-        if (tab && isFocusable(*tab))
-            return tab;
-    }
-    return nullptr;
 }
 
 /// Returns the width of a tab with \a text.
@@ -226,7 +202,7 @@ void OxaTabBar::onTabClicked(QWidget *tab)
 
 void OxaTabBar::focusFirst()
 {
-    QWidget *first = firstFocusable();
+    QWidget *first = FocusStop::firstIn(*m_layout);
     (first ? first : this)->setFocus(Qt::OtherFocusReason);
 }
 
@@ -234,7 +210,7 @@ void OxaTabBar::focusFirst()
 /// the bar takes it.
 void OxaTabBar::moveTabStop(QPushButton &current)
 {
-    QPushButton *const stop = isFocusable(current) ? &current : firstFocusable();
+    QPushButton *const stop = FocusStop::canBe(current) ? &current : FocusStop::firstIn(*m_layout);
     QWidget *const before = focusProxy();
     if (before && before != stop && before != &current)
         before->setFocusPolicy(Qt::ClickFocus);

@@ -80,39 +80,52 @@ public:
     /// True without a tab, or if it is hidden.
     bool isTabHidden(int index) const;
 
+    /// True if the tab is visible, as QWidget says.
     bool isTabVisible(int index) const;
+    /// Shows or hides the tab.
     void setTabVisible(int index, bool visible);
 
+    /// True if the tab is enabled, as QWidget says.
     bool isTabEnabled(int index) const;
+    /// Enables or disables the tab.
     void setTabEnabled(int index, bool enabled);
 
+    /// Returns the tab's text.
     QString tabText(int index) const;
-
-    /// Sets the text alone: tool tip and maximum width stay.
+    /// Sets the tab's text alone: tool tip and maximum width stay.
     void setTabText(int index, const QString &text);
 
+    /// Returns the tab's tool tip.
     QString tabToolTip(int index) const;
+    /// Sets the tab's tool tip.
     void setTabToolTip(int index, const QString &toolTip);
 
+    /// Returns the tab's accessible name.
     QString accessibleTabName(int index) const;
+    /// Sets the tab's accessible name; its accessible description stays.
     void setAccessibleTabName(int index, const QString &name);
 
+    /// Returns the tab's Qt style sheet.
     QString tabStyleSheet(int index) const;
-
-    /// Sets Qt's style sheet, which also becomes the style text of a tab without one.
+    /// Sets the tab's Qt style sheet, which also becomes the style text of a tab without one.
     void setTabStyleSheet(int index, const QString &styleSheet);
 
-    /// Sets the style text of the tab, through its property "css".
+    /// Sets the tab's style text, through its property "css".
     void setTabCSS(int index, const OxaCSSData &cssData);
 
+    /// Returns the width in pixels that the tab's elided text leaves free.
     int tabElidePadding(int index) const;
+    /// Sets the width that the tab's elided text leaves free. Repaints the tab.
     void setTabElidePadding(int index, int padding);
 
+    /// Returns the tab's property called \a name; not valid without a tab.
     QVariant tabProperty(int index, const char *name) const;
+    /// Sets the tab's property called \a name.
     void setTabProperty(int index, const char *name, const QVariant &value);
 
     /// Returns the tab's data: its dynamic property "tab_property".
     QVariant tabData(int index) const;
+    /// Sets the tab's data.
     void setTabData(int index, const QVariant &value);
 
     /// Returns the index of the first tab whose data equals \a value, or -1. An empty value finds
@@ -143,7 +156,6 @@ protected:
 
 private:
     QPushButton *buttonAt(int index) const;
-    QPushButton *firstFocusable() const;
     int textWidth(const QString &text) const;
     void onTabClicked(QWidget *tab);
     void focusFirst();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaVMenu.h"
 
+#include "FocusStop_p.h"
 #include "OxaSeparator.h"
 
 #include <UiElements/svg/OxaSvgAnchorButton.h>
@@ -58,8 +59,11 @@ OxaProperties::SvgPushButtonWidget<OxaSvgPushButton> OxaVMenu::addMenuItem(
     button->setCheckable(false);
     button->setSvgIconAlignment(OxaEnum::Alignment::Left);
     button->setSvgIconPadding(QMargins(itemPadding, 0, itemPadding, 0));
-    if (m_layout->count() == 0)
+    if (m_layout->count() == 0) {
+        m_firstItem = button;
         setFocusProxy(button);
+    }
+    button->installEventFilter(this);
     m_layout->addWidget(button);
     return OxaProperties::SvgPushButtonWidget<OxaSvgPushButton>(button);
 }
@@ -139,6 +143,13 @@ void OxaVMenu::setBorderRadius(int radius)
     style.radiusCorner = 0;
     style.borderRadius = quint8(radius);
     setCSS(style);
+}
+
+bool OxaVMenu::eventFilter(QObject *watched, QEvent *event)
+{
+    if (m_firstItem && FocusStop::isAffectedBy(*event))
+        setFocusProxy(FocusStop::firstIn(*m_layout));
+    return OxaWidget::eventFilter(watched, event);
 }
 
 /// Adds \a widget at most as wide as the menu.

@@ -4,6 +4,8 @@
 #include <UiElements/widgets/OxaProperties.h>
 #include <UiElements/widgets/OxaWidget.h>
 
+#include <QPointer>
+
 #include <functional>
 
 class OxaSeparator;
@@ -27,7 +29,8 @@ public:
 
     /// Adds an item whose click calls \a callback, which may delete the menu, and returns it. It is
     /// at least 240 by 40 pixels, in the sets "mainList-item" and "oxa-menuItemButton-text" and the
-    /// menu's font. In an empty menu it takes the focus that the menu is given.
+    /// menu's font. In an empty menu it takes the focus that the menu is given,
+    /// or, while it is hidden or disabled, the first button that is neither.
     OxaProperties::SvgPushButtonWidget<OxaSvgPushButton> addMenuItem(
             std::function<void()> callback);
 
@@ -71,8 +74,12 @@ public:
     /// and keeps the rest of the style text.
     void setBorderRadius(int radius);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void addLimited(QWidget *widget);
 
     QVBoxLayout *const m_layout;
+    QPointer<OxaSvgPushButton> m_firstItem; ///< That of a menu that was empty.
 };
