@@ -8,6 +8,7 @@
 #include <UiElements/models/LazyLoadedListModel.h>
 #include <UiElements/models/OverflowListProxyModel.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
+#include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
 #include <UiElements/widgets/OxaDateTimeEdit.h>
@@ -15,16 +16,19 @@
 #include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaMainWindow.h>
+#include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
 #include <UiElements/widgets/OxaSeparator.h>
 #include <UiElements/widgets/OxaSlider.h>
 #include <UiElements/widgets/OxaSplitter.h>
 #include <UiElements/widgets/OxaStackedWidget.h>
+#include <UiElements/widgets/OxaTabBar.h>
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTimeEdit.h>
+#include <UiElements/widgets/OxaVMenu.h>
 
 #include <QTest>
 
@@ -164,6 +168,10 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
     addThemedRow<OxaSlider, QSlider>();
     addThemedRow<OxaProgressBar, QProgressBar>();
     addRow<OxaSeparator, OxaWidget>({});
+    addRow<ContainerWidget, OxaWidget>({});
+    addRow<OxaTabBar, ContainerWidget>({ slotOf(&OxaTabBar::getTab) });
+    addRow<OxaVMenu, OxaWidget>({});
+    addThemedRow<OxaMenu, QMenu>();
     addRow<OxaSvgPushButton, OxaPushButton>({ slotOf(&Open::onCSSChanged) });
     // The last three come from QLayout's second base class, QLayoutItem.
     addRow<FlowLayout, QLayout>({

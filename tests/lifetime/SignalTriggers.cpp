@@ -224,6 +224,7 @@ SignalTriggers allRows()
     addApplicationRows(rows);
     addContainerTriggers(rows);
     addFormTriggers(rows);
+    addMenuTriggers(rows);
     addModelTriggers(rows);
     return rows;
 }

@@ -44,6 +44,9 @@ void addFormTriggers(SignalTriggers &rows);
 /// Returns whether nothing emits \a signal of a control of forms.
 bool isNeverEmitted(const QMetaMethod &signal);
 
+/// Adds the triggers of tab bars and menus to \a rows.
+void addMenuTriggers(SignalTriggers &rows);
+
 /// Adds the triggers of the list models to \a rows.
 void addModelTriggers(SignalTriggers &rows);
 

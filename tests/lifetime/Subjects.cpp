@@ -14,6 +14,7 @@
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/svg/OxaSvgRenderer.h>
+#include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
 #include <UiElements/widgets/OxaDateTimeEdit.h>
@@ -21,12 +22,14 @@
 #include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaMainWindow.h>
+#include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
 #include <UiElements/widgets/OxaSeparator.h>
 #include <UiElements/widgets/OxaSlider.h>
 #include <UiElements/widgets/OxaSplitter.h>
 #include <UiElements/widgets/OxaStackedWidget.h>
+#include <UiElements/widgets/OxaTabBar.h>
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
@@ -34,6 +37,7 @@
 #include <UiElements/widgets/OxaTimeEdit.h>
 #include <UiElements/widgets/OxaToggleButton.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
+#include <UiElements/widgets/OxaVMenu.h>
 #include <UiElements/widgets/OxaWidget.h>
 
 namespace {
@@ -127,6 +131,10 @@ const std::vector<Subject> &subjects()
         subject<OxaTimeEdit>(),
         subject<OxaSlider>(),
         progressBar(),
+        subject<ContainerWidget>(),
+        subject<OxaTabBar>(),
+        subject<OxaVMenu>(),
+        subject<OxaMenu>(),
         subject<OxaSvgRenderer>(),
         subjectWithoutParent<OxaSvgIcon>(),
         subject<OxaScaledFonts>(),

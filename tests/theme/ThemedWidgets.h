@@ -8,6 +8,7 @@
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
+#include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
 #include <UiElements/widgets/OxaDateTimeEdit.h>
@@ -15,12 +16,14 @@
 #include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaMainWindow.h>
+#include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
 #include <UiElements/widgets/OxaSeparator.h>
 #include <UiElements/widgets/OxaSlider.h>
 #include <UiElements/widgets/OxaSplitter.h>
 #include <UiElements/widgets/OxaStackedWidget.h>
+#include <UiElements/widgets/OxaTabBar.h>
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
@@ -28,6 +31,7 @@
 #include <UiElements/widgets/OxaTimeEdit.h>
 #include <UiElements/widgets/OxaToggleButton.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
+#include <UiElements/widgets/OxaVMenu.h>
 #include <UiElements/widgets/OxaWidget.h>
 
 #include <QTest>
@@ -132,6 +136,7 @@ inline const std::vector<ThemedClass> &themedClasses()
         themedClass<OxaLineEdit>(),
         themedClass<OxaMainWindow>(T::NoFont | T::StyledBackground | T::FollowsNoParent
                                    | T::FollowsNoName | T::IsWindow),
+        themedClass<OxaMenu>(T::IsWindow),
         themedClass<OxaProgressBar>(T::NoFont,
                                     { "oxa-percentage-indicator-possessive", "oxa-progressbar" },
                                     [](QWidget *parent) {
@@ -147,6 +152,7 @@ inline const std::vector<ThemedClass> &themedClasses()
         themedClass<OxaTimeEdit>(),
         themedClass<OxaWidget>(T::StyledBackground),
         // These inherit the block.
+        themedClass<ContainerWidget>(T::StyledBackground | T::HasName),
         themedClass<OxaEmojiLabel>(T::NoTraits, linkColors),
         themedClass<OxaEmojiPushButton>(T::NoTraits, linkColors),
         themedClass<OxaPillTabButton>(T::StartsStyled),
@@ -154,12 +160,14 @@ inline const std::vector<ThemedClass> &themedClasses()
         themedClass<OxaSvgAnchorButton>(),
         themedClass<OxaSvgLabel>(T::NoTraits, linkColors),
         themedClass<OxaSvgPushButton>(),
+        themedClass<OxaTabBar>(T::StyledBackground | T::HasName),
         themedClass<OxaTextInput>(T::StyledBackground | T::StartsStyled | T::HasName, {},
                                   &makeTextInput),
         themedClass<OxaToggleButton>(T::StartsStyled),
         themedClass<OxaUnderlineButton>(T::NoTraits,
                                         { "oxa-underlineButton-background",
                                           "oxa-underlineButton-text" }),
+        themedClass<OxaVMenu>(T::StyledBackground | T::HasName),
         themedClass<ClientPanel>(T::NoFont | T::FollowsNoParent, { "client-frame" },
                                  &ClientPanel::make),
     };

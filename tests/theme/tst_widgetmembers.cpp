@@ -8,6 +8,7 @@
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
+#include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
 #include <UiElements/widgets/OxaDateTimeEdit.h>
@@ -15,18 +16,21 @@
 #include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaMainWindow.h>
+#include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
 #include <UiElements/widgets/OxaSeparator.h>
 #include <UiElements/widgets/OxaSlider.h>
 #include <UiElements/widgets/OxaSplitter.h>
 #include <UiElements/widgets/OxaStackedWidget.h>
+#include <UiElements/widgets/OxaTabBar.h>
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTimeEdit.h>
 #include <UiElements/widgets/OxaToggleButton.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
+#include <UiElements/widgets/OxaVMenu.h>
 #include <UiElements/widgets/OxaWidget.h>
 
 #include <QMetaMethod>
@@ -381,6 +385,17 @@ void addContainers()
     addRow<OxaSeparator, OxaWidget>({}, { "QString colorSetName", "public slot onThemeChanged()" });
 }
 
+void addMenus()
+{
+    addRow<ContainerWidget, OxaWidget>({}, {});
+    addRow<OxaTabBar, ContainerWidget>({},
+                                       { "int horizontalPadding",
+                                         "signal currentChanged(int index)",
+                                         "signal tabClicked(int prevIndex, int newIndex)" });
+    addRow<OxaVMenu, OxaWidget>({}, {});
+    addRow<OxaMenu, QMenu>(themeBlock + fontBlock, {});
+}
+
 void addRanges()
 {
     addRow<OxaDateTimeEdit, QDateTimeEdit>(themeBlock + fontBlock, {});
@@ -423,6 +438,7 @@ void tst_WidgetMembers::addRows()
     addChoices();
     addFields();
     addContainers();
+    addMenus();
     addRanges();
 }
 
