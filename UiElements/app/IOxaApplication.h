@@ -23,7 +23,7 @@ public:
     IOxaApplication(int &argc, char **argv);
     ~IOxaApplication() override;
 
-    /// Returns the source of animated images. Null in this version.
+    /// Returns the source of the movies that OxaMovieProvider asks for.
     virtual IOxaMovieProviderSource *getMovieProviderSource() = 0;
 
     /// Called once for each new QML engine, so that the outer application can set \a engine up.

@@ -4,6 +4,7 @@
 #include <UiElements/app/OxaGlobalSignalListener.h>
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/fonts/OxaFontManager.h>
+#include <UiElements/movies/OxaMovieProviderSource.h>
 #include <UiElements/theme/OxaThemeUtils.h>
 
 #include <QDebug>
@@ -33,7 +34,12 @@ OxaApplication::OxaApplication(int &argc, char **argv)
 
 OxaApplication::~OxaApplication() = default;
 
-IOxaMovieProviderSource *OxaApplication::getMovieProviderSource() { return nullptr; }
+IOxaMovieProviderSource *OxaApplication::getMovieProviderSource()
+{
+    if (!m_movieProviderSource)
+        m_movieProviderSource = new OxaMovieProviderSource(this);
+    return m_movieProviderSource;
+}
 
 bool OxaApplication::animationsDisabled() const { return false; }
 

@@ -12,6 +12,7 @@
 class OxaFontManager;
 class OxaGlobalSignalListener;
 class OxaMainWindow;
+class OxaMovieProviderSource;
 
 /// The application object: the QApplication of the process, and the root of all that the library
 /// shares. The outer application derives its application class from it and makes one before any
@@ -46,6 +47,8 @@ public:
     OxaApplication(int &argc, char **argv);
     ~OxaApplication() override;
 
+    /// Returns a source that answers nothing, made at the first call as a child of this object. The
+    /// outer application overrides this to have movies.
     IOxaMovieProviderSource *getMovieProviderSource() override;
 
     /// True when the user wants no animations. False here; the outer application overrides it.
@@ -145,4 +148,5 @@ protected:
 private:
     QPointer<OxaFontManager> m_fontManager;
     QPointer<OxaGlobalSignalListener> m_globalSignalListener;
+    OxaMovieProviderSource *m_movieProviderSource = nullptr;
 };

@@ -38,4 +38,16 @@ inline QPixmap tinted(const QPixmap &pixmap, const QColor &color)
     return tinted;
 }
 
+/// Returns \a pixmap scaled into \a size, which is in pixels of a screen of 1:1, for a screen of
+/// \a devicePixelRatio. Keeps the aspect ratio. Null where there is nothing to show.
+inline QPixmap fitted(const QPixmap &pixmap, const QSize &size, qreal devicePixelRatio)
+{
+    if (pixmap.isNull())
+        return {}; // QPixmap::scaled() would warn.
+    QPixmap fitted = pixmap.scaled(size * devicePixelRatio, Qt::KeepAspectRatio,
+                                   Qt::SmoothTransformation);
+    fitted.setDevicePixelRatio(devicePixelRatio);
+    return fitted;
+}
+
 } // namespace WidgetParts

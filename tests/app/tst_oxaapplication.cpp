@@ -4,6 +4,7 @@
 
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/fonts/OxaFontManager.h>
+#include <UiElements/movies/OxaMovieProviderSource.h>
 
 #include <QMetaMethod>
 #include <QMetaProperty>
@@ -45,6 +46,7 @@ struct Members
     std::optional<AppPublishing::OxaPublishingInfo> publishingInfo;
     QPointer<QObject> fontManager;
     QPointer<QObject> globalSignalListener;
+    QObject *movieProviderSource;
 };
 static_assert(sizeof(OxaApplication) == sizeof(IOxaApplication) + sizeof(Members));
 
@@ -78,7 +80,8 @@ private Q_SLOTS:
     void startsWithoutThemeLogoAndColors();
     void startsWithoutPublishingInformation();
     void keepsThePublishingInformationBetweenTheLogosAndTheFontManager();
-    void startsWithoutQmlEngineAndMovies();
+    void startsWithoutQmlEngine();
+    void makesItsSourceOfMoviesAtTheFirstCall();
     void makesTheFontManagerAsItsChild();
     void installsTheApplicationFont();
     void registersTheColorSetByName();
@@ -138,10 +141,15 @@ void tst_OxaApplication::keepsThePublishingInformationBetweenTheLogosAndTheFontM
                      + PublishingOutline::distance(&members, &members.publishingInfo));
 }
 
-void tst_OxaApplication::startsWithoutQmlEngineAndMovies()
+void tst_OxaApplication::startsWithoutQmlEngine() { QVERIFY(!application()->getQmlEngine()); }
+
+void tst_OxaApplication::makesItsSourceOfMoviesAtTheFirstCall()
 {
-    QVERIFY(!application()->getQmlEngine());
-    QVERIFY(!application()->getMovieProviderSource());
+    QVERIFY(!application()->findChild<IOxaMovieProviderSource *>());
+    IOxaMovieProviderSource *source = application()->getMovieProviderSource();
+    QVERIFY(qobject_cast<OxaMovieProviderSource *>(source));
+    QCOMPARE(source->parent(), application());
+    QCOMPARE(application()->getMovieProviderSource(), source);
 }
 
 void tst_OxaApplication::makesTheFontManagerAsItsChild()

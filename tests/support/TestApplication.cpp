@@ -15,3 +15,8 @@ void TestApplication::setPublishingInfo(const AppPublishing::OxaPublishingInfo &
 {
     m_publishingInfo = info;
 }
+
+IOxaMovieProviderSource *TestApplication::getMovieProviderSource()
+{
+    return m_movieSource ? m_movieSource : OxaApplication::getMovieProviderSource();
+}

@@ -25,6 +25,14 @@ public:
 
     /// Gets each new main window.
     std::function<void(OxaMainWindow *)> mainWindowHook;
+
+    IOxaMovieProviderSource *getMovieProviderSource() override;
+
+    /// Sets the source of movies, or null for the one that an OxaApplication makes.
+    void setMovieProviderSource(IOxaMovieProviderSource *source) { m_movieSource = source; }
+
+private:
+    IOxaMovieProviderSource *m_movieSource = nullptr;
 };
 
 /// Runs a test class under a TestApplication. TestMain.h has macros for other applications.
