@@ -7,6 +7,7 @@
 #include <UiElements/models/BaseListModel.h>
 #include <UiElements/models/LazyLoadedListModel.h>
 #include <UiElements/models/OverflowListProxyModel.h>
+#include <UiElements/movies/OxaMovieProviderSource.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaCheckBox.h>
@@ -181,6 +182,9 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
             slotOf(&FlowLayout::heightForWidth),
     });
     addRow<OxaEmojiLabel, OxaLabel>({});
+    addRow<IOxaMovieProviderSource, QObject>({ slotOf(&IOxaMovieProviderSource::fetchMovie) });
+    addRow<OxaMovieProviderSource, IOxaMovieProviderSource>({});
+    addRow<OxaMovie, QMovie>({});
     addRow<BaseListModel, QAbstractListModel>({});
     addRow<LazyLoadedListModel, QAbstractListModel>({});
     addRow<OverflowListProxyModel, QSortFilterProxyModel>({});

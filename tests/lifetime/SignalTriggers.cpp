@@ -8,6 +8,7 @@
 #include <UiElements/emoji/OxaEmojiPushButton.h>
 #include <UiElements/fonts/OxaScaledFonts.h>
 #include <UiElements/keyboard/OxaKeyEvent.h>
+#include <UiElements/movies/IOxaMovieProviderSource.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
@@ -132,12 +133,6 @@ const SvgFiles &svgFiles()
     return files;
 }
 
-void waitForDeletion(QObject &object)
-{
-    const QPointer<QObject> guard(&object);
-    QTRY_VERIFY(guard.isNull());
-}
-
 void addPictureRows(SignalTriggers &rows)
 {
     rows.push_back(row<OxaSvgRenderer>(
@@ -226,6 +221,7 @@ SignalTriggers allRows()
     addFormTriggers(rows);
     addMenuTriggers(rows);
     addModelTriggers(rows);
+    addNoticeTriggers(rows);
     return rows;
 }
 
@@ -273,5 +269,6 @@ void emitAsHubUser(QObject *sender, const QMetaMethod &signal)
 bool isHub(const QMetaObject *metaObject)
 {
     return metaObject->inherits(&OxaAppSignals::staticMetaObject)
-            || metaObject->inherits(&OxaGlobalSignalListener::staticMetaObject);
+            || metaObject->inherits(&OxaGlobalSignalListener::staticMetaObject)
+            || metaObject->inherits(&IOxaMovieProviderSource::staticMetaObject);
 }

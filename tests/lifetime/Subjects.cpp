@@ -10,10 +10,15 @@
 #include <UiElements/models/LazyLoadedListModel.h>
 #include <UiElements/models/OverflowListProxyModel.h>
 #include <UiElements/models/SmallListModel.h>
+#include <UiElements/movies/OxaGifButton.h>
+#include <UiElements/movies/OxaGifLabel.h>
+#include <UiElements/movies/OxaMovieProvider.h>
+#include <UiElements/movies/OxaMovieProviderSource.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/svg/OxaSvgRenderer.h>
+#include <UiElements/widgets/AlertBanner.h>
 #include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
@@ -23,6 +28,7 @@
 #include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 #include <UiElements/widgets/OxaMenu.h>
+#include <UiElements/widgets/OxaNotification.h>
 #include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
 #include <UiElements/widgets/OxaSeparator.h>
@@ -92,6 +98,14 @@ Subject progressBar()
              [](QWidget *parent) -> QObject * { return new OxaProgressBar(parent, 10); } };
 }
 
+Subject gifButton()
+{
+    return { OxaGifButton::staticMetaObject.className(), &OxaGifButton::staticMetaObject,
+             [](QWidget *parent) -> QObject * {
+                 return new OxaGifButton(parent, QString(), QSize(8, 8), QString(), QSize(8, 8));
+             } };
+}
+
 bool isWalked(const QMetaObject &metaObject)
 {
     const QByteArray name = metaObject.className();
@@ -135,6 +149,13 @@ const std::vector<Subject> &subjects()
         subject<OxaTabBar>(),
         subject<OxaVMenu>(),
         subject<OxaMenu>(),
+        subject<AlertBanner>(),
+        subject<OxaNotification>(),
+        subject<OxaGifLabel>(),
+        gifButton(),
+        subject<OxaMovie>(),
+        subjectWithoutParent<OxaMovieProvider>(),
+        subject<OxaMovieProviderSource>(),
         subject<OxaSvgRenderer>(),
         subjectWithoutParent<OxaSvgIcon>(),
         subject<OxaScaledFonts>(),

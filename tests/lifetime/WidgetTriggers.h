@@ -10,6 +10,12 @@
 
 // What the triggers of several widget classes have in common.
 
+inline void waitForDeletion(QObject &object)
+{
+    const QPointer<QObject> guard(&object);
+    QTRY_VERIFY(guard.isNull());
+}
+
 inline void sendMouse(QWidget &widget, QEvent::Type type, Qt::MouseButton button)
 {
     const QPointF inside = widget.rect().center();

@@ -5,9 +5,12 @@
 #include "support/ColorSets.h"
 
 #include <UiElements/emoji/OxaEmojiPushButton.h>
+#include <UiElements/movies/OxaGifButton.h>
+#include <UiElements/movies/OxaGifLabel.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
+#include <UiElements/widgets/AlertBanner.h>
 #include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
@@ -17,6 +20,7 @@
 #include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 #include <UiElements/widgets/OxaMenu.h>
+#include <UiElements/widgets/OxaNotification.h>
 #include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
 #include <UiElements/widgets/OxaSeparator.h>
@@ -107,11 +111,23 @@ inline std::unique_ptr<QWidget> makeTextInput(QWidget *parent)
     return std::unique_ptr<QWidget>(OxaTextInputFactory({}).make(parent));
 }
 
+/// Makes a button that shows nothing.
+inline std::unique_ptr<QWidget> makeGifButton(QWidget *parent)
+{
+    return std::make_unique<OxaGifButton>(parent, QString(), QSize(8, 8), QString(), QSize(8, 8));
+}
+
 /// Every themed widget class of the library, and one of a client. A new one is one row.
 inline const std::vector<ThemedClass> &themedClasses()
 {
     using T = ThemedClass;
     static const std::vector<const char *> linkColors = { "button-hyperlink-text" };
+    static const std::vector<const char *> bannerColors = {
+        "alertBackground-warning",
+        "alertText-warning",
+        "button-hyperlink-text",
+        "oxa-footer-warning-icon",
+    };
     static const std::vector<const char *> checkBoxColors = {
         "background-primary",
         "checkbox-checked-background",
@@ -153,8 +169,12 @@ inline const std::vector<ThemedClass> &themedClasses()
         themedClass<OxaWidget>(T::StyledBackground),
         // These inherit the block.
         themedClass<ContainerWidget>(T::StyledBackground | T::HasName),
+        themedClass<AlertBanner>(T::StyledBackground | T::StartsStyled | T::HasName, bannerColors),
         themedClass<OxaEmojiLabel>(T::NoTraits, linkColors),
         themedClass<OxaEmojiPushButton>(T::NoTraits, linkColors),
+        themedClass<OxaGifButton>(T::NoTraits, linkColors, &makeGifButton),
+        themedClass<OxaGifLabel>(T::NoTraits, linkColors),
+        themedClass<OxaNotification>(T::StyledBackground),
         themedClass<OxaPillTabButton>(T::StartsStyled),
         themedClass<OxaSeparator>(T::StyledBackground, { "legacy-separator-primary" }),
         themedClass<OxaSvgAnchorButton>(),

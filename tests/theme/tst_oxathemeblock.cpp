@@ -200,8 +200,9 @@ void tst_OxaThemeBlock::paintsAStyledBackgroundFromItsFirstSheetOn()
 {
     FETCH_THEMED_CLASS;
     const auto widget = themed.make(nullptr);
+    const bool startsWithSheet = !widget->styleSheet().isEmpty();
     widget->setProperty("css", QByteArray());
-    QVERIFY(!widget->testAttribute(Qt::WA_StyledBackground));
+    QCOMPARE(widget->testAttribute(Qt::WA_StyledBackground), startsWithSheet);
     widget->setProperty("css", styleText.toUtf8());
     QVERIFY(widget->testAttribute(Qt::WA_StyledBackground));
     // A parent's sheet may still need it.

@@ -5,9 +5,12 @@
 #include "support/TestMain.h"
 
 #include <UiElements/emoji/OxaEmojiPushButton.h>
+#include <UiElements/movies/OxaGifButton.h>
+#include <UiElements/movies/OxaGifLabel.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
+#include <UiElements/widgets/AlertBanner.h>
 #include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
@@ -17,6 +20,7 @@
 #include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 #include <UiElements/widgets/OxaMenu.h>
+#include <UiElements/widgets/OxaNotification.h>
 #include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
 #include <UiElements/widgets/OxaSeparator.h>
@@ -405,6 +409,16 @@ void addRanges()
                                          { "int barWidth", "int barHeight", "int idleBarHeight" });
 }
 
+void addNoticesAndMovies()
+{
+    addRow<AlertBanner, OxaWidget>({}, { "signal alertLinkActivated()" });
+    addRow<OxaNotification, OxaWidget>({},
+                                       { "int showTimeout", "int fadeOutDuration",
+                                         "signal fadeOutCompleted()", "private slot onFadeOut()" });
+    addRow<OxaGifLabel, OxaLabel>({}, { "signal finishedPlaying()" });
+    addRow<OxaGifButton, OxaPushButton>({}, { "protected slot setButtonIcon()" });
+}
+
 } // namespace
 
 /// What each widget class of the library declares to Qt's meta-object system: a row for each.
@@ -440,6 +454,7 @@ void tst_WidgetMembers::addRows()
     addContainers();
     addMenus();
     addRanges();
+    addNoticesAndMovies();
 }
 
 void tst_WidgetMembers::areThoseOfTheTable()
