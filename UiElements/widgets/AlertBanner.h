@@ -15,7 +15,7 @@ class QSpacerItem;
 /// The outer application supplies the icons "qrc:/Resources/warning_12.svg" and
 /// "qrc:/Resources/info_16.svg".
 ///
-/// The user reaches the text by Tab and its links by more of it; Return opens a link.
+/// Tab goes to the text and then from link to link, and Return activates one.
 class UIELEMENTS_EXPORT AlertBanner : public OxaWidget
 {
     Q_OBJECT
