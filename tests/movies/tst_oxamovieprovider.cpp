@@ -289,6 +289,7 @@ void tst_OxaMovieProvider::leavesAMovieThatAnotherProviderOwns()
     run(QStringLiteral("fetch b"), source, provider);
     run(QStringLiteral("movie b"), source, provider);
     deleteLaterNow();
+    QVERIFY(shared);
     QCOMPARE(owner.getMovie(), shared);
     QCOMPARE(described(provider), QStringLiteral("1 m2 -"));
 }
