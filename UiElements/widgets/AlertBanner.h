@@ -46,8 +46,7 @@ public:
     void setAlert(const AlertBannerInfo &info);
 
 Q_SIGNALS:
-    /// A link of the text was activated, whichever it is. A slot calls deleteLater() instead of
-    /// deleting the banner: Qt uses the label afterwards.
+    /// A link of the text was activated, whichever it is. A slot may delete the banner.
     void alertLinkActivated();
 
 private:
