@@ -31,11 +31,11 @@ public:
     /// What a banner shows.
     struct AlertBannerInfo
     {
-        AlertType alertType = AlertType::Error;
-        QString alertText;            ///< May be rich text.
-        bool showIcon = true;         ///< False hides the icon for good.
-        bool wordWrap = true;         ///< Breaks lines of the text.
-        QSize bannerSize { 400, 56 }; ///< The size to resize the banner to.
+        AlertType alertType = AlertType::Error; ///< The look.
+        QString alertText;                      ///< May be rich text.
+        bool showIcon = true;                   ///< False hides the icon for good.
+        bool wordWrap = true;                   ///< Breaks lines of the text.
+        QSize bannerSize { 400, 56 };           ///< The size to resize the banner to.
     };
 
     /// Makes a banner without a text.
