@@ -45,8 +45,10 @@ void OxaTabBar::setHorizontalPadding(int padding)
 
 int OxaTabBar::addTab(const QString &text, const QString &accessibleName)
 {
-    OxaPushButton *tab = m_newTabButtonFunc(this);
-    if (!tab)
+    const QPointer<OxaTabBar> bar(this); // The function may delete the bar, or replace itself.
+    const auto makeButton = m_newTabButtonFunc;
+    OxaPushButton *tab = makeButton(this);
+    if (!bar || !tab)
         return -1;
     if (!text.isEmpty())
         tab->setMaximumWidth(textWidth(text));
@@ -173,9 +175,10 @@ QSize OxaTabBar::sizeHint() const
 
 bool OxaTabBar::eventFilter(QObject *watched, QEvent *event)
 {
-    QPushButton *const current = buttonAt(m_currentIndex);
-    if (current && FocusStop::isAffectedBy(*event))
-        moveTabStop(*current);
+    if (FocusStop::isAffectedBy(*event)) {
+        if (QPushButton *current = buttonAt(m_currentIndex))
+            moveTabStop(*current);
+    }
     return ContainerWidget::eventFilter(watched, event);
 }
 

@@ -147,7 +147,7 @@ void OxaVMenu::setBorderRadius(int radius)
 
 bool OxaVMenu::eventFilter(QObject *watched, QEvent *event)
 {
-    if (m_firstItem && FocusStop::isAffectedBy(*event))
+    if (FocusStop::isAffectedBy(*event) && m_firstItem)
         setFocusProxy(FocusStop::firstIn(*m_layout));
     return OxaWidget::eventFilter(watched, event);
 }

@@ -81,5 +81,5 @@ private:
     void addLimited(QWidget *widget);
 
     QVBoxLayout *const m_layout;
-    QPointer<OxaSvgPushButton> m_firstItem; ///< That of a menu that was empty.
+    QPointer<QWidget> m_firstItem; ///< That of a menu that was empty.
 };

@@ -6,7 +6,8 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPointer>
-#include <QSignalSpy>
+
+#include <memory>
 
 using TabBars::Bar;
 using TabBars::describe;
@@ -60,6 +61,7 @@ private Q_SLOTS:
     void limitsATabToItsTextInTheBarsFont();
     void givesATabWithoutATextNoMaximumWidth();
     void makesTabsByItsFunction();
+    void survivesWhatItsFunctionDoes();
     void refusesItemsOfOtherKinds();
     void makesATabCurrent();
     void changesNothingWithoutATabAtTheIndex_data();
@@ -172,6 +174,31 @@ void tst_OxaTabBar::makesTabsByItsFunction()
     bar.setNewTabButtonFunc([](QWidget *) -> OxaPushButton * { return nullptr; });
     QCOMPARE(bar.addTab(QStringLiteral("b")), -1);
     QCOMPARE(bar.count(), 1);
+}
+
+void tst_OxaTabBar::survivesWhatItsFunctionDoes()
+{
+    auto *bar = new OxaTabBar;
+    auto capture = std::make_shared<int>();
+    const std::weak_ptr<int> captured = capture;
+    bool isKept = false;
+    bar->setNewTabButtonFunc([bar, capture, &captured, &isKept](QWidget *parent) {
+        bar->setNewTabButtonFunc([](QWidget *) -> OxaPushButton * { return nullptr; });
+        isKept = !captured.expired();
+        return new OxaPushButton(parent);
+    });
+    capture.reset();
+    QCOMPARE(bar->addTab(QStringLiteral("a")), 0);
+    QVERIFY(isKept);
+    QCOMPARE(bar->addTab(QStringLiteral("b")), -1);
+    const QPointer<OxaTabBar> guard(bar);
+    bar->setNewTabButtonFunc([bar](QWidget *parent) {
+        auto *button = new OxaPushButton(parent);
+        delete bar;
+        return button;
+    });
+    QCOMPARE(bar->addTab(QStringLiteral("c")), -1);
+    QVERIFY(!guard);
 }
 
 void tst_OxaTabBar::refusesItemsOfOtherKinds()

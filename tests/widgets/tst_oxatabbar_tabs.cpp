@@ -217,6 +217,9 @@ void tst_OxaTabBarTabs::tellsScreenReadersWhatItsTabsAre()
     QAccessibleInterface *list = QAccessible::queryAccessibleInterface(&bar);
     QCOMPARE(list->childCount(), 2);
     QAccessibleInterface *first = list->child(0);
+    // The roles of a tab list and its tabs need interfaces of the application's.
+    QCOMPARE(list->role(), QAccessible::Client);
+    QCOMPARE(first->role(), QAccessible::CheckBox);
     QCOMPARE(first->text(QAccessible::Name), QStringLiteral("inbox, 3 unread"));
     QCOMPARE(first->text(QAccessible::Description), QStringLiteral("inbox, 3 unread"));
     QVERIFY(first->state().checkable);

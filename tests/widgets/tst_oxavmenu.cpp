@@ -332,6 +332,8 @@ void tst_OxaVMenu::tellsScreenReadersTheNamesOfItems()
     QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&menu);
     QCOMPARE(interface->childCount(), 1);
     QCOMPARE(interface->child(0)->text(QAccessible::Name), QStringLiteral("Leave"));
+    // The role that the item stores needs an interface of the application's.
+    QCOMPARE(interface->child(0)->role(), QAccessible::Button);
     QVERIFY(interface->child(0)->state().focusable);
     QVERIFY(!interface->child(0)->state().checkable);
 }
