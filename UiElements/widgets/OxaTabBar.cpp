@@ -77,6 +77,7 @@ int OxaTabBar::addTabItem(QWidget *widget)
     m_layout->addWidget(tab);
     TabOrderUtils::fixFocusChainFromLayout(this, m_layout);
     setupEventFilters();
+    updateTabStop();
     return count() - 1;
 }
 
@@ -91,8 +92,10 @@ void OxaTabBar::removeTab(int index)
     m_currentIndex = -1;
     if (hadFocus)
         focusFirst();
-    if (current && current != buttonAt(0))
+    if (current && current != buttonAt(0)) {
+        current->setFocusPolicy(Qt::ClickFocus);
         current->setChecked(false);
+    }
     if (count() > 0)
         setCurrentIndex(0);
     else
@@ -175,10 +178,8 @@ QSize OxaTabBar::sizeHint() const
 
 bool OxaTabBar::eventFilter(QObject *watched, QEvent *event)
 {
-    if (FocusStop::isAffectedBy(*event)) {
-        if (QPushButton *current = buttonAt(m_currentIndex))
-            moveTabStop(*current);
-    }
+    if (FocusStop::isAffectedBy(*event))
+        updateTabStop();
     return ContainerWidget::eventFilter(watched, event);
 }
 
@@ -207,6 +208,12 @@ void OxaTabBar::focusFirst()
 {
     QWidget *first = FocusStop::firstIn(*m_layout);
     (first ? first : this)->setFocus(Qt::OtherFocusReason);
+}
+
+void OxaTabBar::updateTabStop()
+{
+    if (QPushButton *current = buttonAt(m_currentIndex))
+        moveTabStop(*current);
 }
 
 /// Makes Tab reach \a current, or, while that takes no focus, the first tab that does. Without one

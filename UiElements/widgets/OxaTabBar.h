@@ -159,6 +159,7 @@ private:
     int textWidth(const QString &text) const;
     void onTabClicked(QWidget *tab);
     void focusFirst();
+    void updateTabStop();
     void moveTabStop(QPushButton &current);
 
     QHBoxLayout *const m_layout;
