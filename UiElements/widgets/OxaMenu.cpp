@@ -36,7 +36,8 @@ void OxaMenu::showEvent(QShowEvent *event)
     const QSize before = size();
     QWidget::showEvent(event);
     adjustSize();
-    // That is at most two thirds of the screen, which would cut the last actions of a long menu off.
+    // That is at most two thirds of the screen, which would cut the last actions of a long menu
+    // off.
     resize(size().expandedTo(before.boundedTo(sizeHint())));
 }
 

@@ -20,6 +20,8 @@ class QPushButton;
 /// hidden or disabled, Tab reaches the first tab that is neither instead.
 ///
 /// Where there is no tab at an index, setters do nothing and getters return an empty value.
+///
+/// A slot may delete the bar or its tabs, but not a slot of a tab's toggled(), see OxaPushButton.
 class UIELEMENTS_EXPORT OxaTabBar : public ContainerWidget
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/ColorSets.h"
 #include "support/Guards.h"
+#include "support/RealInput.h"
 #include "support/TestApplication.h"
 
 #include <UiElements/widgets/OxaMenu.h>
@@ -43,6 +44,8 @@ private Q_SLOTS:
     void followsNoThemeAsACopyWithoutAParent();
     void expandsItsStyleText();
     void fitsItsActionsWhenItIsShown();
+    void choosesItsActionsByKeys_data();
+    void choosesItsActionsByKeys();
     void showsAsManyActionsAsQtsMenu_data();
     void showsAsManyActionsAsQtsMenu();
 };
@@ -199,6 +202,40 @@ void tst_OxaMenu::fitsItsActionsWhenItIsShown()
     menu.resize(700, 500);
     menu.show();
     QCOMPARE(menu.size(), menu.sizeHint());
+}
+
+void tst_OxaMenu::choosesItsActionsByKeys_data()
+{
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<QString>("chosen");
+    const QString down = QStringLiteral("Down");
+    const QString enter = QStringLiteral("Return");
+    QTest::newRow("the first one at once") << QStringList { enter } << QStringLiteral("a");
+    QTest::newRow("the second one") << QStringList { down, enter } << QStringLiteral("b");
+    QTest::newRow("the last one") << QStringList { QStringLiteral("Up"), enter }
+                                  << QStringLiteral("c");
+    QTest::newRow("none") << QStringList { down, QStringLiteral("Escape") } << QString();
+}
+
+void tst_OxaMenu::choosesItsActionsByKeys()
+{
+    QFETCH(const QStringList, keys);
+    QFETCH(const QString, chosen);
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    OxaMenu menu(&window);
+    for (const char *text : { "a", "b", "c" })
+        menu.addAction(QString::fromLatin1(text));
+    QString triggered;
+    connect(&menu, &QMenu::triggered, this,
+            [&triggered](const QAction *action) { triggered += action->text(); });
+    menu.popupAt(window.mapToGlobal(QPoint(20, 20)));
+    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    QVERIFY(RealInput::typeKeys(keys));
+    QTRY_VERIFY(!menu.isVisible());
+    QCOMPARE(triggered, chosen);
 }
 
 void tst_OxaMenu::showsAsManyActionsAsQtsMenu_data()

@@ -55,7 +55,9 @@ public:
     {
         int index = 0;
         for (const char *name : { "a", "b", "c" }) {
-            items[index] = column.addMenuItem([this, name] { chosen += QLatin1String(name); }).get();
+            items[index] = column.addMenuItem([this, name] {
+                                     chosen += QLatin1String(name);
+                                 }).get();
             items[index++]->setObjectName(QString::fromLatin1(name));
         }
     }
@@ -109,10 +111,9 @@ private:
 
 void tst_OxaVMenuKeys::initTestCase()
 {
-    m_stores = std::make_unique<StoreGuard>(
-            ColorSets::storeOf({ ColorSets::make(QStringLiteral("mainList-item"), { "#204060" }),
-                                 ColorSets::make(QStringLiteral("oxa-menuItemButton-text"),
-                                                 { "#a0c0e0" }) }));
+    m_stores = std::make_unique<StoreGuard>(ColorSets::storeOf(
+            { ColorSets::make(QStringLiteral("mainList-item"), { "#204060" }),
+              ColorSets::make(QStringLiteral("oxa-menuItemButton-text"), { "#a0c0e0" }) }));
 }
 
 void tst_OxaVMenuKeys::walksTheItemsOfAMenuByTab()
