@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "support/SignalLog.h"
+
 #include <UiElements/widgets/OxaPushButton.h>
 #include <UiElements/widgets/OxaTabBar.h>
 
@@ -39,6 +41,16 @@ inline QString describe(const OxaTabBar &bar)
         tabs += text;
     }
     return tabs.join(QLatin1Char(' '));
+}
+
+/// Records what \a bar emits, with the numbers.
+inline void record(SignalLog &log, const OxaTabBar &bar)
+{
+    QObject::connect(&bar, &OxaTabBar::currentChanged, &bar,
+                     [&log](int index) { log.note(QStringLiteral("current %1").arg(index)); });
+    QObject::connect(&bar, &OxaTabBar::tabClicked, &bar, [&log](int previous, int now) {
+        log.note(QStringLiteral("clicked %1 %2").arg(previous).arg(now));
+    });
 }
 
 } // namespace TabBars
