@@ -41,11 +41,9 @@ IconTextPlacement placementOf(const OxaCheckBox &box, QRect rect, const QSize &t
                                    textMargins, box.getSvgIconAlignment(), box.getTextHorAlign() });
 }
 
-/// Returns where the box begins beside its place, which a rounded one leaves free.
-int indentOf(const OxaCheckBox &box, bool rounded)
+/// Returns the margin of \a box in reading direction: negative from right to left.
+int signedMargin(const OxaCheckBox &box)
 {
-    if (!rounded)
-        return 0;
     return QGuiApplication::isLeftToRight() ? box.getCheckboxMargin() : -box.getCheckboxMargin();
 }
 
@@ -62,8 +60,7 @@ void drawBox(QPainter &painter, const OxaCheckBox &box, const QColor &border,
     }
     const int half = radius / 2;
     QPainterPath path;
-    path.addRoundedRect(QRectF(indentOf(box, rounded), 0, size.width() - half,
-                               size.height() - half),
+    path.addRoundedRect(QRectF(signedMargin(box), 0, size.width() - half, size.height() - half),
                         radius, radius);
     painter.fillPath(path, orTransparent(background));
     painter.drawPath(path);
@@ -74,7 +71,7 @@ void drawTick(QPainter &painter, const OxaCheckBox &box, const OxaSvgIcon &tick,
 {
     const QSize size = box.getCheckboxSize();
     const QSize tickSize = tick.getIconSize();
-    const int indent = indentOf(box, true);
+    const int indent = signedMargin(box);
     painter.save();
     painter.translate(boxOffset
                       + QPoint((size.width() - tickSize.width()) / 2 + indent,
@@ -84,13 +81,13 @@ void drawTick(QPainter &painter, const OxaCheckBox &box, const OxaSvgIcon &tick,
 }
 
 /// Returns the box in the widget's coordinates. In a right-to-left application it stands behind the
-/// text, and the height of the block does not count: that is how styles have been told of it.
+/// text, and the height of the block does not count. Meant so: styles of applications rely on it.
 QRect focusRectOf(const OxaCheckBox &box, const IconTextPlacement &place, const QRect &textBounds,
                   bool rounded, int radius)
 {
     const int half = radius / 2;
     const QSize size = box.getCheckboxSize() - QSize(half, half);
-    const QRect rect(QPoint(indentOf(box, rounded), 0), size);
+    const QRect rect(QPoint(rounded ? signedMargin(box) : 0, 0), size);
     const QPoint offset = place.icon.toPoint();
     if (QGuiApplication::isLeftToRight())
         return rect.translated(place.block + offset);

@@ -5,6 +5,8 @@
 
 #include <QPointer>
 
+#include <utility>
+
 OxaSvgIconBlock::~OxaSvgIconBlock() = default;
 
 QString OxaSvgIconBlock::path() const { return m_icon ? m_icon->getFilePath() : QString(); }
@@ -130,12 +132,16 @@ void OxaSvgIconBlock::showPath(OxaSvgIcon *icon, const QString &path, QWidget *w
 
 OxaSvgIcon &OxaSvgIconBlock::ensureSvgIconExists()
 {
-    if (!m_icon) {
-        m_icon = std::make_unique<OxaSvgIcon>();
-        QObject::connect(m_icon.get(), &OxaSvgIcon::repaintNeeded, m_widget, [widget = m_widget] {
-            if (widget->isVisible())
-                widget->update();
-        });
-    }
+    if (!m_icon)
+        setIcon(std::make_unique<OxaSvgIcon>());
     return *m_icon;
+}
+
+void OxaSvgIconBlock::setIcon(std::unique_ptr<OxaSvgIcon> icon)
+{
+    m_icon = std::move(icon);
+    QObject::connect(m_icon.get(), &OxaSvgIcon::repaintNeeded, m_widget, [widget = m_widget] {
+        if (widget->isVisible())
+            widget->update();
+    });
 }

@@ -56,11 +56,13 @@ public:
     /// \name The icon, and the properties of its outer picture
     /// \{
 
+    /// Gives the widget \a icon, not null, from the start.
+    void setIcon(std::unique_ptr<OxaSvgIcon> icon);
+
     /// Implements the widget's properties of the same names, which begin with "svgIcon". The icon
     /// itself is null until it is needed. The setters emit the widget's signals; those of size and
     /// colours repaint it first.
     const std::unique_ptr<OxaSvgIcon> &icon() const { return m_icon; }
-    std::unique_ptr<OxaSvgIcon> &icon() { return m_icon; }
     QString path() const;
     void setPath(const QString &path);
     QSize size() const;

@@ -11,8 +11,10 @@ QAccessible::UpdateHandler nextHandler = nullptr;
 /// Hands \a event on to the next handler, or to the platform.
 void handOn(QAccessibleEvent *event)
 {
-    if (nextHandler)
-        return nextHandler(event);
+    if (nextHandler) {
+        nextHandler(event);
+        return;
+    }
     // Qt has told the table itself already, and platforms do not look at this one.
     if (event->type() == QAccessible::TableModelChanged)
         return;
@@ -38,8 +40,10 @@ void handOnMasked(Event &&event, const QAccessibleTextCursorEvent &original)
 void maskUpdate(QAccessibleEvent *event)
 {
     auto *edit = qobject_cast<OxaLineEdit *>(event->object());
-    if (!edit || edit->echoMode() == QLineEdit::Normal)
-        return handOn(event);
+    if (!edit || edit->echoMode() == QLineEdit::Normal) {
+        handOn(event);
+        return;
+    }
     if (event->type() == QAccessible::TextInserted) {
         const auto &insert = static_cast<const QAccessibleTextInsertEvent &>(*event);
         handOnMasked(QAccessibleTextInsertEvent(edit, insert.changePosition(),

@@ -22,7 +22,7 @@ OxaCheckBox::OxaCheckBox(QWidget *parent, bool rounded)
       m_isRounded(rounded)
 {
     m_focusColors.fetch(this);
-    m_iconBlock.icon() = std::make_unique<OxaSvgIcon>(QStringLiteral(":/Resources/check_12_w.svg"));
+    m_iconBlock.setIcon(std::make_unique<OxaSvgIcon>(QStringLiteral(":/Resources/check_12_w.svg")));
     m_iconBlock.icon()->setIconSize(m_checkboxSize - frameAroundTick);
     m_themeBlock.followTheme();
     setTextLeftPadding(initialTextPadding);
@@ -137,7 +137,8 @@ void OxaCheckBox::leaveEvent(QEvent *event)
 
 void OxaCheckBox::onThemeChanged()
 {
-    m_textColors = OxaThemeUtils::getColorSet("oxa-default-text", this);
+    m_defaultTextColors.fetch(this);
+    m_textColors = m_defaultTextColors.colors();
     m_borderColors.fetch(this);
     m_iconColors.fetch(this);
     m_checkedColors.fetch(this);
@@ -149,6 +150,8 @@ void OxaCheckBox::onThemeChanged()
 
 void OxaCheckBox::onCSSChanged()
 {
+    if (!m_textColors.isValid())
+        m_textColors = m_defaultTextColors.colors();
     if (getSvgIconColorSet().isEmpty())
         m_iconBlock.icon()->setColorSet(m_iconColors.colors());
 }

@@ -20,7 +20,8 @@
 /// is the side of the text on which the box stands. It shows while the box is checked, not while it
 /// is partially checked. The whole widget can be clicked.
 ///
-/// A style text without "$textColors:" takes the text's colours until the theme type changes.
+/// "$textColors:" of a style text colours the text until the theme type changes, and so does
+/// `svgIconColorSet` the tick: then both take their own sets again.
 class UIELEMENTS_EXPORT OxaCheckBox : public QCheckBox
 {
     Q_OBJECT
@@ -95,6 +96,7 @@ private:
     void onSvgIconColorSetChanged(const OxaColorSet &colorSet);
     void onSvgIconSizeChanged(const QSize &size);
 
+    OxaNamedColorSet m_defaultTextColors { QStringLiteral("oxa-default-text") };
     OxaColorSet m_textColors;
     OxaNamedColorSet m_borderColors { QStringLiteral("oxa-recorder-comboBox-border") };
     OxaNamedColorSet m_iconColors { QStringLiteral(

@@ -2,9 +2,6 @@
 #include "OxaComboBox.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
-#include <QMouseEvent>
-#include <QPainter>
 #include <QPointer>
 
 #include <cmath>
@@ -51,8 +48,7 @@ OxaComboBox::OxaComboBox(QWidget *parent)
 
     view()->window()->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint
                                      | Qt::NoDropShadowWindowHint);
-    m_list = view();
-    m_list->installEventFilter(this);
+    takeList();
     connect(this, QOverload<int>::of(&QComboBox::highlighted), this,
             &OxaComboBox::highLightedIndex);
     m_themeBlock.followTheme();
@@ -186,12 +182,11 @@ void OxaComboBox::takeConfig()
     m_border.borderRadius = static_cast<quint8>(m_config.borderRadius);
 }
 
-/// Before the box is first styled, a change of its theme or name applies an empty style text, which
-/// takes sets and border away.
+/// Takes the configuration again if a change of theme or name, before the box was first styled, has
+/// applied an empty style text: that takes the sets and all sides of the border away.
 void OxaComboBox::restoreConfig()
 {
-    const bool isTakenAway = getCSS().isEmpty() && !m_border.borderTop;
-    if (!isTakenAway)
+    if (m_isStyled || m_border.borderTop || !getCSS().isEmpty())
         return;
     m_border = initialBorder();
     takeConfig();

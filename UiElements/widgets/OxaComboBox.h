@@ -40,8 +40,8 @@ struct UTComboBoxConfig
 /// combo box is one big button that emits contentAreaClicked(). Space in the list chooses the
 /// highlighted row, and emits activated() also if it was the current one.
 ///
-/// Its list scrolls by a bar, and takes the accessible name that the combo box has when it is
-/// styled.
+/// Its list scrolls by a bar, and takes the accessible name of the combo box when it opens unless
+/// it has one.
 ///
 /// Slots may delete the combo box, except where Qt goes on with it: in cssChanged() while the box
 /// or its list is shown or hidden, in highlighted() and in currentIndexChanged(). There use
@@ -213,6 +213,7 @@ private:
     QString fieldStyleSheet() const;
     QString listStyleSheet() const;
     void styleList();
+    void takeList();
     void followList();
     void placePopup(QWidget *frame) const;
     bool onListKeyPressed(int key);
@@ -234,7 +235,8 @@ private:
     int m_highlightedIndex = 0;
     int m_itemViewBorderRadius = 0;
     int m_leftPadding = 12;
-    OxaCSSData m_border; ///< Radius, width and sides alone count.
+    OxaCSSData m_border;     ///< Radius, width and sides alone count.
+    bool m_isStyled = false; ///< By a style text of its own.
     bool m_isExpanded = false;
     bool m_isAnimated = true;
     bool m_isOpenedUpwards = false;

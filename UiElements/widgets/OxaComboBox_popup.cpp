@@ -40,10 +40,20 @@ void OxaComboBox::showPopup()
         return;
     m_isExpanded = true;
     followList();
+    if (m_list->accessibleName().isEmpty())
+        m_list->setAccessibleName(accessibleName());
     const AnimationGuard animation(m_isAnimated);
     QComboBox::showPopup();
     if (auto *frame = findChild<QFrame *>())
         placePopup(frame);
+}
+
+void OxaComboBox::takeList()
+{
+    m_list = view();
+    m_list->installEventFilter(this);
+    // Qt has made it for a style that scrolls without a bar; the box's sheet asks for one.
+    m_list->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 /// Follows a list that setView() has set since, of whose current row QComboBox does not tell.
@@ -51,8 +61,7 @@ void OxaComboBox::followList()
 {
     if (m_list == view())
         return;
-    m_list = view();
-    m_list->installEventFilter(this);
+    takeList();
     if (const QItemSelectionModel *selection = m_list->selectionModel())
         connect(selection, &QItemSelectionModel::currentChanged, this,
                 [this](const QModelIndex &current) { highLightedIndex(current.row()); });

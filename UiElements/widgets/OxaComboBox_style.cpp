@@ -38,13 +38,10 @@ void OxaComboBox::applyCustomCSS()
     if (objectName().isEmpty())
         return;
     restoreConfig();
-    OxaCSSData css; // Every corner has the radius, whatever a style text said.
-    css.borderRadius = m_border.borderRadius;
-    css.borderWidth = m_border.borderWidth;
-    css.borderTop = m_border.borderTop;
-    css.borderRight = m_border.borderRight;
-    css.borderBottom = m_border.borderBottom;
-    css.borderLeft = m_border.borderLeft;
+    m_isStyled = true;
+    OxaCSSData css = m_border;
+    css.radiusCorner = 0; // Every corner has the radius, whatever a style text said.
+    css.rectangularCornerMask = 0;
     css.backgroundColorSetName = m_backgroundColors.name;
     css.borderColorSetName = m_borderColors.name;
     css.textColorSetName = m_textColors.name;
@@ -113,10 +110,6 @@ void OxaComboBox::styleList()
         list->setObjectName(QStringLiteral("rillsAstractItemView"));
     if (!list)
         return;
-    if (!accessibleName().isEmpty())
-        list->setAccessibleName(accessibleName());
-    // Qt made the list before the sheet asked for one that scrolls by a bar.
-    list->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     list->setStyleSheet(sheet);
     list->style()->unpolish(this);
     list->style()->polish(this);

@@ -34,8 +34,9 @@ void OxaLineEdit::onLayoutDirectionChanged()
     setContentsMargins(WidgetParts::mirrored(contentsMargins()));
     if (alignment() == Qt::AlignCenter || alignment() == Qt::AlignHCenter)
         return;
-    const bool hasTextDirection = qApp->property("TextDirection").toInt() != Qt::LeftToRight;
-    const bool startsAtTheRight = !hasTextDirection && QGuiApplication::isRightToLeft();
+    // Meant so: any other value aligns to the left, also Qt::RightToLeft.
+    const bool isForcedLeft = qApp->property("TextDirection").toInt() != Qt::LeftToRight;
+    const bool startsAtTheRight = !isForcedLeft && QGuiApplication::isRightToLeft();
     setAlignment((alignment() & Qt::AlignVertical_Mask)
                  | (startsAtTheRight ? Qt::AlignRight : Qt::AlignLeft));
 }

@@ -103,14 +103,20 @@ void OxaTextInput::setPasswordField(bool isPasswordField)
 {
     m_isPasswordField = isPasswordField;
     showOrHideActionButtons();
+    const QPointer<OxaTextInput> self(this);
     if (m_lineEdit)
         m_lineEdit->setEchoMode(isPasswordField ? QLineEdit::Password : QLineEdit::Normal);
+    // It may have been shown before.
+    if (self && isPasswordField)
+        showPasswordIcon(tr("Show password"), m_passwordIconMasked, maskedIconSize);
 }
 
 void OxaTextInput::cssUpdated()
 {
     const QPointer<OxaTextInput> self(this);
     updateCSS(hasFocus() ? m_cssFocused : m_cssNormal);
+    if (self)
+        colorIcons(m_cssNormal.textColorSetName);
     if (!self)
         return;
     style()->unpolish(this);
@@ -125,9 +131,9 @@ bool OxaTextInput::eventFilter(QObject *watched, QEvent *event)
         return false;
     switch (event->type()) {
     case QEvent::FocusOut:
-        return onFocusChanged(m_cssNormal);
+        return onFocusChanged(false);
     case QEvent::FocusIn:
-        return onFocusChanged(m_cssFocused);
+        return onFocusChanged(true);
     case QEvent::KeyPress:
         return onKeyPressed(static_cast<QKeyEvent *>(event)->key());
     default:
@@ -187,11 +193,10 @@ void OxaTextInput::makeConnections()
 }
 
 /// Returns whether the line edit must not see the event.
-bool OxaTextInput::onFocusChanged(const OxaCSSData &css)
+bool OxaTextInput::onFocusChanged(bool hasCome)
 {
     const LineEditCall call(this);
-    const bool hasCome = &css == &m_cssFocused;
-    updateCSS(css);
+    updateCSS(hasCome ? m_cssFocused : m_cssNormal);
     if (hasCome && call.isLineEditAlive())
         m_lineEdit->setFocus(Qt::OtherFocusReason);
     if (call.isFieldAlive())
@@ -285,11 +290,14 @@ void OxaTextInput::passwordActionPressed()
         return;
     const QPointer<OxaTextInput> self(this);
     const bool isShown = m_lineEdit->echoMode() != QLineEdit::Password;
+    const QString name = isShown ? tr("Show password") : tr("Hide password");
+    if (m_passwordButton)
+        m_passwordButton->setAccessibleName(name); // Told before the text is shown or hidden.
     m_lineEdit->setEchoMode(isShown ? QLineEdit::Password : QLineEdit::Normal);
     if (isShown)
-        showPasswordIcon(tr("Show password"), m_passwordIconMasked, maskedIconSize);
+        showPasswordIcon(name, m_passwordIconMasked, maskedIconSize);
     else
-        showPasswordIcon(tr("Hide password"), m_passwordIconShown, shownIconSize);
+        showPasswordIcon(name, m_passwordIconShown, shownIconSize);
     if (self)
         setFocus();
 }
@@ -302,6 +310,18 @@ void OxaTextInput::showPasswordIcon(const QString &name, const QString &icon, co
     button->setAccessibleName(name);
     button->setSvgIcon(icon);
     TextInputParts::setIconSizes(button, size);
+}
+
+/// Colours the icons for which the client has chosen no colours as the text.
+void OxaTextInput::colorIcons(const QString &colorSetName)
+{
+    if (colorSetName.isEmpty())
+        return;
+    for (const QPointer<OxaSvgPushButton> &button :
+         { m_searchIconButton, m_clearButton, m_passwordButton }) {
+        if (button && button->getSvgIconColorSet().isEmpty())
+            button->setSvgIconColorSet(colorSetName);
+    }
 }
 
 /// Shows \a css, or the error look where the validator rejects the text.
@@ -334,6 +354,7 @@ void OxaTextInput::showOrHideActionButtons()
     showOrHideMaxLengthCounter();
     const bool hasText = !text().isEmpty();
     const bool isCounting = m_counterLabel && m_counterLabel->isVisible() && hasFocus();
+    // A slot of a part's signals may delete the field.
     const bool isPassword = m_isPasswordField;
     const QPointer<OxaSvgPushButton> passwordButton = m_passwordButton;
     setShown(m_clearButton, !isPassword && hasText && !isReadOnly() && !isCounting);

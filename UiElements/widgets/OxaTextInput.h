@@ -183,7 +183,7 @@ private:
 
     void makeParts();
     void makeConnections();
-    bool onFocusChanged(const OxaCSSData &css);
+    bool onFocusChanged(bool hasCome);
     bool onKeyPressed(int key);
     void onEditingFinished();
     void onTextChanged(const QString &text);
@@ -191,6 +191,7 @@ private:
     void clearAndFocusInput();
     void passwordActionPressed();
     void showPasswordIcon(const QString &name, const QString &icon, const QSize &size);
+    void colorIcons(const QString &colorSetName);
     void updateCSS(const OxaCSSData &css);
     void updateMaxLengthCounter();
     void showOrHideActionButtons();

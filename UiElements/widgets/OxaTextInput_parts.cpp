@@ -111,10 +111,9 @@ void OxaTextInput::setFocus()
 
 void OxaTextInput::setIcon(const QString &path)
 {
-    if (!m_clearButton)
-        return;
     const QPointer<OxaSvgPushButton> button = m_clearButton;
-    m_clearButton->setSvgIcon(path);
+    if (button)
+        button->setSvgIcon(path);
     TextInputParts::setIconSizes(button, TextInputParts::actionIconSize);
 }
 

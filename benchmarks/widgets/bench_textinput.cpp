@@ -45,7 +45,7 @@ public:
     Field *const field;
 };
 
-/// Types into \a edit, and repaints it, as between the keys of a fast typist.
+/// Types into \a edit faster than it repaints.
 void type(QLineEdit &edit)
 {
     edit.clear();

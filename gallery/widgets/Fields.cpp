@@ -116,8 +116,6 @@ OxaLineEdit *Fields::line(QWidget *parent)
     field->setFontToken(token);
     field->setPlaceholderColorSetName(placeholderColors);
     field->setCSS(look("OxaLineEdit", { 8, 5 }));
-    // Qt is not told of the pointer, which changes the look.
-    QObject::connect(field, &OxaLineEdit::hoveredChanged, field, QOverload<>::of(&QWidget::update));
     alignToLayout(field);
     return field;
 }
@@ -179,6 +177,7 @@ OxaComboBox *Fields::combo(const QString &name, const QStringList &texts, QWidge
     // Any name: without one a combo box has no style.
     combo->setObjectName(QStringLiteral("combo"));
     combo->setAccessibleName(name);
+    combo->view()->setAccessibleName(name);
     combo->addItems(texts);
     combo->setFontToken(token);
     combo->setMinimumHeight(comboHeight);

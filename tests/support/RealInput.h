@@ -48,4 +48,21 @@ inline bool drag(const QWidget &widget, const QPoint &from, const QPoint &to)
             && send({ QStringLiteral("mouseup"), left });
 }
 
+/// Sets the keyboard layout of the X server, and restores the American one when it is destroyed.
+class KeyboardLayoutGuard
+{
+    Q_DISABLE_COPY_MOVE(KeyboardLayoutGuard)
+
+public:
+    explicit KeyboardLayoutGuard(const QString &layout) { set(layout); }
+    ~KeyboardLayoutGuard() { set(QStringLiteral("us")); }
+
+private:
+    static void set(const QString &layout)
+    {
+        QProcess::execute(QStringLiteral("setxkbmap"), { layout });
+        QCoreApplication::processEvents();
+    }
+};
+
 } // namespace RealInput

@@ -83,7 +83,7 @@ private Q_SLOTS:
     void repaintsForEveryOtherProperty();
     void storesAWholePaddingWithoutRepainting_data() { addIconWidgets(); }
     void storesAWholePaddingWithoutRepainting();
-    void repaintsForTheFramesOfItsIcon_data() { addPlainIconWidgets(); }
+    void repaintsForTheFramesOfItsIcon_data() { addIconWidgets(); }
     void repaintsForTheFramesOfItsIcon();
 
 private:
@@ -340,6 +340,7 @@ void tst_OxaSvgIconBlock::repaintsForTheFramesOfItsIcon()
     FETCH_ICON_WIDGET;
     const QString animated = m_files.animated();
     widget->setProperty("svgIcon", animated);
+    widget->setProperty("checked", true); // A check box shows its tick then.
     PaintCounter paints(*widget);
     QTRY_VERIFY(paints.count() > 0);
     widget->hide();

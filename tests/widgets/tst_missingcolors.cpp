@@ -10,6 +10,7 @@
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaCheckBox.h>
+#include <UiElements/widgets/OxaComboBox.h>
 #include <UiElements/widgets/OxaRadioButton.h>
 #include <UiElements/widgets/OxaToggleButton.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
@@ -261,6 +262,7 @@ private Q_SLOTS:
     void looksLikeQtsWidget_data();
     void looksLikeQtsWidget();
     void paintsNoPictureInColorsThatAreMissing();
+    void paintsNoArrowInColorsThatAreMissing();
     void paintsNoFocusFrameInColorsThatAreMissing_data();
     void paintsNoFocusFrameInColorsThatAreMissing();
     void paintsNoUnreadIndicatorInColorsThatAreMissing();
@@ -329,6 +331,16 @@ void tst_MissingColors::paintsNoPictureInColorsThatAreMissing()
                                                   QColor()));
     });
     QCOMPARE(image, Pixels::paper(size));
+}
+
+void tst_MissingColors::paintsNoArrowInColorsThatAreMissing()
+{
+    OxaComboBox box; // Without a name it has no sheet, so that Qt paints the rest as always.
+    box.setSvgDropdownIcon(squareFile);
+    QComboBox peer;
+    box.resize(100, 30);
+    peer.resize(100, 30);
+    QCOMPARE(Pixels::render(box), Pixels::render(peer));
 }
 
 void tst_MissingColors::paintsNoFocusFrameInColorsThatAreMissing_data()

@@ -315,15 +315,19 @@ void tst_OxaComboBoxStyle::isPolishedAfterItsList()
 void tst_OxaComboBoxStyle::givesItsListABarAndItsOwnName()
 {
     OxaComboBox box;
-    box.setAccessibleName(QStringLiteral("Language"));
     box.setObjectName(QStringLiteral("box"));
-    box.setLeftPadding(4);
-    QCOMPARE(box.view()->accessibleName(), QStringLiteral("Language"));
     QCOMPARE(box.view()->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
-
-    box.setAccessibleName(QString());
-    box.setLeftPadding(5);
+    box.setAccessibleName(QStringLiteral("Language"));
+    box.showPopup();
     QCOMPARE(box.view()->accessibleName(), QStringLiteral("Language"));
+    box.hidePopup();
+
+    box.view()->setAccessibleName(QStringLiteral("Languages"));
+    box.view()->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    box.showPopup();
+    QCOMPARE(box.view()->accessibleName(), QStringLiteral("Languages"));
+    QCOMPARE(box.view()->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    box.hidePopup();
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaComboBoxStyle)

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void looksItsSetsUpInTheNewTheme();
     void looksItsSetsUpInAThemeBeforeItsFirstStyleText();
     void keepsAConfigurationAtAThemeChangeBeforeItsFirstStyleText();
+    void keepsNothingOfAStyleTextThatIsEmptiedLater();
     void looksTheArrowsSetUpInTheNewTheme();
     void keepsNoColorsThatTheThemeLacks();
     void takesThemeAndStyleOfAParent();
@@ -237,6 +238,17 @@ void tst_OxaComboBoxTheme::keepsAConfigurationAtAThemeChangeBeforeItsFirstStyleT
     field.background = QStringLiteral("b");
     field.border = field.text = QStringLiteral("a");
     QCOMPARE(box.getCSS(), styleTextOf(field));
+}
+
+void tst_OxaComboBoxTheme::keepsNothingOfAStyleTextThatIsEmptiedLater()
+{
+    OpenBox box;
+    box.updateStyle({ "a", "b", "a", 2, 7 });
+    box.setCSS(QString());
+    box.setLeftPadding(3);
+    Field field;
+    field.leftPadding = 3;
+    QCOMPARE(box.getCSS(), rulesOf(field));
 }
 
 void tst_OxaComboBoxTheme::looksTheArrowsSetUpInTheNewTheme()

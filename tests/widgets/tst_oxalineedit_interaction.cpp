@@ -73,6 +73,7 @@ private Q_SLOTS:
     void opensNoContextMenuWhereNoneIsWanted();
     void changesUnderThePointer();
     void typesWhatAltGrGives();
+    void typesByAltGrAndDeadKeys();
 };
 
 void tst_OxaLineEditInteraction::opensAContextMenuInTheColorsOfItsTheme_data()
@@ -173,11 +174,22 @@ void tst_OxaLineEditInteraction::typesWhatAltGrGives()
     QTest::sendKeyEvent(QTest::Click, edit.windowHandle(), Qt::Key_Q, QString(),
                         Qt::ControlModifier | Qt::AltModifier);
     QTRY_COMPARE(fired.size(), 1);
-    // A dead key arrives as an input method's commit.
-    QInputMethodEvent commit;
-    commit.setCommitString(QString::fromUtf8("\xc3\xa9"));
-    QCoreApplication::sendEvent(&edit, &commit);
-    QVERIFY(edit.text().endsWith(QString::fromUtf8("\xc3\xa9")));
+}
+
+void tst_OxaLineEditInteraction::typesByAltGrAndDeadKeys()
+{
+    const RealInput::KeyboardLayoutGuard layout(QStringLiteral("de"));
+    OxaLineEdit edit;
+    edit.show();
+    edit.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&edit));
+    edit.setFocus();
+    const QShortcut shortcut(QKeySequence(QStringLiteral("Ctrl+Alt+Q")), &edit);
+    const QSignalSpy fired(&shortcut, &QShortcut::activated);
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("ISO_Level3_Shift+q"),
+                                  QStringLiteral("dead_acute"), QStringLiteral("e") }));
+    QTRY_COMPARE(edit.text(), QString::fromUtf8("@\xc3\xa9"));
+    QCOMPARE(fired.size(), 0);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaLineEditInteraction)

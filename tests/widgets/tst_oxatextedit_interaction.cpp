@@ -9,12 +9,15 @@
 
 #include <QPointer>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSignalSpy>
 
 using namespace TextEditParts;
 
 namespace {
+
+constexpr int wheelDown = 5; // As X numbers its buttons.
 
 const QColor menuColor(0xc8, 0x1e, 0xd2);
 
@@ -41,23 +44,6 @@ public:
     OxaTextEdit second;
 };
 
-/// Sets the keyboard layout of the X server, and restores the American one when it is destroyed.
-class KeyboardLayoutGuard
-{
-    Q_DISABLE_COPY_MOVE(KeyboardLayoutGuard)
-
-public:
-    explicit KeyboardLayoutGuard(const QString &layout) { set(layout); }
-    ~KeyboardLayoutGuard() { set(QStringLiteral("us")); }
-
-private:
-    static void set(const QString &layout)
-    {
-        QProcess::execute(QStringLiteral("setxkbmap"), { layout });
-        QCoreApplication::processEvents();
-    }
-};
-
 /// Returns how much of \a menu the X server shows in the menu's colour.
 int countMenuColor(const QMenu &menu)
 {
@@ -77,6 +63,7 @@ private Q_SLOTS:
 
     void movesTheFocusByTab();
     void takesWhatAltGrTypes();
+    void scrollsUnderTheWheel();
     void opensItsMenuUnderThePointer();
     void opensItsMenuByKey();
 
@@ -100,7 +87,7 @@ void tst_OxaTextEditInteraction::movesTheFocusByTab()
 
 void tst_OxaTextEditInteraction::takesWhatAltGrTypes()
 {
-    const KeyboardLayoutGuard layout(QStringLiteral("de"));
+    const RealInput::KeyboardLayoutGuard layout(QStringLiteral("de"));
     Window window;
     const QShortcut shortcut(QKeySequence(Qt::CTRL + Qt::ALT + Qt::Key_E), &window);
     const QSignalSpy fired(&shortcut, &QShortcut::activated);
@@ -110,6 +97,15 @@ void tst_OxaTextEditInteraction::takesWhatAltGrTypes()
     QVERIFY(RealInput::typeKeys({ QStringLiteral("ISO_Level3_Shift+e") }));
     QTRY_COMPARE(window.first.toPlainText(), QStringLiteral("first€"));
     QCOMPARE(fired.size(), 0);
+}
+
+void tst_OxaTextEditInteraction::scrollsUnderTheWheel()
+{
+    Window window;
+    window.first.setPlainText(QStringLiteral("line\n").repeated(50));
+    QVERIFY(window.comesToTheFront());
+    QVERIFY(RealInput::click(window.first, QPoint(60, 40), wheelDown));
+    QTRY_VERIFY(window.first.verticalScrollBar()->value() > 0);
 }
 
 void tst_OxaTextEditInteraction::opensItsMenuUnderThePointer()

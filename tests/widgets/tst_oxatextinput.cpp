@@ -67,6 +67,7 @@ private Q_SLOTS:
     void acceptsAllWithoutAValidator();
     void setsTheTotalOfTheCounterByItself();
     void givesItsLineEditTheFocusForNoReason();
+    void mirrorsItsMargins();
     void showsASearchIcon();
     void setsTheSizesOfItsIcons();
     void setsTheClearButtonsIcon();
@@ -297,6 +298,13 @@ void tst_OxaTextInput::givesItsLineEditTheFocusForNoReason()
     QVERIFY(window.field.hasFocus());
     QVERIFY(textOf(window.field).hasFocus());
     QCOMPARE(focus.reasons, { Qt::OtherFocusReason });
+}
+
+void tst_OxaTextInput::mirrorsItsMargins()
+{
+    const LayoutDirectionGuard direction(Qt::RightToLeft);
+    QWidget parent;
+    QCOMPARE(makeField(&parent)->layout()->contentsMargins(), QMargins(12, 3, 5, 3));
 }
 
 void tst_OxaTextInput::showsASearchIcon()

@@ -30,6 +30,8 @@ private Q_SLOTS:
     void givesItsPasswordButtonTwoFaces();
     void showsAndHidesAPassword();
     void keepsTheEchoModeOfAnEmptyPassword();
+    void namesThePasswordButtonByWhatItDoes();
+    void colorsItsIconsLikeItsText();
     void masksTheTextOfAPasswordField();
     void givesTheTextTheFocusAfterThePasswordButton();
     void namesItsPartsForAssistiveTechnology();
@@ -263,6 +265,36 @@ void tst_OxaTextInputButtons::showsAndHidesAPassword()
     passwordButtonOf(window.field).click();
     QCOMPARE(textOf(window.field).echoMode(), QLineEdit::Password);
     QCOMPARE(window.field.text(), QStringLiteral("secret"));
+}
+
+void tst_OxaTextInputButtons::namesThePasswordButtonByWhatItDoes()
+{
+    Window window;
+    window.field.setPasswordField(true);
+    window.field.setText(QStringLiteral("secret"));
+    const OxaSvgPushButton &button = passwordButtonOf(window.field);
+    QCOMPARE(button.accessibleName(), QStringLiteral("Show password"));
+    passwordButtonOf(window.field).click();
+    QCOMPARE(button.accessibleName(), QStringLiteral("Hide password"));
+    window.field.setPasswordField(true);
+    QCOMPARE(textOf(window.field).echoMode(), QLineEdit::Password);
+    QCOMPARE(button.accessibleName(), QStringLiteral("Show password"));
+}
+
+void tst_OxaTextInputButtons::colorsItsIconsLikeItsText()
+{
+    OxaCSSData look = normal;
+    look.textColorSetName = focused.backgroundColorSetName;
+    const OxaTextInputFactory fields({ look, look, look });
+    const std::unique_ptr<OxaTextInput> field(fields.make(nullptr));
+    const QList<OxaSvgPushButton *> buttons = field->findChildren<OxaSvgPushButton *>();
+    QCOMPARE(buttons.size(), 3);
+    for (OxaSvgPushButton *button : buttons)
+        QCOMPARE(button->getSvgIconColorSet(), look.textColorSetName);
+
+    clearButtonOf(*field).setSvgIconColorSet(error.backgroundColorSetName);
+    fields.apply(field.get());
+    QCOMPARE(clearButtonOf(*field).getSvgIconColorSet(), error.backgroundColorSetName);
 }
 
 void tst_OxaTextInputButtons::keepsTheEchoModeOfAnEmptyPassword()
