@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr int timeoutMs = 240000;
+
 /// The result of a run of the gallery.
 struct Run
 {
@@ -21,7 +23,7 @@ Run runGallery(const QStringList &arguments)
     QProcess gallery;
     gallery.start(QStringLiteral(GALLERY_PROGRAM), arguments);
     Run run;
-    if (!gallery.waitForFinished(90000) || gallery.exitStatus() != QProcess::NormalExit) {
+    if (!gallery.waitForFinished(timeoutMs) || gallery.exitStatus() != QProcess::NormalExit) {
         run.errors = gallery.errorString();
         return run;
     }
