@@ -18,7 +18,12 @@
 ///
 /// The tick is an SVG icon, which the properties of the icon block describe, and `svgIconAlignment`
 /// is the side of the text on which the box stands. It shows while the box is checked, not while it
-/// is partially checked. The whole widget can be clicked.
+/// is partially checked. The whole widget can be clicked. Of a style sheet, `color` and rules for
+/// the indicator do not show; `background` does.
+///
+/// With word wrap, which is on by default, sizeHint() is for the present width, and there is no
+/// heightForWidth(). Switch it off for a text of one line. For a longer one set a minimum width,
+/// and call updateGeometry() after the width has changed.
 ///
 /// "$textColors:" of a style text colours the text until the theme type changes, and so does
 /// `svgIconColorSet` the tick: then both take their own sets again.
@@ -65,6 +70,7 @@ public:
     /// Returns how the text is aligned and wrapped.
     int textFlags() const;
 
+    /// Returns the size of box and text, which is wrapped to the present width.
     QSize sizeHint() const override;
 
 Q_SIGNALS:

@@ -32,9 +32,12 @@ struct UTComboBoxConfig
 /// "oxa-rills-combobox-text", or those given to updateStyle(); its arrow is an SVG icon in the set
 /// "oxa-rills-combobox-dropdown-arrow".
 ///
-/// **A combo box without an object name stays unstyled**: the selectors of its style text need one,
-/// of letters, digits, "-" and "_". A name given later takes effect when the combo box is shown
-/// next. Colour sets that don't exist leave their declarations out.
+/// **A combo box without an object name stays unstyled** and shows Qt's arrow under its own: the
+/// selectors of its style text need a name, of letters, digits, "-" and "_". One given later takes
+/// effect when the combo box is shown next. A sheet set by setStyleSheet() is replaced when the box
+/// is styled next. Colour sets that don't exist leave their declarations out.
+///
+/// Its paddings are not mirrored in a right-to-left application.
 ///
 /// The list can be moved by an offset, open upwards and without animation. With the popup off, the
 /// combo box is one big button that emits contentAreaClicked(). Space in the list chooses the
@@ -44,8 +47,8 @@ struct UTComboBoxConfig
 /// it has one.
 ///
 /// Slots may delete the combo box, except where Qt goes on with it: in cssChanged() while the box
-/// or its list is shown or hidden, in highlighted() and in currentIndexChanged(). There use
-/// deleteLater().
+/// or its list is shown or hidden, in highlighted(), in currentIndexChanged(), and in activated(),
+/// after which Qt emits textActivated(). There use deleteLater().
 class UIELEMENTS_EXPORT OxaComboBox : public QComboBox
 {
     Q_OBJECT

@@ -19,8 +19,8 @@
 /// placeholder's colour and answers true. QLineEdit does not see them, and neither does
 /// changeEvent() of a subclass. To follow them, use hoveredChanged(), an event filter, or event().
 ///
-/// The contents margins and the alignment follow the layout direction of the application when it
-/// changes, the alignment only where it is not Qt::AlignCenter or Qt::AlignHCenter.
+/// When the layout direction of the application changes, onLayoutDirectionChanged() runs. A field
+/// that is made later has not had it.
 class UIELEMENTS_EXPORT OxaLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -54,9 +54,10 @@ public:
                                           const QVariant &argument) const;
 
 public Q_SLOTS:
-    /// Swaps the left and right contents margins, and aligns the text to the side where its
-    /// language starts: left where the application's property "TextDirection" is not 0, else by the
-    /// layout direction.
+    /// Swaps the left and right contents margins. An alignment other than Qt::AlignCenter and
+    /// Qt::AlignHCenter becomes Qt::AlignLeft, or Qt::AlignRight in a right-to-left application
+    /// whose property "TextDirection" is 0 or not set. Qt mirrors both for right-to-left texts:
+    /// with Qt::AlignLeft, each text is at the side where its language starts.
     void onLayoutDirectionChanged();
 
 Q_SIGNALS:

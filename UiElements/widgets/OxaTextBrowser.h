@@ -9,6 +9,10 @@
 #include <QTextBrowser>
 
 /// A reader of rich text with links that takes part in theming. Otherwise as QTextBrowser.
+///
+/// Links keep the colour that they had when the text was read, from the palette or the document's
+/// default style sheet. For those of another theme, set the original HTML again in a slot of
+/// themeTypeChanged(): that of toHtml() has the old colours in it.
 class UIELEMENTS_EXPORT OxaTextBrowser : public QTextBrowser
 {
     Q_OBJECT

@@ -11,8 +11,11 @@
 /// AltGr types reaches the text instead of firing a shortcut, and its context menu has the theme's
 /// colours.
 ///
-/// While it has the focus, by keyboard or by mouse, the application's style draws a focus frame
-/// under the text.
+/// While it has the focus, by keyboard or by mouse, the application's style is asked for a focus
+/// frame under the text. Fusion fills it while the focus came by keyboard: see docs/focus.md.
+///
+/// The placeholder has no colour set. It takes the text colours of a style text: to have others,
+/// set QPalette::PlaceholderText in a slot of cssChanged(). Links: see OxaTextBrowser.
 class UIELEMENTS_EXPORT OxaTextEdit : public QTextEdit
 {
     Q_OBJECT

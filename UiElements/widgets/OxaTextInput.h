@@ -19,10 +19,15 @@ class QValidator;
 /// A field around an OxaLineEdit, with an optional search icon, a counter, a button that clears it,
 /// and one that shows a password. It looks normal, focused or in error.
 ///
-/// Made by an OxaTextInputFactory, which also fills the three looks. The parts are children with
-/// the object names "textInput", "textInputCounterLabel", "clearInputButton",
-/// "passwordActionButton" and "searchIcon".
+/// Made by an OxaTextInputFactory, which also fills the three looks; the class is final in effect,
+/// since its constructor is private. The parts are children with the object names "textInput",
+/// "textInputCounterLabel", "clearInputButton", "passwordActionButton" and "searchIcon".
 ///
+/// - Each change of look replaces style text and style sheet: what is to stay belongs into the
+///   looks. With a space in its object name, the field loses its style.
+/// - The *icons* take the text colours of the factory's normal look, unless the client calls
+///   OxaSvgPushButton::setSvgIconColorSet() of a part.
+/// - In a layout, the field takes the height that is left: end a column with `addStretch(1)`.
 /// - The *error* look comes with the focus, when it goes, and while typing only where the validator
 ///   was set so. An empty text is in error only with validateErrorWhenEmpty, and then only as the
 ///   focus comes and goes.
@@ -51,7 +56,9 @@ public:
     /// Returns the text.
     QString text() const;
 
-    /// Sets the text. textChanged() and showErrorLabel() follow where it differs.
+    /// Sets the text. textChanged() and showErrorLabel() follow where it differs. The field then
+    /// looks focused, or in error while it validates, until its focus comes or goes, or
+    /// OxaTextInputFactory::apply() shows the look that fits.
     void setText(const QString &text);
 
     /// Returns what shows in place of an empty text.
@@ -90,8 +97,9 @@ public:
     void setValidateErrorWhenEmpty(bool validate);
 
     /// Sets the function that tells whether a text is valid; an empty one, the default, accepts
-    /// all. With \a validateWhileTyping it is asked at each change, else as the focus comes and
-    /// goes. With validateErrorWhenEmpty set, the field shows the answer at once.
+    /// all. With \a validateWhileTyping it is asked at each change too. It is asked once as the
+    /// focus comes and at Return, and twice as the focus goes, so it has to be fast. With
+    /// validateErrorWhenEmpty set, the field shows the answer at once.
     void setInputValidator(const std::function<bool(const QString &)> &validator,
                            bool validateWhileTyping);
 
@@ -116,10 +124,10 @@ public:
     /// Gives the line edit the focus, for no reason that would show a keyboard frame.
     void setFocus();
 
-    /// Sets the clear button's icon to the SVG file at \a path, 14 by 14.
+    /// Sets the clear button's icon to the SVG file at \a path, 14 by 14. It has none at first.
     void setIcon(const QString &path);
 
-    /// Shows the SVG file at \a path in front of the text, with more room before it.
+    /// Shows the SVG file at \a path, 12 by 12, in front of the text, with more room before it.
     void setSearchIcon(const QString &path);
 
     /// Sets the SVG files on the button of a password field: \a shownIcon while the text is shown,
@@ -135,7 +143,7 @@ public:
     /// Sets the sizes of the search icon and of the clear button in pixels, both square.
     void updateIconSizes(int searchSize, int clearSize);
 
-    /// Sets whether the clear button is a stop of Tab.
+    /// Sets whether the clear button is a stop of Tab, as it is by default.
     void toggleClearButtonFocus(bool canFocus);
 
     /// Sets the text's accessible name, "Text input field" at first.
@@ -158,7 +166,9 @@ Q_SIGNALS:
     void textEdited();
 
     /// The message of an error is to be shown, or hidden: in spite of its name \a isValid is true
-    /// where it is to be shown. Comes at each check, also when nothing differs.
+    /// where it is to be shown. Comes at each check, also when nothing differs: true twice as the
+    /// focus goes. False also comes without a check: at each change of the text without validation
+    /// while typing, as an empty field is left, and from the clear button.
     void showErrorLabel(bool isValid);
 
     /// Return or Enter was pressed in the text.
@@ -168,7 +178,8 @@ Q_SIGNALS:
     void keyPressed(int key);
 
 protected:
-    /// Shows the look that fits focus and validator. For who changes the looks.
+    /// Shows the look that fits focus and validator. The factory calls it after it has changed the
+    /// looks; clients call OxaTextInputFactory::apply().
     void cssUpdated();
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -18,7 +18,7 @@ public:
     /// The three looks of a field.
     struct Looks
     {
-        OxaCSSData normal;  ///< Without the focus.
+        OxaCSSData normal;  ///< Without the focus. Its text colours are those of the icons.
         OxaCSSData focused; ///< With the focus, and after clearing.
         OxaCSSData error;   ///< While its validator rejects the text.
     };
@@ -29,7 +29,9 @@ public:
     /// Returns a new field, which \a parent owns, in its normal look.
     OxaTextInput *make(QWidget *parent) const;
 
-    /// Gives \a field the looks of this factory, and shows the one that fits.
+    /// Gives \a field the looks of this factory, and shows the one that fits. Call it also after
+    /// OxaTextInput::setText(), which makes the field look focused. Icons keep the colours that
+    /// they have.
     void apply(OxaTextInput *field) const;
 
 private:
