@@ -4,6 +4,8 @@
 #include "support/Guards.h"
 #include "support/TestApplication.h"
 
+#include <UiElements/svg/OxaSvgPushButton.h>
+
 #include <QFile>
 #include <QPointer>
 #include <QSignalSpy>
@@ -66,6 +68,7 @@ private Q_SLOTS:
     void cleanup() { m_stores.reset(); }
 
     void isQuotedWordForWord();
+    void paintsIconsInTheColorOfTheText();
     void keepsItsFieldsAsHighAsTheirTexts();
     void tellsOfAWrongAddressWhenItsFieldIsLeft();
     void submitsByItsButtonAndByReturn();
@@ -92,6 +95,15 @@ void tst_SignInForm::isQuotedWordForWord()
     QVERIFY(blocks.size() > 1);
     // All of it from the first include on, so that a reader's copy compiles.
     QCOMPARE(blocks.join('\n'), source.mid(source.indexOf("#include")));
+}
+
+void tst_SignInForm::paintsIconsInTheColorOfTheText()
+{
+    const Window window;
+    for (const OxaTextInput *field : window.fields) {
+        for (const auto *part : field->findChildren<OxaSvgPushButton *>())
+            QCOMPARE(part->getSvgIconColorSet(), QStringLiteral("field-text"));
+    }
 }
 
 void tst_SignInForm::keepsItsFieldsAsHighAsTheirTexts()
