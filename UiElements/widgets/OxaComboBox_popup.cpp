@@ -89,7 +89,7 @@ void OxaComboBox::placePopup(QWidget *frame) const
 bool OxaComboBox::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != view())
-        return false;
+        return QComboBox::eventFilter(watched, event);
     const QPointer<OxaComboBox> self(this);
     switch (event->type()) {
     case QEvent::Show:
@@ -102,7 +102,7 @@ bool OxaComboBox::eventFilter(QObject *watched, QEvent *event)
     case QEvent::KeyPress:
         return onListKeyPressed(static_cast<QKeyEvent *>(event)->key());
     default:
-        return false;
+        return QComboBox::eventFilter(watched, event);
     }
 }
 

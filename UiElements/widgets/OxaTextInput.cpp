@@ -128,7 +128,7 @@ bool OxaTextInput::eventFilter(QObject *watched, QEvent *event)
     // While it is destroyed, a line edit loses the focus and is only a QWidget.
     const auto *lineEdit = qobject_cast<OxaLineEdit *>(watched);
     if (!lineEdit || lineEdit != m_lineEdit)
-        return false;
+        return OxaWidget::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::FocusOut:
         return onFocusChanged(false);
@@ -137,7 +137,7 @@ bool OxaTextInput::eventFilter(QObject *watched, QEvent *event)
     case QEvent::KeyPress:
         return onKeyPressed(static_cast<QKeyEvent *>(event)->key());
     default:
-        return false;
+        return OxaWidget::eventFilter(watched, event);
     }
 }
 

@@ -20,7 +20,7 @@ public:
 /// Makes the search icon a picture, where its class would be a button that can be pressed.
 QAccessibleInterface *makeInterface(const QString &, QObject *object)
 {
-    auto *icon = dynamic_cast<SearchIcon *>(object);
+    auto *icon = dynamic_cast<SearchIcon *>(object); // clazy:exclude=unneeded-cast
     return icon ? new QAccessibleWidget(icon, QAccessible::Graphic) : nullptr;
 }
 
