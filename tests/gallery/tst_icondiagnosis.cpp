@@ -25,13 +25,20 @@ const QByteArray turn = "<animateTransform attributeName='transform' type='rotat
                         "to='360 8 8' dur='1s' repeatCount='indefinite'/>";
 const QByteArray turningShape = "<path d='M0 0H16V8H0Z'>" + turn + "</path>";
 
-QImage painted(const OxaSvgRenderer &renderer, const QColor &color)
+/// True when \a renderer paints a pixel in a colour that it is given and that no file has. Two
+/// pictures in two colours can't be compared: an animated file moves between them.
+bool takesColor(const OxaSvgRenderer &renderer)
 {
     QImage image(16, 16, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    renderer.draw(&painter, image.rect(), color, 1.0);
-    return image;
+    renderer.draw(&painter, image.rect(), Qt::magenta, 1.0);
+    for (int i = 0; i < image.width() * image.height(); ++i) {
+        const QColor pixel = image.pixelColor(i % image.width(), i / image.width());
+        if (pixel.alpha() > 32 && pixel.red() > 224 && pixel.green() < 32 && pixel.blue() > 224)
+            return true;
+    }
+    return false;
 }
 
 QString exception(const char *name)
@@ -109,8 +116,7 @@ void tst_IconDiagnosis::isRightAboutWhatTheLibraryPaints()
     QFETCH(const IconFile, file);
     const IconDiagnosis diagnosis = IconDiagnosis::of(file.path);
     const OxaSvgRenderer renderer(file.path);
-    const bool takesSome = painted(renderer, Qt::red) != painted(renderer, Qt::blue);
-    QCOMPARE(takesSome,
+    QCOMPARE(takesColor(renderer),
              diagnosis.outcome == Outcome::TakesColor || diagnosis.outcome == Outcome::TakesSome);
     QCOMPARE(renderer.isAnimated(), diagnosis.outcome == Outcome::Animated);
 }
