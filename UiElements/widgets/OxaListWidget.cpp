@@ -10,6 +10,20 @@
 
 #include <utility>
 
+/// Calls \a work, in which Qt may lay out rows, and then does the pass that the scroll bar has
+/// asked for: outside of Qt's functions, so that its slots may delete the list. Returns whether the
+/// list is still there.
+template <typename Work>
+bool OxaListWidget::holdPasses(Work work)
+{
+    const QPointer<OxaListWidget> self(this);
+    ++m_holds;
+    work();
+    if (self && --m_holds == 0 && std::exchange(m_isPassDue, false))
+        updateCurrentVisibleListItems();
+    return self;
+}
+
 OxaListWidget::OxaListWidget(QWidget *parent, bool isScrollAtBottom)
     : QListWidget(parent), m_isScrollAtBottom(isScrollAtBottom)
 {
@@ -38,7 +52,7 @@ void OxaListWidget::setItemWidgetsDynamicLoadingEnabled(bool enabled)
 void OxaListWidget::delayScrollToBottom()
 {
     if (m_isScrollAtBottom)
-        scrollToBottom();
+        scrollToLastRow();
 }
 
 void OxaListWidget::endInsert()
@@ -53,13 +67,14 @@ void OxaListWidget::insertItem(int row, QListWidgetItem *item)
     // The second row of a list does not stick: there have to be two before.
     const bool sticks = m_sticksToBottom && count() > 1
             && viewport()->rect().contains(visualItemRect(this->item(count() - 1)).topLeft());
-    QListWidget::insertItem(row, item);
+    if (!holdPasses([&] { QListWidget::insertItem(row, item); }))
+        return;
 
     const QPointer<OxaListWidget> self(this);
     if (!verticalScrollBar()->isVisible() && m_isDynamic)
         updateCurrentVisibleListItems();
     if (self && sticks)
-        scrollToBottom();
+        scrollToLastRow();
 }
 
 void OxaListWidget::removeItem(int row)
@@ -87,13 +102,9 @@ void OxaListWidget::setVisible(bool visible)
     if (!visible)
         m_isScrollAtBottom = verticalScrollBar()->value() == verticalScrollBar()->maximum();
 
-    // The pass below comes out of none of Qt's functions, so that its slots may delete the list.
-    const QPointer<OxaListWidget> self(this);
-    ++m_holds;
-    QListWidget::setVisible(visible);
-    if (!self)
+    if (!holdPasses([&] { QListWidget::setVisible(visible); }))
         return;
-    --m_holds;
+    const QPointer<OxaListWidget> self(this);
     if (visible && m_isDynamic)
         updateCurrentVisibleListItems();
     if (self)
@@ -135,11 +146,8 @@ bool OxaListWidget::event(QEvent *event)
     if (event->type() == QEvent::KeyPress)
         return QListWidget::event(event);
 
-    const QPointer<OxaListWidget> self(this);
-    ++m_holds;
-    const bool isHandled = QListWidget::event(event);
-    if (self && --m_holds == 0 && std::exchange(m_isPassDue, false))
-        updateCurrentVisibleListItems();
+    bool isHandled = false;
+    holdPasses([&] { isHandled = QListWidget::event(event); });
     return isHandled;
 }
 
@@ -234,14 +242,24 @@ bool OxaListWidget::isBelowViewport(const QListWidgetItem *item) const
     return rect.isValid() ? rect.top() > viewport()->rect().bottom() : rect.width() == 0;
 }
 
-/// Counts \a item as loaded afterwards, unless a slot has removed it. A slot may delete the list.
+/// Counts \a item as loaded afterwards, unless a slot has removed it, and does the layout that a
+/// slot asks for. A slot may delete the list.
 void OxaListWidget::askForRow(QListWidgetItem *item)
 {
     const QPointer<OxaListWidget> self(this);
     const QPersistentModelIndex index = indexFromItem(item);
     Q_EMIT updateItemWidget(item);
-    if (self && index.isValid())
+    if (!self)
+        return;
+    if (index.isValid())
         m_loadedItems.insert(item);
+    holdPasses([this] { executeDelayedItemsLayout(); });
+}
+
+void OxaListWidget::scrollToLastRow()
+{
+    if (holdPasses([this] { executeDelayedItemsLayout(); }))
+        scrollToBottom();
 }
 
 void OxaListWidget::followScrollBar()

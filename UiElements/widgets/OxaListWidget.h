@@ -23,7 +23,7 @@
 /// A pass asks for the widgets of the rows on screen, and removes those of rows that are further
 /// off than the margin. Its cost does not depend on the number of rows, unless a slot changes a
 /// row's size hint, after which Qt lays out all rows. A slot may remove rows, and may delete the
-/// list, except while Qt itself resizes, scrolls or is asked for positions.
+/// list, except while Qt itself handles input or a resize, or is asked for positions.
 ///
 /// Not supported: items that are inserted other than by insertItem() get their widgets only at the
 /// next pass.
@@ -31,6 +31,21 @@ class UIELEMENTS_EXPORT OxaListWidget : public QListWidget
 {
     Q_OBJECT
     UIELEMENTS_THEME_BLOCK(QListWidget)
+
+    // Here, because the font block below sends events while the list is made.
+    bool m_isDynamic = false;
+    bool m_sticksToBottom = false;
+    int m_extraRows = 0;
+    std::set<QListWidgetItem *> m_loadedItems;
+    bool m_isInserting = false;
+    bool m_isScrollAtBottom;
+    int m_holds = 0;                ///< Above 0, a pass that the scroll bar asks for waits.
+    bool m_isPassDue = false;       ///< A pass waits.
+    bool m_isTakingRequest = false; ///< Inside takeLayoutRequest().
+    bool m_isRequestTaken = false;
+    bool m_isSettingWidget = false; ///< Inside setItemWidget().
+    bool m_isOnlyWidgetNew = false; ///< The layout that is asked for is that of setItemWidget().
+
     UIELEMENTS_FONT_BLOCK
     Q_PROPERTY(bool itemWidgetsDynamicLoadingEnabled READ isItemWidgetsDynamicLoadingEnabled WRITE
                        setItemWidgetsDynamicLoadingEnabled)
@@ -133,21 +148,11 @@ private:
     int lastVisibleItemIndex() const;
     bool isBelowViewport(const QListWidgetItem *item) const;
     void askForRow(QListWidgetItem *item);
+    template <typename Work>
+    bool holdPasses(Work work);
     void followScrollBar();
+    void scrollToLastRow();
     void layOutRows();
     bool takeLayoutRequest();
     void placeItemWidget(QListWidgetItem *item, QWidget *widget);
-
-    bool m_isDynamic = false;
-    bool m_sticksToBottom = false;
-    int m_extraRows = 0;
-    std::set<QListWidgetItem *> m_loadedItems;
-    bool m_isInserting = false;
-    bool m_isScrollAtBottom;
-    int m_holds = 0;                ///< Above 0, a pass that the scroll bar asks for waits.
-    bool m_isPassDue = false;       ///< A pass waits.
-    bool m_isTakingRequest = false; ///< Inside takeLayoutRequest().
-    bool m_isRequestTaken = false;
-    bool m_isSettingWidget = false; ///< Inside setItemWidget().
-    bool m_isOnlyWidgetNew = false; ///< The layout that is asked for is that of setItemWidget().
 };
