@@ -23,7 +23,8 @@
 /// A pass asks for the widgets of the rows on screen, and removes those of rows that are further
 /// off than the margin. Its cost does not depend on the number of rows, unless a slot changes a
 /// row's size hint, after which Qt lays out all rows. A slot may remove rows, and may delete the
-/// list, except while Qt itself handles input or a resize, or is asked for positions.
+/// list, except while Qt itself handles a key, a mouse button or a resize, or is asked for
+/// positions.
 ///
 /// Not supported: items that are inserted other than by insertItem() get their widgets only at the
 /// next pass.
