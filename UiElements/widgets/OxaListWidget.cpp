@@ -64,6 +64,10 @@ void OxaListWidget::endInsert()
 
 void OxaListWidget::insertItem(int row, QListWidgetItem *item)
 {
+    if (m_isInserting && !m_sticksToBottom) { // Nothing follows.
+        QListWidget::insertItem(row, item);
+        return;
+    }
     // The second row of a list does not stick: there have to be two before.
     const bool sticks = m_sticksToBottom && count() > 1
             && viewport()->rect().contains(visualItemRect(this->item(count() - 1)).topLeft());

@@ -16,7 +16,7 @@
 /// bottom while rows are added, as a chat does.
 ///
 ///     connect(list, &OxaListWidget::updateItemWidget, this, [list](QListWidgetItem *item) {
-///         list->setItemWidget(item, new MessageWidget(item->data(messageRole)));
+///         list->setItemWidget(item, new MessageWidget(item->text(), list->viewport()));
 ///     });
 ///     list->setItemWidgetsDynamicLoadingEnabled(true);
 ///

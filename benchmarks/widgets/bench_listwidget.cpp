@@ -28,7 +28,7 @@ QListWidgetItem *makeItem(int row)
     return item;
 }
 
-OxaLabel *makeRow(const QListWidgetItem &item, QWidget *parent = nullptr)
+OxaLabel *makeRow(const QListWidgetItem &item, QWidget *parent)
 {
     auto *label = new OxaLabel(parent);
     label->setCSS(
@@ -55,7 +55,7 @@ public:
         prepare(*this);
         setItemWidgetsDynamicLoadingEnabled(true);
         connect(this, &OxaListWidget::updateItemWidget, this,
-                [this](QListWidgetItem *item) { setItemWidget(item, makeRow(*item)); });
+                [this](QListWidgetItem *item) { setItemWidget(item, makeRow(*item, viewport())); });
         if (rows > 0)
             fill(rows);
     }
@@ -88,7 +88,7 @@ public:
     void loadFirstPage()
     {
         for (int row = 0; row < pageRows; ++row)
-            setItemWidget(item(row), makeRow(*item(row)));
+            setItemWidget(item(row), makeRow(*item(row), viewport()));
     }
 };
 
