@@ -12,6 +12,8 @@
 #include <UiElements/widgets/OxaDialog.h>
 #include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaListView.h>
+#include <UiElements/widgets/OxaListWidget.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 #include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
@@ -22,6 +24,7 @@
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTimeEdit.h>
+#include <UiElements/widgets/OxaTreeView.h>
 #include <UiElements/widgets/OxaWidget.h>
 
 #include <QTextDocument>
@@ -161,6 +164,9 @@ const bool areAdded = [] {
     add<OxaTimeEdit, QTimeEdit>("OxaTimeEdit/QTimeEdit");
     add<OxaSlider, QSlider>("OxaSlider/QSlider");
     add<ProgressBar, QProgressBar>("OxaProgressBar/QProgressBar");
+    add<OxaListView, QListView>("OxaListView/QListView");
+    add<OxaListWidget, QListWidget>("OxaListWidget/QListWidget");
+    add<OxaTreeView, QTreeView>("OxaTreeView/QTreeView");
     return true;
 }();
 

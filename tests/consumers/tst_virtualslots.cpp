@@ -16,6 +16,8 @@
 #include <UiElements/widgets/OxaDialog.h>
 #include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaListView.h>
+#include <UiElements/widgets/OxaListWidget.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 #include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaProgressBar.h>
@@ -29,6 +31,7 @@
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTimeEdit.h>
+#include <UiElements/widgets/OxaTreeView.h>
 #include <UiElements/widgets/OxaVMenu.h>
 
 #include <QTest>
@@ -173,6 +176,9 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
     addRow<OxaTabBar, ContainerWidget>({ slotOf(&OxaTabBar::getTab) });
     addRow<OxaVMenu, OxaWidget>({});
     addThemedRow<OxaMenu, QMenu>();
+    addThemedRow<OxaListView, QListView>();
+    addThemedRow<OxaListWidget, QListWidget>();
+    addThemedRow<OxaTreeView, QTreeView>();
     addRow<OxaSvgPushButton, OxaPushButton>({ slotOf(&Open::onCSSChanged) });
     // The last three come from QLayout's second base class, QLayoutItem.
     addRow<FlowLayout, QLayout>({

@@ -26,6 +26,8 @@
 #include <UiElements/widgets/OxaDialog.h>
 #include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaListView.h>
+#include <UiElements/widgets/OxaListWidget.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 #include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaNotification.h>
@@ -42,6 +44,7 @@
 #include <UiElements/widgets/OxaTextInputFactory.h>
 #include <UiElements/widgets/OxaTimeEdit.h>
 #include <UiElements/widgets/OxaToggleButton.h>
+#include <UiElements/widgets/OxaTreeView.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
 #include <UiElements/widgets/OxaVMenu.h>
 #include <UiElements/widgets/OxaWidget.h>
@@ -149,6 +152,9 @@ const std::vector<Subject> &subjects()
         subject<OxaTabBar>(),
         subject<OxaVMenu>(),
         subject<OxaMenu>(),
+        subject<OxaListView>(),
+        subject<OxaListWidget>(),
+        subject<OxaTreeView>(),
         subject<AlertBanner>(),
         subject<OxaNotification>(),
         subject<OxaGifLabel>(),

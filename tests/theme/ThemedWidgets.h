@@ -18,6 +18,8 @@
 #include <UiElements/widgets/OxaDialog.h>
 #include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaListView.h>
+#include <UiElements/widgets/OxaListWidget.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 #include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaNotification.h>
@@ -34,6 +36,7 @@
 #include <UiElements/widgets/OxaTextInputFactory.h>
 #include <UiElements/widgets/OxaTimeEdit.h>
 #include <UiElements/widgets/OxaToggleButton.h>
+#include <UiElements/widgets/OxaTreeView.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
 #include <UiElements/widgets/OxaVMenu.h>
 #include <UiElements/widgets/OxaWidget.h>
@@ -150,6 +153,8 @@ inline const std::vector<ThemedClass> &themedClasses()
         themedClass<OxaFrame>(),
         themedClass<OxaLabel>(T::NoTraits, linkColors),
         themedClass<OxaLineEdit>(),
+        themedClass<OxaListView>(),
+        themedClass<OxaListWidget>(),
         themedClass<OxaMainWindow>(T::NoFont | T::StyledBackground | T::FollowsNoParent
                                    | T::FollowsNoName | T::IsWindow),
         themedClass<OxaMenu>(T::IsWindow),
@@ -166,6 +171,7 @@ inline const std::vector<ThemedClass> &themedClasses()
         themedClass<OxaTextBrowser>(),
         themedClass<OxaTextEdit>(),
         themedClass<OxaTimeEdit>(),
+        themedClass<OxaTreeView>(),
         themedClass<OxaWidget>(T::StyledBackground),
         // These inherit the block.
         themedClass<ContainerWidget>(T::StyledBackground | T::HasName),

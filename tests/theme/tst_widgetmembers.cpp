@@ -18,6 +18,8 @@
 #include <UiElements/widgets/OxaDialog.h>
 #include <UiElements/widgets/OxaFrame.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaListView.h>
+#include <UiElements/widgets/OxaListWidget.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 #include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaNotification.h>
@@ -33,6 +35,7 @@
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTimeEdit.h>
 #include <UiElements/widgets/OxaToggleButton.h>
+#include <UiElements/widgets/OxaTreeView.h>
 #include <UiElements/widgets/OxaUnderlineButton.h>
 #include <UiElements/widgets/OxaVMenu.h>
 #include <UiElements/widgets/OxaWidget.h>
@@ -169,7 +172,7 @@ private:
         note("palette", &Widget::setPalette);
         note("styleSheet", &Widget::setStyleSheet);
         note("toolTip", &Widget::setToolTip);
-        note("visible", &Widget::setVisible);
+        // Not setVisible(), which is virtual: Qt's property calls what replaces it.
     }
 
     template <typename Widget>
@@ -400,6 +403,19 @@ void addMenus()
     addRow<OxaMenu, QMenu>(themeBlock + fontBlock, {});
 }
 
+void addViews()
+{
+    addRow<OxaListView, QListView>(themeBlock + fontBlock, {});
+    addRow<OxaTreeView, QTreeView>(themeBlock + fontBlock, {});
+    addRow<OxaListWidget, QListWidget>(themeBlock + fontBlock,
+                                       { "bool itemWidgetsDynamicLoadingEnabled",
+                                         "bool scrollToBottomAutomatically",
+                                         "int loadExtraItemsNumber",
+                                         "signal updateItemWidget(QListWidgetItem* item)",
+                                         "signal updateItemSize(QListWidgetItem* item)",
+                                         "signal visibleUpdated()" });
+}
+
 void addRanges()
 {
     addRow<OxaDateTimeEdit, QDateTimeEdit>(themeBlock + fontBlock, {});
@@ -454,6 +470,7 @@ void tst_WidgetMembers::addRows()
     addContainers();
     addMenus();
     addRanges();
+    addViews();
     addNoticesAndMovies();
 }
 
