@@ -6,6 +6,8 @@
 #include <QMovie>
 #include <QPointer>
 
+#include <utility>
+
 namespace {
 
 constexpr QSize unusedPixels(10, 10);
@@ -46,11 +48,11 @@ void OxaGifLabel::frameChanged(int frame)
 {
     if (frame == m_movie->frameCount() - 1) {
         const QPointer<OxaGifLabel> self(this); // A slot may delete the label.
-        m_isEmittingFinished = true;
+        const bool wasEmitting = std::exchange(m_isEmittingFinished, true);
         Q_EMIT finishedPlaying();
         if (!self)
             return;
-        m_isEmittingFinished = false;
+        m_isEmittingFinished = wasEmitting; // A slot may have started the image again.
     }
     if (m_movie->isValid())
         setPixmap(WidgetParts::fitted(m_movie->currentPixmap(), size() - unusedPixels,

@@ -23,7 +23,8 @@ public:
     /// action of popupAt().
     OxaMenu(QMenu *other, QWidget *parent);
 
-    /// The same without a parent, for a menu that does not follow changes of the theme type.
+    /// The same without a parent, for a menu that does not follow changes of the theme type. A
+    /// QMenu as the only argument is \a other, not the parent.
     explicit OxaMenu(QMenu *other);
 
     // QMenu's other forms. An action that they add does not become the first one.

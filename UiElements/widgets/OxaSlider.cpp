@@ -9,7 +9,7 @@ namespace {
 
 constexpr int handleLength = 18; ///< Pixels along each side.
 
-/// Returns the square around the handle. Styles have always been told of one that is not mirrored.
+/// Returns the square around the handle. Not mirrored: the application's style relies on that.
 QRect handleRect(const QSlider &slider)
 {
     const bool isHorizontal = slider.orientation() == Qt::Horizontal;

@@ -21,7 +21,8 @@ class QPushButton;
 ///
 /// Where there is no tab at an index, setters do nothing and getters return an empty value.
 ///
-/// A slot may delete the bar or its tabs, but not a slot of a tab's toggled(), see OxaPushButton.
+/// A slot may delete the bar, or remove tabs by removeTab(), but not a slot of a tab's toggled(),
+/// see OxaPushButton. A tab that is deleted otherwise leaves currentIndex() as it is.
 class UIELEMENTS_EXPORT OxaTabBar : public ContainerWidget
 {
     Q_OBJECT

@@ -60,7 +60,7 @@ OxaProperties::SvgPushButtonWidget<OxaSvgPushButton> OxaVMenu::addMenuItem(
     button->setSvgIconAlignment(OxaEnum::Alignment::Left);
     button->setSvgIconPadding(QMargins(itemPadding, 0, itemPadding, 0));
     if (m_layout->count() == 0) {
-        m_firstItem = button;
+        m_passesFocusOn = true;
         setFocusProxy(button);
     }
     button->installEventFilter(this);
@@ -115,12 +115,15 @@ void OxaVMenu::addSpacer(int height)
 void OxaVMenu::addWidget(QWidget *widget, int stretch, Qt::Alignment alignment)
 {
     m_layout->addWidget(widget, stretch, alignment);
+    if (widget)
+        widget->installEventFilter(this);
 }
 
 int OxaVMenu::count() const { return m_layout->count(); }
 
 void OxaVMenu::clear()
 {
+    m_passesFocusOn = false;
     while (const std::unique_ptr<QLayoutItem> item { m_layout->takeAt(0) })
         delete item->widget();
 }
@@ -147,7 +150,7 @@ void OxaVMenu::setBorderRadius(int radius)
 
 bool OxaVMenu::eventFilter(QObject *watched, QEvent *event)
 {
-    if (FocusStop::isAffectedBy(*event) && m_firstItem)
+    if (FocusStop::isAffectedBy(*event) && m_passesFocusOn)
         setFocusProxy(FocusStop::firstIn(*m_layout));
     return OxaWidget::eventFilter(watched, event);
 }
@@ -158,4 +161,5 @@ void OxaVMenu::addLimited(QWidget *widget)
     widget->setMaximumWidth(maximumWidth());
     widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_layout->addWidget(widget);
+    widget->installEventFilter(this);
 }

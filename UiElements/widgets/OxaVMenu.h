@@ -4,8 +4,6 @@
 #include <UiElements/widgets/OxaProperties.h>
 #include <UiElements/widgets/OxaWidget.h>
 
-#include <QPointer>
-
 #include <functional>
 
 class OxaSeparator;
@@ -81,5 +79,5 @@ private:
     void addLimited(QWidget *widget);
 
     QVBoxLayout *const m_layout;
-    QPointer<QWidget> m_firstItem; ///< That of a menu that was empty.
+    bool m_passesFocusOn = false; ///< An item was the first to be added.
 };

@@ -11,6 +11,8 @@
 #include <QMovie>
 #include <QSignalSpy>
 
+#include <utility>
+
 namespace {
 
 /// An OxaGifLabel on a screen of any ratio.
@@ -328,13 +330,16 @@ void tst_OxaGifLabel::letsASlotStopOrRestartIt()
 void tst_OxaGifLabel::survivesItsDeletionAtTheLastFrame_data()
 {
     QTest::addColumn<int>("frames");
-    QTest::newRow("which a timer shows") << 2;
-    QTest::newRow("which startPlaying() shows") << 1;
+    QTest::addColumn<bool>("playsAgain");
+    QTest::newRow("which a timer shows") << 2 << false;
+    QTest::newRow("which startPlaying() shows") << 1 << false;
+    QTest::newRow("which a slot has started again") << 1 << true;
 }
 
 void tst_OxaGifLabel::survivesItsDeletionAtTheLastFrame()
 {
     QFETCH(const int, frames);
+    QFETCH(bool, playsAgain);
     GifFiles::Gif image = loopingGif();
     image.frames.resize(std::size_t(frames));
     const QPointer<GifLabel> label = new GifLabel;
@@ -342,8 +347,14 @@ void tst_OxaGifLabel::survivesItsDeletionAtTheLastFrame()
     label->setGifPath(gif(image));
     bool isMovieThere = false;
     connect(label, &OxaGifLabel::finishedPlaying, this, [&] {
-        delete label;
-        isMovieThere = movie;
+        if (std::exchange(playsAgain, false)) {
+            label->stopPlaying();
+            label->startPlaying();
+        }
+        if (label) {
+            delete label;
+            isMovieThere = movie;
+        }
     });
     label->startPlaying();
     QTRY_VERIFY(!label);

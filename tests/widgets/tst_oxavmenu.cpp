@@ -40,6 +40,7 @@ private Q_SLOTS:
     void givesTheFocusToItsFirstItem();
     void keepsTheFocusIfSomethingElseComesFirst_data();
     void keepsTheFocusIfSomethingElseComesFirst();
+    void passesTheFocusOnToAnyButtonThatTakesIt();
     void callsTheFunctionOfAnItem();
     void isDeletedInTheFunctionOfAnItem();
     void isClearedInTheFunctionOfAnItem();
@@ -140,6 +141,27 @@ void tst_OxaVMenu::keepsTheFocusIfSomethingElseComesFirst()
         menu.addSectionTitle();
     menu.addMenuItem(&doNothing);
     QVERIFY(!menu.focusProxy());
+}
+
+void tst_OxaVMenu::passesTheFocusOnToAnyButtonThatTakesIt()
+{
+    QWidget window;
+    window.resize(300, 300);
+    OxaVMenu menu(&window);
+    menu.addMenuItem(doNothing);
+    OxaSvgPushButton *second = menu.addButton();
+    QPushButton third;
+    menu.addWidget(&third, 0, {});
+    window.show();
+    QPointer<QWidget> first = menu.focusProxy();
+    first->hide();
+    QCOMPARE(menu.focusProxy(), second);
+    second->hide();
+    QCOMPARE(menu.focusProxy(), &third);
+    delete first;
+    second->show();
+    QCOMPARE(menu.focusProxy(), second);
+    third.setParent(nullptr);
 }
 
 void tst_OxaVMenu::callsTheFunctionOfAnItem()
