@@ -238,12 +238,11 @@ int OxaListWidget::lastVisibleItemIndex() const
     return row;
 }
 
-/// Also says so of rows that Qt has not laid out yet, as in batches. A row without a height has a
-/// width, but its place is not that on screen.
+/// Never says so of a row without height, whose place Qt does not give as that on screen.
 bool OxaListWidget::isBelowViewport(const QListWidgetItem *item) const
 {
     const QRect rect = visualItemRect(item);
-    return rect.isValid() ? rect.top() > viewport()->rect().bottom() : rect.width() == 0;
+    return rect.isValid() && rect.top() > viewport()->rect().bottom();
 }
 
 /// Counts \a item as loaded afterwards, unless a slot has removed it, and does the layout that a

@@ -175,6 +175,12 @@ const Step steps[] = {
           list.scrollTo(52);
       },
       "5 6", "1 2 3 4 5 6" },
+    { "a row without height, which does not end the walk",
+      [](LoadedList &list) {
+          list.item(6)->setSizeHint(QSize(10, 0));
+          list.scrollTo(100);
+      },
+      "5 6 7 8 9 10", "5 6 7 8 9 10" },
     { "a row that is not as wide as the view",
       [](LoadedList &list) {
           list.item(5)->setSizeHint(QSize(0, 20));
