@@ -26,6 +26,7 @@ public:
         setFont(other.font());
         view()->setObjectName(other.view()->objectName());
         view()->window()->setWindowFlags(other.view()->window()->windowFlags());
+        view()->setVerticalScrollBarPolicy(other.view()->verticalScrollBarPolicy());
         view()->installEventFilter(this);
         setSheets();
     }
