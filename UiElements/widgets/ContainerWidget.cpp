@@ -69,8 +69,8 @@ bool ContainerWidget::focusNextPrevChild(bool next)
                                              m_layout ? m_layout.data() : layout());
 }
 
-/// Returns whether the key ends here. One that moves the focus is swallowed only while an item has
-/// it, even if it is also among the swallowed keys of an earlier layout.
+/// Returns whether the key ends here. A key that moves the focus passes on while no item has the
+/// focus, also if an earlier layout swallowed it.
 bool ContainerWidget::handleKey(QKeyEvent *event)
 {
     if (event->key() == m_previousKey || event->key() == m_nextKey)

@@ -44,7 +44,7 @@ public:
     void setAccessibleMessage(const QString &message);
 
     /// True unless the focus has moved from one OxaPushButton to another since it came in. Tab and
-    /// Backtab out of the container make it true again.
+    /// Backtab out of the container make it true again; leaving in another way does not.
     bool sayAcceleratorInfo() const;
 
 protected:

@@ -9,7 +9,7 @@
 namespace {
 
 constexpr double shownOpacity = 1.0;
-constexpr double fadeStartOpacity = 0.9; // The fade begins with a step, so that it is noticed.
+constexpr double fadeStartOpacity = 0.9; // Meant so: the fade begins with a step.
 
 } // namespace
 

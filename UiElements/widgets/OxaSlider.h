@@ -9,9 +9,9 @@
 /// A slider that takes part in theming. The style paints it. While it has the focus by keyboard, it
 /// has the application's style draw a focus frame around the place of a handle of 18 by 18 pixels.
 ///
-/// That place is counted from the left or from the top: with right-to-left layout and in vertical
-/// sliders it is not where Qt has the handle, except in the middle, unless the appearance is
-/// inverted. It has no font token.
+/// The place is that of a slider from left to right, or from top to bottom: with right-to-left
+/// layout, and in vertical sliders that are not inverted, it does not follow Qt's handle. It has no
+/// font token.
 class UIELEMENTS_EXPORT OxaSlider : public QSlider
 {
     Q_OBJECT

@@ -107,7 +107,7 @@ void OxaTabBar::removeAllTabs()
     blockSignals(true);
     while (count() > 0)
         removeTab(0);
-    // Not as it was before: that no tab is left is always told.
+    // Also if the caller had blocked them: that no tab is left is always told.
     blockSignals(false);
     Q_EMIT currentChanged(m_currentIndex);
 }

@@ -27,8 +27,8 @@ public:
 
     /// Adds an item whose click calls \a callback, which may delete the menu, and returns it. It is
     /// at least 240 by 40 pixels, in the sets "mainList-item" and "oxa-menuItemButton-text" and the
-    /// menu's font. In an empty menu it takes the focus that the menu is given,
-    /// or, while it is hidden or disabled, the first button that is neither.
+    /// menu's font. In an empty menu it takes the focus that the menu is given, or, while it is
+    /// hidden or disabled, the first button that is neither.
     OxaProperties::SvgPushButtonWidget<OxaSvgPushButton> addMenuItem(
             std::function<void()> callback);
 
@@ -68,8 +68,8 @@ public:
     /// Sets the background to the set called \a name and keeps the rest of the style text.
     void setBackgroundColorSet(const QString &name);
 
-    /// Sets the radius of all corners in pixels, 0 to 255, with a border of 1 pixel on all sides,
-    /// and keeps the rest of the style text.
+    /// Sets the radius of all corners in pixels, 0 to 255 (more wraps around), with a border of 1
+    /// pixel on all sides, and keeps the rest of the style text.
     void setBorderRadius(int radius);
 
 protected:
