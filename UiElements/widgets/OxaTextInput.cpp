@@ -102,9 +102,9 @@ void OxaTextInput::setPasswordIcons(const QString &shownIcon, const QString &mas
 void OxaTextInput::setPasswordField(bool isPasswordField)
 {
     m_isPasswordField = isPasswordField;
-    showOrHideActionButtons();
     const QPointer<OxaTextInput> self(this);
-    if (m_lineEdit)
+    showOrHideActionButtons();
+    if (self && m_lineEdit)
         m_lineEdit->setEchoMode(isPasswordField ? QLineEdit::Password : QLineEdit::Normal);
     // It may have been shown before.
     if (self && isPasswordField)

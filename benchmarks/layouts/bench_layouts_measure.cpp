@@ -56,7 +56,7 @@ void measureManyItems(benchmark::State &state, Tiles::Kind kind)
                                  benchmark::DoNotOptimize(few.layout->heightForWidth(width));
                          },
                          10);
-    comparison.ratioAtMost(3.0);
+    comparison.ratioAtMost(2.0);
 }
 
 const bool areAdded = [] {

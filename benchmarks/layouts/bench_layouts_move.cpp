@@ -128,7 +128,7 @@ void moveNothingOfManyItems(benchmark::State &state, Tiles::Kind kind)
                              for (int i = 0; i < 10; ++i)
                                  few.layOutAgain();
                          });
-    comparison.ratioAtMost(3.0);
+    comparison.ratioAtMost(2.0);
 }
 
 const bool areAdded = [] {

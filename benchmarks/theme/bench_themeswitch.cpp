@@ -157,7 +157,7 @@ BENCHMARK(switchAll)
         ->UseManualTime();
 
 /// Leaves are what Qt is fastest with, so that the expansion of their texts shows.
-void switchLeaves(benchmark::State &state) { switchTheme(state, StyledWidgets::Leaves, 1.25); }
+void switchLeaves(benchmark::State &state) { switchTheme(state, StyledWidgets::Leaves, 1.05); }
 BENCHMARK(switchLeaves)
         ->Name("theme switch of 900 leaves/QWidget::setStyleSheet")
         ->Iterations(15)

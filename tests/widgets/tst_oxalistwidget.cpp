@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
+
+// Longer than sources are: the states of a list and the passes over it are one table.
+
 #include "LoadedList.h"
 #include "support/TestApplication.h"
 
