@@ -8,6 +8,7 @@
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaRadioButton.h>
+#include <UiElements/widgets/OxaSlider.h>
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
@@ -23,6 +24,8 @@ namespace {
 constexpr int radius = 6;
 constexpr int searchWidth = 320;
 constexpr int comboHeight = 34;
+constexpr int sliderHeight = 24;
+constexpr int sliderFrameRadius = 9;
 constexpr QSize checkBoxSize(16, 16);
 constexpr OxaFont::Token token = OxaFont::Token::BodySecondary;
 const QString placeholderColors = QStringLiteral("gallery-field-placeholder-text");
@@ -77,6 +80,26 @@ void colorLinks(QTextEdit *area)
             link.mergeCharFormat(format);
         }
     }
+}
+
+QString sliderLook()
+{
+    // In a style sheet, sub-page is the part left of the handle in both directions.
+    const QString filledPage = QGuiApplication::isRightToLeft() ? QStringLiteral("add-page")
+                                                                : QStringLiteral("sub-page");
+    return QStringLiteral("OxaSlider { background: transparent; border: none; padding: 0 2px; }"
+                          // The frame of the focus is around the handle.
+                          "OxaSlider:focus { outline: none; }"
+                          "OxaSlider::groove:horizontal { height: 4px; border-radius: 2px;"
+                          " background: $(gallery-slider-track); }"
+                          "OxaSlider::%1:horizontal { height: 4px; border-radius: 2px;"
+                          " background: $(gallery-slider-fill); }"
+                          "OxaSlider::handle:horizontal { width: 12px; margin: -5px 0;"
+                          " border-radius: 7px; background: $(gallery-slider-handle);"
+                          " border: 1px solid $(gallery-slider-fill); }"
+                          "OxaSlider::handle:horizontal:hover {"
+                          " background: $(gallery-slider-handle.hovered); }")
+            .arg(filledPage);
 }
 
 template <typename Area>
@@ -226,6 +249,19 @@ OxaRadioButton *Fields::radioButton(const QString &text, QWidget *parent)
             " border: 5px solid $(checkbox-checked-background);"
             " background: $(oxa-reaction-list-item-gradient-background-end-color); }"));
     return button;
+}
+
+OxaSlider *Fields::slider(int minimum, int maximum, int value, QWidget *parent)
+{
+    auto *slider = new OxaSlider(Qt::Horizontal, parent);
+    slider->setRange(minimum, maximum);
+    slider->setValue(value);
+    slider->setMinimumHeight(sliderHeight);
+    slider->setProperty("focusBorderRadius", sliderFrameRadius);
+    const auto applyLook = [slider] { slider->setCSS(sliderLook()); };
+    QObject::connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, slider, applyLook);
+    applyLook();
+    return slider;
 }
 
 OxaTextEdit *Fields::edit(const QString &name, QWidget *parent)

@@ -8,6 +8,7 @@ class OxaCheckBox;
 class OxaComboBox;
 class OxaLineEdit;
 class OxaRadioButton;
+class OxaSlider;
 class OxaTextBrowser;
 class OxaTextEdit;
 class OxaTextInput;
@@ -45,6 +46,9 @@ OxaCheckBox *checkBox(const QString &text, QWidget *parent = nullptr);
 
 /// Returns a radio button with \a text.
 OxaRadioButton *radioButton(const QString &text, QWidget *parent = nullptr);
+
+/// Returns a horizontal slider from \a minimum to \a maximum, at \a value.
+OxaSlider *slider(int minimum, int maximum, int value, QWidget *parent = nullptr);
 
 /// Returns a field for rich text.
 OxaTextEdit *edit(const QString &name, QWidget *parent = nullptr);

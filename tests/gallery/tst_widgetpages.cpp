@@ -6,6 +6,7 @@
 #include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <QMetaProperty>
 
@@ -17,7 +18,6 @@
 #include <support/Pixels.h>
 #include <widgets/CodeEdit.h>
 #include <widgets/SegmentedControl.h>
-#include <widgets/Slider.h>
 
 namespace {
 
@@ -194,9 +194,9 @@ void tst_WidgetPages::hasAControlForEachProperty()
 void tst_WidgetPages::beginsWithTheValuesOfTheWidgets()
 {
     const Sample card("svg-widgets", 2);
-    QCOMPARE(card.control<Slider>("anchorPadding")->value(),
+    QCOMPARE(card.control<OxaSlider>("anchorPadding")->value(),
              card.inUse()->property("anchorPadding").toInt());
-    QCOMPARE(card.control<Slider>("svgIconSize")->value(),
+    QCOMPARE(card.control<OxaSlider>("svgIconSize")->value(),
              card.inUse()->property("svgIconSize").toSize().width());
     QCOMPARE(card.control<SegmentedControl>("textHorAlign")->currentIndex(), 1);
     QCOMPARE(card.control<SegmentedControl>("svgIcon")->currentIndex(), 1);
@@ -256,8 +256,8 @@ void tst_WidgetPages::setsAPropertyOfAllWidgets()
 void tst_WidgetPages::setsTheCoordinatesOfAPoint()
 {
     const Sample card("svg-widgets", 0);
-    card.control<Slider>("svgIconBottomRightPadding, across")->setValue(5);
-    card.control<Slider>("svgIconBottomRightPadding, down")->setValue(7);
+    card.control<OxaSlider>("svgIconBottomRightPadding, across")->setValue(5);
+    card.control<OxaSlider>("svgIconBottomRightPadding, down")->setValue(7);
     for (const QVariant &padding : card.values("svgIconBottomRightPadding"))
         QCOMPARE(padding.toPoint(), QPoint(5, 7));
 }
@@ -265,8 +265,8 @@ void tst_WidgetPages::setsTheCoordinatesOfAPoint()
 void tst_WidgetPages::setsThePaddingOfAnArrow()
 {
     const Sample card("forms", 2);
-    QCOMPARE(card.control<Slider>("svgDropdownIconPadding")->value(), 5);
-    card.control<Slider>("svgDropdownIconPadding")->setValue(9);
+    QCOMPARE(card.control<OxaSlider>("svgDropdownIconPadding")->value(), 5);
+    card.control<OxaSlider>("svgDropdownIconPadding")->setValue(9);
     for (const QVariant &padding : card.values("svgDropdownIconPadding"))
         QCOMPARE(padding.toInt(), 9);
 }
@@ -291,16 +291,16 @@ void tst_WidgetPages::hidesTheIcons()
 void tst_WidgetPages::showsWhatAnotherControlChanged()
 {
     const Sample card("svg-widgets", 2);
-    card.control<Slider>("anchorPadding")->setValue(17);
-    QCOMPARE(card.control<Slider>("anchorSvgOffset, across")->value(), 17);
-    card.control<Slider>("anchorSvgOffset, down")->setValue(3);
+    card.control<OxaSlider>("anchorPadding")->setValue(17);
+    QCOMPARE(card.control<OxaSlider>("anchorSvgOffset, across")->value(), 17);
+    card.control<OxaSlider>("anchorSvgOffset, down")->setValue(3);
     QCOMPARE(card.values("anchorSvgOffset").front().toPoint(), QPoint(17, 3));
 }
 
 void tst_WidgetPages::keepsAPillRoundAtAnyHeight()
 {
     const Sample card("svg-widgets", 3);
-    card.control<Slider>("setFixedHeight()")->setValue(48);
+    card.control<OxaSlider>("setFixedHeight()")->setValue(48);
     QTRY_COMPARE(card.inUse()->height(), 48);
     QVERIFY2(card.inUse()->styleSheet().contains(QLatin1String("border-radius:24px")),
              qPrintable(card.inUse()->styleSheet()));
