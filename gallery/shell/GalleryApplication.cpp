@@ -9,6 +9,9 @@
 #include "looks/TextSettings.h"
 #include "looks/ThemeSwitcher.h"
 
+#include <UiElements/app/OxaAppSignals.h>
+#include <UiElements/widgets/OxaMainWindow.h>
+
 #include <QProcess>
 #include <QTextStream>
 
@@ -105,4 +108,9 @@ void GalleryApplication::restart()
     quit();
 }
 
-void GalleryApplication::registerMainWindowShortcuts(OxaMainWindow *window) { Q_UNUSED(window) }
+void GalleryApplication::registerMainWindowShortcuts(OxaMainWindow *window)
+{
+    // They work in all windows, and belong to the first.
+    if (!getAppSignals()->shortcutExists(OxaAppSignals::Shortcut::OpenGlobalSearch))
+        getAppSignals()->registerShortcuts(window, OxaShortcut::All);
+}

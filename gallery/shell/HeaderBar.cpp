@@ -36,8 +36,7 @@ HeaderBar::HeaderBar(ThemeSwitcher *themeSwitcher, TextSettings *textSettings, Q
       m_textSettings(textSettings),
       m_controls(new WrapLayout(Metrics::spacing))
 {
-    setCSS(QStringLiteral("$backgroundColors: gallery-header-background;"
-                          "$borderColors: gallery-divider; $borders: bottom;"));
+    setCSS(QStringLiteral("$backgroundColors: gallery-header-background;"));
     OxaLabel *title = Labels::heading(tr("UiElements"), this);
     // The controls begin where the page below them does.
     title->setMinimumWidth(Metrics::sidebarWidth + Metrics::margin - Metrics::gap);

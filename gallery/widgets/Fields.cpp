@@ -28,6 +28,7 @@ constexpr int sliderHeight = 24;
 constexpr int sliderFrameRadius = 9;
 constexpr QSize checkBoxSize(16, 16);
 constexpr OxaFont::Token token = OxaFont::Token::BodySecondary;
+const QString searchName = QStringLiteral("search");
 const QString placeholderColors = QStringLiteral("gallery-field-placeholder-text");
 
 QString icon(const char *name) { return OxaSvgRenderer::resourcePath(QString::fromLatin1(name)); }
@@ -178,6 +179,7 @@ OxaTextInput *Fields::password(const QString &name, QWidget *parent)
 OxaTextInput *Fields::search(const QString &hint, QWidget *parent)
 {
     OxaTextInput *field = input(QObject::tr("Search"), parent);
+    field->setObjectName(searchName);
     field->setSearchIcon(icon("search_16"));
     field->setPlaceholderText(hint);
     field->setFixedWidth(searchWidth);
@@ -186,6 +188,11 @@ OxaTextInput *Fields::search(const QString &hint, QWidget *parent)
             field->setText(QString());
     });
     return field;
+}
+
+OxaTextInput *Fields::searchIn(const QWidget &parent)
+{
+    return parent.findChild<OxaTextInput *>(searchName);
 }
 
 void Fields::clear(OxaTextInput *field)

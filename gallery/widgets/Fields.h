@@ -35,6 +35,9 @@ OxaTextInput *password(const QString &name, QWidget *parent = nullptr);
 /// Returns a field for searching a list. Its \a hint says what is searched, and Escape clears it.
 OxaTextInput *search(const QString &hint, QWidget *parent = nullptr);
 
+/// Returns the first field for searching inside of \a parent, or null.
+OxaTextInput *searchIn(const QWidget &parent);
+
 /// Clears \a field and gives it the focus.
 void clear(OxaTextInput *field);
 

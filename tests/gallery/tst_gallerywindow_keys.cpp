@@ -4,17 +4,22 @@
 
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextInput.h>
 
 #include <QAbstractItemView>
+#include <QPointer>
 
 #include <shell/GalleryWindow.h>
 #include <shell/NavigationList.h>
 #include <shell/PageRegistry.h>
 #include <shell/PageStack.h>
+#include <shell/ShortcutsDialog.h>
 #include <shell/TabOrder.h>
 #include <support/RealInput.h>
+#include <widgets/CodeEdit.h>
 #include <widgets/TableView.h>
 
 namespace {
@@ -56,6 +61,9 @@ public:
 
     QWidget *page() const { return window.findChild<PageStack *>()->currentWidget(); }
 
+    /// Returns the title of the current page.
+    QString title() const { return page()->findChild<OxaLabel *>()->text(); }
+
     GalleryWindow window;
     bool isActive = false;
 };
@@ -73,6 +81,13 @@ private Q_SLOTS:
     void listsTheStopsThatTabMakes();
     void goesBetweenThePanesByF6();
     void choosesTheFirstAndTheLastPageByHomeAndEnd();
+    void goesToTheNeighboursOfAPage();
+    void goesBackAndForwardThroughPages();
+    void goesToTheSearchOfAPage();
+    void scalesMessages();
+    void hidesTheNavigation();
+    void emitsTheSignalOfAShortcut();
+    void listsTheShortcutsInADialogThatEscapeCloses();
     void clearsASearchByEscape();
     void fillsInAFormByKeys();
     void showsTheCurrentCellOfATable();
@@ -145,6 +160,103 @@ void tst_GalleryWindow_keys::choosesTheFirstAndTheLastPageByHomeAndEnd()
              QStringLiteral("SignalsPage"));
     shown.type("Home");
     QCOMPARE(shown.focusedText(), QStringLiteral("Colours"));
+}
+
+void tst_GalleryWindow_keys::goesToTheNeighboursOfAPage()
+{
+    const Shown shown("labels");
+    QVERIFY(shown.isActive);
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("alt+Down") }));
+    QTRY_COMPARE(shown.title(), QStringLiteral("Buttons"));
+    const QStringList twiceUp { QStringLiteral("alt+Up"), QStringLiteral("alt+Up") };
+    QVERIFY(RealInput::typeKeys(twiceUp));
+    QTRY_COMPARE(shown.title(), QStringLiteral("Icons"));
+}
+
+void tst_GalleryWindow_keys::goesBackAndForwardThroughPages()
+{
+    Shown shown("labels");
+    QVERIFY(shown.isActive);
+    shown.window.showPage(QStringLiteral("focus"));
+    shown.window.showPage(QStringLiteral("forms"));
+    const auto titleAfter = [&shown](const char *key, const char *title) {
+        return RealInput::typeKeys({ QString::fromLatin1(key) })
+                && QTest::qWaitFor([&] { return shown.title() == QLatin1String(title); }, 2000);
+    };
+    QVERIFY(titleAfter("alt+Left", "Focus"));
+    QVERIFY(titleAfter("alt+Left", "Labels"));
+    QVERIFY(titleAfter("alt+Right", "Focus"));
+    shown.window.showPage(QStringLiteral("icons"));
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("alt+Right") }));
+    QVERIFY(titleAfter("alt+Left", "Focus"));
+}
+
+void tst_GalleryWindow_keys::goesToTheSearchOfAPage()
+{
+    const Shown shown("colours");
+    QVERIFY(shown.isActive);
+    QVERIFY(shown.type("ctrl+f"));
+    QCOMPARE(shown.window.focusWidget()->accessibleName(), QStringLiteral("Search"));
+    QVERIFY(shown.page()->isAncestorOf(shown.window.focusWidget()));
+}
+
+void tst_GalleryWindow_keys::scalesMessages()
+{
+    const Shown shown("labels");
+    QVERIFY(shown.isActive);
+    const SegmentedControl &view = shown.control("Messaging view");
+    QCOMPARE(view.currentIndex(), 1);
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("ctrl+equal"), QStringLiteral("ctrl+plus") }));
+    QTRY_COMPARE(view.currentIndex(), 3);
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("ctrl+plus"), QStringLiteral("ctrl+minus"),
+                                  QStringLiteral("ctrl+minus") }));
+    QTRY_COMPARE(view.currentIndex(), 1);
+}
+
+void tst_GalleryWindow_keys::hidesTheNavigation()
+{
+    const Shown shown("colours");
+    QVERIFY(shown.isActive);
+    const auto *navigation = shown.window.findChild<NavigationList *>();
+    QVERIFY(navigation->isAncestorOf(shown.type("F6")));
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("alt+shift+q") }));
+    QTRY_VERIFY(!navigation->isVisible());
+    QVERIFY(shown.page()->width() == shown.window.width());
+    QWidget *const inPage = shown.type("F6");
+    QVERIFY(!navigation->isAncestorOf(inPage));
+    QVERIFY(shown.type("F6") != inPage);
+    QVERIFY(!navigation->isAncestorOf(shown.window.focusWidget()));
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("alt+shift+q") }));
+    QTRY_VERIFY(navigation->isVisible());
+}
+
+void tst_GalleryWindow_keys::emitsTheSignalOfAShortcut()
+{
+    const Shown shown("signals");
+    QVERIFY(shown.isActive);
+    const auto *log = shown.page()->findChild<CodeEdit *>();
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("ctrl+m") }));
+    QTRY_VERIFY(log->toPlainText().contains(QLatin1String("toggleAudioMute()")));
+}
+
+void tst_GalleryWindow_keys::listsTheShortcutsInADialogThatEscapeCloses()
+{
+    const Shown shown("labels");
+    QVERIFY(shown.isActive);
+    QWidget *const opener = shown.window.focusWidget();
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("ctrl+slash") }));
+    QTRY_VERIFY(shown.window.findChild<ShortcutsDialog *>());
+    const QPointer<ShortcutsDialog> dialog = shown.window.findChild<ShortcutsDialog *>();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    const auto *list = dialog->findChild<OxaTextBrowser *>();
+    QVERIFY(list->toPlainText().contains(QLatin1String("Ctrl+Shift+K")));
+    QVERIFY(RealInput::send({ QStringLiteral("type"), QStringLiteral("diagnos") }));
+    QTRY_COMPARE(list->toPlainText(),
+                 QStringLiteral("General\nOpen diagnostics dialog\nCtrl+Alt+Shift+D\n"));
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("Escape") }));
+    QTRY_VERIFY(!dialog);
+    QTRY_VERIFY(shown.window.isActiveWindow());
+    QTRY_COMPARE(QApplication::focusWidget(), opener);
 }
 
 void tst_GalleryWindow_keys::clearsASearchByEscape()
