@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Controls.h"
 #include "GalleryTest.h"
 
 #include <UiElements/widgets/OxaSlider.h>
@@ -19,6 +20,7 @@
 #include <support/Pixels.h>
 #include <widgets/Buttons.h>
 #include <widgets/Fields.h>
+#include <widgets/ListView.h>
 #include <widgets/ScrollArea.h>
 #include <widgets/SegmentedControl.h>
 
@@ -106,10 +108,11 @@ private Q_SLOTS:
     void stopsAtAPageOnlyWhereItScrolls();
     void keepsCardsAsWideBesideAScrollBar();
     void stylesEveryScrollBar();
-    void usesTheLibrarysControlsForForms();
+    void usesTheLibrarysWidgets();
     void framesTheHandleOfASlider_data();
     void framesTheHandleOfASlider();
     void bringsTheCurrentPageIntoSight();
+    void keepsTheTitlesOfPagesInSight();
     void ignoresAnUnknownPage();
     void stopsInTheOrderOnScreen_data();
     void stopsInTheOrderOnScreen();
@@ -147,13 +150,8 @@ void tst_GalleryWindow::marksTheCurrentPage()
 {
     GalleryWindow window;
     window.showPage(QStringLiteral("labels"));
-    const auto buttons = window.findChildren<OxaToggleButton *>();
-    const auto isLabels = [](const OxaToggleButton *button) {
-        return button->text() == QLatin1String("Labels");
-    };
-    const auto labels = std::find_if(buttons.begin(), buttons.end(), isLabels);
-    QVERIFY(labels != buttons.end());
-    QVERIFY((*labels)->isChecked());
+    QCOMPARE(Controls::called<ListView>(window, "Pages")->currentIndex().data().toString(),
+             QStringLiteral("Labels"));
 }
 
 void tst_GalleryWindow::makesAPageOnceOnly()
@@ -271,11 +269,11 @@ void tst_GalleryWindow::stylesEveryScrollBar()
     }
 }
 
-void tst_GalleryWindow::usesTheLibrarysControlsForForms()
+void tst_GalleryWindow::usesTheLibrarysWidgets()
 {
     const auto window = makeWindow();
-    const QByteArrayList classes = { "QCheckBox", "QComboBox", "QLineEdit", "QRadioButton",
-                                     "QTextEdit" };
+    const QByteArrayList classes = { "QCheckBox", "QComboBox", "QLineEdit",      "QRadioButton",
+                                     "QTextEdit", "QSlider",   "QStackedWidget", "QSplitter" };
     QSet<QByteArray> found;
     const auto widgets = window->findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {
@@ -328,9 +326,22 @@ void tst_GalleryWindow::bringsTheCurrentPageIntoSight()
     GalleryApplication::get()->textSettings()->setFontScale(1.5F);
     ShownWindow window;
     window.showPage(pageNames().last());
-    const auto *area = window.findChild<NavigationList *>()->findChild<ScrollArea *>();
-    QVERIFY(area->verticalScrollBar()->maximum() > 0);
-    QCOMPARE(area->verticalScrollBar()->value(), area->verticalScrollBar()->maximum());
+    const QScrollBar *bar = Controls::called<ListView>(window, "Pages")->verticalScrollBar();
+    QVERIFY(bar->maximum() > 0);
+    QCOMPARE(bar->value(), bar->maximum());
+}
+
+void tst_GalleryWindow::keepsTheTitlesOfPagesInSight()
+{
+    const ShownWindow window;
+    const auto *navigation = window.findChild<NavigationList *>();
+    QCOMPARE(navigation->width(), Metrics::sidebarWidth);
+    for (const float scale : { 1.5F, 1.0F }) {
+        GalleryApplication::get()->textSettings()->setFontScale(scale);
+        QCoreApplication::processEvents();
+        const auto *list = Controls::called<ListView>(window, "Pages");
+        QVERIFY(list->viewport()->width() >= list->sizeHintForColumn(0));
+    }
 }
 
 void tst_GalleryWindow::ignoresAnUnknownPage()
