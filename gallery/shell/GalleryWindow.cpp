@@ -10,6 +10,7 @@
 #include "looks/Metrics.h"
 #include "looks/TextSettings.h"
 #include "looks/ThemeSwitcher.h"
+#include "widgets/Dividers.h"
 #include "widgets/Fields.h"
 
 #include <UiElements/app/OxaAppSignals.h>
@@ -43,15 +44,6 @@ QString scrollBarStyleText()
             .arg(Metrics::scrollBar);
 }
 
-/// Returns the line below the header.
-OxaSeparator *makeDivider()
-{
-    auto *divider = new OxaSeparator;
-    divider->setColorSetName(QStringLiteral("gallery-divider"));
-    divider->onThemeChanged();
-    return divider;
-}
-
 } // namespace
 
 GalleryWindow::GalleryWindow(QWidget *parent)
@@ -75,10 +67,7 @@ GalleryWindow::GalleryWindow(QWidget *parent)
 QWidget *GalleryWindow::makeContents()
 {
     auto *contents = new OxaWidget(this);
-    auto *splitter = new OxaSplitter(contents);
-    splitter->setCSS(QStringLiteral("OxaSplitter::handle { background: $(gallery-divider); }"));
-    splitter->setHandleWidth(1);
-    splitter->setChildrenCollapsible(false);
+    OxaSplitter *splitter = Dividers::splitter(contents);
     splitter->addWidget(m_navigation);
     splitter->addWidget(m_pages);
     splitter->setStretchFactor(1, 1);
@@ -87,7 +76,7 @@ QWidget *GalleryWindow::makeContents()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(m_header);
-    column->addWidget(makeDivider());
+    column->addWidget(Dividers::line(contents));
     column->addWidget(splitter, 1);
     return contents;
 }

@@ -45,6 +45,7 @@ const std::vector<PageEntry> &pageEntries()
         entry("labels", tr("Labels"), widgets, Pages::makeLabels),
         entry("buttons", tr("Buttons"), widgets, Pages::makeButtons),
         entry("forms", tr("Forms"), widgets, Pages::makeForms),
+        entry("windows", tr("Windows and dialogs"), widgets, Pages::makeWindows),
         entry("svg-widgets", tr("SVG widgets"), widgets, Pages::makeSvgWidgets),
         entry("emoji-text", tr("Emoji text"), widgets, Pages::makeEmojiText),
         entry("lists", tr("Lists"), models, Pages::makeLists),

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ShortcutsDialog.h"
 
-#include "looks/Metrics.h"
-#include "widgets/Buttons.h"
 #include "widgets/Fields.h"
 #include "widgets/Labels.h"
 
@@ -50,29 +48,20 @@ QString listOf(const QString &text)
 
 } // namespace
 
-ShortcutsDialog::ShortcutsDialog(QWidget *parent) : OxaDialog(parent)
+ShortcutsDialog::ShortcutsDialog(QWidget *parent) : Dialog(tr("Keyboard shortcuts"), parent)
 {
-    setWindowTitle(tr("Keyboard shortcuts"));
     setWindowModality(Qt::WindowModal);
-    setCSS(QStringLiteral("$backgroundColors: gallery-window-background;"));
     resize(firstSize);
-
     OxaTextInput *search = Fields::search(tr("Search the shortcuts"), this);
     OxaTextBrowser *list = Fields::browser(windowTitle(), this);
-    OxaPushButton *close = Buttons::make(tr("Close"), this);
     const auto showList = [list, search] { list->setHtml(listOf(search->text().trimmed())); };
     connect(search, &OxaTextInput::textChanged, list, showList);
-    connect(close, &OxaPushButton::clicked, this, &OxaDialog::close);
     showList();
-
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(Metrics::gap, Metrics::gap, Metrics::gap, Metrics::gap);
-    column->setSpacing(Metrics::spacing);
-    column->addWidget(Labels::paragraph(
+    body()->addWidget(Labels::paragraph(
             tr("Each emits a signal, which the page Signals shows. F6 goes from one part of the "
                "window to the next."),
             this));
-    column->addWidget(search);
-    column->addWidget(list, 1);
-    column->addWidget(close, 0, Qt::AlignRight);
+    body()->addWidget(search);
+    body()->addWidget(list, 1);
+    addButton(tr("Close"), &QDialog::reject);
 }

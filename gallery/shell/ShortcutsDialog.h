@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <UiElements/widgets/OxaDialog.h>
+#include "widgets/Dialog.h"
 
 /// A list of the shortcuts that are registered, with a search.
-class ShortcutsDialog : public OxaDialog
+class ShortcutsDialog : public Dialog
 {
     Q_OBJECT
 

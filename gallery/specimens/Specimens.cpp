@@ -57,13 +57,14 @@ QVector<HeldState> heldStates()
 
 } // namespace
 
-Specimens::Specimens(const std::function<QWidget *()> &make, QWidget *parent) : OxaWidget(parent)
+Specimens::Specimens(const std::function<QWidget *()> &make, States states, QWidget *parent)
+    : OxaWidget(parent)
 {
     new WrapLayout(Metrics::spacing, this);
     add(make(), tr("in use"));
     const bool isButton = qobject_cast<QAbstractButton *>(m_widgets.front()) != nullptr;
-    const QVector<HeldState> states = heldStates();
-    for (const HeldState &state : states) {
+    const QVector<HeldState> held = states == States::All ? heldStates() : QVector<HeldState>();
+    for (const HeldState &state : held) {
         if (state.isForButtons && !isButton)
             continue;
         QWidget *widget = make();

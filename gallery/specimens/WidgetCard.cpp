@@ -1,20 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "WidgetCard.h"
 
-#include "Specimens.h"
-#include "pages/signals/SignalWatcher.h"
+#include "SignalLog.h"
 #include "shell/Page.h"
 #include "widgets/Card.h"
-#include "widgets/CodeEdit.h"
 
 #include <UiElements/svg/OxaSvgRenderer.h>
 
 #include <QVBoxLayout>
 
 namespace {
-
-constexpr int logLines = 3;
-constexpr int linesToKeep = 200;
 
 QString tr(const char *text) { return Page::tr(text); }
 
@@ -31,40 +26,20 @@ void addFocus(PropertyControls *controls, QWidget *widget)
     controls->ControlPanel::addChoice(tr("setFocus()"), places, 0, focus);
 }
 
-/// Returns a log of the signals of \a widget, which may change what \a controls show.
-CodeEdit *makeLog(QWidget *widget, PropertyControls *controls)
-{
-    auto *log = new CodeEdit;
-    log->setReadOnly(true);
-    log->setAccessibleName(tr("What it emits"));
-    log->setPlaceholderText(tr("What it emits appears here"));
-    log->setMaximumBlockCount(linesToKeep);
-    log->setMinimumLines(logLines);
-    log->setMaximumHeight(log->minimumHeight());
-    const auto note = [log, controls](const QMetaMethod &signal, const QStringList &arguments) {
-        const QString name = QString::fromLatin1(signal.name());
-        if (name == QLatin1String("cssChanged") || name == QLatin1String("themeTypeChanged"))
-            return;
-        log->appendPlainText(
-                QStringLiteral("%1(%2)").arg(name, arguments.join(QStringLiteral(", "))));
-        controls->refresh();
-    };
-    new SignalWatcher(widget, note, log, QWidget::staticMetaObject.methodCount());
-    return log;
-}
-
 } // namespace
 
 PropertyControls *WidgetCard::add(Page &page, const QString &heading, const QString &explanation,
-                                  const std::function<QWidget *()> &make)
+                                  const std::function<QWidget *()> &make, Specimens::States states)
 {
-    auto *specimens = new Specimens(make);
+    auto *specimens = new Specimens(make, states);
     QWidget *inUse = specimens->widgets().front();
     auto *controls = new PropertyControls(specimens->widgets());
     auto *card = new Card(heading, explanation);
     card->body()->addWidget(specimens);
     card->body()->addWidget(controls);
-    card->body()->addWidget(makeLog(inUse, controls));
+    auto *log = new SignalLog;
+    log->watch(inUse, [controls] { controls->refresh(); });
+    card->body()->addWidget(log);
     page.body()->addWidget(card);
     addFocus(controls, inUse);
     return controls;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "PropertyControls.h"
+#include "Specimens.h"
 
 class Page;
 
@@ -12,7 +13,8 @@ namespace WidgetCard {
 /// Adds a card for the widgets that \a make makes to \a page, and returns its controls, to which
 /// the caller adds those for the properties.
 PropertyControls *add(Page &page, const QString &heading, const QString &explanation,
-                      const std::function<QWidget *()> &make);
+                      const std::function<QWidget *()> &make,
+                      Specimens::States states = Specimens::States::All);
 
 /// Returns \a own and other icons, or none, for a property that names an icon.
 PropertyControls::Choices icons(const PropertyControls::Choice &own);

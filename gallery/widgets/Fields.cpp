@@ -5,6 +5,7 @@
 #include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaDateTimeEdit.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaRadioButton.h>
@@ -13,6 +14,7 @@
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTextInputFactory.h>
+#include <UiElements/widgets/OxaTimeEdit.h>
 
 #include <QAbstractItemView>
 #include <QGuiApplication>
@@ -54,7 +56,8 @@ const OxaTextInputFactory &factory()
 
 /// Keeps the text of \a field on the side where the layout begins, as that of labels. By itself it
 /// goes where its own direction begins.
-void alignToLayout(QLineEdit *field)
+template <typename Field>
+void alignToLayout(Field *field)
 {
     const auto align = [field] {
         const bool isRight = QGuiApplication::isRightToLeft();
@@ -99,8 +102,27 @@ QString sliderLook()
                           " border-radius: 7px; background: $(gallery-slider-handle);"
                           " border: 1px solid $(gallery-slider-fill); }"
                           "OxaSlider::handle:horizontal:hover {"
-                          " background: $(gallery-slider-handle.hovered); }")
+                          " background: $(gallery-slider-handle.hovered); }"
+                          "OxaSlider::%1:horizontal:disabled {"
+                          " background: $(gallery-slider-fill.disabled); }"
+                          "OxaSlider::handle:horizontal:disabled {"
+                          " background: $(gallery-slider-handle.disabled);"
+                          " border-color: $(gallery-slider-fill.disabled); }")
             .arg(filledPage);
+}
+
+template <typename Field, typename Moment>
+Field *makeMoment(const QString &name, const Moment &moment, QWidget *parent)
+{
+    auto *field = new Field(moment, parent);
+    field->setAccessibleName(name);
+    field->template findChild<QLineEdit *>()->setAccessibleName(name);
+    field->setFontToken(token);
+    field->setCSS(Fields::look(Field::staticMetaObject.className(), { 8, 5 }));
+    // In a style sheet their arrows are pictures, which have no colours of the theme.
+    field->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    alignToLayout(field);
+    return field;
 }
 
 template <typename Area>
@@ -269,6 +291,16 @@ OxaSlider *Fields::slider(int minimum, int maximum, int value, QWidget *parent)
     QObject::connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, slider, applyLook);
     applyLook();
     return slider;
+}
+
+OxaDateTimeEdit *Fields::dateTime(const QString &name, const QDateTime &moment, QWidget *parent)
+{
+    return makeMoment<OxaDateTimeEdit>(name, moment, parent);
+}
+
+OxaTimeEdit *Fields::time(const QString &name, const QTime &moment, QWidget *parent)
+{
+    return makeMoment<OxaTimeEdit>(name, moment, parent);
 }
 
 OxaTextEdit *Fields::edit(const QString &name, QWidget *parent)

@@ -6,12 +6,16 @@
 
 class OxaCheckBox;
 class OxaComboBox;
+class OxaDateTimeEdit;
 class OxaLineEdit;
 class OxaRadioButton;
 class OxaSlider;
 class OxaTextBrowser;
 class OxaTextEdit;
 class OxaTextInput;
+class OxaTimeEdit;
+class QDateTime;
+class QTime;
 class QWidget;
 
 /// The gallery's controls for forms, and their looks.
@@ -52,6 +56,12 @@ OxaRadioButton *radioButton(const QString &text, QWidget *parent = nullptr);
 
 /// Returns a horizontal slider from \a minimum to \a maximum, at \a value.
 OxaSlider *slider(int minimum, int maximum, int value, QWidget *parent = nullptr);
+
+/// Returns a field for a date and a time, which shows \a moment.
+OxaDateTimeEdit *dateTime(const QString &name, const QDateTime &moment, QWidget *parent = nullptr);
+
+/// Returns a field for a time, which shows \a moment.
+OxaTimeEdit *time(const QString &name, const QTime &moment, QWidget *parent = nullptr);
 
 /// Returns a field for rich text.
 OxaTextEdit *edit(const QString &name, QWidget *parent = nullptr);

@@ -157,7 +157,10 @@ const Type *findType(const QByteArray &name)
 QString SignalArguments::text(const QByteArray &typeName, const void *value)
 {
     const Type *type = findType(typeName);
-    return type ? type->text(value) : QStringLiteral("?");
+    if (type)
+        return type->text(value);
+    const QString text = QVariant(QMetaType::type(typeName), value).toString();
+    return text.isEmpty() ? QStringLiteral("?") : text;
 }
 
 bool SignalArguments::emitWithDefaults(QObject *sender, const QMetaMethod &signal)
