@@ -47,6 +47,8 @@ const std::vector<PageEntry> &pageEntries()
         entry("forms", tr("Forms"), widgets, Pages::makeForms),
         entry("windows", tr("Windows and dialogs"), widgets, Pages::makeWindows),
         entry("svg-widgets", tr("SVG widgets"), widgets, Pages::makeSvgWidgets),
+        entry("tabs", tr("Tabs and menus"), widgets, Pages::makeTabs),
+        entry("notices", tr("Notices"), widgets, Pages::makeNotices),
         entry("emoji-text", tr("Emoji text"), widgets, Pages::makeEmojiText),
         entry("lists", tr("Lists"), models, Pages::makeLists),
         entry("layouts", tr("Layouts"), behaviour, make<LayoutsPage>),

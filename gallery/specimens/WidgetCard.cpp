@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "WidgetCard.h"
 
-#include "SignalLog.h"
+#include "EmissionLog.h"
 #include "shell/Page.h"
 #include "widgets/Card.h"
 
@@ -26,23 +26,38 @@ void addFocus(PropertyControls *controls, QWidget *widget)
     controls->ControlPanel::addChoice(tr("setFocus()"), places, 0, focus);
 }
 
+/// Adds a card with \a stage, controls for \a widgets, and a log of what the first of them emits.
+PropertyControls *addCard(Page &page, const QString &heading, const QString &explanation,
+                          const QVector<QWidget *> &widgets, QWidget *stage)
+{
+    auto *controls = new PropertyControls(widgets);
+    auto *log = new EmissionLog;
+    log->follow(widgets.front());
+    QObject::connect(log, &EmissionLog::noted, controls, &PropertyControls::refresh);
+    auto *card = new Card(heading, explanation);
+    card->body()->addWidget(stage);
+    card->body()->addWidget(controls);
+    card->body()->addWidget(log);
+    page.body()->addWidget(card);
+    return controls;
+}
+
 } // namespace
 
 PropertyControls *WidgetCard::add(Page &page, const QString &heading, const QString &explanation,
                                   const std::function<QWidget *()> &make, Specimens::States states)
 {
     auto *specimens = new Specimens(make, states);
-    QWidget *inUse = specimens->widgets().front();
-    auto *controls = new PropertyControls(specimens->widgets());
-    auto *card = new Card(heading, explanation);
-    card->body()->addWidget(specimens);
-    card->body()->addWidget(controls);
-    auto *log = new SignalLog;
-    log->watch(inUse, [controls] { controls->refresh(); });
-    card->body()->addWidget(log);
-    page.body()->addWidget(card);
-    addFocus(controls, inUse);
+    PropertyControls *controls = addCard(page, heading, explanation, specimens->widgets(),
+                                         specimens);
+    addFocus(controls, controls->front());
     return controls;
+}
+
+PropertyControls *WidgetCard::addOne(Page &page, const QString &heading, const QString &explanation,
+                                     QWidget *widget, QWidget *stage)
+{
+    return addCard(page, heading, explanation, { widget }, stage);
 }
 
 PropertyControls::Choices WidgetCard::icons(const PropertyControls::Choice &own)

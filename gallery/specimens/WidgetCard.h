@@ -16,6 +16,11 @@ PropertyControls *add(Page &page, const QString &heading, const QString &explana
                       const std::function<QWidget *()> &make,
                       Specimens::States states = Specimens::States::All);
 
+/// Adds a card for \a widget alone, which \a stage shows with what belongs to it, and returns its
+/// controls.
+PropertyControls *addOne(Page &page, const QString &heading, const QString &explanation,
+                         QWidget *widget, QWidget *stage);
+
 /// Returns \a own and other icons, or none, for a property that names an icon.
 PropertyControls::Choices icons(const PropertyControls::Choice &own);
 

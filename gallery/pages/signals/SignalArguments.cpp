@@ -3,6 +3,7 @@
 
 #include <UiElements/app/OxaAppSignals.h>
 
+#include <QAction>
 #include <QMetaEnum>
 #include <QMetaMethod>
 
@@ -47,6 +48,8 @@ QString textOf(const QVariant &value)
 {
     return value.isValid() ? quoted(value.toString()) : QStringLiteral("invalid");
 }
+
+QString textOf(QAction *action) { return action ? quoted(action->text()) : QStringLiteral("null"); }
 
 QString textOf(const QVariantMap &values)
 {
@@ -126,6 +129,7 @@ const Type types[] = {
     TYPE(QRectF),
     TYPE(QVariant),
     TYPE(QVariantMap),
+    typeOf<QAction *>("QAction*"),
     typeOf<QWidget *>("QWidget*"),
     typeOf<QWindow *>("QWindow*"),
     TYPE(Qt::ArrowType),

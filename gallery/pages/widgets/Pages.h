@@ -12,6 +12,8 @@ Page *makeLabels(QWidget *parent);
 Page *makeButtons(QWidget *parent);
 Page *makeForms(QWidget *parent);
 Page *makeSvgWidgets(QWidget *parent);
+Page *makeTabs(QWidget *parent);
+Page *makeNotices(QWidget *parent);
 Page *makeEmojiText(QWidget *parent);
 Page *makeLists(QWidget *parent);
 Page *makeWindows(QWidget *parent);

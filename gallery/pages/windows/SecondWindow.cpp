@@ -4,7 +4,7 @@
 #include "looks/Metrics.h"
 #include "looks/ThemeSwitcher.h"
 #include "shell/GalleryApplication.h"
-#include "specimens/SignalLog.h"
+#include "specimens/EmissionLog.h"
 #include "widgets/Buttons.h"
 #include "widgets/Labels.h"
 
@@ -30,9 +30,9 @@ SecondWindow::SecondWindow(QWidget *parent) : OxaMainWindow(parent)
     resize(firstSize);
 
     auto *contents = new OxaWidget(this);
-    auto *log = new SignalLog(contents);
+    auto *log = new EmissionLog(contents);
     log->setMaximumHeight(QWIDGETSIZE_MAX);
-    log->watch(OxaAppSignals::get());
+    log->follow(OxaAppSignals::get());
     OxaPushButton *closeButton = Buttons::make(tr("Close"), contents);
     connect(closeButton, &OxaPushButton::clicked, this, &QWidget::close);
     auto *column = new QVBoxLayout(contents);

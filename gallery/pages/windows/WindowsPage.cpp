@@ -4,7 +4,7 @@
 #include "looks/Metrics.h"
 #include "pages/widgets/Pages.h"
 #include "shell/Page.h"
-#include "specimens/SignalLog.h"
+#include "specimens/EmissionLog.h"
 #include "specimens/WidgetCard.h"
 #include "widgets/Buttons.h"
 #include "widgets/ColumnsLayout.h"
@@ -63,7 +63,7 @@ Card *makeMainWindow()
 }
 
 /// Asks for a new name of the space called \a name, and shows it there.
-void rename(OxaLabel *name, SignalLog *log)
+void rename(OxaLabel *name, EmissionLog *log)
 {
     auto *dialog = new Dialog(tr("Rename the space"), name->window());
     OxaLineEdit *field = Fields::line(dialog);
@@ -78,17 +78,17 @@ void rename(OxaLabel *name, SignalLog *log)
     dialog->addButton(tr("Cancel"), &QDialog::reject);
     QObject::connect(dialog, &OxaDialog::accepted, name,
                      [name, field] { name->setText(field->text()); });
-    log->watch(dialog);
+    log->follow(dialog);
     dialog->open();
 }
 
-OxaDialog *openNotes(QWidget *opener, SignalLog *log)
+OxaDialog *openNotes(QWidget *opener, EmissionLog *log)
 {
     auto *dialog = new Dialog(tr("Notes"), opener->window());
     dialog->body()->addWidget(Fields::edit(tr("Notes"), dialog));
     dialog->addButton(tr("Close"), &QDialog::reject);
     dialog->resize(notesSize);
-    log->watch(dialog);
+    log->follow(dialog);
     dialog->show();
     return dialog;
 }
@@ -99,7 +99,7 @@ Card *makeDialogs()
                           tr("Deleted once it is closed. Escape rejects it, and the focus goes "
                              "back to the button that opened it."));
     OxaLabel *name = Labels::chip(tr("Design"));
-    auto *log = new SignalLog;
+    auto *log = new EmissionLog;
     auto *row = new WrapLayout(Metrics::small);
     addButton(row, tr("Rename…"), [name, log] { rename(name, log); });
     addButton(row, tr("Notes…"), [card, log, open = QPointer<OxaDialog>()]() mutable {

@@ -1,33 +1,33 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "SignalLog.h"
+#include "EmissionLog.h"
 
 #include "pages/signals/SignalWatcher.h"
 
 namespace {
 
-constexpr int shownLines = 3;
+constexpr int lines = 3;
 constexpr int linesToKeep = 200;
 
 } // namespace
 
-SignalLog::SignalLog(QWidget *parent) : CodeEdit(parent)
+EmissionLog::EmissionLog(QWidget *parent) : CodeEdit(parent)
 {
     setReadOnly(true);
     setAccessibleName(tr("What it emits"));
     setPlaceholderText(tr("What it emits appears here"));
     setMaximumBlockCount(linesToKeep);
-    setMinimumLines(shownLines);
+    setMinimumLines(lines);
     setMaximumHeight(minimumHeight());
 }
 
-void SignalLog::watch(QObject *sender, const std::function<void()> &noted)
+void EmissionLog::follow(QObject *sender)
 {
-    const auto note = [this, noted](const QMetaMethod &signal, const QStringList &arguments) {
+    const auto note = [this](const QMetaMethod &signal, const QStringList &arguments) {
         const QString name = QString::fromLatin1(signal.name());
         if (name == QLatin1String("cssChanged") || name == QLatin1String("themeTypeChanged"))
             return;
         appendPlainText(QStringLiteral("%1(%2)").arg(name, arguments.join(QStringLiteral(", "))));
-        noted();
+        Q_EMIT noted();
     };
     const QMetaObject &plain = sender->isWidgetType() ? QWidget::staticMetaObject
                                                       : QObject::staticMetaObject;
