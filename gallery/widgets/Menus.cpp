@@ -12,7 +12,10 @@ constexpr QSize iconSize(16, 16);
 OxaMenu *setUp(OxaMenu *menu)
 {
     menu->setFontToken(OxaFont::Token::BodySecondary);
-    menu->setCSS(UTContextMenuUtils::getContextMenuStyleSheet());
+    menu->setCSS(UTContextMenuUtils::getContextMenuStyleSheet()
+                 + QStringLiteral("QMenu { border: 1px solid $(gallery-card-border); }"
+                                  "QMenu::icon, QMenu::indicator { left: 8px; }"
+                                  "QMenu::right-arrow { right: 8px; }"));
     return menu;
 }
 

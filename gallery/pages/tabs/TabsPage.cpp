@@ -97,6 +97,8 @@ OxaPushButton *makeIconButton(QWidget *bar)
     auto *button = new OxaSvgPushButton(bar);
     button->setFontToken(OxaFont::Token::TagLabelPrimary);
     button->setCSS(Buttons::toggle());
+    // The name of a tab is stronger than the rule of the look for the focus.
+    button->setFocusRectColorSet(QStringLiteral("gallery-focus-border"));
     button->setFixedHeight(iconTabHeight);
     button->setSvgIconSize(iconSize);
     button->setSvgIconPadding(QMargins(0, 0, Metrics::small, 0));
