@@ -80,7 +80,8 @@ TabbedPages::TabbedPages(QWidget *parent)
     column->addLayout(makeButtons());
 
     connect(m_bar, &OxaTabBar::currentChanged, this, [this](int index) {
-        m_pages->setCurrentWidget(m_bar->tabData(index).value<QWidget *>());
+        if (auto *page = m_bar->tabData(index).value<QWidget *>())
+            m_pages->setCurrentWidget(page);
         updateButtons();
     });
     connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, this,
@@ -112,6 +113,8 @@ void TabbedPages::addTab()
     m_pages->addWidget(page);
     m_bar->setTabData(index, QVariant::fromValue(page));
     OxaPushButton *tab = m_bar->getTab(index);
+    // As wide as the bar allows: a button asks for less than its text and the padding.
+    tab->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     tab->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(tab, &QWidget::customContextMenuRequested, this,
             [this, tab](const QPoint &position) { openMenu(tab, tab->mapToGlobal(position)); });

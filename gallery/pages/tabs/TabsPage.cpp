@@ -255,20 +255,21 @@ OxaVMenu *makeVerticalMenu(OxaLabel *chosen)
 
 void addVerticalMenu(Page &page)
 {
-    auto *stage = new OxaWidget;
+    auto *card = new Card(tr("OxaVMenu"),
+                          tr("A menu that stays open. Tab goes from item to item, and Space "
+                             "chooses one."));
     OxaLabel *chosen = Labels::line(tr("Chosen: nothing yet"));
     OxaVMenu *menu = makeVerticalMenu(chosen);
-    auto *row = new QHBoxLayout(stage);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto *row = new QHBoxLayout;
     row->setSpacing(Metrics::gap);
     row->addWidget(menu);
     row->addWidget(chosen, 1);
-    auto *controls = WidgetCard::addOne(
-            page, tr("OxaVMenu"),
-            tr("A menu that stays open. Tab goes from item to item, and Space chooses one."), menu,
-            stage);
-    const auto addNumber = [controls](const QString &name, int value,
-                                      void (*apply)(OxaVMenu * menu, int number)) {
+    auto *controls = new PropertyControls({ menu });
+    card->body()->addLayout(row);
+    card->body()->addWidget(controls);
+    page.body()->addWidget(card);
+    using Apply = void (*)(OxaVMenu *, int);
+    const auto addNumber = [controls](const QString &name, int value, Apply apply) {
         controls->addNumber(name, 0, Metrics::gap, value,
                             [apply](QWidget *widget, const QVariant &number) {
                                 apply(qobject_cast<OxaVMenu *>(widget), number.toInt());
