@@ -9,6 +9,7 @@
 #include <pages/notices/BannerCard.h>
 #include <shell/Page.h>
 #include <shell/PageRegistry.h>
+#include <shell/TabOrder.h>
 #include <specimens/EmissionLog.h>
 #include <support/Guards.h>
 #include <widgets/Slider.h>
@@ -60,6 +61,7 @@ private Q_SLOTS:
     void growsWithALongText();
     void takesANewBannerAfterAnIconWasHidden();
     void givesTheFocusOnWhenABannerIsClosed();
+    void reachesANewBannerBeforeTheButtonThatClosesIt();
     void logsThatALinkWasFollowed();
     void putsTheTextBesideTheIcon_data();
     void putsTheTextBesideTheIcon();
@@ -115,6 +117,20 @@ void tst_NoticesPage::givesTheFocusOnWhenABannerIsClosed()
     shown.button("New banner")->click();
     QVERIFY(shown.label()->text().contains(QStringLiteral("אין חיבור")));
     QVERIFY(shown.button("Close")->isEnabled());
+}
+
+void tst_NoticesPage::reachesANewBannerBeforeTheButtonThatClosesIt()
+{
+    NoticesWindow shown;
+    for (int i = 0; i < 2; ++i) {
+        QTRY_VERIFY(shown.label()->isVisible());
+        const std::vector<QWidget *> stops = TabOrder::of(&shown.window);
+        const auto place = std::find(stops.begin(), stops.end(), shown.button("New banner"));
+        QVERIFY(stops.end() - place > 2);
+        QCOMPARE(place[1], shown.label());
+        QCOMPARE(place[2], shown.button("Close"));
+        shown.button("New banner")->click();
+    }
 }
 
 void tst_NoticesPage::logsThatALinkWasFollowed()

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int leastBannerHeight = 56;
+const QString labelName = QStringLiteral("alertLabel");
 
 struct Text
 {
@@ -44,9 +45,8 @@ BannerCard::BannerCard(QWidget *parent)
               "whose icon was hidden never shows it again: take a new one."),
            parent),
       m_place(new QHBoxLayout),
-      m_close(Buttons::make(tr("Close"), this)),
       m_new(Buttons::make(tr("New banner"), this)),
-      m_log(new EmissionLog(this))
+      m_close(Buttons::make(tr("Close"), this))
 {
     m_info.alertText = texts().constFirst().html;
     m_place->setSpacing(Metrics::small);
@@ -55,6 +55,7 @@ BannerCard::BannerCard(QWidget *parent)
     m_place->addWidget(m_close);
     body()->addLayout(m_place);
     body()->addWidget(makeControls());
+    m_log = new EmissionLog(this);
     body()->addWidget(m_log);
     addToHeading(m_new);
     connect(m_close, &OxaPushButton::clicked, this, &BannerCard::closeBanner);
@@ -65,7 +66,7 @@ BannerCard::BannerCard(QWidget *parent)
 AlertBanner *BannerCard::make(QWidget *parent)
 {
     auto *banner = new AlertBanner(parent);
-    AlignedLabel::keepAligned(banner->findChild<OxaLabel *>(QStringLiteral("alertLabel")));
+    AlignedLabel::keepAligned(banner->findChild<OxaLabel *>(labelName));
     return banner;
 }
 
@@ -107,6 +108,9 @@ void BannerCard::renew()
     m_banner = make(this);
     m_log->follow(m_banner);
     m_place->insertWidget(0, m_banner, 1);
+    QWidget *label = m_banner->findChild<OxaLabel *>(labelName);
+    setTabOrder(m_new, label);
+    setTabOrder(label, m_close);
     m_close->setEnabled(true);
     showInfo();
 }

@@ -31,9 +31,9 @@ private:
     void showInfo();
 
     QHBoxLayout *const m_place;
-    OxaPushButton *const m_close;
     OxaPushButton *const m_new;
-    EmissionLog *const m_log;
+    OxaPushButton *const m_close;
+    EmissionLog *m_log = nullptr;
     QPointer<AlertBanner> m_banner;
     AlertBanner::AlertBannerInfo m_info;
 };
