@@ -50,6 +50,7 @@ const std::vector<PageEntry> &pageEntries()
         entry("tabs", tr("Tabs and menus"), widgets, Pages::makeTabs),
         entry("notices", tr("Notices"), widgets, Pages::makeNotices),
         entry("emoji-text", tr("Emoji text"), widgets, Pages::makeEmojiText),
+        entry("long-list", tr("Long list"), widgets, Pages::makeLongList),
         entry("lists", tr("Lists"), models, Pages::makeLists),
         entry("layouts", tr("Layouts"), behaviour, make<LayoutsPage>),
         entry("focus", tr("Focus"), behaviour, make<FocusPage>),

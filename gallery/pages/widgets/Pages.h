@@ -16,6 +16,7 @@ Page *makeTabs(QWidget *parent);
 Page *makeNotices(QWidget *parent);
 Page *makeEmojiText(QWidget *parent);
 Page *makeLists(QWidget *parent);
+Page *makeLongList(QWidget *parent);
 Page *makeWindows(QWidget *parent);
 
 } // namespace Pages
