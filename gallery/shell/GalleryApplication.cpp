@@ -8,6 +8,7 @@
 #include "looks/FocusFrameStyle.h"
 #include "looks/TextSettings.h"
 #include "looks/ThemeSwitcher.h"
+#include "pages/movies/StagedMovieSource.h"
 
 #include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/widgets/OxaMainWindow.h>
@@ -98,6 +99,13 @@ int GalleryApplication::showWindow(const QString &page)
     window.showPage(page);
     window.show();
     return exec();
+}
+
+IOxaMovieProviderSource *GalleryApplication::getMovieProviderSource()
+{
+    if (!m_movieSource)
+        m_movieSource = new StagedMovieSource(this);
+    return m_movieSource;
 }
 
 void GalleryApplication::onQmlEngineCreated(OxaQmlEngine *engine) { Q_UNUSED(engine) }

@@ -51,6 +51,7 @@ const std::vector<PageEntry> &pageEntries()
         entry("notices", tr("Notices"), widgets, Pages::makeNotices),
         entry("emoji-text", tr("Emoji text"), widgets, Pages::makeEmojiText),
         entry("long-list", tr("Long list"), widgets, Pages::makeLongList),
+        entry("movies", tr("Movies"), widgets, Pages::makeMovies),
         entry("lists", tr("Lists"), models, Pages::makeLists),
         entry("layouts", tr("Layouts"), behaviour, make<LayoutsPage>),
         entry("focus", tr("Focus"), behaviour, make<FocusPage>),

@@ -17,6 +17,7 @@ Page *makeNotices(QWidget *parent);
 Page *makeEmojiText(QWidget *parent);
 Page *makeLists(QWidget *parent);
 Page *makeLongList(QWidget *parent);
+Page *makeMovies(QWidget *parent);
 Page *makeWindows(QWidget *parent);
 
 } // namespace Pages
