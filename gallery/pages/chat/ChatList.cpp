@@ -73,7 +73,7 @@ private:
 };
 
 ChatList::ChatList(QWidget *parent)
-    : OxaListWidget(parent, true),
+    : OxaListWidget(parent, false),
       m_look(getThemeType()),
       m_delegate(new ChatDelegate(this)),
       m_ruler(new WrappedEmojiLabel(QString(), this))
@@ -204,8 +204,8 @@ void ChatList::dropWidget(int row)
 /// Applies another size of text.
 void ChatList::refresh()
 {
-    onThemeChanged();
     keepPlace([this] {
+        onThemeChanged();
         forgetHeights();
         const auto rows = viewport()->findChildren<ChatRow *>();
         for (const ChatRow *row : rows)

@@ -35,6 +35,9 @@ public:
     /// milliseconds for a page. 0 before the list was scrolled.
     qreal msPerPage() const { return m_pages > 0 ? m_milliseconds / m_pages : 0; }
 
+    /// Returns what the message of \a row begins.
+    ChatStart startOf(int row) const;
+
     /// Returns the height of \a row at the current width.
     int heightOf(int row);
 
@@ -62,7 +65,6 @@ protected Q_SLOTS:
     void onThemeChanged() override;
 
 private:
-    ChatStart startOf(int row) const;
     void insert(int row, const std::vector<ChatMessage> &messages);
     void makeWidget(QListWidgetItem *item);
     void dropWidget(int row);

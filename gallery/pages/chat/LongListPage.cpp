@@ -42,6 +42,7 @@ QLayout *makeFigures(ChatList *chat)
     grid->setColumnStretch(1, 1);
     for (const auto &[caption, read] : figures) {
         OxaLabel *value = Labels::line(read());
+        value->setObjectName(QStringLiteral("figure"));
         const int line = grid->rowCount();
         grid->addWidget(Labels::caption(caption), line, 0);
         grid->addWidget(value, line, 1);

@@ -122,7 +122,8 @@ void MovieProviderCard::show()
     switch (m_provider->getStackIndex()) {
     case 1:
         m_stage->setMovie(m_provider->getMovie());
-        m_provider->getMovie()->start();
+        if (m_stage->isVisible())
+            m_provider->getMovie()->start();
         break;
     case 2:
         m_stage->setPixmap(MovieLabels::picture(m_provider->getFallbackSource()));

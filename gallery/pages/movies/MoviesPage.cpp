@@ -131,7 +131,8 @@ void addMovieControls(ControlPanel *controls, const QVector<OxaMovie *> &movies)
                 movie->stop();
             else
                 movie->start();
-            movie->setPaused(state == 1);
+            if (state == 1)
+                movie->setPaused(true);
         }
     };
     controls->addChoice(tr("state()"), { tr("Running"), tr("Paused"), tr("Stopped") }, 0, setState);
