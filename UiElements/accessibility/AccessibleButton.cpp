@@ -86,10 +86,12 @@ QStringList AccessibleButton::actionNames() const
 
 void AccessibleButton::doAction(const QString &name)
 {
+    if (!actionNames().contains(name))
+        return;
     if (name != clickAction())
         AccessibleWidget::doAction(name);
-    else if (button()->menu() && button()->isEnabled())
-        button()->showMenu();
+    else if (button()->menu())
+        QMetaObject::invokeMethod(button(), &QPushButton::showMenu, Qt::QueuedConnection);
     else
         button()->animateClick();
 }

@@ -21,8 +21,8 @@ public:
 
     QStringList actionNames() const override;
 
-    /// Clicks, for whichever role, with all signals of a click. They come later, as Qt does it: a
-    /// dialog that a slot opens would make assistive technology wait for it.
+    /// Clicks, for whichever role, with all signals of a click, or shows the button's menu. Both
+    /// happen later: assistive technology would wait until a menu or a slot's dialog is closed.
     void doAction(const QString &name) override;
 
     QStringList keyBindingsForAction(const QString &name) const override;
