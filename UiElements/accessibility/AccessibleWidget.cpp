@@ -12,7 +12,7 @@ QAccessible::Role AccessibleWidget::role() const
 
 QString AccessibleWidget::text(QAccessible::Text kind) const
 {
-    const QString text = QAccessibleWidget::text(kind);
+    QString text = QAccessibleWidget::text(kind);
     if (kind == QAccessible::Name && text.isEmpty())
         return widget()->toolTip();
     if (kind == QAccessible::Description && text == this->text(QAccessible::Name))
