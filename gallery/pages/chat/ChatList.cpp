@@ -3,6 +3,7 @@
 
 #include "ChatRow.h"
 #include "looks/TextSettings.h"
+#include "pages/emoji/ReactionButton.h"
 #include "pages/emoji/WrappedEmojiLabel.h"
 #include "shell/GalleryApplication.h"
 #include "widgets/ListView.h"
@@ -251,5 +252,23 @@ void ChatList::onSettled()
     if (m_pagesNow > 0)
         m_milliseconds += qreal(m_clock.nsecsElapsed()) / 1e6;
     m_pages += std::exchange(m_pagesNow, 0);
+    orderReactions();
     Q_EMIT settled();
+}
+
+/// Makes Tab go from the list to the reactions in view, from the first message to the last.
+void ChatList::orderReactions()
+{
+    QWidget *before = this;
+    const int bottom = viewport()->height() - 1;
+    const int last = indexAt(QPoint(0, bottom)).row();
+    for (int row = indexAt(QPoint()).row(); row <= last; ++row) {
+        const QWidget *widget = itemWidget(item(row));
+        const auto buttons = widget ? widget->findChildren<ReactionButton *>()
+                                    : QList<ReactionButton *>();
+        for (ReactionButton *button : buttons) {
+            setTabOrder(before, button);
+            before = button;
+        }
+    }
 }

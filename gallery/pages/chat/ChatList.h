@@ -74,6 +74,7 @@ private:
     void keepPlace(Work work);
     void settle();
     void onSettled();
+    void orderReactions();
 
     ChatLook m_look;
     ChatDelegate *m_delegate;

@@ -18,8 +18,6 @@ ChatRow::ChatRow(ChatMessage &message, ChatStart start, const ChatLook &look, co
     m_text->setAttribute(Qt::WA_TransparentForMouseEvents);
     makeReactions();
     place();
-    // Last, because the text is laid out again at each change of the label.
-    m_text->setText(ChatHistory::texts()[message.text]);
 }
 
 void ChatRow::makeReactions()
@@ -48,6 +46,13 @@ void ChatRow::resizeEvent(QResizeEvent *event)
 {
     OxaWidget::resizeEvent(event);
     place();
+}
+
+void ChatRow::showEvent(QShowEvent *event)
+{
+    OxaWidget::showEvent(event);
+    // Not before: the label lays out its text at each change, and has its size once it is shown.
+    m_text->setText(ChatHistory::texts()[m_message.text]);
 }
 
 void ChatRow::paintEvent(QPaintEvent *)

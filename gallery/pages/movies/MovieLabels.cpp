@@ -17,6 +17,7 @@ void MovieLabels::setUp(OxaLabel *label, const QString &name)
     label->setFixedSize(side, side);
     label->setAccessibleName(name);
     label->setCSS(QStringLiteral("$backgroundColors: gallery-code-background;"
+                                 "$borderColors: gallery-card-border;"
                                  "$textColors: gallery-caption-text;"
                                  "$borderRadius: 8;"));
     const auto centre = [label] { label->setAlignment(Qt::AlignCenter); };
