@@ -97,10 +97,11 @@ void addNotification(Page &page)
     controls->addProperty("fadeOutDuration");
     controls->addChoice(tr("fadeOutCompleted()"), { { tr("Stays"), false }, { tr("Hides"), true } },
                         [notification](QWidget *, const QVariant &hides) {
-                            const auto faded = &OxaNotification::fadeOutCompleted;
-                            QObject::disconnect(notification, faded, notification, &QWidget::hide);
+                            QObject::disconnect(notification, &OxaNotification::fadeOutCompleted,
+                                                notification, &QWidget::hide);
                             if (hides.toBool())
-                                QObject::connect(notification, faded, notification, &QWidget::hide);
+                                QObject::connect(notification, &OxaNotification::fadeOutCompleted,
+                                                 notification, &QWidget::hide);
                         });
 }
 
