@@ -27,6 +27,9 @@ void holdHovered(QWidget *widget)
     const QPointF somewhere(widget->rect().center());
     QMouseEvent move(QEvent::MouseMove, somewhere, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QCoreApplication::sendEvent(widget, &move);
+    // A slider asks what of it is under the pointer.
+    QHoverEvent hover(QEvent::HoverMove, somewhere, somewhere);
+    QCoreApplication::sendEvent(widget, &hover);
 }
 
 void holdPressed(QWidget *widget) { qobject_cast<QAbstractButton *>(widget)->setDown(true); }

@@ -12,14 +12,16 @@
 #include <QAbstractItemView>
 #include <QPointer>
 
+#include <pages/windows/SecondWindow.h>
 #include <shell/GalleryWindow.h>
 #include <shell/NavigationList.h>
 #include <shell/PageRegistry.h>
 #include <shell/PageStack.h>
-#include <shell/ShortcutsDialog.h>
 #include <shell/TabOrder.h>
+#include <specimens/SignalLog.h>
 #include <support/RealInput.h>
 #include <widgets/CodeEdit.h>
+#include <widgets/Dialog.h>
 #include <widgets/ListView.h>
 #include <widgets/TableView.h>
 
@@ -33,7 +35,9 @@ public:
     {
         window.showPage(QString::fromLatin1(page));
         window.show();
-        isActive = QTest::qWaitForWindowActive(&window);
+        // Not where a dialog opens: when a modal one closes, Qt looks for the window under the
+        // pointer, and warns if the frame that it finds is gone by then.
+        isActive = QTest::qWaitForWindowActive(&window) && RealInput::moveTo(window, QPoint(2, 2));
         TabOrder::of(&window).front()->setFocus(Qt::TabFocusReason);
     }
 
@@ -61,6 +65,17 @@ public:
     }
 
     QWidget *page() const { return window.findChild<PageStack *>()->currentWidget(); }
+
+    /// Waits until a dialog has the focus, and returns it.
+    QPointer<Dialog> dialog() const
+    {
+        const auto hasFocus = [this] {
+            const auto *dialog = window.findChild<Dialog *>();
+            return dialog && dialog->isActiveWindow()
+                    && dialog->isAncestorOf(QApplication::focusWidget());
+        };
+        return QTest::qWaitFor(hasFocus) ? window.findChild<Dialog *>() : nullptr;
+    }
 
     ListView &navigation() const { return *Controls::called<ListView>(window, "Pages"); }
 
@@ -98,6 +113,11 @@ private Q_SLOTS:
     void hidesTheNavigation();
     void emitsTheSignalOfAShortcut();
     void listsTheShortcutsInADialogThatEscapeCloses();
+    void goesBackToTheOpenerOfADialog_data();
+    void goesBackToTheOpenerOfADialog();
+    void namesASpaceInADialog();
+    void stopsOnceAtAContainer();
+    void followsAShortcutInASecondWindow();
     void clearsASearchByEscape();
     void fillsInAFormByKeys();
     void showsTheCurrentCellOfATable();
@@ -247,9 +267,8 @@ void tst_GalleryWindow_keys::listsTheShortcutsInADialogThatEscapeCloses()
     QVERIFY(shown.isActive);
     QWidget *const opener = shown.window.focusWidget();
     QVERIFY(RealInput::typeKeys({ QStringLiteral("ctrl+slash") }));
-    QTRY_VERIFY(shown.window.findChild<ShortcutsDialog *>());
-    const QPointer<ShortcutsDialog> dialog = shown.window.findChild<ShortcutsDialog *>();
-    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    const QPointer<Dialog> dialog = shown.dialog();
+    QVERIFY(dialog);
     const auto *list = dialog->findChild<OxaTextBrowser *>();
     QVERIFY(list->toPlainText().contains(QLatin1String("Ctrl+Shift+K")));
     QVERIFY(RealInput::send({ QStringLiteral("type"), QStringLiteral("diagnos") }));
@@ -259,6 +278,82 @@ void tst_GalleryWindow_keys::listsTheShortcutsInADialogThatEscapeCloses()
     QTRY_VERIFY(!dialog);
     QTRY_VERIFY(shown.window.isActiveWindow());
     QTRY_COMPARE(QApplication::focusWidget(), opener);
+}
+
+void tst_GalleryWindow_keys::goesBackToTheOpenerOfADialog_data()
+{
+    QTest::addColumn<QByteArray>("opener");
+    QTest::addColumn<QByteArray>("key");
+    QTest::newRow("modal, closed by Escape") << QByteArray("Rename…") << QByteArray("Escape");
+    QTest::newRow("modal, closed by Return") << QByteArray("Rename…") << QByteArray("Return");
+    QTest::newRow("modeless") << QByteArray("Notes…") << QByteArray("Escape");
+}
+
+void tst_GalleryWindow_keys::goesBackToTheOpenerOfADialog()
+{
+    QFETCH(const QByteArray, opener);
+    QFETCH(const QByteArray, key);
+    const Shown shown("windows");
+    QVERIFY(shown.isActive);
+    auto *button = Controls::withText(*shown.page(), opener.constData());
+    button->setFocus(Qt::TabFocusReason);
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("space") }));
+    const QPointer<Dialog> dialog = shown.dialog();
+    QVERIFY(dialog);
+    QVERIFY(RealInput::typeKeys({ QString::fromLatin1(key) }));
+    QTRY_VERIFY(!dialog);
+    QTRY_VERIFY(shown.window.isActiveWindow());
+    QTRY_COMPARE(QApplication::focusWidget(), button);
+}
+
+void tst_GalleryWindow_keys::namesASpaceInADialog()
+{
+    const Shown shown("windows");
+    QVERIFY(shown.isActive);
+    Controls::withText(*shown.page(), "Rename…")->setFocus(Qt::TabFocusReason);
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("space") }));
+    const QPointer<Dialog> dialog = shown.dialog();
+    QVERIFY(dialog);
+    QVERIFY(RealInput::send({ QStringLiteral("type"), QStringLiteral("Research") }));
+    QTRY_COMPARE(dialog->findChild<OxaLineEdit *>()->text(), QStringLiteral("Research"));
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("Return") }));
+    QTRY_VERIFY(Controls::withText<OxaLabel>(*shown.page(), "Research"));
+}
+
+void tst_GalleryWindow_keys::stopsOnceAtAContainer()
+{
+    const Shown shown("windows");
+    QVERIFY(shown.isActive);
+    auto *sound = Controls::withText(*shown.page(), "Sound");
+    auto *hours = Controls::withText(*shown.page(), "Hours");
+    sound->setFocus(Qt::TabFocusReason);
+    QCOMPARE(shown.type("Down"), hours);
+    QVERIFY(!hours->isChecked());
+    QCOMPARE(shown.type("Tab")->accessibleName(), QStringLiteral("Volume"));
+    QVERIFY(sound->parentWidget()->isAncestorOf(shown.type("shift+Tab")));
+    hours->setFocus(Qt::TabFocusReason);
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("space") }));
+    QTRY_VERIFY(hours->isChecked());
+    QCOMPARE(shown.type("Tab")->accessibleName(), QStringLiteral("Working hours begin"));
+}
+
+void tst_GalleryWindow_keys::followsAShortcutInASecondWindow()
+{
+    const Shown shown("windows");
+    QVERIFY(shown.isActive);
+    auto *button = Controls::withText(*shown.page(), "Open a second window");
+    button->setFocus(Qt::TabFocusReason);
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("space") }));
+    QTRY_VERIFY(shown.window.findChild<SecondWindow *>());
+    const QPointer<SecondWindow> second = shown.window.findChild<SecondWindow *>();
+    QVERIFY(QTest::qWaitForWindowActive(second));
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("ctrl+m") }));
+    QTRY_COMPARE(second->findChild<SignalLog *>()->toPlainText(),
+                 QStringLiteral("toggleAudioMute()"));
+    Controls::withText(*second, "Close")->setFocus(Qt::TabFocusReason);
+    QVERIFY(RealInput::typeKeys({ QStringLiteral("space") }));
+    QTRY_VERIFY(!second);
+    QTRY_COMPARE(QApplication::focusWidget(), button);
 }
 
 void tst_GalleryWindow_keys::clearsASearchByEscape()

@@ -28,7 +28,7 @@ public:
     Sample(const QByteArray &page, int index)
         : m_page(findPageEntry(QString::fromLatin1(page))->make(&m_window)),
           m_specimens(m_page->findChildren<Specimens *>().at(index)),
-          m_controls(m_page->findChildren<PropertyControls *>().at(index))
+          m_controls(m_specimens->parentWidget()->findChild<PropertyControls *>())
     {
         // No minimum size: the platform does not enforce it.
         m_window.resize(1000, 800);
@@ -166,6 +166,8 @@ void tst_WidgetPages::hasAControlForEachProperty_data()
     QTest::newRow("OxaComboBox") << QByteArray("forms") << 2;
     QTest::newRow("OxaCheckBox") << QByteArray("forms") << 3;
     QTest::newRow("OxaTextBrowser") << QByteArray("forms") << 6;
+    QTest::newRow("OxaProgressBar") << QByteArray("windows") << 1;
+    QTest::newRow("OxaSeparator") << QByteArray("windows") << 2;
     QTest::newRow("OxaSvgLabel") << QByteArray("svg-widgets") << 0;
     QTest::newRow("OxaSvgPushButton") << QByteArray("svg-widgets") << 1;
     QTest::newRow("OxaSvgAnchorButton") << QByteArray("svg-widgets") << 2;
@@ -324,6 +326,10 @@ void tst_WidgetPages::holdsAWidgetInEachOfItsStates_data()
     QTest::newRow("a radio button") << QByteArray("forms") << 4 << 5;
     QTest::newRow("a text edit") << QByteArray("forms") << 5 << 3;
     QTest::newRow("a text browser") << QByteArray("forms") << 6 << 3;
+    QTest::newRow("a slider") << QByteArray("windows") << 0 << 3;
+    QTest::newRow("a progress bar") << QByteArray("windows") << 1 << 1;
+    QTest::newRow("a field for a date and a time") << QByteArray("windows") << 3 << 3;
+    QTest::newRow("a field for a time") << QByteArray("windows") << 4 << 3;
 }
 
 void tst_WidgetPages::holdsAWidgetInEachOfItsStates()

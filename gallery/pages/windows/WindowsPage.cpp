@@ -116,7 +116,7 @@ Card *makeDialogs()
 void addSlider(Page &page)
 {
     const auto make = [] {
-        OxaSlider *slider = Fields::slider(0, 100, 40);
+        OxaSlider *slider = Fields::slider(0, 100, 50);
         slider->setAccessibleName(tr("Volume"));
         slider->setFixedWidth(firstWidth);
         return slider;
@@ -188,6 +188,7 @@ void addSeparator(Page &page)
                           { tr("Accent"), QStringLiteral("gallery-accent") },
                           { tr("Busy"), QStringLiteral("presence-busy") } },
                         setColors);
+    controls->addAll();
     controls->addWidth(narrowest, widest);
 }
 
@@ -214,7 +215,7 @@ void addFrame(Page &page)
 {
     const auto make = [] {
         auto *frame = new OxaFrame;
-        frame->setFrameShape(QFrame::StyledPanel);
+        frame->setFrameShape(QFrame::Box);
         frame->setFixedSize(frameSize);
         return frame;
     };
