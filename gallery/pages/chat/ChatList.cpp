@@ -146,6 +146,14 @@ void ChatList::removeOne()
     });
 }
 
+void ChatList::focusInEvent(QFocusEvent *event)
+{
+    // Qt would make the first of all rows current, and the arrow keys would go there.
+    if (!currentItem())
+        setCurrentItem(itemAt(viewport()->rect().center()));
+    OxaListWidget::focusInEvent(event);
+}
+
 void ChatList::resizeEvent(QResizeEvent *event)
 {
     keepPlace([this, event] {

@@ -58,6 +58,7 @@ Q_SIGNALS:
     void settled();
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
 

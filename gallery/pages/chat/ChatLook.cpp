@@ -12,7 +12,7 @@ constexpr int side = Metrics::spacing;
 constexpr int textLeft = side + avatarSize + Metrics::small;
 
 /// Half of the space between two messages of one author.
-constexpr int halfGap = Metrics::tight / 2;
+constexpr int halfGap = Metrics::tight;
 
 } // namespace
 
