@@ -18,7 +18,7 @@ void MovieLabels::setUp(OxaLabel *label, const QString &name)
     label->setAccessibleName(name);
     label->setCSS(QStringLiteral("$backgroundColors: gallery-code-background;"
                                  "$borderColors: gallery-card-border;"
-                                 "$textColors: gallery-caption-text;"
+                                 "$textColors: gallery-code-text;"
                                  "$borderRadius: 8;"));
     const auto centre = [label] { label->setAlignment(Qt::AlignCenter); };
     // A label aligns anew at each change.
