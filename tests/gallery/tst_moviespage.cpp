@@ -7,6 +7,7 @@
 #include <UiElements/movies/OxaMovie.h>
 #include <UiElements/widgets/OxaComboBox.h>
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <QSignalSpy>
 
@@ -16,7 +17,6 @@
 #include <pages/widgets/Pages.h>
 #include <shell/Page.h>
 #include <widgets/CodeEdit.h>
-#include <widgets/Slider.h>
 
 namespace {
 
@@ -311,7 +311,7 @@ void tst_MoviesPage::setsStateAndSpeedOfAllMovies()
     const auto *number = window.called<OxaLabel>("currentFrameNumber()");
     QTRY_VERIFY(number->text().toInt() > 2);
     Controls::choose(*window.page, "state()", "Paused");
-    window.called<Slider>("setSpeed()")->setValue(250);
+    window.called<OxaSlider>("setSpeed()")->setValue(250);
     for (const char *name : { "a file", "a copy", "the bytes themselves" }) {
         const QMovie *movie = window.called<OxaLabel>(name)->movie();
         QCOMPARE(movie->state(), QMovie::Paused);

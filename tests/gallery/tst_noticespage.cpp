@@ -5,6 +5,7 @@
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/widgets/AlertBanner.h>
 #include <UiElements/widgets/OxaNotification.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <pages/notices/BannerCard.h>
 #include <shell/Page.h>
@@ -12,7 +13,6 @@
 #include <shell/TabOrder.h>
 #include <specimens/EmissionLog.h>
 #include <support/Guards.h>
-#include <widgets/Slider.h>
 
 namespace {
 
@@ -168,8 +168,8 @@ void tst_NoticesPage::setsTheTimesOfANotification()
 {
     const NoticesWindow shown;
     const auto *notification = shown.page->findChild<OxaNotification *>();
-    auto *timeout = Controls::called<Slider>(*shown.page, "showTimeout");
-    auto *duration = Controls::called<Slider>(*shown.page, "fadeOutDuration");
+    auto *timeout = Controls::called<OxaSlider>(*shown.page, "showTimeout");
+    auto *duration = Controls::called<OxaSlider>(*shown.page, "fadeOutDuration");
     QCOMPARE(timeout->value(), notification->getShowTimeout());
     QCOMPARE(duration->value(), notification->getFadeOutDuration());
     timeout->setValue(300);

@@ -5,6 +5,7 @@
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaMenu.h>
+#include <UiElements/widgets/OxaSlider.h>
 #include <UiElements/widgets/OxaStackedWidget.h>
 #include <UiElements/widgets/OxaTabBar.h>
 #include <UiElements/widgets/OxaVMenu.h>
@@ -15,7 +16,6 @@
 #include <shell/Page.h>
 #include <shell/PageRegistry.h>
 #include <specimens/EmissionLog.h>
-#include <widgets/Slider.h>
 
 namespace {
 
@@ -155,11 +155,11 @@ void tst_TabsPage::leavesRoomForLargerTexts()
 void tst_TabsPage::setsThePaddingAndTheSpacingOfTheBar()
 {
     const TabsWindow shown;
-    auto *padding = Controls::called<Slider>(*shown.page, "horizontalPadding");
+    auto *padding = Controls::called<OxaSlider>(*shown.page, "horizontalPadding");
     QCOMPARE(padding->value(), shown.bar->getHorizontalPadding());
     padding->setValue(4);
     QCOMPARE(shown.bar->getHorizontalPadding(), 4);
-    Controls::called<Slider>(*shown.page, "setTabsSpacing()")->setValue(8);
+    Controls::called<OxaSlider>(*shown.page, "setTabsSpacing()")->setValue(8);
     QCOMPARE(shown.bar->layout()->spacing(), 8);
 }
 
@@ -200,7 +200,7 @@ void tst_TabsPage::tellsWhichItemOfAVerticalMenuWasChosen()
         return label->text() == QLatin1String("Chosen: Lock");
     };
     QCOMPARE(std::count_if(labels.begin(), labels.end(), tells), 1);
-    Controls::called<Slider>(*shown.page, "setSpacing()")->setValue(6);
+    Controls::called<OxaSlider>(*shown.page, "setSpacing()")->setValue(6);
     QCOMPARE(menu->layout()->spacing(), 6);
 }
 
