@@ -36,6 +36,33 @@ struct Request
     QVariantMap initialProperties;
 };
 
+/// Keeps a component while it sends a signal: Qt uses it afterwards, but a slot may delete the
+/// owner, which is a view for example.
+class ComponentGuard
+{
+    Q_DISABLE_COPY_MOVE(ComponentGuard)
+
+public:
+    ComponentGuard(QQmlComponent *component, QObject *owner)
+        : m_component(component), m_owner(owner), m_hasOwner(owner != nullptr)
+    {
+        if (m_component)
+            m_component->setParent(nullptr);
+    }
+    ~ComponentGuard()
+    {
+        if (m_component && m_hasOwner && !m_owner)
+            m_component->deleteLater();
+        else if (m_component)
+            m_component->setParent(m_owner);
+    }
+
+private:
+    const QPointer<QQmlComponent> m_component;
+    const QPointer<QObject> m_owner;
+    const bool m_hasOwner;
+};
+
 OxaQmlEngine *findEngine()
 {
     const auto *app = ApplicationObject::find<IOxaApplication>();
@@ -105,6 +132,9 @@ void onStatusChanged(View *view, typename View::Status status, const QPointer<Ox
 {
     if (!engine || status == View::Loading)
         return;
+    const ComponentGuard
+            guard(view->template findChild<QQmlComponent *>(QString(), Qt::FindDirectChildrenOnly),
+                  view);
     if (status != View::Ready) {
         Q_EMIT engine->qmlViewStatusChanged(Status::Error, request.source,
                                             QStringLiteral("Unable to load the qml view!"));
@@ -335,15 +365,13 @@ void OxaQmlEngine::createQmlComponent(const QString &source, QObject *parent,
 
     auto *const component = new QQmlComponent(engine, guard);
     const Request request { source, initialProperties };
-    // Queued, because the callback may delete the component, and Qt uses it after this signal.
-    connect(
-            component, &QQmlComponent::statusChanged, component,
+    connect(component, &QQmlComponent::statusChanged, component,
             [component, engine, guard, request, callback](QQmlComponent::Status status) {
+                const ComponentGuard componentGuard(component, guard);
                 if (engine && status == QQmlComponent::Ready)
                     onComponentReady(component, engine, guard, request, callback);
                 else if (engine && status == QQmlComponent::Error)
                     onComponentError(component, engine, request.source);
-            },
-            Qt::QueuedConnection);
+            });
     component->loadUrl(urlOf(source, engine->isReadingQmlFromDisk()), QQmlComponent::Asynchronous);
 }
