@@ -29,7 +29,7 @@ struct Named
 };
 
 constexpr Named arrows[] = {
-    { "up", Qt::UpArrow, Qt::DownArrow },    { "down", Qt::DownArrow, Qt::UpArrow },
+    { "up", Qt::UpArrow, Qt::DownArrow },      { "down", Qt::DownArrow, Qt::UpArrow },
     { "left", Qt::LeftArrow, Qt::RightArrow }, { "right", Qt::RightArrow, Qt::LeftArrow },
     { "none", Qt::NoArrow, Qt::NoArrow },
 };

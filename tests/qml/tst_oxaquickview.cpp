@@ -246,7 +246,8 @@ void tst_OxaQuickView::centresItselfBelowAWidget_data()
     // The centre of a widget of an even size is left of and above its middle.
     QTest::newRow("even sizes") << QRect(300, 200, 100, 40) << QSize(60, 30) << QPoint(319, 239);
     QTest::newRow("odd sizes") << QRect(300, 200, 101, 41) << QSize(61, 31) << QPoint(320, 240);
-    QTest::newRow("at the right edge") << QRect(700, 200, 100, 40) << QSize(200, 30) << QPoint(600, 239);
+    QTest::newRow("at the right edge")
+            << QRect(700, 200, 100, 40) << QSize(200, 30) << QPoint(600, 239);
 }
 
 void tst_OxaQuickView::centresItselfBelowAWidget()
