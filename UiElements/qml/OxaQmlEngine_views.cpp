@@ -9,6 +9,7 @@
 #include <UiElements/qml/OxaQuickWidget.h>
 
 #include <QDebug>
+#include <QDir>
 #include <QFileInfo>
 #include <QQmlComponent>
 #include <QQuickItem>
@@ -77,7 +78,7 @@ QUrl urlOf(const QString &source, bool onDisk)
 {
     if (onDisk) {
         const QString QmlSourceDir = QString::fromUtf8(UIELEMENTS_QML_SOURCE_DIR);
-        return QUrl::fromLocalFile(QStringLiteral("%1/%2").arg(QmlSourceDir, source));
+        return QUrl::fromLocalFile(QDir::cleanPath(QmlSourceDir + QLatin1Char('/') + source));
     }
     QUrl url;
     url.setScheme(QStringLiteral("qrc"));

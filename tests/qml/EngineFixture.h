@@ -6,8 +6,6 @@
 #include <UiElements/qml/OxaQmlController.h>
 #include <UiElements/qml/OxaQmlEngine.h>
 
-#include <QDir>
-#include <QFile>
 #include <QMetaEnum>
 #include <QPointer>
 #include <QRegularExpression>
@@ -33,12 +31,15 @@ class EngineLog
 public:
     static void note(const QString &entry) { entries().append(entry); }
 
-    /// Returns the entries since the last call.
+    /// Returns the entries since the last call of take().
+    static QString text() { return entries().join(QLatin1String(" | ")); }
+
+    /// Returns the entries since the last call, and forgets them.
     static QString take()
     {
-        const QString text = entries().join(QLatin1String(" | "));
+        const QString all = text();
         entries().clear();
-        return text;
+        return all;
     }
 
 private:
@@ -115,13 +116,6 @@ private:
 
     QPointer<ClientEngine> m_engine;
 };
-
-/// Writes \a text as the content of the file \a path.
-inline bool writeFile(const QString &path, const QByteArray &text)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
-}
 
 /// Announces the warning of Qt that begins with \a text, as a QML file with an error causes it.
 inline void ignoreWarningOfQml(const QString &text)
