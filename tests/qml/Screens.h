@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QVector>
-
 #include <qpa/qplatformscreen.h>
 #include <qpa/qwindowsysteminterface.h>
 

@@ -246,7 +246,8 @@ void tst_OxaQuickView::centresItselfBelowAWidget_data()
     // The centre of a widget of an even size is left of and above its middle.
     QTest::newRow("even sizes") << QRect(300, 200, 100, 40) << QSize(60, 30) << QPoint(319, 239);
     QTest::newRow("odd sizes") << QRect(300, 200, 101, 41) << QSize(61, 31) << QPoint(320, 240);
-    QTest::newRow("at the right edge") << QRect(700, 200, 100, 40) << QSize(200, 30) << QPoint(600, 239);
+    QTest::newRow("at the right edge")
+            << QRect(700, 200, 100, 40) << QSize(200, 30) << QPoint(600, 239);
 }
 
 void tst_OxaQuickView::centresItselfBelowAWidget()
@@ -302,11 +303,10 @@ void tst_OxaQuickView::hasTheSizeOfItsRootItem()
     QCOMPARE(view.size(), QSize(101, 50));
     QCOMPARE(view.minimumSize(), QSize(101, 50));
     QCOMPARE(view.maximumSize(), QSize(101, 50));
-    view.show();
     root->setWidth(200);
-    QTRY_COMPARE(view.size(), QSize(200, 50));
+    QCOMPARE(view.size(), QSize(200, 50));
     root->setHeight(20);
-    QTRY_COMPARE(view.size(), QSize(200, 20));
+    QCOMPARE(view.size(), QSize(200, 20));
     QCOMPARE(view.minimumSize(), QSize(200, 20));
     QCOMPARE(view.maximumSize(), QSize(200, 20));
 }
@@ -385,6 +385,7 @@ void tst_OxaQuickView::survivesAClosingWithoutDeletion()
     QSignalSpy closes(view.get(), &OxaQuickView::aboutToClose);
     for (int i = 1; i <= 2; ++i) {
         view->show();
+        QVERIFY(QTest::qWaitForWindowExposed(view.get()));
         QVERIFY(view->close());
         QCOMPARE(closes.size(), i);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
