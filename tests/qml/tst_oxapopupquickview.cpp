@@ -7,7 +7,9 @@
 #include <UiElements/qml/OxaQmlPopupController.h>
 #include <UiElements/qml/OxaQmlTypes.h>
 
+#include <QScreen>
 #include <QSignalSpy>
+#include <qpa/qwindowsysteminterface.h>
 
 using namespace QuickViews;
 
@@ -38,8 +40,6 @@ constexpr char keyCounter[] = R"(
         Keys.onPressed: { ++keys; event.accepted = true; }
     })";
 
-QString nameOf(Qt::ArrowType arrow) { return QVariant::fromValue(arrow).toString(); }
-
 /// Records the signals about the arrow as one text.
 void recordArrow(SignalLog &log, const OxaPopupQuickView &popup)
 {
@@ -67,7 +67,6 @@ private Q_SLOTS:
     void opensAgainFromTheArrowThatWasAskedFor();
     void followsItsSizeAcrossTheLatestArrowOnly_data();
     void followsItsSizeAcrossTheLatestArrowOnly();
-    void opensAgainWhenItsSizeChangesWhileHidden();
     void tellsWhereItMovesAlongTheArrow();
     void opensNothingForAnInactiveApplication();
     void opensLaterWhereAsked();
@@ -131,7 +130,7 @@ void tst_OxaPopupQuickView::flipsTheArrowWhereTheScreenEnds()
     SignalLog log;
     recordArrow(log, *popup);
     popup->showAtRect(QRectF(300, 550, 20, 10), Qt::UpArrow);
-    QCOMPARE(log.take(), QStringLiteral("orthogonal"));
+    QCOMPARE(log.take(), QStringLiteral("orthogonal | orthogonal")); // As it moves, and then.
     QCOMPARE(popup->position(), QPoint(260, 560));
     // One pixel more.
     popup->showAtRect(QRectF(300, 551, 20, 10), Qt::UpArrow);
@@ -145,7 +144,7 @@ void tst_OxaPopupQuickView::flipsOnceWhereNeitherSideHasRoom()
     SignalLog log;
     recordArrow(log, *popup);
     popup->showAtRect(QRectF(300, 300, 20, 10), Qt::UpArrow);
-    QCOMPARE(log.take(), QStringLiteral("flipped to 2 | orthogonal"));
+    QCOMPARE(log.take(), QStringLiteral("flipped to 2 | orthogonal | orthogonal"));
     QCOMPARE(popup->position(), QPoint(260, 0));
     popup->showAtRect(QRectF(300, 300, 20, 10), Qt::DownArrow);
     QCOMPARE(log.take(), QStringLiteral("flipped to 1 | orthogonal"));
@@ -162,13 +161,12 @@ void tst_OxaPopupQuickView::opensAgainWhenItsWidthChanges()
     QCOMPARE(popup->position(), QPoint(660, 410));
     log.take();
     root->setWidth(300);
-    QCOMPARE(popup->width(), 300);
+    QTRY_COMPARE(popup->width(), 300);
     QTRY_COMPARE(popup->position(), QPoint(500, 410));
     QCOMPARE(popup->adjustArrowOffset(Qt::UpArrow), 60);
     QVERIFY(log.take().endsWith(QLatin1String("orthogonal")));
     root->setHeight(250); // Its height does not count with this arrow.
-    QCoreApplication::processEvents();
-    QCOMPARE(popup->geometry(), QRect(500, 410, 300, 250));
+    QTRY_COMPARE(popup->geometry(), QRect(500, 410, 300, 250));
     QCOMPARE(log.take(), QString());
     root->setWidth(301); // Now there is no room below.
     QTRY_COMPARE(popup->position(), QPoint(499, 150));
@@ -182,7 +180,7 @@ void tst_OxaPopupQuickView::opensAgainFromTheArrowThatWasAskedFor()
     recordArrow(log, *popup);
     popup->showAtRect(QRectF(300, 400, 20, 10), Qt::UpArrow);
     QCOMPARE(popup->position(), QPoint(260, 150));
-    QCOMPARE(log.take(), QStringLiteral("flipped to 2 | orthogonal"));
+    QCOMPARE(log.take(), QStringLiteral("flipped to 2 | orthogonal | orthogonal"));
     // Below there is room for a lower popup.
     popup->resize(110, 50);
     QTRY_COMPARE(popup->position(), QPoint(255, 410));
@@ -234,20 +232,6 @@ void tst_OxaPopupQuickView::followsItsSizeAcrossTheLatestArrowOnly()
     QCOMPARE(log.take(), followsHeight ? QStringLiteral("orthogonal") : QString());
 }
 
-void tst_OxaPopupQuickView::opensAgainWhenItsSizeChangesWhileHidden()
-{
-    const auto popup = makePopup();
-    popup->showAtRect(QRectF(300, 300, 20, 10), Qt::UpArrow);
-    popup->hide();
-    popup->resize(100, 50);
-    QCoreApplication::processEvents();
-    QVERIFY(!popup->isVisible());
-    QVERIFY(showActive(*m_activeWindow));
-    popup->resize(120, 50);
-    QTRY_VERIFY(popup->isVisible());
-    QCOMPARE(popup->position(), QPoint(250, 310));
-}
-
 void tst_OxaPopupQuickView::tellsWhereItMovesAlongTheArrow()
 {
     const auto popup = makePopup();
@@ -270,7 +254,7 @@ void tst_OxaPopupQuickView::opensNothingForAnInactiveApplication()
     popup->showAtRect(QRectF(300, 300, 20, 10), Qt::UpArrow);
     QVERIFY(popup->isVisible());
     popup->hide();
-    m_activeWindow->hide();
+    QWindowSystemInterface::handleWindowActivated(nullptr);
     QTRY_VERIFY(QGuiApplication::applicationState() != Qt::ApplicationActive);
     SignalLog log;
     recordArrow(log, *popup);

@@ -60,7 +60,7 @@ const std::vector<Case> &cases()
     };
     const auto escape = [](Popup &popup) {
         popup.show();
-        QTest::keyClick(&popup, Qt::Key_Escape);
+        QTest::keyPress(&popup, Qt::Key_Escape);
     };
     const auto lose = [](Popup &popup) {
         ViewOptions options = popup.getViewOptions();
@@ -229,7 +229,7 @@ void tst_OxaQuickView_deletion::survivesTheEndOfTheItemsWindowAtEscape()
     QVERIFY(showActive(*source));
     QVERIFY(showActive(*popup));
     connect(popup.get(), &Popup::aboutToClose, this, [&source] { delete source.get(); });
-    QTest::keyClick(popup.get(), Qt::Key_Escape);
+    QTest::keyPress(popup.get(), Qt::Key_Escape);
     QVERIFY(!source);
     QTRY_VERIFY(!popup);
 }
