@@ -43,7 +43,7 @@ template <typename View>
 QQuickItem *load(View &view, const QByteArray &text)
 {
     auto *component = new QQmlComponent(view.engine(), &view);
-    const QUrl url(QStringLiteral("inline:View.qml"));
+    const QUrl url(QStringLiteral("qrc:/View.qml"));
     component->setData(text, url);
     if (component->isError())
         qFatal("%s", qPrintable(component->errorString()));

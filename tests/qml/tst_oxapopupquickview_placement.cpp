@@ -19,7 +19,7 @@ const QRect sideArea(-990, -670, 970, 570);
 const QRect smallScreen(0, 800, 320, 240);
 
 /// The first screen: that of the platform.
-const QRect firstScreen(0, 0, 800, 800);
+const QRect firstScreen(0, 0, 800, 600);
 
 struct Named
 {
@@ -196,6 +196,8 @@ class tst_OxaPopupQuickView_placement : public QObject
 
 private Q_SLOTS:
     void initTestCase();
+    void init();
+    void cleanupTestCase();
 
     void opensBesideARectangle_data();
     void opensBesideARectangle();
@@ -207,13 +209,20 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<OxaQmlEngine> m_engine;
+    std::unique_ptr<QWindow> m_activeWindow;
 };
 
 void tst_OxaPopupQuickView_placement::initTestCase()
 {
     QCOMPARE(QGuiApplication::primaryScreen()->availableGeometry(), firstScreen);
     m_engine = std::make_unique<OxaQmlEngine>(nullptr);
+    m_activeWindow = std::make_unique<QWindow>();
 }
+
+/// Popups open for an active application only.
+void tst_OxaPopupQuickView_placement::init() { QVERIFY(showActive(*m_activeWindow)); }
+
+void tst_OxaPopupQuickView_placement::cleanupTestCase() { m_activeWindow.reset(); }
 
 void tst_OxaPopupQuickView_placement::opensBesideARectangle_data()
 {
@@ -296,7 +305,7 @@ void tst_OxaPopupQuickView_placement::putsItselfBelowAWidgetWithoutShowing_data(
     QTest::newRow("wider than the screen")
             << QRect(300, 200, 100, 40) << QSize(900, 30) << QPoint(0, 239);
     QTest::newRow("below the screen, and so at its left")
-            << QRect(300, 780, 100, 30) << QSize(60, 30) << QPoint(0, 809);
+            << QRect(300, 580, 100, 30) << QSize(60, 30) << QPoint(0, 609);
     QTest::newRow("on no screen") << QRect(2000, 200, 100, 40) << QSize(60, 30)
                                   << QPoint(2019, 239);
     // Panels count as part of the screen here.

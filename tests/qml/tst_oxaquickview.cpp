@@ -303,11 +303,10 @@ void tst_OxaQuickView::hasTheSizeOfItsRootItem()
     QCOMPARE(view.size(), QSize(101, 50));
     QCOMPARE(view.minimumSize(), QSize(101, 50));
     QCOMPARE(view.maximumSize(), QSize(101, 50));
-    view.show();
     root->setWidth(200);
-    QTRY_COMPARE(view.size(), QSize(200, 50));
+    QCOMPARE(view.size(), QSize(200, 50));
     root->setHeight(20);
-    QTRY_COMPARE(view.size(), QSize(200, 20));
+    QCOMPARE(view.size(), QSize(200, 20));
     QCOMPARE(view.minimumSize(), QSize(200, 20));
     QCOMPARE(view.maximumSize(), QSize(200, 20));
 }
@@ -386,6 +385,7 @@ void tst_OxaQuickView::survivesAClosingWithoutDeletion()
     QSignalSpy closes(view.get(), &OxaQuickView::aboutToClose);
     for (int i = 1; i <= 2; ++i) {
         view->show();
+        QVERIFY(QTest::qWaitForWindowExposed(view.get()));
         QVERIFY(view->close());
         QCOMPARE(closes.size(), i);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
