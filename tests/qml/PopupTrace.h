@@ -41,25 +41,34 @@ public:
     QRectF b { 400, 300, 40, 20 };
 
     PopupContext *context() const { return m_context; }
+    OxaQmlEngine *engine() const { return m_engine.engine(); }
     OxaPopupQuickView *popup() const
     {
         return m_context ? qobject_cast<OxaPopupQuickView *>(
                        m_context->findOxaQuickView(source.toStdString()).data())
                          : nullptr;
     }
-    PopupContextTimer *openTimer() const { return m_context->findDelayOpenTimer(source); }
-    PopupContextTimer *closeTimer() const { return m_context->findDelayCloseTimer(source); }
+    PopupContextTimer *openTimer() const
+    {
+        return m_context ? m_context->findDelayOpenTimer(source).data() : nullptr;
+    }
+    PopupContextTimer *closeTimer() const
+    {
+        return m_context ? m_context->findDelayCloseTimer(source).data() : nullptr;
+    }
 
     void create()
     {
-        m_context->createQmlPopup(source, nullptr, OxaQmlBalloon::Top, {}, {});
+        if (m_context)
+            m_context->createQmlPopup(source, nullptr, OxaQmlBalloon::Top, {}, {});
         settle();
     }
 
     void show(const QRectF &rect, bool delayed, OxaQmlBalloon::ArrowAnchor anchor,
               const PopupContext::ControllerCallback &callback)
     {
-        m_context->showQmlPopup(source, rect, delayed, anchor, callback);
+        if (m_context)
+            m_context->showQmlPopup(source, rect, delayed, anchor, callback);
         settle();
     }
     void showDelayed(const QRectF &rect) { show(rect, true, OxaQmlBalloon::Top, {}); }
@@ -121,8 +130,6 @@ public:
 private:
     void stopTheClock()
     {
-        if (!m_context)
-            return;
         for (PopupContextTimer *const timer : { openTimer(), closeTimer() }) {
             if (timer && timer->isActive())
                 timer->setInterval(never);

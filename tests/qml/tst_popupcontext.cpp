@@ -285,6 +285,8 @@ void tst_PopupContext::keepsTheRequestThatWaits()
     PopupTrace::point(trace.a.center().toPoint());
     trace.showDelayed(trace.a);
     trace.poll();
+    bool isHeard = false;
+    connect(trace.openTimer(), &PopupContextTimer::stopped, this, [&isHeard] { isHeard = true; });
     trace.show(trace.b, true, OxaQmlBalloon::Top, noting(QStringLiteral("B")));
     QCOMPARE(trace.openTimer()->requestedRect(), trace.b);
     trace.show(trace.b, true, OxaQmlBalloon::Top, noting(QStringLiteral("B again")));
@@ -297,6 +299,7 @@ void tst_PopupContext::keepsTheRequestThatWaits()
     trace.passCloseTime();
     trace.poll();
     QCOMPARE(EngineLog::take(), QStringLiteral("B"));
+    QVERIFY(!isHeard); // A request removes all other receivers.
 }
 
 void tst_PopupContext::keepsThePositionForTheSameRectangle()

@@ -35,7 +35,7 @@ const QMap<QString, Step> &steps()
         { QStringLiteral("pass"), [](PopupTrace &trace) { trace.passCloseTime(); } },
         { QStringLiteral("escape"),
           [](PopupTrace &trace) {
-              QTest::keyClick(trace.popup(), Qt::Key_Escape);
+              QTest::keyPress(trace.popup(), Qt::Key_Escape);
               trace.settle();
           } },
         { QStringLiteral("closeQmlPopups"),
@@ -134,6 +134,10 @@ void tst_PopupContext_States::goesThroughItsStates_data()
         "create: hidden, to A: hidden, A later: hidden open, poll: shown open, to B: shown open, "
         "B later: shown open pending, poll: shown open close pending, pass: hidden open, "
         "away: hidden open, poll: hidden open close, pass: none");
+    add("waiting: the pointer is where the hidden popup was",
+        "create: hidden, to A: hidden, A later: hidden open, poll: shown open, to B: shown open, "
+        "B later: shown open pending, poll: shown open close pending, pass: hidden open, "
+        "to popup: hidden open, poll: hidden open close");
     add("visible: another rectangle, escape",
         "create: hidden, to A: hidden, A later: hidden open, poll: shown open, "
         "B later: shown open pending, escape: none");

@@ -5,8 +5,8 @@ import UiElements 1.0
 OxaBalloon {
     width: 120
     height: 80
-    arrowAnchor: controller.arrowAnchor
-    arrowOffset: controller.arrowOffset
+    arrowAnchor: controller ? controller.arrowAnchor : OxaBalloon.None
+    arrowOffset: controller ? controller.arrowOffset : 0
 
     OxaQmlPopupController {
         id: controller
