@@ -9,7 +9,9 @@ class UIELEMENTS_EXPORT DialogContext : public OxaQuickViewContext
     Q_OBJECT
 
 public:
-    using OxaQuickViewContext::OxaQuickViewContext;
+    /// Makes a context without dialogs.
+    explicit DialogContext(QObject *parent = nullptr);
+    ~DialogContext() override;
 
     /// Returns the dialog of \a source, or makes a hidden one with a fixed size above \a parent,
     /// see OxaQmlEngine::createQmlDialog(). A dialog that exists gets neither the initial
