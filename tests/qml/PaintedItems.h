@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "QmlScript.h"
+#include "PropertyRows.h"
 
 #include <QImage>
-#include <QMetaProperty>
 #include <QPainter>
 #include <QQuickPaintedItem>
 #include <QQuickRenderControl>
 #include <QQuickWindow>
-#include <QSignalSpy>
-#include <QTest>
 
 #include <functional>
 
@@ -85,107 +82,37 @@ inline QString differenceOf(const QImage &one, const QImage &other, int toleranc
     return {};
 }
 
-/// One property of an \a Item. Values are the texts that a QVariant of them gives.
+/// Checks that \a set sets the second value of \a property, and repaints the item if \a repaints.
 template <typename Item>
-struct Property
-{
-    const char *name;
-    const char *type;
-    const char *signal;
-    const char *first;
-    const char *second;
-    const char *script;       ///< The second value in QML.
-    void (*set)(Item &);      ///< Sets the second value, null where C++ has no setter.
-    bool repaintsInQml;       ///< A setter of C++ always does.
-    bool emitsAlways = false; ///< Also for the same value, and repaints then too.
-};
-
-/// Adds a row for each of \a properties.
-template <typename Item, std::size_t Count>
-void addRows(const Property<Item> (&properties)[Count])
-{
-    QTest::addColumn<int>("row");
-    for (std::size_t i = 0; i < Count; ++i)
-        QTest::newRow(properties[i].name) << int(i);
-}
-
-/// Adds a row for each of \a properties that has a setter.
-template <typename Item, std::size_t Count>
-void addSetterRows(const Property<Item> (&properties)[Count])
-{
-    QTest::addColumn<int>("row");
-    for (std::size_t i = 0; i < Count; ++i) {
-        if (properties[i].set)
-            QTest::newRow(properties[i].name) << int(i);
-    }
-}
-
-/// Returns the value of the property \a name as a text, that of an enumeration as its name.
-inline QString textOf(const QObject &item, const char *name)
-{
-    const QMetaObject &type = *item.metaObject();
-    const QMetaProperty property = type.property(type.indexOfProperty(name));
-    const QVariant value = property.read(&item);
-    return property.isEnumType()
-            ? QString::fromLatin1(property.enumerator().valueToKey(value.toInt()))
-            : value.toString();
-}
-
-/// Checks the declaration and the first value of \a property, which is \a index of its class.
-template <typename Item>
-void checkDeclaration(const Property<Item> &property, int index)
-{
-    const QMetaObject &type = Item::staticMetaObject;
-    const QMetaProperty declared = type.property(type.propertyOffset() + index);
-    QCOMPARE(declared.name(), property.name);
-    QCOMPARE(declared.typeName(), property.type);
-    QCOMPARE(declared.notifySignal().methodSignature(), QByteArray(property.signal));
-    QCOMPARE(textOf(Item(), property.name), QString::fromLatin1(property.first));
-}
-
-/// Checks that \a set, twice with the same value, sets the second value of \a property.
-template <typename Item>
-void checkChange(const Property<Item> &property, const std::function<void(Item &)> &set,
+void checkChange(const PropertyRow<Item> &property, const std::function<void(Item &)> &set,
                  bool repaints)
 {
     Counted<Item> item;
     item.setSize(QSizeF(60, 40));
     Stage stage(item);
     stage.picture();
-    QCOMPARE(item.paints, 1);
-
-    int signalCount = 0;
     int paints = 1;
-    const QMetaObject &type = Item::staticMetaObject;
-    const QSignalSpy spy(&item, type.method(type.indexOfSignal(property.signal)));
-    for (const bool isFirst : { true, false }) {
-        set(item);
-        QCOMPARE(textOf(item, property.name), QString::fromLatin1(property.second));
+    QCOMPARE(item.paints, paints);
+
+    PropertyRows::checkChange<Item>(property, item, set, [&](bool isChange) {
         stage.picture();
-        const bool counts = isFirst || property.emitsAlways;
-        signalCount += counts;
-        paints += counts && repaints;
-        QCOMPARE(spy.count(), signalCount);
+        paints += isChange && repaints;
         QCOMPARE(item.paints, paints);
-    }
+    });
 }
 
 /// Checks the setter of C++.
 template <typename Item>
-void checkSetter(const Property<Item> &property)
+void checkSetter(const PropertyRow<Item> &property)
 {
     checkChange<Item>(property, property.set, true);
 }
 
 /// Checks that QML sets the property.
 template <typename Item>
-void checkQml(const Property<Item> &property)
+void checkQml(const PropertyRow<Item> &property)
 {
-    const QString script = QStringLiteral("it.%1 = %2")
-                                   .arg(QLatin1String(property.name),
-                                        QLatin1String(property.script));
-    const auto set = [&script](Item &item) { QmlScript::run(item, script); };
-    checkChange<Item>(property, set, property.repaintsInQml);
+    checkChange<Item>(property, PropertyRows::setterInQml(property), property.repaintsInQml);
 }
 
 } // namespace PaintedItems

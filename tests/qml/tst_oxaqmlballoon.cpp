@@ -8,7 +8,7 @@ namespace {
 
 using Balloon = OxaQmlBalloon;
 
-const PaintedItems::Property<Balloon> properties[] = {
+const PropertyRow<Balloon> properties[] = {
     { "arrowAlignment", "ArrowAlignment", "arrowAlignmentChanged()", "CenterAlignment",
       "TopAlignment", "OxaBalloon.TopAlignment",
       [](Balloon &balloon) { balloon.setArrowAlignment(Balloon::TopAlignment); }, true },
@@ -49,15 +49,15 @@ private Q_SLOTS:
     void mayBeDeletedInASlotOfASetter();
 };
 
-void tst_OxaQmlBalloon::declaresItsProperties_data() { PaintedItems::addRows(properties); }
+void tst_OxaQmlBalloon::declaresItsProperties_data() { PropertyRows::addRows(properties); }
 
 void tst_OxaQmlBalloon::declaresItsProperties()
 {
     QFETCH(const int, row);
-    PaintedItems::checkDeclaration(properties[row], row);
+    PropertyRows::checkDeclaration(properties[row], row);
 }
 
-void tst_OxaQmlBalloon::changesInCpp_data() { PaintedItems::addSetterRows(properties); }
+void tst_OxaQmlBalloon::changesInCpp_data() { PropertyRows::addSetterRows(properties); }
 
 void tst_OxaQmlBalloon::changesInCpp()
 {
@@ -65,7 +65,7 @@ void tst_OxaQmlBalloon::changesInCpp()
     PaintedItems::checkSetter(properties[row]);
 }
 
-void tst_OxaQmlBalloon::changesInQml_data() { PaintedItems::addRows(properties); }
+void tst_OxaQmlBalloon::changesInQml_data() { PropertyRows::addRows(properties); }
 
 void tst_OxaQmlBalloon::changesInQml()
 {
@@ -107,7 +107,7 @@ void tst_OxaQmlBalloon::repaintsOnceForSeveralChanges()
 
 void tst_OxaQmlBalloon::mayBeDeletedInASlotOfASetter_data()
 {
-    PaintedItems::addSetterRows(properties);
+    PropertyRows::addSetterRows(properties);
 }
 
 void tst_OxaQmlBalloon::mayBeDeletedInASlotOfASetter()

@@ -8,7 +8,7 @@ namespace {
 
 using HalfPill = OxaQmlHalfPill;
 
-const PaintedItems::Property<HalfPill> properties[] = {
+const PropertyRow<HalfPill> properties[] = {
     { "backgroundColor", "QColor", "backgroundColorChanged()", "#00000000", "#ffff00", "'yellow'",
       [](HalfPill &pill) { pill.setBackgroundColor(Qt::yellow); }, true, true },
     { "borderColor", "QColor", "borderColorChanged()", "#00000000", "#0000ff", "'blue'",
@@ -40,15 +40,15 @@ private Q_SLOTS:
     void mayBeDeletedInASlotOfASetter();
 };
 
-void tst_OxaQmlHalfPill::declaresItsProperties_data() { PaintedItems::addRows(properties); }
+void tst_OxaQmlHalfPill::declaresItsProperties_data() { PropertyRows::addRows(properties); }
 
 void tst_OxaQmlHalfPill::declaresItsProperties()
 {
     QFETCH(const int, row);
-    PaintedItems::checkDeclaration(properties[row], row);
+    PropertyRows::checkDeclaration(properties[row], row);
 }
 
-void tst_OxaQmlHalfPill::changesInCpp_data() { PaintedItems::addSetterRows(properties); }
+void tst_OxaQmlHalfPill::changesInCpp_data() { PropertyRows::addSetterRows(properties); }
 
 void tst_OxaQmlHalfPill::changesInCpp()
 {
@@ -56,7 +56,7 @@ void tst_OxaQmlHalfPill::changesInCpp()
     PaintedItems::checkSetter(properties[row]);
 }
 
-void tst_OxaQmlHalfPill::changesInQml_data() { PaintedItems::addRows(properties); }
+void tst_OxaQmlHalfPill::changesInQml_data() { PropertyRows::addRows(properties); }
 
 void tst_OxaQmlHalfPill::changesInQml()
 {
@@ -75,7 +75,7 @@ void tst_OxaQmlHalfPill::returnsItsColors()
 
 void tst_OxaQmlHalfPill::mayBeDeletedInASlotOfASetter_data()
 {
-    PaintedItems::addSetterRows(properties);
+    PropertyRows::addSetterRows(properties);
 }
 
 void tst_OxaQmlHalfPill::mayBeDeletedInASlotOfASetter()
