@@ -112,25 +112,25 @@ void tst_OxaQmlControllersModels::deletesAnOwnedModelOfAnyClass()
 void tst_OxaQmlControllersModels::leavesAModelThatItDoesNotOwn()
 {
     Controller controller;
-    QObject object;
-    const QPointer<QObject> model = &object;
+    const QPointer<QObject> model = new QObject;
     controller.setModel(model);
     controller.die();
     deleteLaterNow();
     QVERIFY(model);
+    delete model.data();
 }
 
 void tst_OxaQmlControllersModels::leavesAModelThatWasReplaced()
 {
     Controller controller;
-    QObject object;
-    const QPointer<QObject> model = &object;
+    const QPointer<QObject> model = new QObject;
     controller.own();
     controller.setModel(model);
     controller.setModel(QStringList());
     controller.die();
     deleteLaterNow();
     QVERIFY(model);
+    delete model.data();
 }
 
 void tst_OxaQmlControllersModels::ownsWhatIsNoObject_data()

@@ -85,7 +85,7 @@ private Q_SLOTS:
     void takesTheAnchorOfAFlip();
     void tellsNothingWhenTheAnchorStays();
     void asksNothingOfAViewAtFirst();
-    void listensOnce();
+    void staysWithItsViewWhenItIsSetAgain();
     void leavesTheViewBefore();
     void leavesTheViewForNone();
     void outlivesItsView();
@@ -163,13 +163,16 @@ void tst_OxaQmlPopupController::asksNothingOfAViewAtFirst()
     QCOMPARE(controller.arrowOffset(), -45);
 }
 
-void tst_OxaQmlPopupController::listensOnce()
+void tst_OxaQmlPopupController::staysWithItsViewWhenItIsSetAgain()
 {
     View view;
     OxaQmlPopupController controller;
     controller.setPopupQuickView(&view);
+    connect(&view, &View::widthChanged, &controller, &OxaQmlPopupController::setArrowSize);
     controller.setPopupQuickView(&view);
     QCOMPARE(view.listeners(), 2);
+    view.resize(200, 50);
+    QCOMPARE(controller.arrowSize(), 200);
 }
 
 void tst_OxaQmlPopupController::leavesTheViewBefore()
