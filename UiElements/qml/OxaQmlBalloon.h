@@ -8,6 +8,8 @@
 #include <QPoint>
 #include <QQuickPaintedItem>
 
+#include <tuple>
+
 /// A rounded rectangle with an arrow on one side, drawn as one outline, so that the border runs
 /// around the arrow without a seam: the shape of a popup. QML knows it as OxaBalloon.
 ///
@@ -140,7 +142,8 @@ private:
     int m_borderWidth = 1;
     int m_topMargin = 0;
 
-    // The latest outline, and what it is without the lines between body and arrow.
+    /// What the outline was computed from: the size, the anchor, the centre, the arrow's size and
+    /// the radius.
+    std::tuple<double, double, ArrowAnchor, double, double, int, int> m_outlineParts;
     QPainterPath m_outline;
-    QPainterPath m_simplifiedOutline;
 };
