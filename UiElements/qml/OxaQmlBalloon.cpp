@@ -168,12 +168,13 @@ void OxaQmlBalloon::paint(QPainter *painter)
         painter->drawRoundedRect(0, 0, int(size.width()), int(size.height()), m_radius, m_radius);
         return;
     }
-    const QPainterPath path = outline(size);
-    if (path != m_outline) {
-        m_outline = path;
-        m_simplifiedOutline = path.simplified(); // Slow, and the same for most repaints.
+    const auto parts = std::make_tuple(size.width(), size.height(), m_arrowAnchor, getXCenter(size),
+                                       getYCenter(size), m_arrowSize, m_radius);
+    if (parts != m_outlineParts) {
+        m_outlineParts = parts;
+        m_outline = outline(size).simplified(); // Slow, and the same for most repaints.
     }
-    painter->drawPath(m_simplifiedOutline);
+    painter->drawPath(m_outline);
 }
 
 OxaQmlBalloon::ArrowAnchor OxaQmlBalloon::arrowAnchorFromArrowType(Qt::ArrowType arrow)

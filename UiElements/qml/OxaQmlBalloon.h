@@ -8,6 +8,8 @@
 #include <QPoint>
 #include <QQuickPaintedItem>
 
+#include <tuple>
+
 /// A rounded rectangle with an arrow on one side, drawn as one outline, so that the border runs
 /// around the arrow without a seam: the shape of a popup. QML knows it as OxaBalloon.
 ///
@@ -44,48 +46,45 @@ public:
     };
     Q_ENUM(ArrowAlignment)
 
+    /// Makes a balloon that nothing of is seen until it has colours and a size.
     explicit OxaQmlBalloon(QQuickItem *parent = nullptr);
-
-    // Each setter does nothing if the value is the same. Otherwise it emits the signal, then
-    // repaints.
 
     /// CenterAlignment by default.
     ArrowAlignment arrowAlignment() const;
-    void setArrowAlignment(ArrowAlignment alignment);
-
     /// Top by default.
     ArrowAnchor arrowAnchor() const;
-    void setArrowAnchor(ArrowAnchor anchor);
-
     /// Transparent by default.
     QColor backgroundColor() const;
-    void setBackgroundColor(const QColor &color);
-
     /// Transparent by default.
     QColor borderColor() const;
-    void setBorderColor(const QColor &color);
-
     /// Returns how far the arrow is moved from its alignment, to the right or downwards. 0 by
-    /// default. The arrow stops at the corners.
+    /// default. It stops where it would run into a corner.
     int arrowOffset() const;
-    void setArrowOffset(int offset);
-
     /// Returns the height of the arrow, which is half its base. 10 by default. The body is smaller
     /// by as much on the arrow's side.
     int arrowSize() const;
-    void setArrowSize(int size);
-
     /// Returns the radius of the corners. 0 by default.
     int radius() const;
-
-    /// Returns the width of the border, half of which is outside of the outline. 1 by default.
+    /// Returns the width of the border, half of which is outside of the outline. 1 by default, and
+    /// one device pixel for 0.
     int borderWidth() const;
-    void setBorderWidth(int width);
-
     /// Returns by how much the balloon is shortened, at its bottom in spite of the name. 0 by
     /// default.
     int topMargin() const;
+
+    /// \name Setters
+    /// \{
+
+    /// Does nothing if the value is the same. Otherwise it emits the signal, then repaints.
+    void setArrowAlignment(ArrowAlignment alignment);
+    void setArrowAnchor(ArrowAnchor anchor);
+    void setBackgroundColor(const QColor &color);
+    void setBorderColor(const QColor &color);
+    void setArrowOffset(int offset);
+    void setArrowSize(int size);
+    void setBorderWidth(int width);
     void setTopMargin(int margin);
+    /// \}
 
     void paint(QPainter *painter) override;
 
@@ -105,6 +104,10 @@ public:
                                ArrowAlignment alignment, int offset, int inset);
 
 Q_SIGNALS:
+    /// \name Changes
+    /// \{
+
+    /// The property was set to another value.
     void arrowAlignmentChanged();
     void arrowAnchorChanged();
     void backgroundColorChanged();
@@ -114,6 +117,7 @@ Q_SIGNALS:
     void radiusChanged();
     void borderWidthChanged();
     void topMarginChanged();
+    /// \}
 
 private:
     template <typename Value>
@@ -138,7 +142,8 @@ private:
     int m_borderWidth = 1;
     int m_topMargin = 0;
 
-    // The latest outline, and what it is without the lines between body and arrow.
+    /// What the outline was computed from: the size, the anchor, the centre, the arrow's size and
+    /// the radius.
+    std::tuple<double, double, ArrowAnchor, double, double, int, int> m_outlineParts;
     QPainterPath m_outline;
-    QPainterPath m_simplifiedOutline;
 };

@@ -17,6 +17,7 @@ class UIELEMENTS_EXPORT OxaQmlController : public OxaObject
     Q_OBJECT
 
 public:
+    /// Makes a controller that \a parent owns.
     explicit OxaQmlController(QObject *parent = nullptr);
 
     /// Takes the properties that the view was made with. Called once when the file has loaded, and

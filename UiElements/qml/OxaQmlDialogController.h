@@ -17,6 +17,7 @@ class UIELEMENTS_EXPORT OxaQmlDialogController : public OxaQmlController
     Q_PROPERTY(QVariant model READ _model WRITE setModel NOTIFY modelChanged)
 
 public:
+    /// Makes a controller without a model.
     explicit OxaQmlDialogController(QObject *parent = nullptr);
 
     /// Deletes the model if it is owned, is an object and is alive, but only when control returns

@@ -21,7 +21,7 @@ class UIELEMENTS_EXPORT OxaQmlHalfPill : public QQuickPaintedItem
     Q_PROPERTY(bool borderLeft MEMBER m_borderLeft NOTIFY borderChanged)
     Q_PROPERTY(bool borderRight MEMBER m_borderRight NOTIFY borderChanged)
     Q_PROPERTY(bool borderTop MEMBER m_borderTop NOTIFY borderChanged)
-    /// In pixels. 1 by default.
+    /// 1 by default, and one device pixel for 0.
     Q_PROPERTY(int borderWidth MEMBER m_borderWidth NOTIFY borderChanged)
     /// The round end. Left by default.
     Q_PROPERTY(RoundEdge edge MEMBER m_edge NOTIFY edgeChanged)
@@ -31,6 +31,7 @@ public:
     enum RoundEdge { Left, Right, None };
     Q_ENUM(RoundEdge)
 
+    /// Makes a bar that nothing of is seen until it has colours and a size.
     explicit OxaQmlHalfPill(QQuickItem *parent = nullptr);
 
     /// Transparent by default.
@@ -48,10 +49,13 @@ public:
     void paint(QPainter *painter) override;
 
 Q_SIGNALS:
+    /// backgroundColor was set, to whatever value.
     void backgroundColorChanged();
+    /// borderColor was set, to whatever value.
     void borderColorChanged();
     /// One of the borders or their width was set to another value.
     void borderChanged();
+    /// edge was set to another value.
     void edgeChanged();
 
 private:

@@ -33,6 +33,7 @@ class UIELEMENTS_EXPORT OxaQmlPopupController : public OxaQmlController
     Q_PROPERTY(QString themeType MEMBER m_themeType WRITE setThemeType NOTIFY themeTypeChanged)
 
 public:
+    /// Makes a controller without a view.
     explicit OxaQmlPopupController(QObject *parent = nullptr);
 
     /// Deletes the model if it is owned, is an object and is alive, but only when control returns
@@ -76,10 +77,13 @@ public:
 Q_SIGNALS:
     /// takesModelOwnership was set to another value.
     void takesModelOwnershipChanged();
+    /// arrowOffset was set to another value.
     void arrowOffsetChanged();
+    /// arrowSize was set to another value.
     void arrowSizeChanged();
     /// arrowAlignment was set to another value.
     void arrowAlignmentChanged();
+    /// arrowAnchor was set to another value.
     void arrowAnchorChanged();
     /// The model was set to another value.
     void modelChanged();

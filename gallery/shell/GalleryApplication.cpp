@@ -8,8 +8,12 @@
 #include "looks/FocusFrameStyle.h"
 #include "looks/TextSettings.h"
 #include "looks/ThemeSwitcher.h"
+#include "pages/painted/PaintedItemController.h"
+
+#include <UiElements/qml/OxaQmlTypes.h>
 
 #include <QProcess>
+#include <QQuickWindow>
 #include <QTextStream>
 
 namespace {
@@ -45,6 +49,9 @@ GalleryApplication::GalleryApplication(int &argc, char **argv)
     setApplicationDisplayName(tr("UiElements Gallery"));
     setStyle(new FocusFrameStyle);
     substituteFonts();
+    // QML among widgets is painted as they are, so that it needs no OpenGL.
+    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
 }
 
 GalleryApplication *GalleryApplication::get()
@@ -97,7 +104,12 @@ int GalleryApplication::showWindow(const QString &page)
     return exec();
 }
 
-void GalleryApplication::onQmlEngineCreated(OxaQmlEngine *engine) { Q_UNUSED(engine) }
+void GalleryApplication::onQmlEngineCreated(OxaQmlEngine *engine)
+{
+    Q_UNUSED(engine)
+    OxaQmlTypes::registerQmlTypes();
+    qmlRegisterType<PaintedItemController>("Gallery", 1, 0, "PaintedItemController");
+}
 
 void GalleryApplication::restart()
 {

@@ -31,8 +31,24 @@ void addFocus(PropertyControls *controls, QWidget *widget)
     controls->ControlPanel::addChoice(tr("setFocus()"), places, 0, focus);
 }
 
-/// Returns a log of the signals of \a widget, which may change what \a controls show.
-CodeEdit *makeLog(QWidget *widget, PropertyControls *controls)
+} // namespace
+
+PropertyControls *WidgetCard::add(Page &page, const QString &heading, const QString &explanation,
+                                  const std::function<QWidget *()> &make)
+{
+    auto *specimens = new Specimens(make);
+    QWidget *inUse = specimens->widgets().front();
+    auto *controls = new PropertyControls(specimens->widgets());
+    auto *card = new Card(heading, explanation);
+    card->body()->addWidget(specimens);
+    card->body()->addWidget(controls);
+    card->body()->addWidget(makeLog(inUse, QWidget::staticMetaObject.methodCount(), controls));
+    page.body()->addWidget(card);
+    addFocus(controls, inUse);
+    return controls;
+}
+
+QWidget *WidgetCard::makeLog(QObject *object, int firstMethod, PropertyControls *controls)
 {
     auto *log = new CodeEdit;
     log->setReadOnly(true);
@@ -49,25 +65,8 @@ CodeEdit *makeLog(QWidget *widget, PropertyControls *controls)
                 QStringLiteral("%1(%2)").arg(name, arguments.join(QStringLiteral(", "))));
         controls->refresh();
     };
-    new SignalWatcher(widget, note, log, QWidget::staticMetaObject.methodCount());
+    new SignalWatcher(object, note, log, firstMethod);
     return log;
-}
-
-} // namespace
-
-PropertyControls *WidgetCard::add(Page &page, const QString &heading, const QString &explanation,
-                                  const std::function<QWidget *()> &make)
-{
-    auto *specimens = new Specimens(make);
-    QWidget *inUse = specimens->widgets().front();
-    auto *controls = new PropertyControls(specimens->widgets());
-    auto *card = new Card(heading, explanation);
-    card->body()->addWidget(specimens);
-    card->body()->addWidget(controls);
-    card->body()->addWidget(makeLog(inUse, controls));
-    page.body()->addWidget(card);
-    addFocus(controls, inUse);
-    return controls;
 }
 
 PropertyControls::Choices WidgetCard::icons(const PropertyControls::Choice &own)

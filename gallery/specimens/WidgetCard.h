@@ -14,6 +14,10 @@ namespace WidgetCard {
 PropertyControls *add(Page &page, const QString &heading, const QString &explanation,
                       const std::function<QWidget *()> &make);
 
+/// Returns a log of the signals of \a object whose methods are numbered \a firstMethod and above.
+/// They may change what \a controls show.
+QWidget *makeLog(QObject *object, int firstMethod, PropertyControls *controls);
+
 /// Returns \a own and other icons, or none, for a property that names an icon.
 PropertyControls::Choices icons(const PropertyControls::Choice &own);
 

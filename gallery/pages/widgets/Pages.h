@@ -14,5 +14,6 @@ Page *makeForms(QWidget *parent);
 Page *makeSvgWidgets(QWidget *parent);
 Page *makeEmojiText(QWidget *parent);
 Page *makeLists(QWidget *parent);
+Page *makePaintedItems(QWidget *parent);
 
 } // namespace Pages
