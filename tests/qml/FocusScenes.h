@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "QuickViews.h"
+
+#include <UiElements/qml/OxaQuickWidget.h>
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QQmlContext>
+#include <QQuickWindow>
+
+/// A window with QML between two fields, for tests of the keyboard focus.
+struct FocusScene
+{
+    /// Two items that Tab visits, and the border after them.
+    static constexpr char twoItems[] = R"(
+        import QtQuick 2.15
+        Item {
+            id: root
+            width: 100; height: 40
+            Item { id: first; activeFocusOnTab: true; width: 10; height: 10 }
+            Item { id: second; activeFocusOnTab: true; width: 10; height: 10 }
+            Item { id: breakQmlFocus; activeFocusOnTab: true }
+        })";
+
+    FocusScene(OxaQmlEngine *engine, const char *qml)
+        : before(new QLineEdit), quick(new OxaQuickWidget(engine, nullptr)), after(new QLineEdit)
+    {
+        auto *layout = new QHBoxLayout(&window);
+        before->setObjectName(QStringLiteral("before"));
+        quick->setObjectName(QStringLiteral("quick"));
+        after->setObjectName(QStringLiteral("after"));
+        for (QWidget *widget : { static_cast<QWidget *>(before), static_cast<QWidget *>(quick),
+                                 static_cast<QWidget *>(after) })
+            layout->addWidget(widget);
+        quick->setCustomAccessibilityEnabled(true);
+        quick->setResizeMode(QQuickWidget::SizeRootObjectToView);
+        quick->setMinimumSize(100, 40);
+        QuickViews::load(*quick, qml);
+    }
+
+    /// Shows the window with the focus in the field before the QML.
+    bool show()
+    {
+        window.show();
+        window.activateWindow();
+        before->setFocus();
+        return QTest::qWaitForWindowActive(&window)
+                && QTest::qWaitFor([this] { return before->hasFocus(); });
+    }
+
+    /// Returns where the focus is: the id of an item, or the name of a widget.
+    QString focus() const
+    {
+        const QWidget *widget = window.focusWidget();
+        if (!widget || !widget->hasFocus())
+            return QStringLiteral("nowhere");
+        QQuickItem *item = quick->quickWindow()->activeFocusItem();
+        if (widget != quick || !item)
+            return widget->objectName();
+        const QQmlContext *context = qmlContext(item);
+        const QString id = context ? context->nameForObject(item) : QString();
+        return id.isEmpty() ? QStringLiteral("quick") : id;
+    }
+
+    QWidget window;
+    QLineEdit *const before;
+    OxaQuickWidget *const quick;
+    QLineEdit *const after;
+};
