@@ -36,18 +36,27 @@ struct FocusScene
             layout->addWidget(widget);
         quick->setCustomAccessibilityEnabled(true);
         quick->setResizeMode(QQuickWidget::SizeRootObjectToView);
-        quick->setMinimumSize(100, 40);
         QuickViews::load(*quick, qml);
     }
 
     /// Shows the window with the focus in the field before the QML.
     bool show()
     {
+        if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+            QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
         window.show();
         window.activateWindow();
         before->setFocus();
         return QTest::qWaitForWindowActive(&window)
                 && QTest::qWaitFor([this] { return before->hasFocus(); });
+    }
+
+    /// Returns the id of the item with the focus of the QML; empty without one.
+    QString activeItem() const
+    {
+        QQuickItem *item = quick->quickWindow()->activeFocusItem();
+        const QQmlContext *context = item ? qmlContext(item) : nullptr;
+        return context ? context->nameForObject(item) : QString();
     }
 
     /// Returns where the focus is: the id of an item, or the name of a widget.
@@ -56,12 +65,8 @@ struct FocusScene
         const QWidget *widget = window.focusWidget();
         if (!widget || !widget->hasFocus())
             return QStringLiteral("nowhere");
-        QQuickItem *item = quick->quickWindow()->activeFocusItem();
-        if (widget != quick || !item)
-            return widget->objectName();
-        const QQmlContext *context = qmlContext(item);
-        const QString id = context ? context->nameForObject(item) : QString();
-        return id.isEmpty() ? QStringLiteral("quick") : id;
+        const QString item = widget == quick ? activeItem() : QString();
+        return item.isEmpty() ? widget->objectName() : item;
     }
 
     QWidget window;

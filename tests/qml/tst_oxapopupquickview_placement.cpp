@@ -187,8 +187,6 @@ int overhang(double start, int length, int from, int to)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Qt::ArrowType)
-
 /// The place of a popup, computed here by arithmetic on coordinates.
 class tst_OxaPopupQuickView_placement : public QObject
 {

@@ -33,6 +33,9 @@ std::unique_ptr<PopupWidget> makePopup(const QRect &geometry)
     popup->setFixedSize(geometry.size());
     popup->show();
     popup->move(geometry.topLeft());
+    const auto isInPlace = [&] { return popup->frameGeometry() == geometry; };
+    if (!QTest::qWaitForWindowExposed(popup.get()) || !QTest::qWaitFor(isInPlace))
+        qFatal("The popup is not in its place.");
     return popup;
 }
 
@@ -248,11 +251,8 @@ void tst_OxaQuickView_activation::staysForAPopupThatOverlapsIt()
     const StoreGuard stores(popupColors());
     const QPointer<OxaQuickView> view = makeView(true, false);
     QVERIFY(showActive(*view));
-    // Out of the way, and not active before it is in its place.
     const auto popup = makePopup(geometry);
-    view->show();
     QVERIFY(showActive(*view));
-    QCOMPARE(popup->frameGeometry(), geometry);
     QVERIFY(activate(*popup));
     QCOMPARE(view->isVisible(), stays);
     delete view;

@@ -75,7 +75,6 @@ void tst_OxaQuickWidget_interaction::passesTwoQmlWidgets()
     FocusScene scene(m_engine.get(), FocusScene::twoItems);
     auto *other = new OxaQuickWidget(m_engine.get(), nullptr);
     other->setObjectName(QStringLiteral("other"));
-    other->setMinimumSize(100, 40);
     other->setCustomAccessibilityEnabled(true);
     QuickViews::load(*other, FocusScene::twoItems);
     static_cast<QBoxLayout *>(scene.window.layout())->insertWidget(2, other);
