@@ -44,10 +44,8 @@ struct FocusScene
     {
         if (QGuiApplication::platformName() == QLatin1String("offscreen"))
             QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
-        window.show();
-        window.activateWindow();
         before->setFocus();
-        return QTest::qWaitForWindowActive(&window)
+        return QuickViews::showActive(window)
                 && QTest::qWaitFor([this] { return before->hasFocus(); });
     }
 

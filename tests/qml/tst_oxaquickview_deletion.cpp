@@ -316,9 +316,8 @@ void tst_OxaQuickView_deletion::survivesTheEndOfAWidgetByItsQml()
     widget->setCustomAccessibilityEnabled(true);
     QQuickItem *root = load(*widget, keyItem);
     connect(root, &QQuickItem::activeFocusChanged, widget.get(), &QObject::deleteLater);
-    window.show();
-    window.activateWindow();
     widget->setFocus();
+    QVERIFY(showActive(window));
     QTRY_VERIFY(!widget);
 }
 

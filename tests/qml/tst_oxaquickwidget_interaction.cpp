@@ -114,7 +114,7 @@ void tst_OxaQuickWidget_interaction::findsItsFocusAgainWhenTheWindowComesBack()
         QVERIFY(QuickViews::showActive(other));
         QTRY_COMPARE(scene.focus(), QStringLiteral("nowhere"));
     }
-    scene.window.activateWindow();
+    QVERIFY(QuickViews::showActive(scene.window));
     QTRY_COMPARE(scene.focus(), QStringLiteral("second"));
     press(scene, "Tab", "after");
 }
