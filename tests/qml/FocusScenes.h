@@ -19,8 +19,20 @@ struct FocusScene
         Item {
             id: root
             width: 100; height: 40
-            Item { id: first; activeFocusOnTab: true; width: 10; height: 10 }
-            Item { id: second; activeFocusOnTab: true; width: 10; height: 10 }
+            Item {
+                id: first
+                activeFocusOnTab: true
+                width: 10; height: 10
+                Accessible.role: Accessible.Button
+                Accessible.name: "first"
+            }
+            Item {
+                id: second
+                activeFocusOnTab: true
+                width: 10; height: 10
+                Accessible.role: Accessible.Button
+                Accessible.name: "second"
+            }
             Item { id: breakQmlFocus; activeFocusOnTab: true }
         })";
 
@@ -34,6 +46,8 @@ struct FocusScene
         for (QWidget *widget : { static_cast<QWidget *>(before), static_cast<QWidget *>(quick),
                                  static_cast<QWidget *>(after) })
             layout->addWidget(widget);
+        before->setAccessibleName(before->objectName());
+        after->setAccessibleName(after->objectName());
         quick->setCustomAccessibilityEnabled(true);
         quick->setResizeMode(QQuickWidget::SizeRootObjectToView);
         QuickViews::load(*quick, qml);

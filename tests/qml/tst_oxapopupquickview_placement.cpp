@@ -325,6 +325,11 @@ void tst_OxaPopupQuickView_placement::putsItselfBelowAWidgetWithoutShowing()
     popup.setPositionFromWidget(&source, OxaPopupQuickView::BottomAlignment);
     QCOMPARE(popup.position(), expected);
     QVERIFY(!popup.isVisible());
+    // Another alignment keeps it from no edge.
+    popup.setPositionFromWidget(&source, OxaPopupQuickView::Alignment(1));
+    const QPoint centre((widget.width() - 1) / 2, (widget.height() - 1) / 2);
+    QCOMPARE(popup.position(),
+             widget.topLeft() + centre + QPoint(-(size.width() / 2), widget.height() / 2));
 }
 
 void tst_OxaPopupQuickView_placement::findsThePointBesideARectangle_data()

@@ -4,6 +4,54 @@
 #include "support/RealInput.h"
 #include "support/TestApplication.h"
 
+#include <QAccessible>
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
+#include <algorithm>
+
+namespace {
+
+/// The names of what a screen reader is told to have the focus.
+QStringList accessibleFocus;
+
+void recordFocus(QAccessibleEvent *event)
+{
+    const QAccessibleInterface *accessible = event->accessibleInterface();
+    if (event->type() == QAccessible::Focus && accessible)
+        accessibleFocus += accessible->text(QAccessible::Name);
+}
+
+/// Records what a screen reader hears, until it is destroyed.
+class AccessibleFocusGuard
+{
+    Q_DISABLE_COPY_MOVE(AccessibleFocusGuard)
+
+public:
+    AccessibleFocusGuard() : m_handler(QAccessible::installUpdateHandler(&recordFocus))
+    {
+        setActive(true);
+        accessibleFocus.clear();
+    }
+    ~AccessibleFocusGuard()
+    {
+        QAccessible::installUpdateHandler(m_handler);
+        setActive(false);
+    }
+
+private:
+    /// As a screen reader that starts.
+    static void setActive(bool active)
+    {
+        QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(active);
+    }
+
+    const QAccessible::UpdateHandler m_handler;
+};
+
+} // namespace
+
 /// The way of the keyboard focus through a window with QML in it, by real keys.
 class tst_OxaQuickWidget_interaction : public QObject
 {
@@ -17,6 +65,7 @@ private Q_SLOTS:
     void turnsRoundAnywhere();
     void passesTwoQmlWidgets();
     void tellsWidgetsOfTheFocusInOrder();
+    void tellsAScreenReaderOfTheFocusInOrder();
     void findsItsFocusAgainWhenTheWindowComesBack();
     void keepsTabWithoutCustomAccessibility();
 
@@ -100,6 +149,23 @@ void tst_OxaQuickWidget_interaction::tellsWidgetsOfTheFocusInOrder()
     press(scene, "shift+Tab", "first");
     press(scene, "shift+Tab", "before");
     QCOMPARE(log.names(), QStringLiteral("quick after quick before"));
+}
+
+void tst_OxaQuickWidget_interaction::tellsAScreenReaderOfTheFocusInOrder()
+{
+    FocusScene scene(m_engine.get(), FocusScene::twoItems);
+    QVERIFY(scene.show());
+    const AccessibleFocusGuard guard;
+    for (const char *expected : { "first", "second", "after" })
+        press(scene, "Tab", expected);
+    press(scene, "shift+Tab", "first");
+    press(scene, "shift+Tab", "before");
+    // The widget around the QML has no name, and Qt tells of an item more than once.
+    accessibleFocus.removeAll(QString());
+    accessibleFocus.erase(std::unique(accessibleFocus.begin(), accessibleFocus.end()),
+                          accessibleFocus.end());
+    QCOMPARE(accessibleFocus.join(QLatin1Char(' ')),
+             QStringLiteral("first second after first before"));
 }
 
 void tst_OxaQuickWidget_interaction::findsItsFocusAgainWhenTheWindowComesBack()
