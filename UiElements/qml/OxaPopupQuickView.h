@@ -17,9 +17,6 @@ class QQuickItem;
 /// with Qt::UpArrow the popup is below the rectangle. Where the screen has no room there, the popup
 /// opens on the opposite side. Once it has a rectangle, a popup whose size changes across the arrow
 /// opens again, also one that is hidden.
-///
-/// A slot of arrowFlipped() and arrowOrthogonalChanged() calls deleteLater() instead of deleting
-/// the popup: Qt may be moving it.
 class UIELEMENTS_EXPORT OxaPopupQuickView : public OxaQuickView
 {
     Q_OBJECT

@@ -36,9 +36,8 @@ struct ViewOptions
 /// It belongs to nobody: by default it deletes itself after it was closed, so that callers hold it
 /// by a QPointer. Views are made by the functions of OxaQmlEngine.
 ///
-/// Qt goes on working on a window after the signals that it sends while it shows, moves or renders
-/// it. A slot of aboutToShow() and finishedRendering() therefore calls deleteLater() instead of
-/// deleting the view.
+/// A slot of its signals calls deleteLater() instead of deleting the view: Qt still uses a window
+/// after it was shown, moved, rendered, or has lost activation.
 class UIELEMENTS_EXPORT OxaQuickView : public QQuickView
 {
     Q_OBJECT
@@ -96,8 +95,7 @@ public Q_SLOTS:
     void onActiveChanged();
 
 Q_SIGNALS:
-    /// The view is asked to close, and is deleted later where deleteOnClose is set. A slot may
-    /// delete it.
+    /// The view is asked to close, and is deleted later where deleteOnClose is set.
     void aboutToClose();
 
     /// The view is going to be visible.

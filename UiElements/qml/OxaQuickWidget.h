@@ -17,10 +17,10 @@ class QWindow;
 /// QML inside a widget, which the keyboard focus can leave and enter by Tab and Shift+Tab.
 ///
 /// With setCustomAccessibilityEnabled() the QML says where it ends, by an item with the id
-/// "breakQmlFocus" and `activeFocusOnTab: true`: a Tab or Shift+Tab that would move the focus to
-/// it moves it to the next or previous widget of the window instead. Items that can have the focus
-/// need an id, or the widget takes it that none has. When the focus comes back, it goes to the item
-/// after "breakQmlFocus", from either side.
+/// "breakQmlFocus" and `activeFocusOnTab: true`. A Tab or Shift+Tab that would move the focus to
+/// that item moves it to the next or previous widget of the window. When the focus comes back, from
+/// either side, it goes to the item after "breakQmlFocus". Give each item that can have the focus
+/// an id: from an item without one, the focus goes on to the next item when it comes back.
 ///
 /// Without it, Tab stays within the QML.
 class UIELEMENTS_EXPORT OxaQuickWidget : public QQuickWidget

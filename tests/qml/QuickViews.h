@@ -9,6 +9,7 @@
 #include <QQuickItem>
 #include <QTest>
 #include <QUrl>
+#include <QWidget>
 
 #include <utility>
 
@@ -58,12 +59,21 @@ inline QQuickItem *loadItem(OxaQuickView &view, const QSize &size = QSize(100, 5
     return load(view, text.arg(size.width()).arg(size.height()).toUtf8());
 }
 
-/// Shows \a view and waits until it is the active window.
-inline bool showActive(QWindow &view)
+inline void activate(QWindow &window) { window.requestActivate(); }
+inline void activate(QWidget &window) { window.activateWindow(); }
+
+/// Makes \a window, which is a QWindow or a QWidget, the active one. A window manager activates a
+/// window that is shown by itself: a second request might reach it after later ones for others.
+template <typename Window>
+bool showActive(Window &window)
 {
-    view.show();
-    view.requestActivate();
-    return QTest::qWaitForWindowActive(&view);
+    if (window.isVisible())
+        activate(window);
+    window.show();
+    if (QTest::qWaitForWindowActive(&window, 1000))
+        return true;
+    activate(window);
+    return QTest::qWaitForWindowActive(&window);
 }
 
 } // namespace QuickViews

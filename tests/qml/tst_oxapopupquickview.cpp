@@ -364,7 +364,7 @@ void tst_OxaPopupQuickView::forgetsAnActivationItemThatDies()
     QVERIFY(item->isEnabled());
     item.reset();
     QVERIFY(popup->hasActivationItem(nullptr));
-    QTest::keyClick(popup.get(), Qt::Key_Escape);
+    QTest::keyPress(popup.get(), Qt::Key_Escape);
     popup.reset();
 }
 
@@ -382,7 +382,7 @@ void tst_OxaPopupQuickView::closesAtEscapeAndActivatesTheWindowOfTheItem()
         QCoreApplication::processEvents();
         focusWhenClosing = QGuiApplication::focusWindow();
     });
-    QTest::keyClick(popup.get(), Qt::Key_Escape);
+    QTest::keyPress(popup.get(), Qt::Key_Escape);
     QCOMPARE(focusWhenClosing, &view);
     QTRY_VERIFY(!popup);
     QCOMPARE(QGuiApplication::focusWindow(), &view);
@@ -395,7 +395,7 @@ void tst_OxaPopupQuickView::closesAtEscapeWithoutAnItem()
     const QQuickItem *root = load(*popup, keyCounter);
     QVERIFY(showActive(*popup));
     QSignalSpy closes(popup.get(), &OxaQuickView::aboutToClose);
-    QTest::keyClick(popup.get(), Qt::Key_Escape);
+    QTest::keyPress(popup.get(), Qt::Key_Escape);
     QCOMPARE(closes.size(), 1);
     QVERIFY(!popup->isVisible());
     QCOMPARE(root->property("keys").toInt(), 0);
@@ -403,7 +403,7 @@ void tst_OxaPopupQuickView::closesAtEscapeWithoutAnItem()
     QQuickItem item;
     popup->setupActivationItem(&item, QString());
     QVERIFY(showActive(*popup));
-    QTest::keyClick(popup.get(), Qt::Key_Escape);
+    QTest::keyPress(popup.get(), Qt::Key_Escape);
     QCOMPARE(closes.size(), 2);
 }
 

@@ -187,8 +187,6 @@ int overhang(double start, int length, int from, int to)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Qt::ArrowType)
-
 /// The place of a popup, computed here by arithmetic on coordinates.
 class tst_OxaPopupQuickView_placement : public QObject
 {
@@ -327,6 +325,11 @@ void tst_OxaPopupQuickView_placement::putsItselfBelowAWidgetWithoutShowing()
     popup.setPositionFromWidget(&source, OxaPopupQuickView::BottomAlignment);
     QCOMPARE(popup.position(), expected);
     QVERIFY(!popup.isVisible());
+    // Another alignment keeps it from no edge.
+    popup.setPositionFromWidget(&source, OxaPopupQuickView::Alignment(1));
+    const QPoint centre((widget.width() - 1) / 2, (widget.height() - 1) / 2);
+    QCOMPARE(popup.position(),
+             widget.topLeft() + centre + QPoint(-(size.width() / 2), widget.height() / 2));
 }
 
 void tst_OxaPopupQuickView_placement::findsThePointBesideARectangle_data()

@@ -15,7 +15,7 @@ using namespace QuickViews;
 
 namespace {
 
-const QRect place(200, 200, 100, 80);
+const QPoint place(200, 200);
 
 OxaColorSetMap popupColors()
 {
@@ -25,23 +25,15 @@ OxaColorSetMap popupColors()
     return store;
 }
 
-/// A popup of widgets at \a geometry, which stays by itself.
-std::unique_ptr<PopupWidget> makePopup(const QRect &geometry)
+/// A popup of widgets that stays by itself.
+std::unique_ptr<PopupWidget> showPopup()
 {
     WidgetData data(OxaThemeUtils::AppThemeType::Global);
     auto popup = std::make_unique<PopupWidget>(nullptr, data.autoDismiss(false));
-    popup->setFixedSize(geometry.size());
-    popup->show();
-    popup->move(geometry.topLeft());
+    popup->showSmooth(QRect(500, 400, 40, 40));
+    if (!showActive(*popup))
+        qFatal("The popup is not active.");
     return popup;
-}
-
-/// Makes \a window active, and waits until Qt has told everybody.
-bool activate(QWidget &window)
-{
-    window.show();
-    window.activateWindow();
-    return QTest::qWaitForWindowActive(&window);
 }
 
 } // namespace
@@ -60,30 +52,37 @@ private Q_SLOTS:
     void hidesOrClosesOrStays();
     void hidesWhenTheApplicationIsLeft();
     void staysWhenTheFlagIsTakenBack();
-    void staysHiddenAndUnknownWindowsDoNotMatter();
+    void doesNothingWhileItIsHidden();
     void hidesWhenTheWatchedWindowMoves_data();
     void hidesWhenTheWatchedWindowMoves();
     void forgetsAWatchedWindowThatDies();
     void staysForAPopupThatOverlapsIt_data();
     void staysForAPopupThatOverlapsIt();
+    void staysForADialogOfAPopupThatOverlapsIt_data();
     void staysForADialogOfAPopupThatOverlapsIt();
     void hidesForAnyOtherWindowThatOverlapsIt();
     void hidesOnceThePopupIsGone();
 
 private:
-    OxaQuickView *makeView(bool hides, bool closes) const;
+    OxaQuickView *showView(bool hides, bool closes, const QPoint &position = place) const;
 
     std::unique_ptr<OxaQmlEngine> m_engine;
 };
 
-OxaQuickView *tst_OxaQuickView_activation::makeView(bool hides, bool closes) const
+/// Makes a view at \a position and shows it. Only then may it hide: the window manager may still be
+/// activating another window.
+OxaQuickView *tst_OxaQuickView_activation::showView(bool hides, bool closes,
+                                                    const QPoint &position) const
 {
     ViewOptions options;
-    options.hideOnDeactivate = hides;
     options.deleteOnClose = closes;
     auto *view = new OxaQuickView(m_engine.get(), nullptr, options);
     view->setFlag(Qt::FramelessWindowHint);
-    view->setGeometry(place);
+    view->setGeometry(QRect(position, QSize(100, 80)));
+    if (!showActive(*view))
+        qFatal("The view is not active.");
+    options.hideOnDeactivate = hides;
+    view->setViewOptions(options);
     return view;
 }
 
@@ -130,8 +129,7 @@ void tst_OxaQuickView_activation::hidesOrClosesOrStays()
     QFETCH(const bool, hides);
     QFETCH(const bool, closes);
     QFETCH(const QString, expected);
-    const QPointer<OxaQuickView> view = makeView(hides, closes);
-    QVERIFY(showActive(*view));
+    const QPointer<OxaQuickView> view = showView(hides, closes);
     SignalLog log;
     log.record(view.data(), &QWindow::visibleChanged, QStringLiteral("hidden"));
     log.record(view.data(), &OxaQuickView::aboutToClose, QStringLiteral("aboutToClose"));
@@ -145,10 +143,9 @@ void tst_OxaQuickView_activation::hidesOrClosesOrStays()
 
 void tst_OxaQuickView_activation::hidesWhenTheApplicationIsLeft()
 {
-    const QPointer<OxaQuickView> view = makeView(true, false);
-    const Owned<QWindow> other;
-    QVERIFY(showActive(*other));
-    QVERIFY(showActive(*view));
+    QWindow other;
+    QVERIFY(showActive(other));
+    const QPointer<OxaQuickView> view = showView(true, false);
     // No window of the application is active any more.
     QWindowSystemInterface::handleWindowActivated(nullptr);
     QTRY_VERIFY(!view->isVisible());
@@ -157,8 +154,7 @@ void tst_OxaQuickView_activation::hidesWhenTheApplicationIsLeft()
 
 void tst_OxaQuickView_activation::staysWhenTheFlagIsTakenBack()
 {
-    const QPointer<OxaQuickView> view = makeView(true, true);
-    QVERIFY(showActive(*view));
+    const QPointer<OxaQuickView> view = showView(true, true);
     view->setViewOptions({});
     QWindow other;
     QVERIFY(showActive(other));
@@ -168,17 +164,17 @@ void tst_OxaQuickView_activation::staysWhenTheFlagIsTakenBack()
     delete view;
 }
 
-void tst_OxaQuickView_activation::staysHiddenAndUnknownWindowsDoNotMatter()
+void tst_OxaQuickView_activation::doesNothingWhileItIsHidden()
 {
-    const QPointer<OxaQuickView> view = makeView(true, true);
-    QSignalSpy closes(view.data(), &OxaQuickView::aboutToClose);
+    const Owned<OxaQuickView> view(m_engine.get(), nullptr,
+                                   ViewOptions { false, true, true, true, nullptr });
+    loadItem(*view);
+    view->create(); // Only then could close() send an event.
+    QSignalSpy closes(view.get(), &OxaQuickView::aboutToClose);
     QWindow other;
-    QVERIFY(showActive(other)); // Another window than before, while the view is not visible.
+    QVERIFY(showActive(other));
     view->onActiveChanged();
     QCOMPARE(closes.size(), 0);
-    QVERIFY(showActive(*view));
-    QVERIFY(view->isVisible());
-    delete view;
 }
 
 void tst_OxaQuickView_activation::hidesWhenTheWatchedWindowMoves_data()
@@ -196,10 +192,9 @@ void tst_OxaQuickView_activation::hidesWhenTheWatchedWindowMoves()
     QFETCH(const QPoint, position);
     QFETCH(const bool, isWatched);
     QFETCH(const bool, isHidden);
-    const QPointer<OxaQuickView> view = makeView(false, false);
+    const QPointer<OxaQuickView> view = showView(false, false);
     QWindow other;
     other.setGeometry(100, 100, 300, 300);
-    QVERIFY(showActive(*view));
     QVERIFY(showActive(other));
     QVERIFY(view->isVisible());
     ViewOptions options;
@@ -218,7 +213,7 @@ void tst_OxaQuickView_activation::hidesWhenTheWatchedWindowMoves()
 
 void tst_OxaQuickView_activation::forgetsAWatchedWindowThatDies()
 {
-    const QPointer<OxaQuickView> view = makeView(true, false);
+    const QPointer<OxaQuickView> view = showView(false, false);
     auto watched = std::make_unique<QWindow>();
     ViewOptions options;
     options.watchedWindow = watched.get();
@@ -227,76 +222,76 @@ void tst_OxaQuickView_activation::forgetsAWatchedWindowThatDies()
     watched.reset();
     QVERIFY(!view->getViewOptions().watchedWindow);
     view->setViewOptions(view->getViewOptions());
-    QVERIFY(showActive(*view));
+    QVERIFY(view->isVisible());
     delete view;
 }
 
 void tst_OxaQuickView_activation::staysForAPopupThatOverlapsIt_data()
 {
-    QTest::addColumn<QRect>("geometry");
+    QTest::addColumn<QPoint>("offset");
     QTest::addColumn<bool>("stays");
-    QTest::newRow("over it") << QRect(220, 220, 40, 40) << true;
-    QTest::newRow("over its last pixel") << QRect(299, 279, 40, 40) << true;
-    QTest::newRow("beside it") << QRect(300, 200, 40, 40) << false;
-    QTest::newRow("below it") << QRect(200, 280, 40, 40) << false;
+    // From the corner of the popup's last pixel to the view's first one.
+    QTest::newRow("over the view") << QPoint(-5, -5) << true;
+    QTest::newRow("over its first pixel") << QPoint(0, 0) << true;
+    QTest::newRow("beside it") << QPoint(1, 0) << false;
+    QTest::newRow("above it") << QPoint(0, 1) << false;
 }
 
 void tst_OxaQuickView_activation::staysForAPopupThatOverlapsIt()
 {
-    QFETCH(const QRect, geometry);
+    QFETCH(const QPoint, offset);
     QFETCH(const bool, stays);
     const StoreGuard stores(popupColors());
-    const QPointer<OxaQuickView> view = makeView(true, false);
-    QVERIFY(showActive(*view));
-    // Out of the way, and not active before it is in its place.
-    const auto popup = makePopup(geometry);
-    view->show();
-    QVERIFY(showActive(*view));
-    QCOMPARE(popup->frameGeometry(), geometry);
-    QVERIFY(activate(*popup));
+    const auto popup = showPopup();
+    const QPoint corner = popup->frameGeometry().bottomRight() + offset;
+    const QPointer<OxaQuickView> view = showView(true, false, corner);
+    QTRY_COMPARE(view->frameGeometry().topLeft(), corner);
+    QVERIFY(showActive(*popup));
     QCOMPARE(view->isVisible(), stays);
     delete view;
 }
 
+void tst_OxaQuickView_activation::staysForADialogOfAPopupThatOverlapsIt_data()
+{
+    QTest::addColumn<bool>("overlaps");
+    QTest::newRow("that overlaps it") << true;
+    QTest::newRow("that is elsewhere") << false;
+}
+
 void tst_OxaQuickView_activation::staysForADialogOfAPopupThatOverlapsIt()
 {
+    QFETCH(const bool, overlaps);
     const StoreGuard stores(popupColors());
-    const QPointer<OxaQuickView> view = makeView(true, false);
-    const auto popup = makePopup(QRect(220, 220, 40, 40));
+    const auto popup = showPopup();
     QDialog dialog(popup.get(), Qt::FramelessWindowHint);
-    dialog.setGeometry(600, 400, 100, 100);
-    QVERIFY(showActive(*view));
-    QVERIFY(activate(dialog));
-    QVERIFY(view->isVisible());
-    // The popup's window is then elsewhere.
-    popup->move(500, 500);
-    QVERIFY(showActive(*view));
-    QVERIFY(activate(*popup));
-    QVERIFY(!view->isVisible());
+    dialog.setGeometry(800, 800, 100, 100);
+    QVERIFY(showActive(dialog));
+    const QPointer<OxaQuickView> view = showView(true, false,
+                                                 overlaps ? popup->pos() : QPoint(10, 10));
+    QVERIFY(showActive(dialog));
+    QCOMPARE(view->isVisible(), overlaps);
     delete view;
 }
 
 void tst_OxaQuickView_activation::hidesForAnyOtherWindowThatOverlapsIt()
 {
-    const QPointer<OxaQuickView> view = makeView(true, false);
     QWidget widget(nullptr, Qt::FramelessWindowHint);
     QQuickWidget quickWidget;
     for (QWidget *window : { &widget, static_cast<QWidget *>(&quickWidget) }) {
-        window->setGeometry(place);
-        QVERIFY(showActive(*view));
-        QVERIFY(activate(*window));
+        window->setGeometry(QRect(place, QSize(100, 80)));
+        const QPointer<OxaQuickView> view = showView(true, false);
+        QVERIFY(showActive(*window));
         QVERIFY(!view->isVisible());
+        delete view;
     }
-    delete view;
 }
 
 void tst_OxaQuickView_activation::hidesOnceThePopupIsGone()
 {
     const StoreGuard stores(popupColors());
-    const QPointer<OxaQuickView> view = makeView(true, false);
-    auto popup = makePopup(place);
-    QVERIFY(showActive(*view));
-    QVERIFY(activate(*popup));
+    auto popup = showPopup();
+    const QPointer<OxaQuickView> view = showView(true, false, popup->pos());
+    QVERIFY(showActive(*popup));
     QVERIFY(view->isVisible());
     popup.reset();
     QWindow other;

@@ -88,7 +88,7 @@ const std::vector<Case> &cases()
         { "aboutToShow() by the event loop", opens, false, openLater },
         { "aboutToClose() by close()", close, true, showAndClose },
         { "aboutToClose() by Escape", close, true, escape },
-        { "aboutToClose() by the loss of activation", close, true, lose },
+        { "aboutToClose() by the loss of activation", close, false, lose },
         { "_dispatchShow() by showAtRect()", dispatch, true, openLater },
         { "arrowFlipped() by showAtRect()", flipped, true, open },
         { "arrowFlipped() by another size", flipped, false, resizeAfterShowing },
@@ -251,7 +251,7 @@ void tst_OxaQuickView_deletion::survivesTheEndOfItsParent()
     parent->show();
     const QPointer<Popup> popup = new Popup(m_engine.get(), parent.get(), ViewOptions());
     loadItem(*popup);
-    popup->showAtRect(QRectF(10, 10, 20, 10), Qt::UpArrow);
+    popup->show();
     QVERIFY(popup->isVisible());
     parent.reset();
     QVERIFY(!popup);
@@ -316,9 +316,8 @@ void tst_OxaQuickView_deletion::survivesTheEndOfAWidgetByItsQml()
     widget->setCustomAccessibilityEnabled(true);
     QQuickItem *root = load(*widget, keyItem);
     connect(root, &QQuickItem::activeFocusChanged, widget.get(), &QObject::deleteLater);
-    window.show();
-    window.activateWindow();
     widget->setFocus();
+    QVERIFY(showActive(window));
     QTRY_VERIFY(!widget);
 }
 
