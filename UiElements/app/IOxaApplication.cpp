@@ -1,14 +1,32 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "IOxaApplication.h"
 
+#include <UiElements/qml/OxaQmlEngine.h>
+
+#include <QDebug>
+
 IOxaApplication::IOxaApplication(int &argc, char **argv) : QApplication(argc, argv)
 {
     qRegisterMetaType<OxaColorSet>("OxaColorSet");
 }
 
-IOxaApplication::~IOxaApplication() = default;
+IOxaApplication::~IOxaApplication()
+{
+    if (m_qmlEngine)
+        m_qmlEngine->deleteLater();
+}
 
-OxaQmlEngine *IOxaApplication::getQmlEngine() const { return nullptr; }
+OxaQmlEngine *IOxaApplication::getQmlEngine() const
+{
+    if (m_qmlEngine)
+        return m_qmlEngine;
+    QMessageLogger().debug() << "[UILifecycle][Startup] Creating OxaQmlEngine.";
+    // Stored before the hook runs, because that may ask for it.
+    m_qmlEngine = OxaQmlEngine::create();
+    const_cast<IOxaApplication *>(this)->onQmlEngineCreated(m_qmlEngine);
+    QMessageLogger().debug() << "[UILifecycle][Startup] Finished creating OxaQmlEngine.";
+    return m_qmlEngine;
+}
 
 const OxaColorSetMap &IOxaApplication::getColorSets() const { return m_colorSets; }
 

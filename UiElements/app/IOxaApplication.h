@@ -5,6 +5,7 @@
 #include <UiElements/theme/OxaColorSet.h>
 
 #include <QApplication>
+#include <QPointer>
 
 class IOxaMovieProviderSource;
 class OxaQmlEngine;
@@ -27,10 +28,13 @@ public:
     virtual IOxaMovieProviderSource *getMovieProviderSource() = 0;
 
     /// Called once for each new QML engine, so that the outer application can set \a engine up.
-    /// This version makes no engine and never calls it.
+    /// getQmlEngine() returns that engine already.
     virtual void onQmlEngineCreated(OxaQmlEngine *engine) = 0;
 
-    /// Returns the QML engine. Always null in this version, which makes none.
+    /// Returns the QML engine, which has no parent. Makes one if there is none, also where the
+    /// earlier one was deleted, and calls onQmlEngineCreated(). OxaQmlEngine::setFactory() decides
+    /// on its class. It is deleted later when the application is destroyed. Null only where
+    /// onQmlEngineCreated() deletes it.
     OxaQmlEngine *getQmlEngine() const;
 
     /// Returns the ordinary store. The reference is valid until the store is replaced.
@@ -74,6 +78,7 @@ protected:
 private:
     bool m_isHighContrastTheme = false;
     bool m_isDarkTheme = false;
+    mutable QPointer<OxaQmlEngine> m_qmlEngine;
     OxaColorSetMap m_colorSets;
     OxaColorTokenMap m_colorTokens;
     OxaColorSetMap m_invertedColorSets;

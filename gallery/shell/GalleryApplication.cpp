@@ -9,11 +9,14 @@
 #include "looks/TextSettings.h"
 #include "looks/ThemeSwitcher.h"
 #include "pages/movies/StagedMovieSource.h"
+#include "pages/painted/PaintedItemController.h"
 
 #include <UiElements/app/OxaAppSignals.h>
+#include <UiElements/qml/OxaQmlTypes.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 
 #include <QProcess>
+#include <QQuickWindow>
 #include <QTextStream>
 
 namespace {
@@ -49,6 +52,9 @@ GalleryApplication::GalleryApplication(int &argc, char **argv)
     setApplicationDisplayName(tr("UiElements Gallery"));
     setStyle(new FocusFrameStyle);
     substituteFonts();
+    // QML among widgets is painted as they are, so that it needs no OpenGL.
+    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+        QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
 }
 
 GalleryApplication *GalleryApplication::get()
@@ -108,7 +114,12 @@ IOxaMovieProviderSource *GalleryApplication::getMovieProviderSource()
     return m_movieSource;
 }
 
-void GalleryApplication::onQmlEngineCreated(OxaQmlEngine *engine) { Q_UNUSED(engine) }
+void GalleryApplication::onQmlEngineCreated(OxaQmlEngine *engine)
+{
+    Q_UNUSED(engine)
+    OxaQmlTypes::registerQmlTypes();
+    qmlRegisterType<PaintedItemController>("Gallery", 1, 0, "PaintedItemController");
+}
 
 void GalleryApplication::restart()
 {

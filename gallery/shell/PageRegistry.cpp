@@ -37,6 +37,7 @@ const std::vector<PageEntry> &pageEntries()
     static const QString widgets = tr("Widgets");
     static const QString models = tr("Models");
     static const QString behaviour = tr("Behaviour");
+    static const QString qml = tr("QML");
     static const std::vector<PageEntry> entries = {
         entry("colours", tr("Colours"), foundations, make<ColoursPage>),
         entry("style-text", tr("Style text"), foundations, make<StyleTextPage>),
@@ -56,6 +57,7 @@ const std::vector<PageEntry> &pageEntries()
         entry("layouts", tr("Layouts"), behaviour, make<LayoutsPage>),
         entry("focus", tr("Focus"), behaviour, make<FocusPage>),
         entry("signals", tr("Signals"), behaviour, make<SignalsPage>),
+        entry("painted-items", tr("Painted items"), qml, Pages::makePaintedItems),
     };
     return entries;
 }

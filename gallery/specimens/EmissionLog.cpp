@@ -20,7 +20,7 @@ EmissionLog::EmissionLog(QWidget *parent) : CodeEdit(parent)
     setMaximumHeight(minimumHeight());
 }
 
-void EmissionLog::follow(QObject *sender)
+void EmissionLog::follow(QObject *sender, const QMetaObject &plain)
 {
     const auto note = [this](const QMetaMethod &signal, const QStringList &arguments) {
         const QString name = QString::fromLatin1(signal.name());
@@ -29,8 +29,6 @@ void EmissionLog::follow(QObject *sender)
         appendPlainText(QStringLiteral("%1(%2)").arg(name, arguments.join(QStringLiteral(", "))));
         Q_EMIT noted();
     };
-    const QMetaObject &plain = sender->isWidgetType() ? QWidget::staticMetaObject
-                                                      : QObject::staticMetaObject;
     auto *watcher = new SignalWatcher(sender, note, this, plain.methodCount());
     connect(sender, &QObject::destroyed, watcher, &QObject::deleteLater);
 }

@@ -11,9 +11,9 @@ class EmissionLog : public CodeEdit
 public:
     explicit EmissionLog(QWidget *parent = nullptr);
 
-    /// Logs the signals of \a sender until it is deleted, except for those that Qt and the theme
-    /// give every widget.
-    void follow(QObject *sender);
+    /// Logs the signals of \a sender until it is deleted, except for those of the theme and of
+    /// \a plain, a class of Qt that its class derives from.
+    void follow(QObject *sender, const QMetaObject &plain = QWidget::staticMetaObject);
 
 Q_SIGNALS:
     /// A line was added.

@@ -27,13 +27,6 @@ constexpr int mostChoices = 6;
 constexpr const char *commonProperties[] = { "css", "themeType", "styleSheet", "fontToken",
                                              "fontType" };
 
-PropertyControls::Apply setter(const char *property)
-{
-    return [property](QWidget *widget, const QVariant &value) {
-        widget->setProperty(property, value);
-    };
-}
-
 QStringList textsOf(const Choices &choices)
 {
     QStringList texts;
@@ -84,9 +77,18 @@ Choices enumerators(const QMetaEnum &type)
 } // namespace
 
 PropertyControls::PropertyControls(const QVector<QWidget *> &widgets, QWidget *parent)
-    : ControlPanel(parent), m_widgets(widgets)
+    : ControlPanel(parent)
+{
+    for (QWidget *widget : widgets)
+        m_objects += widget;
+}
+
+PropertyControls::PropertyControls(QObject *object, QWidget *parent)
+    : ControlPanel(parent), m_objects { object }
 {
 }
+
+QWidget *PropertyControls::front() const { return qobject_cast<QWidget *>(m_objects.front()); }
 
 void PropertyControls::offer(const char *ending, const Choices &choices)
 {
@@ -100,7 +102,7 @@ void PropertyControls::setRange(const char *property, int minimum, int maximum)
 
 void PropertyControls::addAll()
 {
-    const QMetaObject *type = m_widgets.front()->metaObject();
+    const QMetaObject *type = m_objects.front()->metaObject();
     for (; !QByteArray(type->className()).startsWith('Q'); type = type->superClass()) {
         for (int i = type->propertyOffset(); i < type->propertyCount(); ++i)
             add(type->property(i));
@@ -109,7 +111,7 @@ void PropertyControls::addAll()
 
 void PropertyControls::addProperty(const char *property)
 {
-    const QMetaObject *type = m_widgets.front()->metaObject();
+    const QMetaObject *type = m_objects.front()->metaObject();
     add(type->property(type->indexOfProperty(property)));
 }
 
@@ -136,6 +138,7 @@ void PropertyControls::add(const QMetaProperty &property)
         addChoiceOf(name, noAndYes());
         break;
     case QMetaType::Int:
+    case QMetaType::Double:
         addNumberOf(name);
         break;
     case QMetaType::QSize:
@@ -154,11 +157,10 @@ void PropertyControls::add(const QMetaProperty &property)
 
 void PropertyControls::addChoiceOf(const char *property, const Choices &choices)
 {
-    const Apply apply = setter(property);
     SegmentedControl *control = ControlPanel::addChoice(QString::fromLatin1(property),
                                                         textsOf(choices), 0,
-                                                        [this, apply, choices](int i) {
-                                                            applyToAll(apply, choices[i].value);
+                                                        [this, property, choices](int i) {
+                                                            setOnAll(property, choices[i].value);
                                                         });
     keepUpToDate([this, control, choices, property] {
         const int index = indexOf(choices, value(property));
@@ -170,11 +172,10 @@ void PropertyControls::addChoiceOf(const char *property, const Choices &choices)
 void PropertyControls::addNumberOf(const char *property)
 {
     const Range range = m_ranges.value(property);
-    const Apply apply = setter(property);
     OxaSlider *slider = ControlPanel::addNumber(QString::fromLatin1(property), range.minimum,
                                                 range.maximum, value(property).toInt(),
-                                                [this, apply](int number) {
-                                                    applyToAll(apply, number);
+                                                [this, property](int number) {
+                                                    setOnAll(property, number);
                                                 });
     keepUpToDate([this, slider, property] { slider->setValue(value(property).toInt()); });
 }
@@ -183,11 +184,10 @@ void PropertyControls::addNumberOf(const char *property)
 void PropertyControls::addSizeOf(const char *property)
 {
     const Range range = m_ranges.value(property, { 8, 40 });
-    const Apply apply = setter(property);
     OxaSlider *slider = ControlPanel::addNumber(QString::fromLatin1(property), range.minimum,
                                                 range.maximum, value(property).toSize().width(),
-                                                [this, apply](int side) {
-                                                    applyToAll(apply, QSize(side, side));
+                                                [this, property](int side) {
+                                                    setOnAll(property, QSize(side, side));
                                                 });
     keepUpToDate([this, slider, property] { slider->setValue(value(property).toSize().width()); });
 }
@@ -201,12 +201,11 @@ void PropertyControls::addPointOf(const char *property)
     const QString name = QString::fromLatin1(property);
     x->setAccessibleName(tr("%1, across").arg(name));
     y->setAccessibleName(tr("%1, down").arg(name));
-    const Apply apply = setter(property);
-    const auto change = [this, apply, property](void (QPoint::*set)(int)) {
-        return [this, apply, property, set](int number) {
+    const auto change = [this, property](void (QPoint::*set)(int)) {
+        return [this, property, set](int number) {
             QPoint point = value(property).toPoint();
             (point.*set)(number);
-            applyToAll(apply, point);
+            setOnAll(property, point);
         };
     };
     auto *row = new QHBoxLayout(both);
@@ -225,9 +224,10 @@ void PropertyControls::addPointOf(const char *property)
 
 void PropertyControls::addTextOf(const char *property)
 {
-    const Apply apply = setter(property);
     OxaLineEdit *field = addText(QString::fromLatin1(property), value(property).toString(),
-                                 [this, apply](const QString &text) { applyToAll(apply, text); });
+                                 [this, property](const QString &text) {
+                                     setOnAll(property, text);
+                                 });
     keepUpToDate([this, field, property] {
         if (field->text() != value(property).toString())
             field->setText(value(property).toString());
@@ -286,7 +286,7 @@ bool PropertyControls::hasControl(const char *property) const
 
 QVariant PropertyControls::value(const char *property) const
 {
-    return m_widgets.front()->property(property);
+    return m_objects.front()->property(property);
 }
 
 void PropertyControls::keepUpToDate(const std::function<void()> &show)
@@ -295,12 +295,22 @@ void PropertyControls::keepUpToDate(const std::function<void()> &show)
     show();
 }
 
+void PropertyControls::setOnAll(const char *property, const QVariant &value)
+{
+    changeAll([property, &value](QObject *object) { object->setProperty(property, value); });
+}
+
 void PropertyControls::applyToAll(const Apply &apply, const QVariant &value)
+{
+    changeAll([&apply, &value](QObject *object) { apply(qobject_cast<QWidget *>(object), value); });
+}
+
+void PropertyControls::changeAll(const std::function<void(QObject *)> &change)
 {
     // A slider is at its end if the value is out of its range.
     if (m_isRefreshing)
         return;
-    for (QWidget *widget : m_widgets)
-        apply(widget, value);
+    for (QObject *object : qAsConst(m_objects))
+        change(object);
     refresh();
 }

@@ -8,7 +8,7 @@
 
 class QMetaProperty;
 
-/// Controls, each of which sets one property of several widgets at once.
+/// Controls, each of which sets one property of several widgets, or of another object.
 ///
 /// A control is named after its property and shows the value of the first widget, also when another
 /// control changed it.
@@ -24,13 +24,17 @@ public:
         QVariant value;
     };
     using Choices = QVector<Choice>;
+    /// Sets \a value of \a widget, which is null for another object.
     using Apply = std::function<void(QWidget *widget, const QVariant &value)>;
 
     /// Makes an empty panel for \a widgets, which must outlive it.
     explicit PropertyControls(const QVector<QWidget *> &widgets, QWidget *parent = nullptr);
 
+    /// Makes an empty panel for \a object, which must outlive it and is no widget.
+    explicit PropertyControls(QObject *object, QWidget *parent = nullptr);
+
     /// Returns the widget whose values are shown.
-    QWidget *front() const { return m_widgets.front(); }
+    QWidget *front() const;
 
     /// Offers \a choices for each property whose name ends in \a ending, instead of what addAll()
     /// would make of its type. The first matching offer is used.
@@ -82,9 +86,11 @@ private:
     bool hasControl(const char *property) const;
     QVariant value(const char *property) const;
     void keepUpToDate(const std::function<void()> &show);
+    void setOnAll(const char *property, const QVariant &value);
     void applyToAll(const Apply &apply, const QVariant &value);
+    void changeAll(const std::function<void(QObject *)> &change);
 
-    const QVector<QWidget *> m_widgets;
+    QVector<QObject *> m_objects;
     QVector<std::pair<const char *, Choices>> m_offers;
     QHash<QByteArray, Range> m_ranges;
     QVector<std::function<void()>> m_refreshers; ///< Each shows a value in its control.

@@ -5,6 +5,11 @@
 #include <UiElements/app/AppUtils.h>
 #include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/app/OxaGlobalSignalListener.h>
+#include <UiElements/qml/DialogContext.h>
+#include <UiElements/qml/OxaPopupQuickView.h>
+#include <UiElements/qml/OxaQmlEngine.h>
+#include <UiElements/qml/OxaQuickWidget.h>
+#include <UiElements/qml/PopupContext.h>
 
 #include <QTest>
 
@@ -22,6 +27,8 @@ private Q_SLOTS:
     void warnsAtEachRequestForTheHub();
     void warnsAtEachRequestForTheListener();
     void worksWithAHubMadeByHand();
+    void makesNoQmlViews();
+    void makesAQmlEngineAndContextsSilently();
 };
 
 void tst_AppWithoutApplication::knowsNoLogo()
@@ -72,6 +79,42 @@ void tst_AppWithoutApplication::worksWithAHubMadeByHand()
     QWidget window;
     hub.registerShortcuts(&window, OxaShortcut::General);
     QVERIFY(hub.shortcutExists(OxaAppSignals::Shortcut::OpenGlobalSearch));
+}
+
+void tst_AppWithoutApplication::makesNoQmlViews()
+{
+    const QString source = QStringLiteral("Any.qml");
+    const auto expectWarning = [] {
+        QTest::ignoreMessage(QtWarningMsg,
+                             "Unable to create QML view! OxaQmlEngine is not attached to "
+                             "OxaApplication! This should never happen!");
+    };
+    QWidget parent;
+    expectWarning();
+    QVERIFY(!OxaQmlEngine::createQmlWidget(source, &parent, {}, {}));
+    expectWarning();
+    QVERIFY(!OxaQmlEngine::createQmlWindow(source, nullptr, {}, {}));
+    expectWarning();
+    QVERIFY(!OxaQmlEngine::createQmlDialog(source, nullptr, {}, {}, true));
+    expectWarning();
+    QVERIFY(!OxaQmlEngine::createQmlPopup(source, nullptr, {}, {}, true));
+    expectWarning();
+    QVERIFY(!OxaQmlEngine::createControllerQmlWindow(source, &parent, {}, {}));
+    expectWarning();
+    QVERIFY(!OxaQmlEngine::createControllerQmlDialog(source, &parent, {}, {}));
+    expectWarning();
+    OxaQmlEngine::createQmlComponent(source, &parent, {}, {});
+    QVERIFY(parent.children().isEmpty());
+}
+
+void tst_AppWithoutApplication::makesAQmlEngineAndContextsSilently()
+{
+    const OxaQmlEngine engine;
+    const DialogContext dialogs;
+    const PopupContext popups;
+    QVERIFY(!engine.isReadingQmlFromDisk());
+    QVERIFY(!dialogs.oxaQuickViewExists("Any.qml"));
+    QVERIFY(!popups.isVisible(QStringLiteral("Any.qml")));
 }
 
 UIELEMENTS_TEST_MAIN_WITH(QApplication, tst_AppWithoutApplication)

@@ -36,6 +36,18 @@ public:
     }
 };
 
+/// The members of an IOxaApplication, in the required order.
+struct BaseMembers
+{
+    bool isHighContrastTheme;
+    bool isDarkTheme;
+    QPointer<QObject> qmlEngine;
+    OxaColorSetMap colorSets;
+    OxaColorTokenMap colorTokens;
+    OxaColorSetMap invertedColorSets;
+};
+static_assert(sizeof(IOxaApplication) == sizeof(QApplication) + sizeof(BaseMembers));
+
 /// The members of an OxaApplication, in the required order.
 struct Members
 {
@@ -81,7 +93,7 @@ private Q_SLOTS:
     void startsWithoutThemeLogoAndColors();
     void startsWithoutPublishingInformation();
     void keepsThePublishingInformationBetweenTheLogosAndTheFontManager();
-    void startsWithoutQmlEngine();
+    void keepsTheQmlEngineBetweenTheFlagsAndTheStores();
     void makesItsSourceOfMoviesAtTheFirstCall();
     void makesTheFontManagerAsItsChild();
     void installsTheApplicationFont();
@@ -142,7 +154,17 @@ void tst_OxaApplication::keepsThePublishingInformationBetweenTheLogosAndTheFontM
                      + PublishingOutline::distance(&members, &members.publishingInfo));
 }
 
-void tst_OxaApplication::startsWithoutQmlEngine() { QVERIFY(!application()->getQmlEngine()); }
+void tst_OxaApplication::keepsTheQmlEngineBetweenTheFlagsAndTheStores()
+{
+    const BaseMembers members {};
+    const auto distance = &PublishingOutline::distance;
+    QCOMPARE(distance(application(), &application()->getColorSets()),
+             std::ptrdiff_t(sizeof(QApplication)) + distance(&members, &members.colorSets));
+    QCOMPARE(distance(&application()->getColorSets(), &application()->getColorTokens()),
+             distance(&members.colorSets, &members.colorTokens));
+    QCOMPARE(distance(&application()->getColorSets(), &application()->getInvertedColorSets()),
+             distance(&members.colorSets, &members.invertedColorSets));
+}
 
 void tst_OxaApplication::makesItsSourceOfMoviesAtTheFirstCall()
 {

@@ -3,6 +3,7 @@
 
 #include <UiElements/app/OxaGlobalSignalListener.h>
 #include <UiElements/fonts/OxaFontManager.h>
+#include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/widgets/OxaWidget.h>
 
 #include <QMetaType>
@@ -39,6 +40,8 @@ private Q_SLOTS:
     void answersThroughTheMetaObject();
     void takesItsChildrenWithIt();
     void survivesTheEndOfItsChildren();
+    void makesNoQmlEngineToDeleteIt();
+    void deletesItsQmlEngineLater();
 };
 
 void tst_OxaApplicationHubs::makesItsChildrenInOrder()
@@ -115,6 +118,37 @@ void tst_OxaApplicationHubs::survivesTheEndOfItsChildren()
     widget.setFontToken(OxaFont::Token::Title);
     widget.setFontType(FontManagerEnum::FontType::MessagingView);
     QCOMPARE(widget.font().pixelSize(), 20);
+}
+
+void tst_OxaApplicationHubs::makesNoQmlEngineToDeleteIt()
+{
+    static int count;
+    OxaQmlEngine::setFactory([]() -> OxaQmlEngine * {
+        ++count;
+        return nullptr;
+    });
+    {
+        const Application application;
+    }
+    OxaQmlEngine::setFactory(nullptr);
+    QCOMPARE(count, 0);
+}
+
+void tst_OxaApplicationHubs::deletesItsQmlEngineLater()
+{
+    static QPointer<OxaQmlEngine> engine;
+    static bool wasAlive;
+    {
+        Application application;
+        engine = application->getQmlEngine();
+        // Runs between the destructors of this application and of Qt's.
+        qAddPostRoutine([] {
+            wasAlive = !engine.isNull();
+            QCoreApplication::sendPostedEvents(engine, QEvent::DeferredDelete);
+        });
+    }
+    QVERIFY(wasAlive);
+    QVERIFY(!engine);
 }
 
 UIELEMENTS_APPLESS_TEST_MAIN(tst_OxaApplicationHubs)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ClientApplication.h"
 #include "FirstWindow.h"
+#include "Tutorial.h"
 #include "support/Guards.h"
 #include "support/Pixels.h"
 
@@ -8,7 +9,6 @@
 #include <UiElements/theme/OxaThemeUtils.h>
 
 #include <QAbstractButton>
-#include <QDirIterator>
 #include <QListView>
 #include <QTest>
 
@@ -16,28 +16,6 @@
 #include <cmath>
 
 namespace {
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// The code blocks of the tutorial that show the example, without shell commands.
-QVector<QByteArray> quotedBlocks()
-{
-    QVector<QByteArray> blocks;
-    const QByteArray tutorial = contentOf(QStringLiteral(TUTORIAL));
-    constexpr char fence[] = "\n```";
-    for (int start = tutorial.indexOf(fence); start >= 0; start = tutorial.indexOf(fence, start)) {
-        const int code = tutorial.indexOf('\n', start + 1) + 1;
-        const int end = tutorial.indexOf(fence, code - 1) + 1;
-        if (!tutorial.mid(start).startsWith("\n```sh\n"))
-            blocks.append(tutorial.mid(code, end - code));
-        start = tutorial.indexOf('\n', end);
-    }
-    return blocks;
-}
 
 QColor normalColor(const char *set)
 {
@@ -139,12 +117,8 @@ QAbstractButton *tst_FirstWindow::button(const QString &text) const
 
 void tst_FirstWindow::matchesTheTutorialWordForWord()
 {
-    QByteArray example;
-    QDirIterator files(QStringLiteral(EXAMPLE), QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext())
-        example += contentOf(files.next());
-
-    const QVector<QByteArray> blocks = quotedBlocks();
+    const QByteArray example = Tutorial::filesOf(QStringLiteral(EXAMPLE));
+    const QVector<QByteArray> blocks = Tutorial::quotedBlocks(QStringLiteral(TUTORIAL));
     QVERIFY(blocks.size() >= 6);
     for (const QByteArray &block : blocks)
         QVERIFY2(example.contains(block), block.constData());

@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/TestApplication.h"
 
-void TestApplication::onQmlEngineCreated(OxaQmlEngine *) { }
+void TestApplication::onQmlEngineCreated(OxaQmlEngine *engine)
+{
+    if (qmlEngineHook)
+        qmlEngineHook(engine);
+}
 
 void TestApplication::restart() { }
 

@@ -8,7 +8,7 @@
 #include <functional>
 
 /// The application object of tests. The hooks for outer applications do nothing, except where a
-/// test gives one for main windows.
+/// test gives one.
 class TestApplication : public OxaApplication
 {
     Q_OBJECT
@@ -22,6 +22,9 @@ public:
 
     /// Sets the publishing information.
     void setPublishingInfo(const AppPublishing::OxaPublishingInfo &info);
+
+    /// Gets each new QML engine.
+    std::function<void(OxaQmlEngine *)> qmlEngineHook;
 
     /// Gets each new main window.
     std::function<void(OxaMainWindow *)> mainWindowHook;

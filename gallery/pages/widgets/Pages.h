@@ -18,6 +18,7 @@ Page *makeEmojiText(QWidget *parent);
 Page *makeLists(QWidget *parent);
 Page *makeLongList(QWidget *parent);
 Page *makeMovies(QWidget *parent);
+Page *makePaintedItems(QWidget *parent);
 Page *makeWindows(QWidget *parent);
 
 } // namespace Pages

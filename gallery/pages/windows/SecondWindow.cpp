@@ -32,7 +32,7 @@ SecondWindow::SecondWindow(QWidget *parent) : OxaMainWindow(parent)
     auto *contents = new OxaWidget(this);
     auto *log = new EmissionLog(contents);
     log->setMaximumHeight(QWIDGETSIZE_MAX);
-    log->follow(OxaAppSignals::get());
+    log->follow(OxaAppSignals::get(), QObject::staticMetaObject);
     OxaPushButton *closeButton = Buttons::make(tr("Close"), contents);
     connect(closeButton, &OxaPushButton::clicked, this, &QWidget::close);
     auto *column = new QVBoxLayout(contents);

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/UiElementsExport.h>
+
+#include <QPointer>
+#include <QQmlEngine>
+#include <QVariantMap>
+
+#include <functional>
+
+class OxaPopupQuickView;
+class OxaQmlController;
+class OxaQuickView;
+class OxaQuickWidget;
+class QWidget;
+class QWindow;
+
+/// The QML engine of the application. IOxaApplication::getQmlEngine() makes it on demand.
+///
+/// Its static functions make views from a source: the path of a QML file relative to the folder of
+/// all QML files, such as "people/Card.qml". That folder is "qrc:/Qml/", or on disk the one that
+/// the library was built with (the CMake variable UIELEMENTS_QML_SOURCE_DIR). They return null for
+/// an empty source, and where the process has no application object with an engine, each with a
+/// warning. Errors in a file are reported by qmlViewStatusChanged() only: its view stays empty.
+///
+/// A QML file may have one OxaQmlController, as a direct child of its root object. When the file
+/// has loaded, the controller's init() gets the initial properties, and then the callback is called
+/// with the controller. A reload does this again with the new controller.
+///
+/// Each view has the base name of its file as object name. A view named "DevToolsView" is neither
+/// measured nor reloaded.
+///
+/// A callback, or a slot of qmlViewStatusChanged(), may delete the view or the engine while a view
+/// loads: the function then returns null. Slots that hear of DestroyedController or DestroyedView
+/// run in a destructor: there, use deleteLater().
+class UIELEMENTS_EXPORT OxaQmlEngine : public QQmlEngine
+{
+    Q_OBJECT
+
+public:
+    /// Gets the controller of a view.
+    using ControllerCallback = std::function<void(OxaQmlController *)>;
+
+    /// Gets the root object of a component, and its controller.
+    using ComponentCallback = std::function<void(QObject *, OxaQmlController *)>;
+
+    /// Makes an engine without a parent.
+    using Factory = OxaQmlEngine *(*)();
+
+    /// What happened to a view. The meta-type's name is "QmlViewStatus".
+    enum class QmlViewStatus {
+        /// A view is about to be made; or, with a message, it has loaded without a root object.
+        Creating = 0,
+        /// The file has loaded; the controller's init() follows.
+        Initializing = 1,
+        /// The controller, if there is one, is initialised and the callback has been called.
+        Ready = 2,
+        /// The controller was destroyed.
+        DestroyedController = 3,
+        /// The view was destroyed, or the root object of a component.
+        DestroyedView = 4,
+        /// Loading failed, or the file has more than one controller.
+        Error = 5,
+    };
+    Q_ENUM(QmlViewStatus)
+
+    /// Makes an engine that reads QML files from resources and measures nothing. Takes its import
+    /// paths from the environment, see fixImportPath(), and reloads all views when the application
+    /// emits OxaAppSignals::reloadAllQmlViews().
+    explicit OxaQmlEngine(QObject *parent = nullptr);
+    ~OxaQmlEngine() override;
+
+    /// Sets the function by which the application makes its next engine, so that this can be of the
+    /// client's own class. Null, the default, makes an OxaQmlEngine, as does a function that
+    /// returns null. An engine that exists stays.
+    static void setFactory(Factory factory);
+
+    /// True when QML files are read from disk. Off by default.
+    bool isReadingQmlFromDisk() const { return m_readQmlFromDisk; }
+
+    /// True when new views measure their rendering time. Off by default.
+    bool isWatchingPerformance() const { return m_performanceWatcherEnabled; }
+
+    /// Makes a view of \a source in \a parent. A null parent logs a warning.
+    static QPointer<OxaQuickWidget> createQmlWidget(const QString &source, QWidget *parent,
+                                                    const QVariantMap &initialProperties,
+                                                    const ControllerCallback &controllerCallback);
+
+    /// Makes a hidden window of \a source, which deletes itself when it is closed.
+    static QPointer<OxaQuickView> createQmlWindow(const QString &source, QWindow *parent,
+                                                  const QVariantMap &initialProperties,
+                                                  const ControllerCallback &controllerCallback);
+
+    /// Makes a hidden dialog of \a source, which stays above \a parent and deletes itself when it
+    /// is closed. With \a fixedSize it has the size of its root item.
+    static QPointer<OxaQuickView> createQmlDialog(const QString &source, QWindow *parent,
+                                                  const QVariantMap &initialProperties,
+                                                  const ControllerCallback &controllerCallback,
+                                                  bool fixedSize);
+
+    /// Makes a hidden popup of \a source on the screen of \a parent. It has the size of its root
+    /// item, hides when it or \a parent loses activation or \a parent moves, and deletes itself
+    /// when it is closed. With \a dialog its window type is Qt::Tool, else Qt::Popup.
+    static QPointer<OxaPopupQuickView> createQmlPopup(const QString &source, QWindow *parent,
+                                                      const QVariantMap &initialProperties,
+                                                      const ControllerCallback &controllerCallback,
+                                                      bool dialog);
+
+    /// Makes a window of \a source as createQmlWindow() does. Its parent is the outermost window
+    /// among the ancestors of \a owner; null if there is none.
+    static QPointer<OxaQuickView> createControllerQmlWindow(
+            const QString &source, QObject *owner, const QVariantMap &initialProperties,
+            const ControllerCallback &controllerCallback);
+
+    /// Makes a dialog of fixed size as createQmlDialog() does, above the outermost window among the
+    /// ancestors of \a owner.
+    static QPointer<OxaQuickView> createControllerQmlDialog(
+            const QString &source, QObject *owner, const QVariantMap &initialProperties,
+            const ControllerCallback &controllerCallback);
+
+    /// Loads \a source without a view. The object is made later, as a child of \a parent, which
+    /// also owns the component. \a callback is called if the object has a controller.
+    static void createQmlComponent(const QString &source, QObject *parent,
+                                   const QVariantMap &initialProperties,
+                                   const ComponentCallback &callback);
+
+Q_SIGNALS:
+    /// The view of the source \a viewName reached \a status. The type's short name is what queued
+    /// connections look up.
+    void qmlViewStatusChanged(QmlViewStatus status, // clazy:exclude=fully-qualified-moc-types
+                              const QString &viewName, const QString &message = QString());
+
+    /// All views reload themselves if they were read from disk.
+    void reloadAllQmlViews();
+
+    /// A measured view painted a frame in \a milisec milliseconds. \a source is its object name.
+    void finishedRendering(const QString &source, qlonglong milisec);
+
+    /// A view got no graphics context. Emitted once, however many views fail.
+    void sceneGraphCriticalError();
+
+public Q_SLOTS:
+    /// Emits sceneGraphCriticalError() at the first call.
+    void onSceneGraphCriticalError();
+
+protected:
+    /// Decides where sources are read from that are loaded from now on.
+    void setReadQmlFromDisk(bool enabled);
+
+    /// Decides whether views that are made from now on measure their rendering time.
+    void setPerformanceWatcherEnabled(bool enabled);
+
+    /// Replaces the import paths by the folder that the environment variable QML2_IMPORT_PATH
+    /// names. Without one, they stay as they are. Logs a warning where it names several, which are
+    /// all used, and where one does not exist.
+    void fixImportPath();
+
+private Q_SLOTS:
+    void reload();
+
+private:
+    bool m_readQmlFromDisk = false;
+    bool m_performanceWatcherEnabled = false;
+    bool m_sceneGraphErrorReported = false;
+
+    friend class IOxaApplication;
+    static OxaQmlEngine *create();
+};

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick 2.15
+import UiElements 1.0
+
+OxaBalloon {
+    width: 200
+    height: 90
+    radius: 8
+    arrowSize: 10
+    backgroundColor: "#f7f7f7"
+    borderColor: "#757575"
+    arrowAnchor: controller.arrowAnchor
+    arrowOffset: controller.arrowOffset
+
+    OxaQmlPopupController {
+        id: controller
+    }
+    Text {
+        anchors.centerIn: parent
+        text: qsTr("%1 is here").arg(controller.model)
+    }
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick 2.15
+import Gallery 1.0
+import UiElements 1.0
+
+Rectangle {
+    id: root
+
+    color: controller.surface
+
+    PaintedItemController {
+        id: controller
+
+        item: balloon
+    }
+
+    OxaBalloon {
+        id: balloon
+
+        // On whole pixels, so that straight edges are sharp.
+        x: Math.round((root.width - width) / 2)
+        y: Math.round((root.height - height) / 2)
+        width: 200
+        height: 112
+        radius: 8
+        borderWidth: 2
+        backgroundColor: controller.background
+        borderColor: controller.border
+
+        // These do not repaint by themselves.
+        onArrowSizeChanged: update()
+        onBorderWidthChanged: update()
+        onRadiusChanged: update()
+        onTopMarginChanged: update()
+    }
+}

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick 2.15
+import Tests 1.0
+
+Item {
+    width: 120
+    height: 80
+
+    TestController {}
+}

@@ -1,0 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick 2.15
+import Missing 1.0
+
+Item {}

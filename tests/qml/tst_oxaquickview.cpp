@@ -1,0 +1,448 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "QuickViews.h"
+#include "Screens.h"
+#include "support/SignalLog.h"
+#include "support/TestApplication.h"
+
+#include <UiElements/qml/OxaQmlPopupController.h>
+#include <UiElements/qml/OxaQmlTypes.h>
+
+#include <QAbstractNativeEventFilter>
+#include <QCursor>
+#include <QSignalSpy>
+
+#include <limits>
+
+using namespace QuickViews;
+
+namespace {
+
+/// A screen to the left of the first one, with a panel at its left, its top and its right.
+const QRect sideScreen(-1000, -300, 1000, 700);
+const QRect sideArea(-990, -270, 970, 670);
+
+/// Gives access to protected functions.
+class OpenView : public OxaQuickView
+{
+public:
+    using OxaQuickView::findController;
+    using OxaQuickView::nativeEvent;
+    using OxaQuickView::OxaQuickView;
+};
+
+/// Answers each native event with the same result.
+class Answer : public QAbstractNativeEventFilter
+{
+public:
+    explicit Answer(bool isHandled) : m_isHandled(isHandled) { }
+
+    bool nativeEventFilter(const QByteArray &eventType, void *message, long *result) override
+    {
+        types += eventType;
+        *static_cast<int *>(message) += 1;
+        *result = 7;
+        return m_isHandled;
+    }
+
+    QByteArray types;
+
+private:
+    const bool m_isHandled;
+};
+
+constexpr char controllerInside[] = R"(
+    import QtQuick 2.15
+    import UiElements 1.0
+    Item {
+        width: 100; height: 50
+        OxaQmlPopupController { objectName: "named" }
+    })";
+
+constexpr char controllerDeeper[] = R"(
+    import QtQuick 2.15
+    import UiElements 1.0
+    Item {
+        width: 100; height: 50
+        Item { OxaQmlPopupController { } }
+    })";
+
+} // namespace
+
+class tst_OxaQuickView : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+
+    void startsWithTheDefaultOptions();
+    void hasNoIconAndShowsNothingDeferredWithoutAnEngine();
+    void hasATransparentIconOnlyWithAParent();
+    void keepsACopyOfItsOptions();
+
+    void movesToAPointAndShows_data();
+    void movesToAPointAndShows();
+    void takesItsOwnScreenForNone();
+    void doesNothingWithoutAScreen();
+    void centresItselfBelowAWidget_data();
+    void centresItselfBelowAWidget();
+    void showsAndActivatesLaterWhereAsked();
+
+    void hasTheSizeOfItsRootItem();
+    void staysResizableWithoutARootItem();
+    void findsTheControllerOfTheRootItem();
+    void callsNothingWithoutControllerOrCallback();
+
+    void tellsThatItShowsAndCloses();
+    void survivesAClosingWithoutDeletion();
+    void sendsNoCloseEventBeforeItWasShown();
+    void asksItsNativeHandlerAlone();
+    void knowsWhetherThePointerIsInside();
+
+private:
+    std::unique_ptr<OxaQmlEngine> m_engine;
+};
+
+void tst_OxaQuickView::initTestCase()
+{
+    OxaQmlTypes::registerQmlTypes();
+    m_engine = std::make_unique<OxaQmlEngine>(nullptr);
+}
+
+void tst_OxaQuickView::startsWithTheDefaultOptions()
+{
+    const ViewOptions options = OxaQuickView().getViewOptions();
+    QVERIFY(!options.deferShow);
+    QVERIFY(!options.hideOnDeactivate);
+    QVERIFY(options.deleteOnClose);
+    QVERIFY(!options.focusContentOnActivate);
+    QVERIFY(!options.watchedWindow);
+}
+
+void tst_OxaQuickView::hasNoIconAndShowsNothingDeferredWithoutAnEngine()
+{
+    QWindow parent;
+    OxaQuickView view(&parent);
+    QCOMPARE(view.parent(), &parent);
+    QVERIFY(view.icon().isNull());
+    Q_EMIT view._dispatchShow();
+    QCoreApplication::processEvents();
+    QVERIFY(!view.isVisible());
+}
+
+void tst_OxaQuickView::hasATransparentIconOnlyWithAParent()
+{
+    QWindow parent;
+    const OxaQuickView child(m_engine.get(), &parent, {});
+    QCOMPARE(child.engine(), m_engine.get());
+    QCOMPARE(child.parent(), &parent);
+    const QImage icon = child.icon().pixmap(32).toImage();
+    QCOMPARE(icon.size(), QSize(32, 32));
+    QCOMPARE(icon.pixelColor(16, 16), QColor(Qt::transparent));
+    // The application has no logo.
+    const OxaQuickView single(m_engine.get(), nullptr, {});
+    QVERIFY(single.icon().isNull());
+}
+
+void tst_OxaQuickView::keepsACopyOfItsOptions()
+{
+    QWindow watched;
+    const ViewOptions given { true, true, false, true, &watched };
+    OxaQuickView view(m_engine.get(), nullptr, given);
+    const ViewOptions options = view.getViewOptions();
+    QVERIFY(options.deferShow);
+    QVERIFY(options.hideOnDeactivate);
+    QVERIFY(!options.deleteOnClose);
+    QVERIFY(options.focusContentOnActivate);
+    QCOMPARE(options.watchedWindow, &watched);
+    view.setViewOptions({});
+    QVERIFY(!view.getViewOptions().hideOnDeactivate);
+    QVERIFY(!view.getViewOptions().watchedWindow);
+}
+
+void tst_OxaQuickView::movesToAPointAndShows_data()
+{
+    QTest::addColumn<QPoint>("point");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QPoint>("expected");
+    const QSize size(200, 100);
+    const auto row = [](const char *name, const QPoint &point, const QSize &viewSize,
+                        const QPoint &expected) {
+        QTest::newRow(name) << point << viewSize << expected;
+    };
+    // The area is from -990 to -20 and from -270 to 400.
+    row("in the middle", { -500, 0 }, size, { -500, 0 });
+    row("fitting exactly at the top left", { -990, -270 }, size, { -990, -270 });
+    row("fitting exactly at the bottom right", { -220, 300 }, size, { -220, 300 });
+    row("across the left edge", { -1000, 0 }, size, { -990, 0 });
+    row("more than half across the left edge", { -1150, 0 }, size, { -990, 0 });
+    row("across the top", { -500, -300 }, size, { -500, -270 });
+    row("more than half across the top", { -500, -360 }, size, { -500, -270 });
+    row("across the right edge", { -219, 0 }, size, { -220, 0 });
+    row("more than half across the right edge", { -30, 0 }, size, { -220, 0 });
+    row("across the bottom", { -500, 301 }, size, { -500, 300 });
+    row("across the top left corner", { -1000, -300 }, size, { -990, -270 });
+    row("across the top right corner", { -200, -300 }, size, { -220, -270 });
+    row("across the bottom left corner", { -1000, 350 }, size, { -990, 300 });
+    row("across the bottom right corner", { -100, 399 }, size, { -220, 300 });
+    row("outside at the left", { -1190, 0 }, size, { -1190, 0 });
+    row("outside at the right", { -20, 0 }, size, { -20, 0 });
+    row("outside at the top", { -500, -370 }, size, { -500, -370 });
+    row("outside at the bottom", { -500, 400 }, size, { -500, 400 });
+    row("wider than the area", { -500, 0 }, { 1200, 100 }, { -990, 0 });
+    row("wider than the area, from its left", { -990, 0 }, { 1200, 100 }, { -990, 0 });
+    row("higher than the area", { -500, 0 }, { 200, 900 }, { -500, -270 });
+    row("without a size", { -1000, 0 }, { 0, 0 }, { -1000, 0 });
+}
+
+void tst_OxaQuickView::movesToAPointAndShows()
+{
+    QFETCH(const QPoint, point);
+    QFETCH(const QSize, size);
+    QFETCH(const QPoint, expected);
+    const ScreenGuard side(sideScreen, sideArea);
+    OxaQuickView view(m_engine.get(), nullptr, {});
+    view.setFlag(Qt::FramelessWindowHint);
+    view.resize(size);
+    SignalLog log;
+    log.record(&view, &OxaQuickView::aboutToShow, QStringLiteral("aboutToShow"));
+    view.showAt(point, side.screen());
+    QCOMPARE(view.position(), expected);
+    QCOMPARE(view.screen(), side.screen());
+    QVERIFY(view.isVisible());
+    QCOMPARE(log.take(), QStringLiteral("aboutToShow"));
+}
+
+void tst_OxaQuickView::takesItsOwnScreenForNone()
+{
+    const ScreenGuard side(sideScreen, sideArea);
+    OxaQuickView view(m_engine.get(), nullptr, {});
+    view.setFlag(Qt::FramelessWindowHint);
+    view.setScreen(side.screen());
+    view.resize(200, 100);
+    view.showAt(QPoint(-100, 0), nullptr);
+    QCOMPARE(view.position(), QPoint(-220, 0));
+    QCOMPARE(view.screen(), side.screen());
+}
+
+void tst_OxaQuickView::doesNothingWithoutAScreen()
+{
+    OxaQuickView view(m_engine.get(), nullptr, {});
+    const QPoint before = view.position();
+    {
+        const NoScreenGuard noScreen;
+        QVERIFY(!view.screen());
+        view.showAt(QPoint(10, 10), nullptr);
+    }
+    QVERIFY(!view.isVisible());
+    QCOMPARE(view.position(), before);
+}
+
+void tst_OxaQuickView::centresItselfBelowAWidget_data()
+{
+    QTest::addColumn<QRect>("widget");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QPoint>("expected");
+    // The centre of a widget of an even size is left of and above its middle.
+    QTest::newRow("even sizes") << QRect(300, 200, 100, 40) << QSize(60, 30) << QPoint(319, 239);
+    QTest::newRow("odd sizes") << QRect(300, 200, 101, 41) << QSize(61, 31) << QPoint(320, 240);
+    QTest::newRow("at the right edge")
+            << QRect(700, 200, 100, 40) << QSize(200, 30) << QPoint(600, 239);
+}
+
+void tst_OxaQuickView::centresItselfBelowAWidget()
+{
+    QFETCH(const QRect, widget);
+    QFETCH(const QSize, size);
+    QFETCH(const QPoint, expected);
+    QWidget window(nullptr, Qt::FramelessWindowHint);
+    QWidget child(&window);
+    window.setGeometry(widget.translated(-5, -7));
+    child.setGeometry(QRect(QPoint(5, 7), widget.size()));
+    OxaQuickView view(m_engine.get(), nullptr, {});
+    view.setFlag(Qt::FramelessWindowHint);
+    view.resize(size);
+    view.showAt(static_cast<const QWidget *>(nullptr), nullptr);
+    QVERIFY(!view.isVisible());
+    view.showAt(&child, QGuiApplication::primaryScreen());
+    QCOMPARE(view.position(), expected);
+    QVERIFY(view.isVisible());
+}
+
+void tst_OxaQuickView::showsAndActivatesLaterWhereAsked()
+{
+    ViewOptions options;
+    options.deferShow = true;
+    OxaQuickView view(m_engine.get(), nullptr, options);
+    view.setFlag(Qt::FramelessWindowHint);
+    SignalLog log;
+    log.record(&view, &OxaQuickView::_dispatchShow, QStringLiteral("_dispatchShow"));
+    log.record(&view, &OxaQuickView::aboutToShow, QStringLiteral("aboutToShow"));
+    view.showAt(QPoint(30, 40), nullptr);
+    QCOMPARE(log.take(), QStringLiteral("_dispatchShow"));
+    QVERIFY(!view.isVisible());
+    QCOMPARE(view.position(), QPoint(30, 40));
+    QCoreApplication::processEvents();
+    QCOMPARE(log.take(), QStringLiteral("aboutToShow"));
+    QVERIFY(view.isVisible());
+    QTRY_COMPARE(QGuiApplication::focusWindow(), &view);
+    // A view that another window covers comes back.
+    QWindow other;
+    QVERIFY(showActive(other));
+    view.showAt(QPoint(30, 40), nullptr);
+    QTRY_COMPARE(QGuiApplication::focusWindow(), &view);
+}
+
+void tst_OxaQuickView::hasTheSizeOfItsRootItem()
+{
+    OxaQuickView view(m_engine.get(), nullptr, {});
+    view.setResizeMode(QQuickView::SizeRootObjectToView);
+    QQuickItem *root = load(view, "import QtQuick 2.15\nItem { width: 100.6; height: 50.4 }");
+    root->setSize(QSizeF(100.6, 50.4));
+    view.setupFixedSize();
+    QCOMPARE(view.size(), QSize(101, 50));
+    QCOMPARE(view.minimumSize(), QSize(101, 50));
+    QCOMPARE(view.maximumSize(), QSize(101, 50));
+    root->setWidth(200);
+    QCOMPARE(view.size(), QSize(200, 50));
+    root->setHeight(20);
+    QCOMPARE(view.size(), QSize(200, 20));
+    QCOMPARE(view.minimumSize(), QSize(200, 20));
+    QCOMPARE(view.maximumSize(), QSize(200, 20));
+}
+
+void tst_OxaQuickView::staysResizableWithoutARootItem()
+{
+    OxaQuickView view(m_engine.get(), nullptr, {});
+    view.resize(70, 80);
+    view.setupFixedSize();
+    QCOMPARE(view.size(), QSize(70, 80));
+    QQuickItem *root = loadItem(view);
+    root->setWidth(300);
+    QCOMPARE(view.minimumSize(), QSize(0, 0));
+    // It is connected once, however often it is called.
+    view.setupFixedSize();
+    view.setupFixedSize();
+    QSignalSpy widths(&view, &QWindow::minimumWidthChanged);
+    root->setWidth(310);
+    QCOMPARE(widths.size(), 1);
+}
+
+void tst_OxaQuickView::findsTheControllerOfTheRootItem()
+{
+    OpenView view(m_engine.get(), nullptr, ViewOptions());
+    QVERIFY(!view.findController());
+    const QQuickItem *root = load(view, controllerInside);
+    auto *controller = root->findChild<OxaQmlController *>(QStringLiteral("named"));
+    QVERIFY(controller);
+    QCOMPARE(view.findController(), controller);
+    const OxaQmlController *called = nullptr;
+    view.callControllerCallback([&called](const OxaQmlController *given) { called = given; });
+    QCOMPARE(called, controller);
+}
+
+void tst_OxaQuickView::callsNothingWithoutControllerOrCallback()
+{
+    OpenView view(m_engine.get(), nullptr, ViewOptions());
+    int calls = 0;
+    const auto count = [&calls](OxaQmlController *) { ++calls; };
+    view.callControllerCallback(count);
+    load(view, controllerDeeper);
+    QVERIFY(!view.findController());
+    view.callControllerCallback(count);
+    QCOMPARE(calls, 0);
+    load(view, controllerInside);
+    view.callControllerCallback(nullptr);
+    view.callControllerCallback(count);
+    QCOMPARE(calls, 1);
+}
+
+void tst_OxaQuickView::tellsThatItShowsAndCloses()
+{
+    const Owned<OxaQuickView> view(m_engine.get(), nullptr, ViewOptions());
+    SignalLog log;
+    log.record(view.get(), &OxaQuickView::aboutToShow, QStringLiteral("aboutToShow"));
+    log.record(view.get(), &OxaQuickView::aboutToClose, QStringLiteral("aboutToClose"));
+    log.record(view.get(), &QObject::destroyed, QStringLiteral("destroyed"));
+    view->show();
+    view->hide();
+    QCOMPARE(log.take(), QStringLiteral("aboutToShow"));
+    view->show();
+    QVERIFY(view->close());
+    QCOMPARE(log.take(), QStringLiteral("aboutToShow | aboutToClose"));
+    QVERIFY(view);
+    QVERIFY(!view->isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!view);
+    QCOMPARE(log.take(), QStringLiteral("destroyed"));
+}
+
+void tst_OxaQuickView::survivesAClosingWithoutDeletion()
+{
+    ViewOptions options;
+    options.deleteOnClose = false;
+    const Owned<OxaQuickView> view(m_engine.get(), nullptr, options);
+    QSignalSpy closes(view.get(), &OxaQuickView::aboutToClose);
+    for (int i = 1; i <= 2; ++i) {
+        view->show();
+        QVERIFY(QTest::qWaitForWindowExposed(view.get()));
+        QVERIFY(view->close());
+        QCOMPARE(closes.size(), i);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(view);
+        QVERIFY(!view->isVisible());
+    }
+}
+
+void tst_OxaQuickView::sendsNoCloseEventBeforeItWasShown()
+{
+    const Owned<OxaQuickView> view(m_engine.get(), nullptr, ViewOptions());
+    QSignalSpy closes(view.get(), &OxaQuickView::aboutToClose);
+    QVERIFY(view->close());
+    QCOMPARE(closes.size(), 0);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(view);
+}
+
+void tst_OxaQuickView::asksItsNativeHandlerAlone()
+{
+    OpenView view(m_engine.get(), nullptr, ViewOptions());
+    int message = 0;
+    long result = 0;
+    QVERIFY(!view.nativeEvent("a", &message, &result));
+    QCOMPARE(message, 0);
+    const auto yes = std::make_shared<Answer>(true);
+    view.setCustomNativeHandler(yes);
+    QVERIFY(view.nativeEvent("b", &message, &result));
+    QCOMPARE(message, 1);
+    QCOMPARE(result, 7L);
+    const auto no = std::make_shared<Answer>(false);
+    view.setCustomNativeHandler(no);
+    QVERIFY(!view.nativeEvent("c", &message, &result));
+    view.setCustomNativeHandler(nullptr);
+    QVERIFY(!view.nativeEvent("d", &message, &result));
+    QCOMPARE(message, 2);
+    QCOMPARE(yes->types, QByteArray("b"));
+    QCOMPARE(no->types, QByteArray("c"));
+}
+
+void tst_OxaQuickView::knowsWhetherThePointerIsInside()
+{
+    OxaQuickView view(m_engine.get(), nullptr, {});
+    view.setFlag(Qt::FramelessWindowHint);
+    view.setGeometry(100, 200, 50, 30);
+    view.show();
+    const QPoint before = QCursor::pos();
+    for (const QPoint &inside : { QPoint(100, 200), QPoint(149, 229) }) {
+        QCursor::setPos(inside);
+        QVERIFY(view.underMouse());
+    }
+    for (const QPoint &outside : { QPoint(99, 200), QPoint(150, 229), QPoint(149, 230) }) {
+        QCursor::setPos(outside);
+        QVERIFY(!view.underMouse());
+    }
+    QCursor::setPos(before);
+}
+
+UIELEMENTS_TEST_MAIN(tst_OxaQuickView)
+#include "tst_oxaquickview.moc"
