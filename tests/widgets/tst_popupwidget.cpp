@@ -410,7 +410,6 @@ void tst_PopupWidget::isPaintedOncePerShow()
     };
     for (const int round : { 1, 2 }) {
         PopupWidget popup(nullptr, data());
-        popup.setAttribute(Qt::WA_ShowWithoutActivating);
         auto *content = new Content;
         content->setFixedSize(100, 60);
         popup.registerWidget(content);
