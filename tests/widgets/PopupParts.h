@@ -43,6 +43,30 @@ inline QWidget *makeContent(const QSize &size = QSize(100, 60))
     return content;
 }
 
+/// A popup with a content, whose window the window manager does not touch.
+struct FilledPopup : PopupWidget
+{
+    QWidget *content = makeContent();
+
+    explicit FilledPopup(const WidgetData &widgetData = PopupParts::data(),
+                         QWidget *parent = nullptr)
+        : PopupWidget(parent, widgetData)
+    {
+        setWindowFlag(Qt::X11BypassWindowManagerHint);
+        registerWidget(content);
+        content->show();
+    }
+};
+
+const QRect nearMiddle(300, 300, 60, 20); // Of the screen, which is 1280 by 1024.
+const QRect nearBottom(300, 990, 60, 20);
+
+/// Returns the room for arrow and corners.
+inline QMargins bodyMargins(const PopupWidget &popup)
+{
+    return popup.getMainWidget()->layout()->contentsMargins();
+}
+
 /// Records all signals of \a popup.
 inline void record(SignalLog &log, const PopupWidget *popup)
 {
