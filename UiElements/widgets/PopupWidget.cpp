@@ -261,6 +261,9 @@ void PopupWidget::showSmooth(QRect originRect)
         m_originRect = originRect;
     const QPointer<PopupWidget> self(this);
     refreshLayouts(this);
+    // Some window managers lose track of a window that is made elsewhere and moved as it appears.
+    if (self && !testAttribute(Qt::WA_WState_Created))
+        repositionWindow(m_data.m_alignment, m_data.m_arrowPostion);
     if (self)
         show();
     if (!self)

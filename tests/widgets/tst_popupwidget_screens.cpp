@@ -157,8 +157,8 @@ void tst_PopupWidgetScreens::isWhereItSaysOnTheScreen()
     PopupWidget popup(nullptr, dataOf(c));
     shownAt(popup, c);
     QVERIFY(QTest::qWaitForWindowActive(&popup));
+    // Qt itself may be told of another place while the window manager takes the window over.
     QTRY_COMPARE(placeOnServer(popup), place);
-    QTRY_COMPARE(popup.geometry(), place);
 }
 
 void tst_PopupWidgetScreens::staysOnTheScreenOfItsSource()
