@@ -3,7 +3,6 @@
 #include "support/TestApplication.h"
 
 #include <UiElements/svg/VisualUtils.h>
-#include <UiElements/widgets/OxaPushButton.h>
 
 #include <QResizeEvent>
 
@@ -32,7 +31,7 @@ struct ResizedContent : QWidget
 struct Parts
 {
     QPointer<QWidget> window = new QWidget;
-    QPointer<QPushButton> button = new OxaPushButton(window); // Qt's does not survive its slots.
+    QPointer<QPushButton> button = new QPushButton(window);
     QPointer<QWidget> content = makeContent();
     QPointer<PopupWidget> popup;
 
@@ -206,7 +205,7 @@ void tst_PopupWidgetDeletion::survivesDeletionsInItsButtonsSlots_data()
     QTest::addColumn<Killer>("kill");
     const std::pair<const char *, Killer> victims[] = {
         { "the content", [](Parts &parts) { delete parts.content; } },
-        { "the button", [](Parts &parts) { delete parts.button; } },
+        { "the button, later", [](Parts &parts) { parts.button->deleteLater(); } },
         { "the popup, later", [](Parts &parts) { parts.popup->deleteLater(); } },
     };
     for (const auto &[victim, kill] : victims)
