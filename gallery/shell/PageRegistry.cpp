@@ -5,6 +5,7 @@
 #include "pages/focus/FocusPage.h"
 #include "pages/icons/IconsPage.h"
 #include "pages/layouts/LayoutsPage.h"
+#include "pages/popups/PopupsPage.h"
 #include "pages/signals/SignalsPage.h"
 #include "pages/styletext/StyleTextPage.h"
 #include "pages/widgets/Pages.h"
@@ -47,6 +48,7 @@ const std::vector<PageEntry> &pageEntries()
         entry("forms", tr("Forms"), widgets, Pages::makeForms),
         entry("svg-widgets", tr("SVG widgets"), widgets, Pages::makeSvgWidgets),
         entry("emoji-text", tr("Emoji text"), widgets, Pages::makeEmojiText),
+        entry("popups", tr("Popups"), widgets, make<PopupsPage>),
         entry("lists", tr("Lists"), models, Pages::makeLists),
         entry("layouts", tr("Layouts"), behaviour, make<LayoutsPage>),
         entry("focus", tr("Focus"), behaviour, make<FocusPage>),
