@@ -84,6 +84,17 @@ void refreshLayouts(const QPointer<QWidget> &widget)
     widget->layout()->activate();
 }
 
+/// Drops the updates that show() has asked for, so that repaint() paints everything, and once.
+void dropUpdates(QWidget *shown)
+{
+    QCoreApplication::removePostedEvents(shown, QEvent::UpdateLater);
+    const auto children = shown->findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        if (!child->internalWinId()) // It is painted with the popup.
+            QCoreApplication::removePostedEvents(child, QEvent::UpdateLater);
+    }
+}
+
 /// Tells \a button that its popup is hidden. Slots may delete it.
 void release(const QPointer<QPushButton> &button, bool isFocused)
 {
@@ -250,12 +261,15 @@ void PopupWidget::showSmooth(QRect originRect)
         m_originRect = originRect;
     const QPointer<PopupWidget> self(this);
     refreshLayouts(this);
+    // Some window managers lose track of a window that is made elsewhere and moved as it appears.
+    if (self && !testAttribute(Qt::WA_WState_Created))
+        repositionWindow(m_data.m_alignment, m_data.m_arrowPostion);
     if (self)
         show();
-    if (self)
-        repaint(); // Before the window is exposed: no empty one is seen.
     if (!self)
         return;
+    dropUpdates(this);
+    repaint(); // Before the window is exposed: no empty one is seen.
     if (m_data.m_activateOnShow)
         activateWindow();
     if (self && m_dismissTimer)

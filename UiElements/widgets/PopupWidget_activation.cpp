@@ -10,13 +10,14 @@
 
 void PopupWidget::followWindows()
 {
-    connect(windowHandle(), &QWindow::activeChanged, this, &PopupWidget::onActiveChanged,
-            Qt::UniqueConnection);
-    const QWindow *parentWindow = parentWidget() ? parentWidget()->window()->windowHandle()
-                                                 : nullptr;
-    if (parentWindow)
-        connect(parentWindow, &QWindow::activeChanged, this, &PopupWidget::onActiveChanged,
-                Qt::UniqueConnection);
+    const QWidget *parent = parentWidget();
+    // It has no window of its own where a client has put it into another.
+    for (const QWindow *followed :
+         { windowHandle(), parent ? parent->window()->windowHandle() : nullptr }) {
+        if (followed)
+            connect(followed, &QWindow::activeChanged, this, &PopupWidget::onActiveChanged,
+                    Qt::UniqueConnection);
+    }
 }
 
 void PopupWidget::onActiveChanged()

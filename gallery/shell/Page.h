@@ -19,6 +19,9 @@ public:
     /// Returns the layout of the body, with the page's margins.
     QVBoxLayout *body() const { return m_body; }
 
+    /// Shows what a picture of the page must have and what a user opens first. Does nothing here.
+    virtual void showForPicture() { }
+
     /// Appends columns for cards to the body and returns them.
     ColumnsLayout *makeColumns();
 

@@ -5,6 +5,7 @@
 #include "pages/focus/FocusPage.h"
 #include "pages/icons/IconsPage.h"
 #include "pages/layouts/LayoutsPage.h"
+#include "pages/popups/PopupsPage.h"
 #include "pages/signals/SignalsPage.h"
 #include "pages/styletext/StyleTextPage.h"
 #include "pages/widgets/Pages.h"
@@ -45,12 +46,13 @@ const std::vector<PageEntry> &pageEntries()
         entry("icons", tr("Icons"), foundations, make<IconsPage>),
         entry("labels", tr("Labels"), widgets, Pages::makeLabels),
         entry("buttons", tr("Buttons"), widgets, Pages::makeButtons),
-        entry("forms", tr("Forms"), widgets, Pages::makeForms),
-        entry("windows", tr("Windows and dialogs"), widgets, Pages::makeWindows),
         entry("svg-widgets", tr("SVG widgets"), widgets, Pages::makeSvgWidgets),
-        entry("tabs", tr("Tabs and menus"), widgets, Pages::makeTabs),
-        entry("notices", tr("Notices"), widgets, Pages::makeNotices),
         entry("emoji-text", tr("Emoji text"), widgets, Pages::makeEmojiText),
+        entry("forms", tr("Forms"), widgets, Pages::makeForms),
+        entry("tabs", tr("Tabs and menus"), widgets, Pages::makeTabs),
+        entry("windows", tr("Windows and dialogs"), widgets, Pages::makeWindows),
+        entry("popups", tr("Popups"), widgets, make<PopupsPage>),
+        entry("notices", tr("Notices"), widgets, Pages::makeNotices),
         entry("long-list", tr("Long list"), widgets, Pages::makeLongList),
         entry("movies", tr("Movies"), widgets, Pages::makeMovies),
         entry("lists", tr("Lists"), models, Pages::makeLists),

@@ -3,6 +3,7 @@
 
 #include "GalleryApplication.h"
 #include "GalleryWindow.h"
+#include "Page.h"
 #include "PageStack.h"
 #include "looks/Metrics.h"
 #include "looks/TextSettings.h"
@@ -97,6 +98,7 @@ bool takePages(GalleryWindow &window, const QStringList &pages, const QDir &fold
     for (const QString &page : pages) {
         window.showPage(page);
         showWholePage(window);
+        static_cast<Page *>(window.findChild<PageStack *>()->currentWidget())->showForPicture();
         if (!takeScales(window, folder, page + QLatin1Char('-') + look, problem))
             return false;
     }

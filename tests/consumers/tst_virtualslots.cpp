@@ -38,6 +38,7 @@
 #include <UiElements/widgets/OxaTimeEdit.h>
 #include <UiElements/widgets/OxaTreeView.h>
 #include <UiElements/widgets/OxaVMenu.h>
+#include <UiElements/widgets/PopupWidget.h>
 
 #include <QTest>
 
@@ -177,6 +178,7 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
     addThemedRow<OxaSlider, QSlider>();
     addThemedRow<OxaProgressBar, QProgressBar>();
     addRow<OxaSeparator, OxaWidget>({});
+    addRow<PopupWidget, OxaWidget>({});
     addRow<ContainerWidget, OxaWidget>({});
     addRow<OxaTabBar, ContainerWidget>({ slotOf(&OxaTabBar::getTab) });
     addRow<OxaVMenu, OxaWidget>({});

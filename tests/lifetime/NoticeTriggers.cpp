@@ -9,6 +9,7 @@
 #include <UiElements/widgets/AlertBanner.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaNotification.h>
+#include <UiElements/widgets/PopupWidget.h>
 
 #include <QLayout>
 
@@ -66,6 +67,30 @@ void addNotificationRows(SignalTriggers &rows)
                                         }));
 }
 
+void addPopupRows(SignalTriggers &rows)
+{
+    const auto makeWindow = [](PopupWidget &popup) { popup.winId(); };
+    const SignalTriggers own = {
+        row<PopupWidget>("popupDismissed()", "Escape",
+                         [](PopupWidget &popup) {
+                             sendKey(popup, QEvent::KeyPress, Qt::Key_Escape);
+                         }),
+        // Sent by hand, since QWidget::setVisible() uses the widget after these events.
+        row<PopupWidget>(
+                "widgetShown()", "the event of show()",
+                [](PopupWidget &popup) { send(popup, QShowEvent()); }, makeWindow),
+        row<PopupWidget>("widgetHidden()", "the event of hide()",
+                         [](PopupWidget &popup) { send(popup, QHideEvent()); }),
+        row<PopupWidget>("widgetHoverEntered()", "the event",
+                         [](PopupWidget &popup) {
+                             send(popup, QEnterEvent(QPointF(), QPointF(), QPointF()));
+                         }),
+        row<PopupWidget>("widgetHoverLeaved()", "the event",
+                         [](PopupWidget &popup) { send(popup, QEvent(QEvent::Leave)); }),
+    };
+    rows.insert(rows.end(), own.begin(), own.end());
+}
+
 /// Gives the label an image of \a frames frames.
 template <int frames>
 void setGif(OxaGifLabel &label)
@@ -110,5 +135,6 @@ void addNoticeTriggers(SignalTriggers &rows)
 {
     addBannerRows(rows);
     addNotificationRows(rows);
+    addPopupRows(rows);
     addMovieRows(rows);
 }

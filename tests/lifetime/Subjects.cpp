@@ -48,6 +48,7 @@
 #include <UiElements/widgets/OxaUnderlineButton.h>
 #include <UiElements/widgets/OxaVMenu.h>
 #include <UiElements/widgets/OxaWidget.h>
+#include <UiElements/widgets/PopupWidget.h>
 
 namespace {
 
@@ -99,6 +100,14 @@ Subject progressBar()
 {
     return { OxaProgressBar::staticMetaObject.className(), &OxaProgressBar::staticMetaObject,
              [](QWidget *parent) -> QObject * { return new OxaProgressBar(parent, 10); } };
+}
+
+Subject popup()
+{
+    return { PopupWidget::staticMetaObject.className(), &PopupWidget::staticMetaObject,
+             [](QWidget *parent) -> QObject * {
+                 return new PopupWidget(parent, WidgetData(OxaThemeUtils::AppThemeType::Global));
+             } };
 }
 
 Subject gifButton()
@@ -157,6 +166,7 @@ const std::vector<Subject> &subjects()
         subject<OxaTreeView>(),
         subject<AlertBanner>(),
         subject<OxaNotification>(),
+        popup(),
         subject<OxaGifLabel>(),
         gifButton(),
         subject<OxaMovie>(),

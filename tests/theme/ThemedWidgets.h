@@ -40,6 +40,7 @@
 #include <UiElements/widgets/OxaUnderlineButton.h>
 #include <UiElements/widgets/OxaVMenu.h>
 #include <UiElements/widgets/OxaWidget.h>
+#include <UiElements/widgets/PopupWidget.h>
 
 #include <QTest>
 
@@ -120,6 +121,12 @@ inline std::unique_ptr<QWidget> makeGifButton(QWidget *parent)
     return std::make_unique<OxaGifButton>(parent, QString(), QSize(8, 8), QString(), QSize(8, 8));
 }
 
+/// Makes a popup without content.
+inline std::unique_ptr<QWidget> makePopup(QWidget *parent)
+{
+    return std::make_unique<PopupWidget>(parent, WidgetData(OxaThemeUtils::AppThemeType::Global));
+}
+
 /// Every themed widget class of the library, and one of a client. A new one is one row.
 inline const std::vector<ThemedClass> &themedClasses()
 {
@@ -194,6 +201,10 @@ inline const std::vector<ThemedClass> &themedClasses()
                                         { "oxa-underlineButton-background",
                                           "oxa-underlineButton-text" }),
         themedClass<OxaVMenu>(T::StyledBackground | T::HasName),
+        themedClass<PopupWidget>(T::StyledBackground | T::HasName | T::IsWindow,
+                                 { "background-primary", "oxa-default-border",
+                                   "oxa-popupDropShadow" },
+                                 &makePopup),
         themedClass<ClientPanel>(T::NoFont | T::FollowsNoParent, { "client-frame" },
                                  &ClientPanel::make),
     };

@@ -39,6 +39,7 @@
 #include <UiElements/widgets/OxaUnderlineButton.h>
 #include <UiElements/widgets/OxaVMenu.h>
 #include <UiElements/widgets/OxaWidget.h>
+#include <UiElements/widgets/PopupWidget.h>
 
 #include <QMetaMethod>
 #include <QMetaProperty>
@@ -431,6 +432,13 @@ void addNoticesAndMovies()
     addRow<OxaNotification, OxaWidget>({},
                                        { "int showTimeout", "int fadeOutDuration",
                                          "signal fadeOutCompleted()", "private slot onFadeOut()" });
+    addRow<PopupWidget, OxaWidget>({},
+                                   { "signal popupDismissed()", "signal widgetHidden()",
+                                     "signal widgetShown()", "signal widgetHoverEntered()",
+                                     "signal widgetHoverLeaved()", "public slot resizeToContent()",
+                                     "public slot showSmooth(QRect originRect)",
+                                     "public slot showSmooth()",
+                                     "public slot showSmooth(const QWidget* originWidget)" });
     addRow<OxaGifLabel, OxaLabel>({}, { "signal finishedPlaying()" });
     addRow<OxaGifButton, OxaPushButton>({}, { "protected slot setButtonIcon()" });
 }
