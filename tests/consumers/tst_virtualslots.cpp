@@ -8,6 +8,10 @@
 #include <UiElements/models/LazyLoadedListModel.h>
 #include <UiElements/models/OverflowListProxyModel.h>
 #include <UiElements/movies/OxaMovieProviderSource.h>
+#include <UiElements/qml/OxaQmlBalloon.h>
+#include <UiElements/qml/OxaQmlDialogController.h>
+#include <UiElements/qml/OxaQmlHalfPill.h>
+#include <UiElements/qml/OxaQmlPopupController.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaCheckBox.h>
@@ -194,6 +198,11 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
     addRow<BaseListModel, QAbstractListModel>({});
     addRow<LazyLoadedListModel, QAbstractListModel>({});
     addRow<OverflowListProxyModel, QSortFilterProxyModel>({});
+    addRow<OxaQmlController, OxaObject>({ slotOf(&OxaQmlController::init) });
+    addRow<OxaQmlDialogController, OxaQmlController>({});
+    addRow<OxaQmlPopupController, OxaQmlController>({});
+    addRow<OxaQmlBalloon, QQuickPaintedItem>({});
+    addRow<OxaQmlHalfPill, QQuickPaintedItem>({});
 }
 
 void tst_VirtualSlots::followThoseOfTheBaseClassInOrder()
