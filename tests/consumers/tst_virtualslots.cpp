@@ -11,6 +11,10 @@
 #include <UiElements/movies/OxaGifLabel.h>
 #include <UiElements/movies/OxaMovieProvider.h>
 #include <UiElements/movies/OxaMovieProviderSource.h>
+#include <UiElements/qml/OxaQmlBalloon.h>
+#include <UiElements/qml/OxaQmlDialogController.h>
+#include <UiElements/qml/OxaQmlHalfPill.h>
+#include <UiElements/qml/OxaQmlPopupController.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/AlertBanner.h>
 #include <UiElements/widgets/ContainerWidget.h>
@@ -206,6 +210,11 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
     addRow<BaseListModel, QAbstractListModel>({});
     addRow<LazyLoadedListModel, QAbstractListModel>({});
     addRow<OverflowListProxyModel, QSortFilterProxyModel>({});
+    addRow<OxaQmlController, OxaObject>({ slotOf(&OxaQmlController::init) });
+    addRow<OxaQmlDialogController, OxaQmlController>({});
+    addRow<OxaQmlPopupController, OxaQmlController>({});
+    addRow<OxaQmlBalloon, QQuickPaintedItem>({});
+    addRow<OxaQmlHalfPill, QQuickPaintedItem>({});
 }
 
 void tst_VirtualSlots::followThoseOfTheBaseClassInOrder()

@@ -221,6 +221,7 @@ SignalTriggers allRows()
     addFormTriggers(rows);
     addMenuTriggers(rows);
     addModelTriggers(rows);
+    addControllerTriggers(rows);
     addNoticeTriggers(rows);
     return rows;
 }

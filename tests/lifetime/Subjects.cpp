@@ -14,6 +14,10 @@
 #include <UiElements/movies/OxaGifLabel.h>
 #include <UiElements/movies/OxaMovieProvider.h>
 #include <UiElements/movies/OxaMovieProviderSource.h>
+#include <UiElements/qml/OxaQmlBalloon.h>
+#include <UiElements/qml/OxaQmlDialogController.h>
+#include <UiElements/qml/OxaQmlHalfPill.h>
+#include <UiElements/qml/OxaQmlPopupController.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
@@ -184,6 +188,10 @@ const std::vector<Subject> &subjects()
         subject<LazyLoadedListModel>(),
         subject<OverflowListProxyModel>(),
         smallListModel(),
+        subjectWithoutParent<OxaQmlBalloon>(),
+        subjectWithoutParent<OxaQmlHalfPill>(),
+        subject<OxaQmlDialogController>(),
+        subject<OxaQmlPopupController>(),
     };
     return all;
 }

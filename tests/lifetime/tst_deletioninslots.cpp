@@ -171,6 +171,7 @@ void tst_DeletionInSlots::knowsEveryClassWithSignals()
                QStringLiteral("OxaKeyboardShortcutsManager"),
                QStringLiteral("OxaKeySequenceLookup"),
                QStringLiteral("OxaObject"),
+               QStringLiteral("OxaQmlController"),
                QStringLiteral("OxaShortcut"),
                QStringLiteral("SmartLayout") };
     const QStringList declared = classesInHeaders();
