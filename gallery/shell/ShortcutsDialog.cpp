@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ShortcutsDialog.h"
 
+#include "GalleryApplication.h"
 #include "widgets/Fields.h"
 #include "widgets/Labels.h"
 
@@ -9,11 +10,22 @@
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextInput.h>
 
+#include <QMap>
 #include <QVBoxLayout>
 
 namespace {
 
 constexpr QSize firstSize(480, 560);
+
+/// Returns the row of a shortcut. Its columns run as the layout does, which Qt leaves to the text.
+QString rowOf(const OxaShortcut &shortcut)
+{
+    const QString row = QGuiApplication::isRightToLeft()
+            ? QStringLiteral("<tr><td>%2</td><td>%1</td></tr>")
+            : QStringLiteral("<tr><td>%1</td><td>%2</td></tr>");
+    return row.arg(shortcut.getShortcutDescription().toHtmlEscaped(),
+                   shortcut.key().toString(QKeySequence::NativeText).toHtmlEscaped());
+}
 
 /// Returns the heading of \a group and a row for each of its shortcuts whose description contains
 /// \a text, or nothing if there is none.
@@ -21,20 +33,21 @@ QString sectionOf(OxaShortcut::ShortcutGroup group, const QString &text)
 {
     const auto shortcuts = OxaAppSignals::get()->getGroupShortcuts(group);
     QString heading;
-    QStringList rows;
+    QMap<QString, QString> rows; // By the description.
     for (const auto &[id, shortcut] : shortcuts) {
         const QString description = shortcut->getShortcutDescription();
         if (!description.contains(text, Qt::CaseInsensitive))
             continue;
         heading = shortcut->getShortcutGroupName();
-        rows += QStringLiteral("<tr><td>%1</td><td>%2</td></tr>")
-                        .arg(description.toHtmlEscaped(),
-                             shortcut->key().toString(QKeySequence::NativeText).toHtmlEscaped());
+        rows.insert(description, rowOf(*shortcut));
     }
-    rows.sort(Qt::CaseInsensitive);
-    return rows.isEmpty() ? QString()
-                          : QStringLiteral("<h4>%1</h4><table width=\"100%\">%2</table>")
-                                    .arg(heading, rows.join(QString()));
+    const QString direction = QGuiApplication::isRightToLeft() ? QStringLiteral("rtl")
+                                                               : QStringLiteral("ltr");
+    return rows.isEmpty()
+            ? QString()
+            : QStringLiteral("<h4 dir=\"%1\">%2</h4>"
+                             "<table dir=\"%1\" width=\"100%\">%3</table>")
+                      .arg(direction, heading, QStringList(rows.values()).join(QString()));
 }
 
 QString listOf(const QString &text)
@@ -51,8 +64,10 @@ QString listOf(const QString &text)
 ShortcutsDialog::ShortcutsDialog(QWidget *parent) : Dialog(tr("Keyboard shortcuts"), parent)
 {
     setWindowModality(Qt::WindowModal);
-    resize(firstSize);
+    resize(firstSize * GalleryApplication::get()->getFontScaleFactor());
     OxaTextInput *search = Fields::search(tr("Search the shortcuts"), this);
+    search->setMinimumWidth(0);
+    search->setMaximumWidth(QWIDGETSIZE_MAX);
     OxaTextBrowser *list = Fields::browser(windowTitle(), this);
     const auto showList = [list, search] { list->setHtml(listOf(search->text().trimmed())); };
     connect(search, &OxaTextInput::textChanged, list, showList);

@@ -6,6 +6,7 @@
 #include <UiElements/widgets/OxaComboBox.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaSlider.h>
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
@@ -21,6 +22,7 @@
 #include <shell/Page.h>
 #include <shell/PageRegistry.h>
 #include <support/PaintCounter.h>
+#include <support/Pixels.h>
 #include <widgets/Fields.h>
 
 namespace {
@@ -74,6 +76,19 @@ QColor colorOf(const char *set)
     return OxaThemeUtils::getColorSet(set, OxaThemeUtils::AppThemeType::Global).normal;
 }
 
+/// Returns the rectangle around all pixels in which \a a and \a b differ.
+QRect differenceOf(const QImage &a, const QImage &b)
+{
+    QRect rect;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            if (a.pixel(x, y) != b.pixel(x, y))
+                rect |= QRect(x, y, 1, 1);
+        }
+    }
+    return rect;
+}
+
 } // namespace
 
 /// The forms of the page Forms.
@@ -94,6 +109,8 @@ private Q_SLOTS:
     void framesTheFocusByALineAlone();
     void repaintsALineAsThePointerComesAndGoes();
     void leavesTheFocusOfAnEditorToItsBorder();
+    void framesTheHandleOfASlider_data();
+    void framesTheHandleOfASlider();
 };
 
 void tst_FormsPage::cleanup()
@@ -234,6 +251,38 @@ void tst_FormsPage::leavesTheFocusOfAnEditorToItsBorder()
     const FormsWindow forms;
     const QImage frame = focusFrame(*forms.called<OxaTextEdit>("Editor"));
     QCOMPARE(frame.pixelColor(0, 20).alpha(), 0);
+}
+
+void tst_FormsPage::framesTheHandleOfASlider_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<int>("value");
+    for (const int value : { 0, 3, 10 }) {
+        QTest::addRow("%d, from left to right", value) << Qt::LeftToRight << value;
+        QTest::addRow("%d, from right to left", value) << Qt::RightToLeft << value;
+    }
+}
+
+void tst_FormsPage::framesTheHandleOfASlider()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    QFETCH(const int, value);
+    GalleryApplication::get()->textSettings()->setDirection(direction);
+    OxaWidget window;
+    window.resize(200, 40);
+    OxaSlider *slider = Fields::slider(0, 10, value, &window);
+    slider->resize(160, 24);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    slider->clearFocus();
+    const QImage without = Pixels::render(*slider, Qt::red);
+    const QRect handle = Pixels::boundsNear(without, colorOf("gallery-slider-handle"), 0);
+    QVERIFY(!handle.isNull());
+    slider->setFocus(Qt::ShortcutFocusReason);
+    const QRect frame = differenceOf(without, Pixels::render(*slider, Qt::red));
+    QCOMPARE(frame.size(), QSize(18, 18));
+    QCOMPARE(frame.center(), handle.center());
 }
 
 GALLERY_TEST_MAIN(tst_FormsPage)

@@ -2,8 +2,6 @@
 #include "Controls.h"
 #include "GalleryTest.h"
 
-#include <UiElements/widgets/OxaSlider.h>
-
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QLayout>
@@ -18,9 +16,7 @@
 #include <shell/PageRegistry.h>
 #include <shell/PageStack.h>
 #include <shell/TabOrder.h>
-#include <support/Pixels.h>
 #include <widgets/Buttons.h>
-#include <widgets/Fields.h>
 #include <widgets/ListView.h>
 #include <widgets/ScrollArea.h>
 #include <widgets/SegmentedControl.h>
@@ -71,24 +67,6 @@ QStringList sheetsWithLeftovers(const QWidget &window)
     return sheets;
 }
 
-QColor colorOf(const char *colorSet)
-{
-    return OxaThemeUtils::getColorSet(colorSet, OxaThemeUtils::AppThemeType::Global).normal;
-}
-
-/// Returns the rectangle around all pixels in which \a a and \a b differ.
-QRect differenceOf(const QImage &a, const QImage &b)
-{
-    QRect rect;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            if (a.pixel(x, y) != b.pixel(x, y))
-                rect |= QRect(x, y, 1, 1);
-        }
-    }
-    return rect;
-}
-
 } // namespace
 
 /// GalleryWindow with all its pages.
@@ -110,8 +88,6 @@ private Q_SLOTS:
     void keepsCardsAsWideBesideAScrollBar();
     void stylesEveryScrollBar();
     void usesTheLibrarysWidgets();
-    void framesTheHandleOfASlider_data();
-    void framesTheHandleOfASlider();
     void bringsTheCurrentPageIntoSight();
     void keepsTheTitlesOfPagesInSight();
     void ignoresAnUnknownPage();
@@ -289,38 +265,6 @@ void tst_GalleryWindow::usesTheLibrarysWidgets()
         QVERIFY2(isOfTheLibrary, widget->metaObject()->className());
     }
     QCOMPARE(found.size(), classes.size());
-}
-
-void tst_GalleryWindow::framesTheHandleOfASlider_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<int>("value");
-    for (const int value : { 0, 3, 10 }) {
-        QTest::addRow("%d, from left to right", value) << Qt::LeftToRight << value;
-        QTest::addRow("%d, from right to left", value) << Qt::RightToLeft << value;
-    }
-}
-
-void tst_GalleryWindow::framesTheHandleOfASlider()
-{
-    QFETCH(const Qt::LayoutDirection, direction);
-    QFETCH(const int, value);
-    GalleryApplication::get()->textSettings()->setDirection(direction);
-    OxaWidget window;
-    window.resize(200, 40);
-    OxaSlider *slider = Fields::slider(0, 10, value, &window);
-    slider->resize(160, 24);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    slider->clearFocus();
-    const QImage without = Pixels::render(*slider, Qt::red);
-    const QRect handle = Pixels::boundsNear(without, colorOf("gallery-slider-handle"), 0);
-    QVERIFY(!handle.isNull());
-    slider->setFocus(Qt::ShortcutFocusReason);
-    const QRect frame = differenceOf(without, Pixels::render(*slider, Qt::red));
-    QCOMPARE(frame.size(), QSize(18, 18));
-    QCOMPARE(frame.center(), handle.center());
 }
 
 void tst_GalleryWindow::bringsTheCurrentPageIntoSight()

@@ -3,12 +3,12 @@
 #include "GalleryTest.h"
 
 #include <UiElements/app/OxaAppSignals.h>
-#include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaSlider.h>
 #include <UiElements/widgets/OxaStackedWidget.h>
+#include <UiElements/widgets/OxaTextBrowser.h>
 
 #include <QPointer>
 
@@ -17,6 +17,7 @@
 #include <pages/windows/SettingsCard.h>
 #include <shell/Page.h>
 #include <shell/PageRegistry.h>
+#include <shell/ShortcutsDialog.h>
 #include <specimens/SignalLog.h>
 #include <support/RealInput.h>
 #include <widgets/Dialog.h>
@@ -71,6 +72,7 @@ private Q_SLOTS:
     void logsTheShortcutsInASecondWindow();
     void givesASecondWindowTheThemeTypeOfTheOthers();
     void registersShortcutsOnTheFirstWindowOnly();
+    void listsShortcutsInTheDirectionOfTheLayout();
     void renamesByADialog();
     void keepsTheNameWhenTheDialogIsCancelled();
     void logsHowADialogIsClosed_data();
@@ -125,6 +127,19 @@ void tst_WindowsPage::registersShortcutsOnTheFirstWindowOnly()
     QVERIFY(areRegistered());
     first.reset();
     QVERIFY(!areRegistered());
+}
+
+void tst_WindowsPage::listsShortcutsInTheDirectionOfTheLayout()
+{
+    const OxaMainWindow window;
+    const auto list = [] {
+        return ShortcutsDialog(nullptr).findChild<OxaTextBrowser *>()->toPlainText();
+    };
+    QVERIFY(list().contains(QLatin1String("\nAnswer call\nCtrl+Shift+C\n")));
+    GalleryApplication::get()->textSettings()->setDirection(Qt::RightToLeft);
+    const QString mirrored = list();
+    GalleryApplication::get()->textSettings()->setDirection(Qt::LeftToRight);
+    QVERIFY(mirrored.contains(QLatin1String("\nCtrl+Shift+C\nAnswer call\n")));
 }
 
 void tst_WindowsPage::renamesByADialog()

@@ -22,6 +22,8 @@ constexpr int daysOfInsertion = 3;               ///< More than what is inserted
 
 class ChatItem : public QListWidgetItem
 {
+    Q_DISABLE_COPY_MOVE(ChatItem)
+
 public:
     explicit ChatItem(const ChatMessage &message) : m_message(message) { }
 

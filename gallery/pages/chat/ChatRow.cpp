@@ -102,7 +102,7 @@ void ChatRow::paintHead(QPainter &painter, const QRect &avatar, const QRect &hea
     painter.drawEllipse(avatar);
     painter.setFont(m_look.item.headingFont);
     painter.setPen(m_look.avatarText);
-    painter.drawText(avatar, Qt::AlignCenter, name.left(1));
+    painter.drawText(avatar, Qt::AlignCenter, name.at(0));
 
     QRect rect = head;
     rect.setWidth(painter.fontMetrics().horizontalAdvance(name));

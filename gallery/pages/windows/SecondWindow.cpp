@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr QSize firstSize(440, 240);
+constexpr QSize firstSize(480, 320);
 
 } // namespace
 

@@ -34,6 +34,7 @@ constexpr int narrowest = 64;
 constexpr int widest = 320;
 constexpr int firstWidth = 176;
 constexpr int barCount = 20;
+constexpr int fieldWidth = 280;
 constexpr QSize frameSize(160, 64);
 constexpr QSize notesSize(320, 240);
 
@@ -70,6 +71,7 @@ void rename(OxaLabel *name, EmissionLog *log)
     field->setAccessibleName(tr("Name"));
     field->setText(name->text());
     field->selectAll();
+    field->setMinimumWidth(fieldWidth);
     dialog->body()->addWidget(Labels::caption(tr("Name"), dialog));
     dialog->body()->addWidget(field);
     OxaPushButton *accept = dialog->addButton(tr("Rename"), &QDialog::accept);
