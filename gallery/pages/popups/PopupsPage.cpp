@@ -25,13 +25,18 @@ constexpr int roundest = 24;
 constexpr int longestSeconds = 10;
 constexpr int msPerSecond = 1000;
 
+/// Returns the numbers of \a rect, which are read from left to right in both directions.
 QString text(const QRect &rect)
 {
-    return PopupsPage::tr("%1, %2; %3 × %4")
-            .arg(rect.x())
-            .arg(rect.y())
-            .arg(rect.width())
-            .arg(rect.height());
+    constexpr QChar isolate(0x2066);
+    constexpr QChar end(0x2069);
+    return isolate
+            + PopupsPage::tr("%1, %2; %3 × %4")
+                      .arg(rect.x())
+                      .arg(rect.y())
+                      .arg(rect.width())
+                      .arg(rect.height())
+            + end;
 }
 
 /// Returns the sides in the order of their numbers.
