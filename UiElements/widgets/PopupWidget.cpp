@@ -216,8 +216,8 @@ void PopupWidget::removeWidget(QWidget *widget)
 
 QWidget *PopupWidget::getRegisterWidget() const
 {
-    const QLayoutItem *item = m_centralWidget->contentLayout()->itemAt(0);
-    return item ? const_cast<QLayoutItem *>(item)->widget() : nullptr;
+    QLayoutItem *first = m_centralWidget->contentLayout()->itemAt(0);
+    return first ? first->widget() : nullptr;
 }
 
 QWidget *PopupWidget::getMainWidget() const { return m_centralWidget; }

@@ -59,8 +59,7 @@ public:
     /// Takes \a widget out of the body's layout; it stays a child of the body.
     void removeWidget(QWidget *widget);
 
-    /// Returns the first widget of the body, which is the header's label if there is a header; null
-    /// without one.
+    /// Returns the body's first widget or null: with a header, its label.
     QWidget *getRegisterWidget() const;
 
     /// Returns the body.
@@ -103,7 +102,7 @@ public Q_SLOTS:
     /// Shows the popup beside its last source.
     void showSmooth();
 
-    /// Shows the popup beside \a originWidget; beside its last source if that is null.
+    /// Shows the popup beside \a originWidget; beside its last source if null.
     void showSmooth(const QWidget *originWidget);
 
 Q_SIGNALS:

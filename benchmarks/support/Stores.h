@@ -22,11 +22,12 @@ inline OxaColorSetMap make(int count, int shade = 0)
     }
     for (const char *name :
          { "background-primary", "button-hyperlink-text", "checkbox-checked-background",
-           "checkbox-unchecked-background", "legacy-separator-primary", "oxa-default-text",
-           "oxa-percentage-indicator-possessive", "oxa-progressbar",
-           "oxa-reaction-list-item-gradient-background-end-color", "oxa-recorder-comboBox-border",
-           "oxa-rills-combobox-background", "oxa-rills-combobox-border",
-           "oxa-rills-combobox-dropdown-arrow", "oxa-rills-combobox-text" })
+           "checkbox-unchecked-background", "legacy-separator-primary", "oxa-default-border",
+           "oxa-default-text", "oxa-percentage-indicator-possessive", "oxa-popupDropShadow",
+           "oxa-progressbar", "oxa-reaction-list-item-gradient-background-end-color",
+           "oxa-recorder-comboBox-border", "oxa-rills-combobox-background",
+           "oxa-rills-combobox-border", "oxa-rills-combobox-dropdown-arrow",
+           "oxa-rills-combobox-text" })
         store.emplace(name, OxaColorSet(QString::fromLatin1(name), QColor(0, 0, shade)));
     return store;
 }

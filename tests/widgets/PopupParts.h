@@ -7,6 +7,7 @@
 #include <UiElements/widgets/PopupWidget.h>
 
 #include <QPushButton>
+#include <QTest>
 #include <QVBoxLayout>
 
 /// What tests of popups share.

@@ -3,6 +3,7 @@
 #include "PopupRules.h"
 #include "support/TestApplication.h"
 
+#include <UiElements/widgets/CentralWidget_p.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaSeparator.h>
 
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void keepsRoomForArrowCornersAndShadow();
     void showsAHeader();
     void hasNoHeaderWithoutAText();
+    void hidesItsHeaderForAnEmptyText();
     void givesTheFocusToItsContent();
     void takesAContentOut();
     void isMadeForAButton();
@@ -151,6 +153,21 @@ void tst_PopupWidget::hasNoHeaderWithoutAText()
     QVERIFY(popup.findChildren<OxaLabel *>().isEmpty());
     QVERIFY(popup.findChildren<OxaSeparator *>().isEmpty());
     QCOMPARE(popup.getRegisterWidget(), popup.content);
+}
+
+void tst_PopupWidget::hidesItsHeaderForAnEmptyText()
+{
+    const FilledPopup popup(data().headerText(QStringLiteral("Title")));
+    auto *body = static_cast<CentralWidget *>(popup.getMainWidget());
+    const auto *label = popup.findChild<OxaLabel *>();
+    const auto *separator = popup.findChild<OxaSeparator *>();
+    body->setHeaderText(QString());
+    QVERIFY(label->isHidden() && separator->isHidden());
+    QCOMPARE(label->text(), QStringLiteral("Title"));
+    body->setHeaderText(QStringLiteral("Other"));
+    QVERIFY(!label->isHidden() && !separator->isHidden());
+    QCOMPARE(label->text(), QStringLiteral("Other"));
+    QCOMPARE(popup.findChildren<OxaLabel *>().size(), 1);
 }
 
 void tst_PopupWidget::givesTheFocusToItsContent()

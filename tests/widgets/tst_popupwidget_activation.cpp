@@ -155,7 +155,8 @@ void tst_PopupWidgetActivation::hidesWhenItsParentIsActivated_data()
 void tst_PopupWidgetActivation::hidesWhenItsParentIsActivated()
 {
     QFETCH(const bool, isHiddenWithParentFocused);
-    Scene scene(data().dismissWithParentFocused(isHiddenWithParentFocused));
+    Scene scene(
+            data().dismissWithParentFocused(isHiddenWithParentFocused).focusSourceOnClose(false));
     QVERIFY(activate(scene.window));
     QVERIFY(scene.window.button.hasFocus());
     settle();
@@ -175,7 +176,7 @@ void tst_PopupWidgetActivation::hidesWhenTheApplicationIsLeft()
     const Scene scene(data().focusSourceOnClose(false));
     // Another program's window, as far as Qt knows: a window that Qt has not made.
     QProcess stranger;
-    stranger.start(QStringLiteral("xev"), {});
+    stranger.start(QStringLiteral("xev"), QStringList());
     QTRY_VERIFY(!QApplication::activeWindow());
     QTRY_VERIFY(scene.popup->isHidden());
     stranger.kill();

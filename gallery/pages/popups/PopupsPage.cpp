@@ -25,13 +25,18 @@ constexpr int roundest = 24;
 constexpr int longestSeconds = 10;
 constexpr int msPerSecond = 1000;
 
+/// Returns the numbers of \a rect, which are read from left to right in both directions.
 QString text(const QRect &rect)
 {
-    return PopupsPage::tr("%1, %2; %3 × %4")
-            .arg(rect.x())
-            .arg(rect.y())
-            .arg(rect.width())
-            .arg(rect.height());
+    constexpr QChar isolate(0x2066);
+    constexpr QChar end(0x2069);
+    return isolate
+            + PopupsPage::tr("%1, %2; %3 × %4")
+                      .arg(rect.x())
+                      .arg(rect.y())
+                      .arg(rect.width())
+                      .arg(rect.height())
+            + end;
 }
 
 /// Returns the sides in the order of their numbers.
@@ -98,10 +103,11 @@ void PopupsPage::addChoices(ControlPanel &panel)
                         m_settings.alignment = WidgetData::Alignment(i);
                         apply();
                     });
-    panel.addChoice(tr("Stays on"), { tr("Screen"), tr("Window") }, 0, [this](int i) {
-        m_settings.isInWindow = i == 1;
-        apply();
-    });
+    panel.addChoice(tr("Stays on"), { tr("Screen"), tr("Window") }, m_settings.isInWindow ? 1 : 0,
+                    [this](int i) {
+                        m_settings.isInWindow = i == 1;
+                        apply();
+                    });
     OxaComboBox *dismissal = Fields::combo(tr("Hides"),
                                            { tr("By a click only"),
                                              tr("When the window loses the focus"),
@@ -111,10 +117,11 @@ void PopupsPage::addChoices(ControlPanel &panel)
         apply();
     });
     panel.add(tr("Hides"), dismissal);
-    panel.addChoice(tr("Header"), { tr("No"), tr("Yes") }, 0, [this](int i) {
-        m_settings.hasHeader = i == 1;
-        apply();
-    });
+    panel.addChoice(tr("Header"), { tr("No"), tr("Yes") }, m_settings.hasHeader ? 1 : 0,
+                    [this](int i) {
+                        m_settings.hasHeader = i == 1;
+                        apply();
+                    });
 }
 
 void PopupsPage::addNumbers(ControlPanel &panel)
@@ -129,7 +136,7 @@ void PopupsPage::addNumbers(ControlPanel &panel)
                 m_settings.seconds = value;
                 apply();
             },
-            tr("any"));
+            tr("never"));
 }
 
 Card *PopupsPage::makeStageCard()
@@ -213,8 +220,12 @@ void PopupsPage::apply()
 {
     if (!m_popup || !m_popup->isVisible())
         return;
+    const bool isPartOfPicture = !m_popup->isWindow();
     m_popup->hide();
-    toggle();
+    if (isPartOfPicture)
+        showForPicture();
+    else
+        toggle();
 }
 
 void PopupsPage::follow()
@@ -241,13 +252,11 @@ void PopupsPage::note(const QString &signal)
 
 void PopupsPage::showForPicture()
 {
-    m_source->moveInside(m_stage->rect().center() - m_source->rect().center() / 2);
-    m_settings.isInWindow = true; // The picture is of the window.
-    m_settings.hasHeader = true;
+    m_source->moveInside({ (m_stage->width() - m_source->width()) / 2, Metrics::small });
     makePopup();
     m_popup->setWindowFlags(Qt::Widget); // A part of the window, and of its picture.
     m_popup->showSmooth(m_source);
-    m_popup->move(m_popup->pos() - window()->pos());
+    m_popup->move(m_popup->pos() - window()->geometry().topLeft());
 }
 
 void PopupsPage::onThemeChanged() { apply(); }

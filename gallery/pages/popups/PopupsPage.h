@@ -38,11 +38,11 @@ private:
     {
         WidgetData::ArrowPostion arrow = WidgetData::ArrowPostion::Top;
         WidgetData::Alignment alignment = WidgetData::Alignment::Center;
-        bool isInWindow = false;
+        bool isInWindow = true;
         Dismissal dismissal = Dismissal::Never;
         int cornerRadius = 8;
         int seconds = 0;
-        bool hasHeader = false;
+        bool hasHeader = true;
     };
 
     Card *makeSettingsCard();
