@@ -8,16 +8,18 @@
 cmake_minimum_required(VERSION 3.25)
 
 # From the ground up. A floor is a folder, except for those that the next two lists name.
-set(floors object drag layouts models theme fonts keyboard drawing app widgets svg emoji movies qml)
+set(floors object drag layouts models theme fonts keyboard drawing app widgets svg emoji movies qml accessibility)
 
 # The base class that all folders share, and what svg has besides its widgets: widgets paint with it.
 set(objectFiles app/OxaObject)
 set(svgFiles svg/OxaPillTabButton svg/OxaSvgAnchorButton svg/OxaSvgLabel svg/OxaSvgPushButton)
 
 # What sources include from above: the application object, a widget's own answer to arrow keys, the widgets that are
-# painted for, the icons of a text input and of a banner, the source of movies that an application starts with, and its
-# QML engine.
-set(upwards theme-app fonts-app keyboard-widgets drawing-svg drawing-widgets widgets-svg app-movies app-qml)
+# painted for, the icons of a text input and of a banner, the source of movies that an application starts with, its QML
+# engine, and what it has Qt tell assistive technology.
+set(upwards theme-app fonts-app keyboard-widgets drawing-svg drawing-widgets widgets-svg app-movies app-qml
+    app-accessibility
+)
 
 # Sets <result> to the floor of <file>, a path below SOURCE_DIR.
 function(floor_of file result)

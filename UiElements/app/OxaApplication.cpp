@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaApplication.h"
 
+#include <UiElements/accessibility/AccessibleClasses_p.h>
 #include <UiElements/app/OxaGlobalSignalListener.h>
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/fonts/OxaFontManager.h>
@@ -26,6 +27,7 @@ OxaApplication::OxaApplication(int &argc, char **argv)
       m_globalSignalListener(new OxaGlobalSignalListener(this))
 {
     qRegisterMetaType<OxaAppSignals::Shortcut>("OxaAppSignals::Shortcut");
+    AccessibleClasses::install();
 
     OxaFont font(OxaFont::Token::Default, false);
     font.setFamily(QStringLiteral("Segoe UI"));
@@ -104,6 +106,8 @@ bool OxaApplication::isInFocus()
 {
     return QGuiApplication::applicationState() == Qt::ApplicationActive;
 }
+
+void OxaApplication::leaveAccessibilityToQt() { AccessibleClasses::remove(); }
 
 void OxaApplication::setIsDarkTheme(bool isDarkTheme)
 {

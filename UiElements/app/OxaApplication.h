@@ -41,9 +41,9 @@ class UIELEMENTS_EXPORT OxaApplication : public IOxaApplication
 
 public:
     /// Makes the application with its signal hub, its font manager and its global signal listener,
-    /// in this order; registers the meta-type "OxaAppSignals::Shortcut"; and installs the
-    /// application font: the default token in "Segoe UI". \a argc and \a argv must outlive the
-    /// object.
+    /// in this order; registers the meta-type "OxaAppSignals::Shortcut"; has assistive technology
+    /// told of the library's widgets, see leaveAccessibilityToQt(); and installs the application
+    /// font: the default token in "Segoe UI". \a argc and \a argv must outlive the object.
     OxaApplication(int &argc, char **argv);
     ~OxaApplication() override;
 
@@ -108,6 +108,14 @@ public:
 
     /// True when a window of the application is active.
     static bool isInFocus();
+
+    /// Has assistive technology told of the library's widgets what Qt makes of them, as in a
+    /// process without this object: a tab is a check box then. Widgets that it has been told of
+    /// before stay as they are, so call this before the first widget is made.
+    ///
+    /// Factories of the outer application, by QAccessible::installFactory(), need no such call:
+    /// those that are installed later come first.
+    static void leaveAccessibilityToQt();
 
 Q_SIGNALS:
     /// The property `theme` changed to \a themeName.

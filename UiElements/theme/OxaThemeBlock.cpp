@@ -4,6 +4,7 @@
 #include "ThemeChange_p.h"
 #include "WidgetStyleText_p.h"
 
+#include <QAccessible>
 #include <QMetaMethod>
 #include <QPointer>
 #include <QVariant>
@@ -28,10 +29,21 @@ void keep(Value *place, const Value &value)
         *place = value;
 }
 
+/// Makes Qt forget what it has told assistive technology of \a widget. Qt tells it that a widget is
+/// disabled, for its parent is, while it makes its QWidget, and goes on to take it for a plain one.
+void forgetEarlyInterface(QWidget *widget)
+{
+    if (widget->isEnabled())
+        return;
+    QAccessibleInterface *early = QAccessible::queryAccessibleInterface(widget);
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));
+}
+
 } // namespace
 
 void OxaThemeBlock::followTheme()
 {
+    forgetEarlyInterface(m_widget);
     m_class.followTheme(m_widget);
     followParent(Qt::AutoConnection);
 }

@@ -76,6 +76,7 @@ void AlertBanner::addLabel()
     m_alertLabel->setTextFormat(Qt::RichText);
     m_alertLabel->setWordWrap(true);
     m_alertLabel->setOpenExternalLinks(false);
+    // Links by keyboard also make the label a stop of Tab: QLabel sets Qt::StrongFocus for them.
     m_alertLabel->setTextInteractionFlags(Qt::LinksAccessibleByMouse
                                           | Qt::LinksAccessibleByKeyboard);
     m_alertLabel->setCSS(getCSS());

@@ -21,8 +21,9 @@ private:                                                                        
 /// Declares the accessible role that a widget stores, as `m_accessibleRole`. Place it after the
 /// other blocks, without a semicolon; it leaves the access at private.
 ///
-/// Property: `accessibleRole` (QAccessible::NoRole, unless the class's constructor sets it). It is
-/// stored, but not reported to assistive technology.
+/// Property: `accessibleRole` (QAccessible::NoRole, unless the class's constructor sets it).
+/// Assistive technology is told that of an OxaPushButton, unless it is PushButton: then the button
+/// is what its class and its place make it, such as a tab. Of other classes it is only stored.
 #define UIELEMENTS_ACCESSIBLE_ROLE_BLOCK                                                           \
     Q_PROPERTY(QAccessible::Role accessibleRole READ getAccessibleRole WRITE setAccessibleRole)    \
                                                                                                    \

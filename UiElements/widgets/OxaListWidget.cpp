@@ -8,6 +8,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <utility>
 
 /// Calls \a work, in which Qt may lay out rows, and then does the pass that the scroll bar has
@@ -128,6 +129,7 @@ void OxaListWidget::updateCurrentVisibleListItems()
     if (m_isInserting)
         return;
     layOutRows();
+    keepFocus();
     removeInvisibleItemWidget();
 
     const QPointer<OxaListWidget> self(this);
@@ -204,21 +206,45 @@ void OxaListWidget::updateEditorGeometries()
         QListWidget::updateEditorGeometries();
 }
 
+/// Takes the focus if it is in a row that is about to lose its widget: it would be nowhere, and no
+/// key would do anything. A slot may remove rows.
+void OxaListWidget::keepFocus()
+{
+    const QWidget *focus = window()->focusWidget();
+    if (!focus || !viewport()->isAncestorOf(focus))
+        return;
+    while (focus->parentWidget() != viewport())
+        focus = focus->parentWidget();
+    const std::vector<QListWidgetItem *> items = invisibleItems();
+    const auto hasFocus = [this, focus](QListWidgetItem *item) {
+        return itemWidget(item) == focus;
+    };
+    if (std::any_of(items.begin(), items.end(), hasFocus))
+        setFocus();
+}
+
 void OxaListWidget::removeInvisibleItemWidget()
 {
+    for (QListWidgetItem *item : invisibleItems()) {
+        removeItemWidget(item);
+        m_loadedItems.erase(item);
+    }
+}
+
+/// Returns the loaded rows that are further off than the margin.
+std::vector<QListWidgetItem *> OxaListWidget::invisibleItems() const
+{
     if (m_loadedItems.empty())
-        return;
+        return {};
     const int first = firstVisibleItemIndex();
     const int last = lastVisibleItemIndex();
-    for (auto it = m_loadedItems.begin(); it != m_loadedItems.end();) {
-        const int row = this->row(*it);
-        if (first - row <= m_extraRows && row - last <= m_extraRows) {
-            ++it;
-        } else {
-            removeItemWidget(*it);
-            it = m_loadedItems.erase(it);
-        }
+    std::vector<QListWidgetItem *> items;
+    for (QListWidgetItem *item : m_loadedItems) {
+        const int row = this->row(item);
+        if (first - row > m_extraRows || row - last > m_extraRows)
+            items.push_back(item);
     }
+    return items;
 }
 
 int OxaListWidget::firstVisibleItemIndex() const

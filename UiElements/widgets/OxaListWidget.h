@@ -10,6 +10,7 @@
 #include <QListWidget>
 
 #include <set>
+#include <vector>
 
 /// A list for very many rows with a widget each, which takes part in theming. With dynamic loading
 /// a row's widget exists only while the row is on screen, or near it. The list can also stay at its
@@ -21,10 +22,10 @@
 ///     list->setItemWidgetsDynamicLoadingEnabled(true);
 ///
 /// A pass asks for the widgets of the rows on screen, and removes those of rows that are further
-/// off than the margin. Its cost does not depend on the number of rows, unless a slot changes a
-/// row's size hint, after which Qt lays out all rows. A slot may remove rows, and may delete the
-/// list, except while Qt itself handles a key, a mouse button or a resize, or is asked for
-/// positions.
+/// off than the margin; if the focus is in one of those, the list takes it. Its cost does not
+/// depend on the number of rows, unless a slot changes a row's size hint, after which Qt lays out
+/// all rows. A slot may remove rows, and may delete the list, except while Qt itself handles a key,
+/// a mouse button, the focus or a resize, or is asked for positions.
 ///
 /// Not supported: items that are inserted other than by insertItem() get their widgets only at the
 /// next pass.
@@ -144,7 +145,9 @@ protected:
     void updateEditorGeometries() override;
 
 private:
+    void keepFocus();
     void removeInvisibleItemWidget();
+    std::vector<QListWidgetItem *> invisibleItems() const;
     int firstVisibleItemIndex() const;
     int lastVisibleItemIndex() const;
     bool isBelowViewport(const QListWidgetItem *item) const;

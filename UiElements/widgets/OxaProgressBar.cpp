@@ -2,6 +2,7 @@
 #include "OxaProgressBar.h"
 
 #include <UiElements/app/AppUtils.h>
+#include <UiElements/theme/StateColor_p.h>
 
 #include <QPainter>
 
@@ -71,8 +72,9 @@ void OxaProgressBar::paintEvent(QPaintEvent *)
 {
     const qint64 filled = qMax<qint64>(0, qint64(value()) * m_barCount / 100);
     QPainter painter(this);
-    paintBars(painter, 0, filled, m_barHeight, m_barColors.colors().normal);
-    paintBars(painter, filled, m_barCount, m_idleBarHeight, m_trackColors.colors().normal);
+    paintBars(painter, 0, filled, m_barHeight, orTransparent(m_barColors.colors().normal));
+    paintBars(painter, filled, m_barCount, m_idleBarHeight,
+              orTransparent(m_trackColors.colors().normal));
 }
 
 /// Paints the bars from \a first to before \a end. There may be any number of them: those that are
@@ -80,8 +82,6 @@ void OxaProgressBar::paintEvent(QPaintEvent *)
 void OxaProgressBar::paintBars(QPainter &painter, qint64 first, qint64 end, int height,
                                const QColor &color) const
 {
-    if (!color.isValid())
-        return;
     const int barWidth = bounded(m_barWidth);
     const int barHeight = bounded(height);
     const int y = this->height() / 2 - barHeight / 2;

@@ -28,11 +28,14 @@ OxaPushButton::OxaPushButton(const QString &text, QWidget *parent, const QAccess
 
 OxaPushButton::OxaPushButton(const QIcon &icon, const QString &text, QWidget *parent,
                              const QAccessible::Role &role)
-    : QPushButton(text, parent),
+    : QPushButton(parent),
       m_themeBlock(this, OxaThemeBlock::Form::Full, { &m_textColors }),
       m_accessibleRole(role),
       m_useGlobalFocusBorders(FocusFrame::areBordersGlobal())
 {
+    // Not by QPushButton's constructor: assistive technology is told of a text at once, and would
+    // take this for a plain QPushButton from then on.
+    setText(text);
     setIcon(icon);
     setAutoDefault(true);
     m_themeBlock.followTheme();

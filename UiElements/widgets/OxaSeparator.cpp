@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaSeparator.h"
 
+#include <UiElements/theme/StateColor_p.h>
+
 #include <QPainter>
 
 OxaSeparator::OxaSeparator(QWidget *parent) : OxaWidget(parent)
@@ -21,10 +23,9 @@ void OxaSeparator::onThemeChanged()
 
 void OxaSeparator::paintEvent(QPaintEvent *)
 {
-    if (!m_color.isValid())
-        return;
     QPainter painter(this);
-    painter.setPen(m_color);
-    painter.setBrush(m_color);
+    const QColor color = orTransparent(m_color);
+    painter.setPen(color);
+    painter.setBrush(color);
     painter.drawRect(rect());
 }

@@ -24,7 +24,8 @@ public:
     void setColorSetName(const QString &name);
 
 public Q_SLOTS:
-    /// Looks the colour up again and repaints. Runs at each change of the theme type.
+    /// Looks the colour up again and repaints. Runs at each change of the theme type. Public, which
+    /// it is in no other class, because setColorSetName() leaves it to the caller.
     void onThemeChanged() override;
 
 protected:

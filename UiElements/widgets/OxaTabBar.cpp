@@ -6,6 +6,7 @@
 
 #include <UiElements/keyboard/TabOrderUtils.h>
 
+#include <QAccessible>
 #include <QDebug>
 #include <QHBoxLayout>
 
@@ -18,6 +19,20 @@ constexpr char notAButtonWarning[] =
 
 /// The type of buttons that keep Left and Right to themselves, see TabOrderUtils.
 constexpr auto tabAcceleratorType = RillsAccessible::AcceleratorType(1);
+
+/// Tells assistive technology that \a tab is selected, or no longer. That does not depend on the
+/// bar's signals, which may be blocked.
+void tellSelection(QPushButton &tab, QAccessible::Event type)
+{
+    QAccessibleEvent event(&tab, type);
+    QAccessible::updateAccessibility(&event);
+}
+
+void deselect(QPushButton &tab)
+{
+    tab.setChecked(false);
+    tellSelection(tab, QAccessible::SelectionRemove);
+}
 
 } // namespace
 
@@ -94,7 +109,7 @@ void OxaTabBar::removeTab(int index)
         focusFirst();
     if (current && current != buttonAt(0)) {
         current->setFocusPolicy(Qt::ClickFocus);
-        current->setChecked(false);
+        deselect(*current);
     }
     if (count() > 0)
         setCurrentIndex(0);
@@ -133,7 +148,9 @@ void OxaTabBar::setCurrentIndex(int index)
         previous->setFocusPolicy(Qt::ClickFocus);
     moveTabStop(*tab);
     if (previous)
-        previous->setChecked(false);
+        deselect(*previous);
+    if (QPushButton *current = buttonAt(m_currentIndex))
+        tellSelection(*current, QAccessible::Selection);
     Q_EMIT currentChanged(m_currentIndex);
 }
 

@@ -19,6 +19,9 @@ class QPushButton;
 /// Without a current tab, as at first, the bar itself takes the focus. While the current tab is
 /// hidden or disabled, Tab reaches the first tab that is neither instead.
 ///
+/// Assistive technology is told of a list of page tabs, in which the tab that is checked is
+/// selected; pressing another one there clicks it.
+///
 /// Where there is no tab at an index, setters do nothing and getters return an empty value.
 ///
 /// A slot may delete the bar, or remove tabs by removeTab(), but not a slot of a tab's toggled(),
@@ -152,7 +155,9 @@ Q_SIGNALS:
 
 protected:
     /// Adds \a widget, which becomes the bar's own, as the last tab and returns its index. Anything
-    /// but an OxaPushButton is refused: a warning is logged and -1 returned.
+    /// but an OxaPushButton is refused: a warning is logged and -1 returned. Its focus policy stays
+    /// the caller's: with Qt::ClickFocus, as addTab() sets it, Tab passes the tab over until it is
+    /// current.
     int addTabItem(QWidget *widget);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -15,8 +15,9 @@ class QVBoxLayout;
 /// A vertical menu made of widgets, for places where it stays open: items that call a function,
 /// buttons, titles and separators, one below the other. The menu owns all of them.
 ///
-/// Each item is a stop for Tab. Set the menu's maximum width before adding anything but items:
-/// buttons, titles and inset separators take it over as it is then.
+/// Assistive technology is told of a menu, and of its buttons as items. Each item is a stop for
+/// Tab. Set the menu's maximum width before adding anything but items: buttons, titles and inset
+/// separators take it over as it is then.
 class UIELEMENTS_EXPORT OxaVMenu : public OxaWidget
 {
     Q_OBJECT

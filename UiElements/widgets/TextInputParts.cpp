@@ -5,24 +5,9 @@
 
 #include <UiElements/svg/OxaSvgPushButton.h>
 
-#include <QAccessibleWidget>
-
 namespace {
 
 constexpr QSize searchIconSize(12, 12);
-
-class SearchIcon : public OxaSvgPushButton
-{
-public:
-    explicit SearchIcon(QWidget *parent) : OxaSvgPushButton(parent, QAccessible::Graphic) { }
-};
-
-/// Makes the search icon a picture, where its class would be a button that can be pressed.
-QAccessibleInterface *makeInterface(const QString &, QObject *object)
-{
-    auto *icon = dynamic_cast<SearchIcon *>(object); // clazy:exclude=unneeded-cast
-    return icon ? new QAccessibleWidget(icon, QAccessible::Graphic) : nullptr;
-}
 
 } // namespace
 
@@ -59,8 +44,7 @@ OxaSvgPushButton *TextInputParts::makeActionButton(const QString &objectName, QW
 
 OxaSvgPushButton *TextInputParts::makeSearchIcon(QWidget *parent)
 {
-    QAccessible::installFactory(makeInterface); // Once: Qt knows it the next time.
-    auto *icon = new SearchIcon(parent);
+    auto *icon = new OxaSvgPushButton(parent, QAccessible::Graphic);
     icon->setObjectName(QStringLiteral("searchIcon"));
     icon->setFlat(true); // The style would draw a button around the picture.
     icon->hide();

@@ -23,7 +23,7 @@ OxaLabel *makeCounter(QWidget *parent);
 /// Makes a round button that is hidden at first.
 OxaSvgPushButton *makeActionButton(const QString &objectName, QWidget *parent);
 
-/// Makes a button that is a picture: it takes no focus, and assistive technology calls it one.
+/// Makes a button that is a picture: it takes no focus, and its accessible role says so.
 OxaSvgPushButton *makeSearchIcon(QWidget *parent);
 
 /// Sets both sizes that \a button knows, Qt's and the one that its SVG icon is painted in.

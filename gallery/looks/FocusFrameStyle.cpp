@@ -4,6 +4,7 @@
 #include <UiElements/theme/OxaThemeUtils.h>
 
 #include <QPainter>
+#include <QSlider>
 #include <QStyleOption>
 #include <QTextEdit>
 #include <QVariant>
@@ -11,6 +12,14 @@
 namespace {
 
 constexpr int width = 2;
+
+/// A slider asks for the frame of a handle that runs from left to right.
+QRect frameRect(const QStyleOption &option, const QWidget &widget)
+{
+    return qobject_cast<const QSlider *>(&widget)
+            ? QStyle::visualRect(option.direction, widget.rect(), option.rect)
+            : option.rect;
+}
 
 } // namespace
 
@@ -34,7 +43,7 @@ void FocusFrameStyle::drawPrimitive(PrimitiveElement element, const QStyleOption
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(QPen(colors.normal, width));
     painter->setBrush(Qt::NoBrush);
-    painter->drawRoundedRect(QRectF(option->rect).adjusted(half, half, -half, -half), radius,
-                             radius);
+    painter->drawRoundedRect(QRectF(frameRect(*option, *widget)).adjusted(half, half, -half, -half),
+                             radius, radius);
     painter->restore();
 }

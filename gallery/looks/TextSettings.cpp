@@ -58,6 +58,14 @@ TextSettings::ScalingFactor TextSettings::scaling(FontType view) const
     return m_scaling.at(view);
 }
 
+void TextSettings::zoomMessages(int steps)
+{
+    const int factor = qBound(int(ScalingFactor::Small),
+                              int(scaling(FontType::MessagingView)) + steps,
+                              int(ScalingFactor::Large));
+    setScaling(FontType::MessagingView, static_cast<ScalingFactor>(factor));
+}
+
 void TextSettings::setScaling(FontType view, ScalingFactor factor)
 {
     m_scaling[view] = factor;

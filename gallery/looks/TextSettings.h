@@ -32,6 +32,9 @@ public:
     /// Scales the fonts of \a view.
     void setScaling(FontType view, ScalingFactor factor);
 
+    /// Scales the messaging view \a steps factors up or down, as far as there are any.
+    void zoomMessages(int steps);
+
 Q_SIGNALS:
     /// The font scale or a view's scaling changed, and all widgets show it.
     void sizesChanged();

@@ -8,9 +8,12 @@
 #include "looks/FocusFrameStyle.h"
 #include "looks/TextSettings.h"
 #include "looks/ThemeSwitcher.h"
+#include "pages/movies/StagedMovieSource.h"
 #include "pages/painted/PaintedItemController.h"
 
+#include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/qml/OxaQmlTypes.h>
+#include <UiElements/widgets/OxaMainWindow.h>
 
 #include <QProcess>
 #include <QQuickWindow>
@@ -104,6 +107,13 @@ int GalleryApplication::showWindow(const QString &page)
     return exec();
 }
 
+IOxaMovieProviderSource *GalleryApplication::getMovieProviderSource()
+{
+    if (!m_movieSource)
+        m_movieSource = new StagedMovieSource(this);
+    return m_movieSource;
+}
+
 void GalleryApplication::onQmlEngineCreated(OxaQmlEngine *engine)
 {
     Q_UNUSED(engine)
@@ -117,4 +127,9 @@ void GalleryApplication::restart()
     quit();
 }
 
-void GalleryApplication::registerMainWindowShortcuts(OxaMainWindow *window) { Q_UNUSED(window) }
+void GalleryApplication::registerMainWindowShortcuts(OxaMainWindow *window)
+{
+    // They work in all windows, and belong to the first.
+    if (!getAppSignals()->shortcutExists(OxaAppSignals::Shortcut::OpenGlobalSearch))
+        getAppSignals()->registerShortcuts(window, OxaShortcut::All);
+}

@@ -40,6 +40,9 @@ public:
     /// Sets the folder of downloaded pictures, for pages that are made later.
     void setArtworkFolder(const QString &folder) { m_artworkFolder = folder; }
 
+    /// Returns the StagedMovieSource of the page Movies, made at the first call.
+    IOxaMovieProviderSource *getMovieProviderSource() override;
+
     void onQmlEngineCreated(OxaQmlEngine *engine) override;
     void restart() override;
     void registerMainWindowShortcuts(OxaMainWindow *window) override;
@@ -49,5 +52,6 @@ private:
 
     ThemeSwitcher *m_themeSwitcher = nullptr;
     TextSettings *const m_textSettings;
+    IOxaMovieProviderSource *m_movieSource = nullptr;
     QString m_artworkFolder = GalleryOptions::defaultArtworkFolder();
 };

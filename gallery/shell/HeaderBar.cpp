@@ -4,13 +4,14 @@
 #include "looks/Metrics.h"
 #include "looks/TextSettings.h"
 #include "looks/ThemeSwitcher.h"
+#include "widgets/Fields.h"
 #include "widgets/Labels.h"
 #include "widgets/ScalingControl.h"
 #include "widgets/SegmentedControl.h"
-#include "widgets/Slider.h"
 #include "widgets/WrapLayout.h"
 
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <QGuiApplication>
 #include <QVBoxLayout>
@@ -35,8 +36,7 @@ HeaderBar::HeaderBar(ThemeSwitcher *themeSwitcher, TextSettings *textSettings, Q
       m_textSettings(textSettings),
       m_controls(new WrapLayout(Metrics::spacing))
 {
-    setCSS(QStringLiteral("$backgroundColors: gallery-header-background;"
-                          "$borderColors: gallery-divider; $borders: bottom;"));
+    setCSS(QStringLiteral("$backgroundColors: gallery-header-background;"));
     OxaLabel *title = Labels::heading(tr("UiElements"), this);
     // The controls begin where the page below them does.
     title->setMinimumWidth(Metrics::sidebarWidth + Metrics::margin - Metrics::gap);
@@ -111,8 +111,8 @@ QWidget *HeaderBar::makeFontScaleControl()
     auto *row = new QHBoxLayout(control);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(Metrics::small);
-    auto *slider = new Slider(scaleStepsPerUnit / 2, scaleStepsPerUnit * 3 / 2, scaleStepsPerUnit,
-                              control);
+    OxaSlider *slider = Fields::slider(scaleStepsPerUnit / 2, scaleStepsPerUnit * 3 / 2,
+                                       scaleStepsPerUnit, control);
     slider->setFixedWidth(88);
     slider->setAccessibleName(tr("Font scale"));
     auto *value = Labels::caption(percentage(slider->value()), control);

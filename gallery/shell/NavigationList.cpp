@@ -1,103 +1,72 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "NavigationList.h"
 
+#include "GalleryApplication.h"
+#include "NavigationDelegate.h"
 #include "PageRegistry.h"
 #include "looks/Metrics.h"
-#include "widgets/Buttons.h"
-#include "widgets/Labels.h"
-#include "widgets/ScrollArea.h"
+#include "looks/TextSettings.h"
+#include "widgets/ListView.h"
 
-#include <UiElements/widgets/OxaLabel.h>
-
-#include <QKeyEvent>
+#include <QStandardItemModel>
 #include <QVBoxLayout>
 
 namespace {
 
-QString look(const char *background, const char *text, const char *focus)
-{
-    return QStringLiteral("$backgroundColors: %1; $textColors: %2; $borderRadius: 6;"
-                          "OxaToggleButton { padding: 5px 10px; text-align: left;"
-                          " border: 2px solid transparent; }"
-                          "OxaToggleButton:focus { border-color: $(%3); }")
-            .arg(QLatin1String(background), QLatin1String(text), QLatin1String(focus));
-}
-
-OxaLabel *makeGroupHeading(const QString &text, QWidget *parent)
-{
-    OxaLabel *heading = Labels::caption(text, parent);
-    heading->setFontToken(OxaFont::Token::TagLabelSecondary);
-    heading->setMargin(Metrics::small + Metrics::tight);
-    return heading;
-}
+constexpr int nameRole = Qt::UserRole;
 
 } // namespace
 
-NavigationList::NavigationList(QWidget *parent) : OxaWidget(parent), m_area(new ScrollArea(this))
+NavigationList::NavigationList(QWidget *parent)
+    : OxaWidget(parent),
+      m_model(new QStandardItemModel(this)),
+      m_list(new ListView(m_model, new NavigationDelegate, this))
 {
-    setCSS(QStringLiteral("$backgroundColors: gallery-sidebar-background;"));
-    setMinimumWidth(Metrics::sidebarWidth);
-    auto *items = new OxaWidget;
-    auto *column = new QVBoxLayout(items);
-    column->setContentsMargins(Metrics::small, Metrics::small, Metrics::small, Metrics::small);
-    column->setSpacing(2);
-    addEntries(column);
-    column->addStretch(1);
-
-    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_area->setFocusPolicy(Qt::NoFocus);
-    m_area->setContents(items);
+    addPages();
+    m_list->setCSS(QStringLiteral("$backgroundColors: gallery-sidebar-background;"
+                                  "ListView { border: none; }"));
+    m_list->setAccessibleName(tr("Pages"));
+    // A click leaves the focus in the page.
+    m_list->setFocusPolicy(Qt::TabFocus);
     auto *frame = new QVBoxLayout(this);
     frame->setContentsMargins(0, 0, 0, 0);
-    frame->addWidget(m_area);
+    frame->addWidget(m_list);
+
+    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex &index) {
+                Q_EMIT pageChosen(index.data(nameRole).toString());
+            });
+    connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, this,
+            [this] { updateGeometry(); });
 }
 
 void NavigationList::setCurrentPage(const QString &name)
 {
-    const auto found = m_items.find(name);
-    if (found == m_items.end())
-        return;
-    found->second->setChecked(true);
-    m_area->ensureWidgetVisible(found->second);
+    const QModelIndexList found = m_model->match(m_model->index(0, 0), nameRole, name, 1,
+                                                 Qt::MatchExactly);
+    if (!found.isEmpty())
+        m_list->setCurrentIndex(found.first());
 }
 
-void NavigationList::keyPressEvent(QKeyEvent *event)
+QSize NavigationList::sizeHint() const
 {
-    if (event->key() != Qt::Key_Home && event->key() != Qt::Key_End) {
-        OxaWidget::keyPressEvent(event);
-        return;
-    }
-    const QStringList names = pageNames();
-    OxaToggleButton *item = m_items.at(event->key() == Qt::Key_Home ? names.first() : names.last());
-    item->click();
-    item->setFocus(Qt::TabFocusReason);
+    const int titles = m_list->sizeHintForColumn(0) + Metrics::scrollBar;
+    return { qMax(Metrics::sidebarWidth, titles), 0 };
 }
 
-void NavigationList::addEntries(QVBoxLayout *column)
+void NavigationList::addPages()
 {
     QString group;
     for (const PageEntry &entry : pageEntries()) {
-        if (entry.group != group)
-            column->addWidget(makeGroupHeading(entry.group, this));
-        group = entry.group;
-        column->addWidget(addItem(entry));
+        if (entry.group != group) {
+            group = entry.group;
+            auto *heading = new QStandardItem(group);
+            heading->setFlags(Qt::NoItemFlags);
+            m_model->appendRow(heading);
+        }
+        auto *page = new QStandardItem(entry.title);
+        page->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+        page->setData(entry.name, nameRole);
+        m_model->appendRow(page);
     }
-}
-
-OxaToggleButton *NavigationList::addItem(const PageEntry &entry)
-{
-    auto *item = Buttons::makeChoice(entry.title,
-                                     look("gallery-sidebar-item", "gallery-sidebar-item-text",
-                                          "gallery-focus-border.normal"),
-                                     look("gallery-sidebar-current-item",
-                                          "gallery-sidebar-current-item-text",
-                                          "gallery-focus-border.checked"),
-                                     this);
-    item->setFontToken(OxaFont::Token::TagLabelPrimary);
-    connect(item, &OxaToggleButton::clicked, this, [this, item, name = entry.name] {
-        m_area->ensureWidgetVisible(item);
-        Q_EMIT pageChosen(name);
-    });
-    m_items[entry.name] = item;
-    return item;
 }

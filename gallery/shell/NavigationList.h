@@ -3,14 +3,11 @@
 
 #include <UiElements/widgets/OxaWidget.h>
 
-#include <map>
+class ListView;
+class QStandardItemModel;
 
-class OxaToggleButton;
-class QVBoxLayout;
-class ScrollArea;
-struct PageEntry;
-
-/// The list of pages at the side of the window, under the headings of their groups.
+/// The list of pages at the side of the window, under the headings of their groups. It is never too
+/// narrow for their titles.
 class NavigationList : public OxaWidget
 {
     Q_OBJECT
@@ -18,21 +15,19 @@ class NavigationList : public OxaWidget
 public:
     explicit NavigationList(QWidget *parent = nullptr);
 
-    /// Marks the page called \a name as the current one, without a signal.
+    /// Marks the page called \a name as the current one.
     void setCurrentPage(const QString &name);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
 Q_SIGNALS:
-    /// The user chose the page called \a name.
+    /// Another page is the current one, which is called \a name.
     void pageChosen(const QString &name);
 
-protected:
-    /// Home and End choose the first and the last page.
-    void keyPressEvent(QKeyEvent *event) override;
-
 private:
-    void addEntries(QVBoxLayout *column);
-    OxaToggleButton *addItem(const PageEntry &entry);
+    void addPages();
 
-    ScrollArea *m_area;
-    std::map<QString, OxaToggleButton *> m_items;
+    QStandardItemModel *m_model;
+    ListView *m_list;
 };

@@ -5,6 +5,8 @@
 
 #include <QAbstractButton>
 #include <QLayout>
+#include <QSplitter>
+#include <QVector>
 
 namespace {
 
@@ -23,6 +25,18 @@ void appendItems(const QLayout &layout, std::vector<QWidget *> &widgets)
     }
 }
 
+/// Returns the widgets of a \a parent without a layout, those of a splitter in its order.
+QVector<QWidget *> partsOf(const QWidget &parent)
+{
+    QVector<QWidget *> parts;
+    if (const auto *splitter = qobject_cast<const QSplitter *>(&parent)) {
+        for (int i = 0; i < splitter->count(); ++i)
+            parts += splitter->widget(i);
+        return parts;
+    }
+    return parent.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly).toVector();
+}
+
 /// Appends all widgets inside \a parent to \a widgets, in the order of layouts where there are any.
 void appendContents(const QWidget &parent, std::vector<QWidget *> &widgets)
 {
@@ -30,8 +44,7 @@ void appendContents(const QWidget &parent, std::vector<QWidget *> &widgets)
         appendItems(*parent.layout(), widgets);
         return;
     }
-    const auto children = parent.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget *child : children) {
+    for (QWidget *child : partsOf(parent)) {
         // The list of a combo box is a child too.
         if (child->isWindow())
             continue;

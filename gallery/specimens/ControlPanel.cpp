@@ -6,10 +6,10 @@
 #include "widgets/Fields.h"
 #include "widgets/Labels.h"
 #include "widgets/SegmentedControl.h"
-#include "widgets/Slider.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <QHBoxLayout>
 
@@ -37,11 +37,11 @@ SegmentedControl *ControlPanel::addChoice(const QString &caption, const QStringL
     return control;
 }
 
-Slider *ControlPanel::addNumber(const QString &caption, int minimum, int maximum, int value,
-                                const std::function<void(int)> &change, const QString &word)
+OxaSlider *ControlPanel::addNumber(const QString &caption, int minimum, int maximum, int value,
+                                   const std::function<void(int)> &change, const QString &word)
 {
     auto *control = new OxaWidget;
-    auto *slider = new Slider(minimum, maximum, value, control);
+    OxaSlider *slider = Fields::slider(minimum, maximum, value, control);
     slider->setMinimumWidth(leastSliderWidth);
     slider->setAccessibleName(caption);
     OxaLabel *number = Labels::caption(QString(), control);
@@ -54,8 +54,8 @@ Slider *ControlPanel::addNumber(const QString &caption, int minimum, int maximum
     const auto show = [number, minimum, word](int shown) {
         number->setText(shown == minimum && !word.isEmpty() ? word : QString::number(shown));
     };
-    connect(slider, &Slider::valueChanged, number, show);
-    connect(slider, &Slider::valueChanged, this, change);
+    connect(slider, &OxaSlider::valueChanged, number, show);
+    connect(slider, &OxaSlider::valueChanged, this, change);
     show(value);
     place(caption, control);
     return slider;

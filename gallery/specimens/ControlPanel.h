@@ -8,7 +8,7 @@
 class OxaLabel;
 class OxaLineEdit;
 class SegmentedControl;
-class Slider;
+class OxaSlider;
 
 /// Controls with captions, in two columns if there is room. A control hands the user's choice to a
 /// function, and its caption is its accessible name.
@@ -24,9 +24,9 @@ public:
                                 const std::function<void(int index)> &choose);
 
     /// Adds a slider with its number behind it. \a word is shown instead of the smallest number.
-    Slider *addNumber(const QString &caption, int minimum, int maximum, int value,
-                      const std::function<void(int value)> &change,
-                      const QString &word = QString());
+    OxaSlider *addNumber(const QString &caption, int minimum, int maximum, int value,
+                         const std::function<void(int value)> &change,
+                         const QString &word = QString());
 
     /// Adds a field for a text.
     OxaLineEdit *addText(const QString &caption, const QString &text,

@@ -2,11 +2,12 @@
 #include "PropertyControls.h"
 
 #include "looks/Metrics.h"
+#include "widgets/Fields.h"
 #include "widgets/SegmentedControl.h"
-#include "widgets/Slider.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <QHBoxLayout>
 #include <QMetaProperty>
@@ -171,11 +172,11 @@ void PropertyControls::addChoiceOf(const char *property, const Choices &choices)
 void PropertyControls::addNumberOf(const char *property)
 {
     const Range range = m_ranges.value(property);
-    Slider *slider = ControlPanel::addNumber(QString::fromLatin1(property), range.minimum,
-                                             range.maximum, value(property).toInt(),
-                                             [this, property](int number) {
-                                                 setOnAll(property, number);
-                                             });
+    OxaSlider *slider = ControlPanel::addNumber(QString::fromLatin1(property), range.minimum,
+                                                range.maximum, value(property).toInt(),
+                                                [this, property](int number) {
+                                                    setOnAll(property, number);
+                                                });
     keepUpToDate([this, slider, property] { slider->setValue(value(property).toInt()); });
 }
 
@@ -183,11 +184,11 @@ void PropertyControls::addNumberOf(const char *property)
 void PropertyControls::addSizeOf(const char *property)
 {
     const Range range = m_ranges.value(property, { 8, 40 });
-    Slider *slider = ControlPanel::addNumber(QString::fromLatin1(property), range.minimum,
-                                             range.maximum, value(property).toSize().width(),
-                                             [this, property](int side) {
-                                                 setOnAll(property, QSize(side, side));
-                                             });
+    OxaSlider *slider = ControlPanel::addNumber(QString::fromLatin1(property), range.minimum,
+                                                range.maximum, value(property).toSize().width(),
+                                                [this, property](int side) {
+                                                    setOnAll(property, QSize(side, side));
+                                                });
     keepUpToDate([this, slider, property] { slider->setValue(value(property).toSize().width()); });
 }
 
@@ -195,8 +196,8 @@ void PropertyControls::addPointOf(const char *property)
 {
     const Range range = m_ranges.value(property);
     auto *both = new OxaWidget;
-    auto *x = new Slider(range.minimum, range.maximum, 0, both);
-    auto *y = new Slider(range.minimum, range.maximum, 0, both);
+    OxaSlider *x = Fields::slider(range.minimum, range.maximum, 0, both);
+    OxaSlider *y = Fields::slider(range.minimum, range.maximum, 0, both);
     const QString name = QString::fromLatin1(property);
     x->setAccessibleName(tr("%1, across").arg(name));
     y->setAccessibleName(tr("%1, down").arg(name));
@@ -217,8 +218,8 @@ void PropertyControls::addPointOf(const char *property)
         x->setValue(value(property).toPoint().x());
         y->setValue(value(property).toPoint().y());
     });
-    connect(x, &Slider::valueChanged, this, change(&QPoint::setX));
-    connect(y, &Slider::valueChanged, this, change(&QPoint::setY));
+    connect(x, &OxaSlider::valueChanged, this, change(&QPoint::setX));
+    connect(y, &OxaSlider::valueChanged, this, change(&QPoint::setY));
 }
 
 void PropertyControls::addTextOf(const char *property)

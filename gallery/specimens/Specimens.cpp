@@ -27,6 +27,9 @@ void holdHovered(QWidget *widget)
     const QPointF somewhere(widget->rect().center());
     QMouseEvent move(QEvent::MouseMove, somewhere, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QCoreApplication::sendEvent(widget, &move);
+    // A slider asks what of it is under the pointer.
+    QHoverEvent hover(QEvent::HoverMove, somewhere, somewhere);
+    QCoreApplication::sendEvent(widget, &hover);
 }
 
 void holdPressed(QWidget *widget) { qobject_cast<QAbstractButton *>(widget)->setDown(true); }
@@ -57,13 +60,14 @@ QVector<HeldState> heldStates()
 
 } // namespace
 
-Specimens::Specimens(const std::function<QWidget *()> &make, QWidget *parent) : OxaWidget(parent)
+Specimens::Specimens(const std::function<QWidget *()> &make, States states, QWidget *parent)
+    : OxaWidget(parent)
 {
     new WrapLayout(Metrics::spacing, this);
     add(make(), tr("in use"));
     const bool isButton = qobject_cast<QAbstractButton *>(m_widgets.front()) != nullptr;
-    const QVector<HeldState> states = heldStates();
-    for (const HeldState &state : states) {
+    const QVector<HeldState> held = states == States::All ? heldStates() : QVector<HeldState>();
+    for (const HeldState &state : held) {
         if (state.isForButtons && !isButton)
             continue;
         QWidget *widget = make();

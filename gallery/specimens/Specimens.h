@@ -13,9 +13,15 @@ class Specimens : public OxaWidget
     Q_OBJECT
 
 public:
-    /// Makes one widget with \a make for use, and one for each state that it can be held in.
-    /// Widgets other than buttons are never pressed or checked.
-    explicit Specimens(const std::function<QWidget *()> &make, QWidget *parent = nullptr);
+    /// Which states a widget is shown in beside the one to use.
+    enum class States {
+        All,  ///< Each that it can be held in: only buttons are pressed or checked.
+        None, ///< It looks the same in all of them.
+    };
+
+    /// Makes one widget with \a make for use, and one for each of \a states.
+    explicit Specimens(const std::function<QWidget *()> &make, States states = States::All,
+                       QWidget *parent = nullptr);
 
     /// Returns the widgets; the first is the one to use.
     const QVector<QWidget *> &widgets() const { return m_widgets; }

@@ -1,20 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "WidgetCard.h"
 
-#include "Specimens.h"
-#include "pages/signals/SignalWatcher.h"
+#include "EmissionLog.h"
 #include "shell/Page.h"
 #include "widgets/Card.h"
-#include "widgets/CodeEdit.h"
 
 #include <UiElements/svg/OxaSvgRenderer.h>
 
 #include <QVBoxLayout>
 
 namespace {
-
-constexpr int logLines = 3;
-constexpr int linesToKeep = 200;
 
 QString tr(const char *text) { return Page::tr(text); }
 
@@ -31,42 +26,38 @@ void addFocus(PropertyControls *controls, QWidget *widget)
     controls->ControlPanel::addChoice(tr("setFocus()"), places, 0, focus);
 }
 
-} // namespace
-
-PropertyControls *WidgetCard::add(Page &page, const QString &heading, const QString &explanation,
-                                  const std::function<QWidget *()> &make)
+/// Adds a card with \a stage, controls for \a widgets, and a log of what the first of them emits.
+PropertyControls *addCard(Page &page, const QString &heading, const QString &explanation,
+                          const QVector<QWidget *> &widgets, QWidget *stage)
 {
-    auto *specimens = new Specimens(make);
-    QWidget *inUse = specimens->widgets().front();
-    auto *controls = new PropertyControls(specimens->widgets());
+    auto *controls = new PropertyControls(widgets);
+    auto *log = new EmissionLog;
+    log->follow(widgets.front());
+    QObject::connect(log, &EmissionLog::noted, controls, &PropertyControls::refresh);
     auto *card = new Card(heading, explanation);
-    card->body()->addWidget(specimens);
+    card->body()->addWidget(stage);
     card->body()->addWidget(controls);
-    card->body()->addWidget(makeLog(inUse, QWidget::staticMetaObject.methodCount(), controls));
+    card->body()->addWidget(log);
     page.body()->addWidget(card);
-    addFocus(controls, inUse);
     return controls;
 }
 
-QWidget *WidgetCard::makeLog(QObject *object, int firstMethod, PropertyControls *controls)
+} // namespace
+
+PropertyControls *WidgetCard::add(Page &page, const QString &heading, const QString &explanation,
+                                  const std::function<QWidget *()> &make, Specimens::States states)
 {
-    auto *log = new CodeEdit;
-    log->setReadOnly(true);
-    log->setAccessibleName(tr("What it emits"));
-    log->setPlaceholderText(tr("What it emits appears here"));
-    log->setMaximumBlockCount(linesToKeep);
-    log->setMinimumLines(logLines);
-    log->setMaximumHeight(log->minimumHeight());
-    const auto note = [log, controls](const QMetaMethod &signal, const QStringList &arguments) {
-        const QString name = QString::fromLatin1(signal.name());
-        if (name == QLatin1String("cssChanged") || name == QLatin1String("themeTypeChanged"))
-            return;
-        log->appendPlainText(
-                QStringLiteral("%1(%2)").arg(name, arguments.join(QStringLiteral(", "))));
-        controls->refresh();
-    };
-    new SignalWatcher(object, note, log, firstMethod);
-    return log;
+    auto *specimens = new Specimens(make, states);
+    PropertyControls *controls = addCard(page, heading, explanation, specimens->widgets(),
+                                         specimens);
+    addFocus(controls, controls->front());
+    return controls;
+}
+
+PropertyControls *WidgetCard::addOne(Page &page, const QString &heading, const QString &explanation,
+                                     QWidget *widget, QWidget *stage)
+{
+    return addCard(page, heading, explanation, { widget }, stage);
 }
 
 PropertyControls::Choices WidgetCard::icons(const PropertyControls::Choice &own)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "PropertyControls.h"
+#include "Specimens.h"
 
 class Page;
 
@@ -12,11 +13,13 @@ namespace WidgetCard {
 /// Adds a card for the widgets that \a make makes to \a page, and returns its controls, to which
 /// the caller adds those for the properties.
 PropertyControls *add(Page &page, const QString &heading, const QString &explanation,
-                      const std::function<QWidget *()> &make);
+                      const std::function<QWidget *()> &make,
+                      Specimens::States states = Specimens::States::All);
 
-/// Returns a log of the signals of \a object whose methods are numbered \a firstMethod and above.
-/// They may change what \a controls show.
-QWidget *makeLog(QObject *object, int firstMethod, PropertyControls *controls);
+/// Adds a card for \a widget alone, which \a stage shows with what belongs to it, and returns its
+/// controls.
+PropertyControls *addOne(Page &page, const QString &heading, const QString &explanation,
+                         QWidget *widget, QWidget *stage);
 
 /// Returns \a own and other icons, or none, for a property that names an icon.
 PropertyControls::Choices icons(const PropertyControls::Choice &own);

@@ -4,16 +4,20 @@
 #include <QGuiApplication>
 
 AlignedLabel::AlignedLabel(const QString &text, QWidget *parent, Place place)
-    : OxaLabel(text, parent), m_place(place)
+    : OxaLabel(text, parent)
 {
-    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &AlignedLabel::align);
-    align();
+    keepAligned(this, place);
 }
 
-void AlignedLabel::align()
+void AlignedLabel::keepAligned(QLabel *label, Place place)
 {
-    const Qt::Alignment start = QGuiApplication::isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
-    const Qt::Alignment across = m_place == Place::Centre ? Qt::AlignHCenter
-                                                          : start | Qt::AlignAbsolute;
-    setAlignment((alignment() & Qt::AlignVertical_Mask) | across);
+    const auto align = [label, place] {
+        const Qt::Alignment start = QGuiApplication::isRightToLeft() ? Qt::AlignRight
+                                                                     : Qt::AlignLeft;
+        const Qt::Alignment across = place == Place::Centre ? Qt::AlignHCenter
+                                                            : start | Qt::AlignAbsolute;
+        label->setAlignment((label->alignment() & Qt::AlignVertical_Mask) | across);
+    };
+    connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, label, align);
+    align();
 }

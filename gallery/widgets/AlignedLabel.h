@@ -21,8 +21,6 @@ public:
     explicit AlignedLabel(const QString &text, QWidget *parent = nullptr,
                           Place place = Place::Start);
 
-private:
-    void align();
-
-    const Place m_place;
+    /// Aligns the text of another \a label in the same way from now on.
+    static void keepAligned(QLabel *label, Place place = Place::Start);
 };

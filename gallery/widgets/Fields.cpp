@@ -5,13 +5,16 @@
 #include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
+#include <UiElements/widgets/OxaDateTimeEdit.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaRadioButton.h>
+#include <UiElements/widgets/OxaSlider.h>
 #include <UiElements/widgets/OxaTextBrowser.h>
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTextInputFactory.h>
+#include <UiElements/widgets/OxaTimeEdit.h>
 
 #include <QAbstractItemView>
 #include <QGuiApplication>
@@ -23,8 +26,11 @@ namespace {
 constexpr int radius = 6;
 constexpr int searchWidth = 320;
 constexpr int comboHeight = 34;
+constexpr int sliderHeight = 24;
+constexpr int sliderFrameRadius = 9;
 constexpr QSize checkBoxSize(16, 16);
 constexpr OxaFont::Token token = OxaFont::Token::BodySecondary;
+const QString searchName = QStringLiteral("search");
 const QString placeholderColors = QStringLiteral("gallery-field-placeholder-text");
 
 QString icon(const char *name) { return OxaSvgRenderer::resourcePath(QString::fromLatin1(name)); }
@@ -50,7 +56,8 @@ const OxaTextInputFactory &factory()
 
 /// Keeps the text of \a field on the side where the layout begins, as that of labels. By itself it
 /// goes where its own direction begins.
-void alignToLayout(QLineEdit *field)
+template <typename Field>
+void alignToLayout(Field *field)
 {
     const auto align = [field] {
         const bool isRight = QGuiApplication::isRightToLeft();
@@ -77,6 +84,46 @@ void colorLinks(QTextEdit *area)
             link.mergeCharFormat(format);
         }
     }
+}
+
+QString sliderLook()
+{
+    // In a style sheet, sub-page is the part left of the handle in both directions.
+    const QString filledPage = QGuiApplication::isRightToLeft() ? QStringLiteral("add-page")
+                                                                : QStringLiteral("sub-page");
+    return QStringLiteral("OxaSlider { background: transparent; border: none; padding: 0 2px; }"
+                          // The frame of the focus is around the handle.
+                          "OxaSlider:focus { outline: none; }"
+                          "OxaSlider::groove:horizontal { height: 4px; border-radius: 2px;"
+                          " background: $(gallery-slider-track); }"
+                          "OxaSlider::%1:horizontal { height: 4px; border-radius: 2px;"
+                          " background: $(gallery-slider-fill); }"
+                          "OxaSlider::handle:horizontal { width: 12px; margin: -5px 0;"
+                          " border-radius: 7px; background: $(gallery-slider-handle);"
+                          " border: 1px solid $(gallery-slider-fill); }"
+                          "OxaSlider::handle:horizontal:hover {"
+                          " background: $(gallery-slider-handle.hovered);"
+                          " border-color: $(gallery-slider-fill.hovered); }"
+                          "OxaSlider::%1:horizontal:disabled {"
+                          " background: $(gallery-slider-fill.disabled); }"
+                          "OxaSlider::handle:horizontal:disabled {"
+                          " background: $(gallery-slider-handle.disabled);"
+                          " border-color: $(gallery-slider-fill.disabled); }")
+            .arg(filledPage);
+}
+
+template <typename Field, typename Moment>
+Field *makeMoment(const QString &name, const Moment &moment, QWidget *parent)
+{
+    auto *field = new Field(moment, parent);
+    field->setAccessibleName(name);
+    field->template findChild<QLineEdit *>()->setAccessibleName(name);
+    field->setFontToken(token);
+    field->setCSS(Fields::look(Field::staticMetaObject.className(), { 8, 5 }));
+    // In a style sheet their arrows are pictures, which have no colours of the theme.
+    field->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    alignToLayout(field);
+    return field;
 }
 
 template <typename Area>
@@ -155,6 +202,7 @@ OxaTextInput *Fields::password(const QString &name, QWidget *parent)
 OxaTextInput *Fields::search(const QString &hint, QWidget *parent)
 {
     OxaTextInput *field = input(QObject::tr("Search"), parent);
+    field->setObjectName(searchName);
     field->setSearchIcon(icon("search_16"));
     field->setPlaceholderText(hint);
     field->setFixedWidth(searchWidth);
@@ -163,6 +211,11 @@ OxaTextInput *Fields::search(const QString &hint, QWidget *parent)
             field->setText(QString());
     });
     return field;
+}
+
+OxaTextInput *Fields::searchIn(const QWidget &parent)
+{
+    return parent.findChild<OxaTextInput *>(searchName);
 }
 
 void Fields::clear(OxaTextInput *field)
@@ -226,6 +279,29 @@ OxaRadioButton *Fields::radioButton(const QString &text, QWidget *parent)
             " border: 5px solid $(checkbox-checked-background);"
             " background: $(oxa-reaction-list-item-gradient-background-end-color); }"));
     return button;
+}
+
+OxaSlider *Fields::slider(int minimum, int maximum, int value, QWidget *parent)
+{
+    auto *slider = new OxaSlider(Qt::Horizontal, parent);
+    slider->setRange(minimum, maximum);
+    slider->setValue(value);
+    slider->setMinimumHeight(sliderHeight);
+    slider->setProperty("focusBorderRadius", sliderFrameRadius);
+    const auto applyLook = [slider] { slider->setCSS(sliderLook()); };
+    QObject::connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, slider, applyLook);
+    applyLook();
+    return slider;
+}
+
+OxaDateTimeEdit *Fields::dateTime(const QString &name, const QDateTime &moment, QWidget *parent)
+{
+    return makeMoment<OxaDateTimeEdit>(name, moment, parent);
+}
+
+OxaTimeEdit *Fields::time(const QString &name, const QTime &moment, QWidget *parent)
+{
+    return makeMoment<OxaTimeEdit>(name, moment, parent);
 }
 
 OxaTextEdit *Fields::edit(const QString &name, QWidget *parent)

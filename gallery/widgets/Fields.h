@@ -6,11 +6,16 @@
 
 class OxaCheckBox;
 class OxaComboBox;
+class OxaDateTimeEdit;
 class OxaLineEdit;
 class OxaRadioButton;
+class OxaSlider;
 class OxaTextBrowser;
 class OxaTextEdit;
 class OxaTextInput;
+class OxaTimeEdit;
+class QDateTime;
+class QTime;
 class QWidget;
 
 /// The gallery's controls for forms, and their looks.
@@ -34,6 +39,9 @@ OxaTextInput *password(const QString &name, QWidget *parent = nullptr);
 /// Returns a field for searching a list. Its \a hint says what is searched, and Escape clears it.
 OxaTextInput *search(const QString &hint, QWidget *parent = nullptr);
 
+/// Returns the first field for searching inside of \a parent, or null.
+OxaTextInput *searchIn(const QWidget &parent);
+
 /// Clears \a field and gives it the focus.
 void clear(OxaTextInput *field);
 
@@ -45,6 +53,15 @@ OxaCheckBox *checkBox(const QString &text, QWidget *parent = nullptr);
 
 /// Returns a radio button with \a text.
 OxaRadioButton *radioButton(const QString &text, QWidget *parent = nullptr);
+
+/// Returns a horizontal slider from \a minimum to \a maximum, at \a value.
+OxaSlider *slider(int minimum, int maximum, int value, QWidget *parent = nullptr);
+
+/// Returns a field for a date and a time, which shows \a moment.
+OxaDateTimeEdit *dateTime(const QString &name, const QDateTime &moment, QWidget *parent = nullptr);
+
+/// Returns a field for a time, which shows \a moment.
+OxaTimeEdit *time(const QString &name, const QTime &moment, QWidget *parent = nullptr);
 
 /// Returns a field for rich text.
 OxaTextEdit *edit(const QString &name, QWidget *parent = nullptr);

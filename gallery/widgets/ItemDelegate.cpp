@@ -32,12 +32,16 @@ void ItemDelegate::refresh(OxaThemeUtils::AppThemeType themeType) { m_look = Ite
 
 void ItemDelegate::ensureCurrent(QAbstractItemView &view)
 {
-    const QAbstractItemModel &model = *view.model();
-    for (int row = 0; row < model.rowCount() && !view.currentIndex().isValid(); ++row) {
-        const QModelIndex index = model.index(row, 0);
-        if (index.flags().testFlag(Qt::ItemIsEnabled))
-            view.setCurrentIndex(index);
-    }
+    if (!view.currentIndex().isValid())
+        view.setCurrentIndex(firstEnabled(*view.model()));
+}
+
+QModelIndex ItemDelegate::firstEnabled(const QAbstractItemModel &model)
+{
+    int row = 0;
+    while (row < model.rowCount() && !model.index(row, 0).flags().testFlag(Qt::ItemIsEnabled))
+        ++row;
+    return model.index(row, 0);
 }
 
 int ItemDelegate::headingHeight() const

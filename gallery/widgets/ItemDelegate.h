@@ -42,6 +42,9 @@ public:
     /// visible item.
     static void ensureCurrent(QAbstractItemView &view);
 
+    /// Returns the first item of \a model that is enabled, or an invalid index.
+    static QModelIndex firstEnabled(const QAbstractItemModel &model);
+
     /// Returns the height of a heading's row.
     int headingHeight() const;
 

@@ -6,7 +6,7 @@
 #include "shell/GalleryApplication.h"
 
 ListView::ListView(QAbstractItemModel *model, ItemDelegate *delegate, QWidget *parent)
-    : QListView(parent), m_delegate(delegate)
+    : OxaListView(parent), m_delegate(delegate)
 {
     delegate->setParent(this);
     setCSS(frameStyleText());
@@ -15,7 +15,7 @@ ListView::ListView(QAbstractItemModel *model, ItemDelegate *delegate, QWidget *p
     setMouseTracking(true);
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_themeBlock.followTheme();
+    refresh();
 
     connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, this,
             &ListView::refresh);
@@ -45,5 +45,12 @@ void ListView::refresh()
 void ListView::focusInEvent(QFocusEvent *event)
 {
     ItemDelegate::ensureCurrent(*this);
-    QListView::focusInEvent(event);
+    OxaListView::focusInEvent(event);
+}
+
+QModelIndex ListView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    // Qt would go to the first row in vain if that is a heading.
+    return action == MoveHome ? ItemDelegate::firstEnabled(*model())
+                              : OxaListView::moveCursor(action, modifiers);
 }

@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <UiElements/theme/OxaThemeBlock.h>
-
-#include <QListView>
+#include <UiElements/widgets/OxaListView.h>
 
 class ItemDelegate;
 
 /// A list in a frame, whose delegate follows the theme and the size of text.
-class ListView : public QListView
+class ListView : public OxaListView
 {
     Q_OBJECT
-    UIELEMENTS_THEME_BLOCK(QListView)
 
 public:
     /// Shows \a model with \a delegate, which the view takes ownership of.
@@ -22,9 +19,10 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
 
 protected Q_SLOTS:
-    virtual void onThemeChanged();
+    void onThemeChanged() override;
 
 private:
     void refresh();

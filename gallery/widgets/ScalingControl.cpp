@@ -6,7 +6,11 @@ ScalingControl::ScalingControl(TextSettings *settings, TextSettings::FontType vi
 {
     setToolTip(tr("Small, regular, medium, large"));
     // The factors begin at -1.
-    setCurrentIndex(1 + int(settings->scaling(view)));
+    const auto showCurrent = [this, settings, view] {
+        setCurrentIndex(1 + int(settings->scaling(view)));
+    };
+    connect(settings, &TextSettings::sizesChanged, this, showCurrent);
+    showCurrent();
     connect(this, &SegmentedControl::chosen, settings, [settings, view](int i) {
         settings->setScaling(view, static_cast<TextSettings::ScalingFactor>(i - 1));
     });

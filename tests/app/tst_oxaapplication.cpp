@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/Guards.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/fonts/OxaFontManager.h>
@@ -400,9 +401,7 @@ void tst_OxaApplication::isInFocusOnceAWindowIsActive()
 {
     QVERIFY(!OxaApplication::isInFocus());
     QWidget window;
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(Windows::activate(window));
     QVERIFY(OxaApplication::isInFocus());
 }
 

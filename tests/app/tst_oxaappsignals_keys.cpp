@@ -3,6 +3,7 @@
 #include "ShortcutsTable.h"
 #include "support/SignalLog.h"
 #include "support/TestMain.h"
+#include "support/Windows.h"
 
 #include <QFile>
 #include <QMetaMethod>
@@ -50,13 +51,6 @@ private:
     SignalLog m_log;
 };
 
-bool activate(QWidget &window)
-{
-    window.show();
-    window.activateWindow();
-    return QTest::qWaitForWindowActive(&window);
-}
-
 } // namespace
 
 /// The signals that the hub emits for keys.
@@ -99,7 +93,7 @@ void tst_OxaAppSignalsKeys::emitsTheSignalOfTheKeysAndNoOther()
     Hub hub;
     QWidget window;
     hub.registerShortcuts(&window, OxaShortcut::All);
-    QVERIFY(activate(window));
+    QVERIFY(Windows::activate(window));
     QCOMPARE(hub.emittedFor(window, row->keys), QString::fromLatin1(row->signal));
 }
 
@@ -122,7 +116,7 @@ void tst_OxaAppSignalsKeys::listensInEachWindowOfTheApplication()
     hub.registerShortcuts(&mainWindow, OxaShortcut::General);
     mainWindow.show();
     QWidget other;
-    QVERIFY(activate(other));
+    QVERIFY(Windows::activate(other));
     QCOMPARE(hub.emittedFor(other, searchKeys), QStringLiteral("openGlobalSearch"));
 }
 
@@ -131,7 +125,7 @@ void tst_OxaAppSignalsKeys::ignoresTheKeysOfAGroupThatIsNotRegistered()
     Hub hub;
     QWidget window;
     hub.registerShortcuts(&window, OxaShortcut::Messaging);
-    QVERIFY(activate(window));
+    QVERIFY(Windows::activate(window));
     QCOMPARE(hub.emittedFor(window, searchKeys), QString());
     QCOMPARE(hub.emittedFor(window, Qt::CTRL | Qt::Key_G), QStringLiteral("addGif"));
 }
@@ -141,7 +135,7 @@ void tst_OxaAppSignalsKeys::ignoresTheKeysOfADisabledShortcut()
     Hub hub;
     QWidget window;
     hub.registerShortcuts(&window, OxaShortcut::General);
-    QVERIFY(activate(window));
+    QVERIFY(Windows::activate(window));
     hub.disableShortcut(Shortcut::OpenGlobalSearch);
     QCOMPARE(hub.emittedFor(window, searchKeys), QString());
     QCOMPARE(hub.emittedFor(window, Qt::Key_F1), QStringLiteral("openHelpPopUp"));
@@ -154,7 +148,7 @@ void tst_OxaAppSignalsKeys::ignoresTheKeysOfATemporarilyDisabledShortcut()
     Hub hub;
     QWidget window;
     hub.registerShortcuts(&window, OxaShortcut::General);
-    QVERIFY(activate(window));
+    QVERIFY(Windows::activate(window));
     const auto general = hub.getGroupShortcuts(OxaShortcut::General);
     general.at(Shortcut::OpenGlobalSearch)->temporarilyDisable(true);
     QCOMPARE(hub.emittedFor(window, searchKeys), QString());
@@ -169,7 +163,7 @@ void tst_OxaAppSignalsKeys::ignoresAllKeysAfterTheMainWindow()
     hub.registerShortcuts(mainWindow.get(), OxaShortcut::General);
     mainWindow->show();
     QWidget other;
-    QVERIFY(activate(other));
+    QVERIFY(Windows::activate(other));
     mainWindow.reset();
     QCOMPARE(hub.emittedFor(other, searchKeys), QString());
 }
@@ -179,7 +173,7 @@ void tst_OxaAppSignalsKeys::mayBeDisabledByItsOwnSignal()
     Hub hub;
     QWidget window;
     hub.registerShortcuts(&window, OxaShortcut::General);
-    QVERIFY(activate(window));
+    QVERIFY(Windows::activate(window));
     connect(&hub, &OxaAppSignals::openGlobalSearch, &hub, &OxaAppSignals::disableAll);
     QCOMPARE(hub.emittedFor(window, searchKeys), QStringLiteral("openGlobalSearch"));
     QVERIFY(!hub.shortcutExists(Shortcut::OpenGlobalSearch));
@@ -203,7 +197,7 @@ void tst_OxaAppSignalsKeys::survivesASlotThatDeletes()
     hub->registerShortcuts(window, OxaShortcut::General);
     const QPointer<OxaShortcut> shortcut = hub->getGroupShortcuts(OxaShortcut::General)
                                                    .at(Shortcut::OpenGlobalSearch);
-    QVERIFY(activate(*window));
+    QVERIFY(Windows::activate(*window));
     connect(hub, &OxaAppSignals::openGlobalSearch, this, [&] {
         for (QObject *object : std::initializer_list<QObject *> { shortcut, window, hub }) {
             if (object->metaObject()->className() == type)
@@ -247,7 +241,7 @@ void tst_OxaAppSignalsKeys::showsTheDebugWindowForTheDevelopersKeys()
     Hub hub;
     QWidget window;
     registerDebugShortcuts(hub, &window);
-    QVERIFY(activate(window));
+    QVERIFY(Windows::activate(window));
     QCOMPARE(hub.emittedFor(window, debugKeys), QStringLiteral("showDebugWindow"));
 }
 
@@ -257,7 +251,7 @@ void tst_OxaAppSignalsKeys::leavesKeysThatTwoShortcutsShareWithoutEffect()
     QWidget window;
     hub.registerShortcuts(&window, OxaShortcut::General);
     registerDebugShortcuts(hub, &window);
-    QVERIFY(activate(window));
+    QVERIFY(Windows::activate(window));
     QCOMPARE(hub.emittedFor(window, debugKeys), QString());
     hub.disableShortcut(Shortcut::OpenDiagnosticsDetails);
     QCOMPARE(hub.emittedFor(window, debugKeys), QStringLiteral("showDebugWindow"));

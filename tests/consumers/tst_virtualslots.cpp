@@ -7,12 +7,16 @@
 #include <UiElements/models/BaseListModel.h>
 #include <UiElements/models/LazyLoadedListModel.h>
 #include <UiElements/models/OverflowListProxyModel.h>
+#include <UiElements/movies/OxaGifButton.h>
+#include <UiElements/movies/OxaGifLabel.h>
+#include <UiElements/movies/OxaMovieProvider.h>
 #include <UiElements/movies/OxaMovieProviderSource.h>
 #include <UiElements/qml/OxaQmlBalloon.h>
 #include <UiElements/qml/OxaQmlDialogController.h>
 #include <UiElements/qml/OxaQmlHalfPill.h>
 #include <UiElements/qml/OxaQmlPopupController.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
+#include <UiElements/widgets/AlertBanner.h>
 #include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
@@ -24,6 +28,7 @@
 #include <UiElements/widgets/OxaListWidget.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 #include <UiElements/widgets/OxaMenu.h>
+#include <UiElements/widgets/OxaNotification.h>
 #include <UiElements/widgets/OxaProgressBar.h>
 #include <UiElements/widgets/OxaRadioButton.h>
 #include <UiElements/widgets/OxaSeparator.h>
@@ -183,6 +188,8 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
     addThemedRow<OxaListView, QListView>();
     addThemedRow<OxaListWidget, QListWidget>();
     addThemedRow<OxaTreeView, QTreeView>();
+    addRow<AlertBanner, OxaWidget>({});
+    addRow<OxaNotification, OxaWidget>({});
     addRow<OxaSvgPushButton, OxaPushButton>({ slotOf(&Open::onCSSChanged) });
     // The last three come from QLayout's second base class, QLayoutItem.
     addRow<FlowLayout, QLayout>({
@@ -195,6 +202,9 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
     addRow<IOxaMovieProviderSource, QObject>({ slotOf(&IOxaMovieProviderSource::fetchMovie) });
     addRow<OxaMovieProviderSource, IOxaMovieProviderSource>({});
     addRow<OxaMovie, QMovie>({});
+    addRow<OxaMovieProvider, QObject>({});
+    addRow<OxaGifLabel, OxaLabel>({});
+    addRow<OxaGifButton, OxaPushButton>({});
     addRow<BaseListModel, QAbstractListModel>({});
     addRow<LazyLoadedListModel, QAbstractListModel>({});
     addRow<OverflowListProxyModel, QSortFilterProxyModel>({});

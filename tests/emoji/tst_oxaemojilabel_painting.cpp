@@ -4,6 +4,7 @@
 #include "support/Guards.h"
 #include "support/RecordingStyle.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QTextFrame>
@@ -255,9 +256,7 @@ void tst_OxaEmojiLabelPainting::drawsNoFrameForOtherFocus()
     const ApplicationStyleGuard style;
     EmojiLabel label(QStringLiteral("text"));
     label.setFocusPolicy(Qt::StrongFocus);
-    label.show();
-    label.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&label));
+    QVERIFY(Windows::activate(label));
     label.setFocus(Qt::MouseFocusReason);
     QVERIFY(label.hasFocus());
     label.window()->setAttribute(Qt::WA_KeyboardFocusChange, false);

@@ -25,7 +25,7 @@ ButtonClass *withText(const QWidget &parent, const char *text)
 {
     const auto buttons = parent.findChildren<ButtonClass *>();
     for (ButtonClass *button : buttons) {
-        if (button->text() == QLatin1String(text))
+        if (button->text() == QString::fromUtf8(text))
             return button;
     }
     return nullptr;

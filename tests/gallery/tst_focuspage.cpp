@@ -3,6 +3,7 @@
 #include "support/Pixels.h"
 
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <QPointer>
 #include <QSignalSpy>
@@ -15,7 +16,6 @@
 #include <widgets/CodeEdit.h>
 #include <widgets/Fields.h>
 #include <widgets/SegmentedControl.h>
-#include <widgets/Slider.h>
 
 namespace {
 
@@ -195,8 +195,8 @@ void tst_FocusPage::describesWidgets_data()
     field->setAccessibleName(QStringLiteral("Name"));
     QTest::newRow("a field, by its accessible name")
             << static_cast<QWidget *>(field) << QStringLiteral("OxaLineEdit “Name”");
-    QTest::newRow("what has no name")
-            << static_cast<QWidget *>(new Slider(0, 1, 0, parent)) << QStringLiteral("Slider");
+    QTest::newRow("what has no name") << static_cast<QWidget *>(Fields::slider(0, 1, 0, parent))
+                                      << QStringLiteral("OxaSlider");
 }
 
 void tst_FocusPage::describesWidgets()

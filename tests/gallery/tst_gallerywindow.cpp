@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Controls.h"
 #include "GalleryTest.h"
 
+#include <UiElements/widgets/OxaSlider.h>
+
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QLayout>
 #include <QScrollBar>
@@ -14,7 +18,10 @@
 #include <shell/PageRegistry.h>
 #include <shell/PageStack.h>
 #include <shell/TabOrder.h>
+#include <support/Pixels.h>
 #include <widgets/Buttons.h>
+#include <widgets/Fields.h>
+#include <widgets/ListView.h>
 #include <widgets/ScrollArea.h>
 #include <widgets/SegmentedControl.h>
 
@@ -64,6 +71,24 @@ QStringList sheetsWithLeftovers(const QWidget &window)
     return sheets;
 }
 
+QColor colorOf(const char *colorSet)
+{
+    return OxaThemeUtils::getColorSet(colorSet, OxaThemeUtils::AppThemeType::Global).normal;
+}
+
+/// Returns the rectangle around all pixels in which \a a and \a b differ.
+QRect differenceOf(const QImage &a, const QImage &b)
+{
+    QRect rect;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            if (a.pixel(x, y) != b.pixel(x, y))
+                rect |= QRect(x, y, 1, 1);
+        }
+    }
+    return rect;
+}
+
 } // namespace
 
 /// GalleryWindow with all its pages.
@@ -84,8 +109,11 @@ private Q_SLOTS:
     void stopsAtAPageOnlyWhereItScrolls();
     void keepsCardsAsWideBesideAScrollBar();
     void stylesEveryScrollBar();
-    void usesTheLibrarysControlsForForms();
+    void usesTheLibrarysWidgets();
+    void framesTheHandleOfASlider_data();
+    void framesTheHandleOfASlider();
     void bringsTheCurrentPageIntoSight();
+    void keepsTheTitlesOfPagesInSight();
     void ignoresAnUnknownPage();
     void stopsInTheOrderOnScreen_data();
     void stopsInTheOrderOnScreen();
@@ -123,13 +151,8 @@ void tst_GalleryWindow::marksTheCurrentPage()
 {
     GalleryWindow window;
     window.showPage(QStringLiteral("labels"));
-    const auto buttons = window.findChildren<OxaToggleButton *>();
-    const auto isLabels = [](const OxaToggleButton *button) {
-        return button->text() == QLatin1String("Labels");
-    };
-    const auto labels = std::find_if(buttons.begin(), buttons.end(), isLabels);
-    QVERIFY(labels != buttons.end());
-    QVERIFY((*labels)->isChecked());
+    QCOMPARE(Controls::called<ListView>(window, "Pages")->currentIndex().data().toString(),
+             QStringLiteral("Labels"));
 }
 
 void tst_GalleryWindow::makesAPageOnceOnly()
@@ -247,11 +270,11 @@ void tst_GalleryWindow::stylesEveryScrollBar()
     }
 }
 
-void tst_GalleryWindow::usesTheLibrarysControlsForForms()
+void tst_GalleryWindow::usesTheLibrarysWidgets()
 {
     const auto window = makeWindow();
-    const QByteArrayList classes = { "QCheckBox", "QComboBox", "QLineEdit", "QRadioButton",
-                                     "QTextEdit" };
+    const QByteArrayList classes = { "QCheckBox", "QComboBox", "QLineEdit",      "QRadioButton",
+                                     "QTextEdit", "QSlider",   "QStackedWidget", "QSplitter" };
     QSet<QByteArray> found;
     const auto widgets = window->findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {
@@ -259,7 +282,8 @@ void tst_GalleryWindow::usesTheLibrarysControlsForForms()
         const QMetaObject *type = widget->metaObject();
         for (; type && !classes.contains(type->className()); type = type->superClass())
             isOfTheLibrary |= QByteArray(type->className()).startsWith("Oxa");
-        if (!type)
+        // A field for a time has a line of Qt's in it.
+        if (!type || qobject_cast<QAbstractSpinBox *>(widget->parentWidget()))
             continue;
         found.insert(type->className());
         QVERIFY2(isOfTheLibrary, widget->metaObject()->className());
@@ -267,14 +291,59 @@ void tst_GalleryWindow::usesTheLibrarysControlsForForms()
     QCOMPARE(found.size(), classes.size());
 }
 
+void tst_GalleryWindow::framesTheHandleOfASlider_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<int>("value");
+    for (const int value : { 0, 3, 10 }) {
+        QTest::addRow("%d, from left to right", value) << Qt::LeftToRight << value;
+        QTest::addRow("%d, from right to left", value) << Qt::RightToLeft << value;
+    }
+}
+
+void tst_GalleryWindow::framesTheHandleOfASlider()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    QFETCH(const int, value);
+    GalleryApplication::get()->textSettings()->setDirection(direction);
+    OxaWidget window;
+    window.resize(200, 40);
+    OxaSlider *slider = Fields::slider(0, 10, value, &window);
+    slider->resize(160, 24);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    slider->clearFocus();
+    const QImage without = Pixels::render(*slider, Qt::red);
+    const QRect handle = Pixels::boundsNear(without, colorOf("gallery-slider-handle"), 0);
+    QVERIFY(!handle.isNull());
+    slider->setFocus(Qt::ShortcutFocusReason);
+    const QRect frame = differenceOf(without, Pixels::render(*slider, Qt::red));
+    QCOMPARE(frame.size(), QSize(18, 18));
+    QCOMPARE(frame.center(), handle.center());
+}
+
 void tst_GalleryWindow::bringsTheCurrentPageIntoSight()
 {
     GalleryApplication::get()->textSettings()->setFontScale(1.5F);
     ShownWindow window;
     window.showPage(pageNames().last());
-    const auto *area = window.findChild<NavigationList *>()->findChild<ScrollArea *>();
-    QVERIFY(area->verticalScrollBar()->maximum() > 0);
-    QCOMPARE(area->verticalScrollBar()->value(), area->verticalScrollBar()->maximum());
+    const QScrollBar *bar = Controls::called<ListView>(window, "Pages")->verticalScrollBar();
+    QVERIFY(bar->maximum() > 0);
+    QCOMPARE(bar->value(), bar->maximum());
+}
+
+void tst_GalleryWindow::keepsTheTitlesOfPagesInSight()
+{
+    const ShownWindow window;
+    const auto *navigation = window.findChild<NavigationList *>();
+    QCOMPARE(navigation->width(), Metrics::sidebarWidth);
+    for (const float scale : { 1.5F, 1.0F }) {
+        GalleryApplication::get()->textSettings()->setFontScale(scale);
+        QCoreApplication::processEvents();
+        const auto *list = Controls::called<ListView>(window, "Pages");
+        QVERIFY(list->viewport()->width() >= list->sizeHintForColumn(0));
+    }
 }
 
 void tst_GalleryWindow::ignoresAnUnknownPage()

@@ -6,6 +6,7 @@
 #include <UiElements/layouts/AutoGridLayout.h>
 #include <UiElements/layouts/SmartLayout.h>
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <QMouseEvent>
 
@@ -15,7 +16,6 @@
 #include <pages/layouts/ResizeHandle.h>
 #include <pages/layouts/TileBoard.h>
 #include <widgets/Buttons.h>
-#include <widgets/Slider.h>
 
 namespace {
 
@@ -115,7 +115,7 @@ void tst_LayoutsPage::choosesEachLayout()
 void tst_LayoutsPage::hasAsManyTilesAsTheSliderSays()
 {
     const Shown shown;
-    auto *tiles = Controls::called<Slider>(shown.page, "Tiles");
+    auto *tiles = Controls::called<OxaSlider>(shown.page, "Tiles");
     for (const int count : { 400, 7, 0, 12 }) {
         tiles->setValue(count);
         QCOMPARE(shown.board.flow().count(), count);

@@ -3,6 +3,7 @@
 #include "GalleryTest.h"
 
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <QScrollBar>
 
@@ -19,7 +20,6 @@
 #include <widgets/Buttons.h>
 #include <widgets/CodeEdit.h>
 #include <widgets/EmptyState.h>
-#include <widgets/Slider.h>
 
 namespace {
 
@@ -150,7 +150,7 @@ void tst_ListsPage::replacesTheChosenShareOfRows()
 {
     QFETCH(const int, percent);
     ConversationsCard card;
-    card.findChild<Slider *>()->setValue(percent);
+    card.findChild<OxaSlider *>()->setValue(percent);
     QTEST(linesAfter(card, { QStringLiteral("Replace") }), "line");
 }
 
@@ -267,7 +267,7 @@ void tst_ListsPage::showsAsManyAvatarsAsThereIsRoomFor()
     page->resize(window.size());
     window.show();
     auto *bar = page->findChild<OverflowBar *>();
-    Controls::called<Slider>(*page, "Width")->setValue(width);
+    Controls::called<OxaSlider>(*page, "Width")->setValue(width);
     QTRY_COMPARE(bar->width(), width);
     QCOMPARE(bar->hiddenPeople()->rowCount(), hidden);
     const auto labels = bar->findChildren<OxaLabel *>();

@@ -166,7 +166,10 @@ void tst_SignalsPage::writesArguments_data()
     QTest::newRow("a whiteboard") << textOf("uiWhiteboard::CreateWhiteboardInfo",
                                             uiWhiteboard::CreateWhiteboardInfo { "a", "b" })
                                   << QStringLiteral("{conversationId: “a”, callId: “b”}");
-    QTest::newRow("an unknown type") << textOf("QFont", QFont()) << QStringLiteral("?");
+    QTest::newRow("a time of Qt's")
+            << textOf("QTime", QTime(8, 30)) << QStringLiteral("08:30:00.000");
+    QTest::newRow("a type without a text") << textOf("QPen", QPen()) << QStringLiteral("?");
+    QTest::newRow("an unknown type") << textOf("Pen", 0) << QStringLiteral("?");
 }
 
 void tst_SignalsPage::writesArguments()

@@ -6,6 +6,7 @@
 #include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <QMetaProperty>
 
@@ -17,7 +18,6 @@
 #include <support/Pixels.h>
 #include <widgets/CodeEdit.h>
 #include <widgets/SegmentedControl.h>
-#include <widgets/Slider.h>
 
 namespace {
 
@@ -28,7 +28,7 @@ public:
     Sample(const QByteArray &page, int index)
         : m_page(findPageEntry(QString::fromLatin1(page))->make(&m_window)),
           m_specimens(m_page->findChildren<Specimens *>().at(index)),
-          m_controls(m_page->findChildren<PropertyControls *>().at(index))
+          m_controls(m_specimens->parentWidget()->findChild<PropertyControls *>())
     {
         // No minimum size: the platform does not enforce it.
         m_window.resize(1000, 800);
@@ -166,6 +166,8 @@ void tst_WidgetPages::hasAControlForEachProperty_data()
     QTest::newRow("OxaComboBox") << QByteArray("forms") << 2;
     QTest::newRow("OxaCheckBox") << QByteArray("forms") << 3;
     QTest::newRow("OxaTextBrowser") << QByteArray("forms") << 6;
+    QTest::newRow("OxaProgressBar") << QByteArray("windows") << 1;
+    QTest::newRow("OxaSeparator") << QByteArray("windows") << 2;
     QTest::newRow("OxaSvgLabel") << QByteArray("svg-widgets") << 0;
     QTest::newRow("OxaSvgPushButton") << QByteArray("svg-widgets") << 1;
     QTest::newRow("OxaSvgAnchorButton") << QByteArray("svg-widgets") << 2;
@@ -194,9 +196,9 @@ void tst_WidgetPages::hasAControlForEachProperty()
 void tst_WidgetPages::beginsWithTheValuesOfTheWidgets()
 {
     const Sample card("svg-widgets", 2);
-    QCOMPARE(card.control<Slider>("anchorPadding")->value(),
+    QCOMPARE(card.control<OxaSlider>("anchorPadding")->value(),
              card.inUse()->property("anchorPadding").toInt());
-    QCOMPARE(card.control<Slider>("svgIconSize")->value(),
+    QCOMPARE(card.control<OxaSlider>("svgIconSize")->value(),
              card.inUse()->property("svgIconSize").toSize().width());
     QCOMPARE(card.control<SegmentedControl>("textHorAlign")->currentIndex(), 1);
     QCOMPARE(card.control<SegmentedControl>("svgIcon")->currentIndex(), 1);
@@ -256,8 +258,8 @@ void tst_WidgetPages::setsAPropertyOfAllWidgets()
 void tst_WidgetPages::setsTheCoordinatesOfAPoint()
 {
     const Sample card("svg-widgets", 0);
-    card.control<Slider>("svgIconBottomRightPadding, across")->setValue(5);
-    card.control<Slider>("svgIconBottomRightPadding, down")->setValue(7);
+    card.control<OxaSlider>("svgIconBottomRightPadding, across")->setValue(5);
+    card.control<OxaSlider>("svgIconBottomRightPadding, down")->setValue(7);
     for (const QVariant &padding : card.values("svgIconBottomRightPadding"))
         QCOMPARE(padding.toPoint(), QPoint(5, 7));
 }
@@ -265,8 +267,8 @@ void tst_WidgetPages::setsTheCoordinatesOfAPoint()
 void tst_WidgetPages::setsThePaddingOfAnArrow()
 {
     const Sample card("forms", 2);
-    QCOMPARE(card.control<Slider>("svgDropdownIconPadding")->value(), 5);
-    card.control<Slider>("svgDropdownIconPadding")->setValue(9);
+    QCOMPARE(card.control<OxaSlider>("svgDropdownIconPadding")->value(), 5);
+    card.control<OxaSlider>("svgDropdownIconPadding")->setValue(9);
     for (const QVariant &padding : card.values("svgDropdownIconPadding"))
         QCOMPARE(padding.toInt(), 9);
 }
@@ -291,16 +293,16 @@ void tst_WidgetPages::hidesTheIcons()
 void tst_WidgetPages::showsWhatAnotherControlChanged()
 {
     const Sample card("svg-widgets", 2);
-    card.control<Slider>("anchorPadding")->setValue(17);
-    QCOMPARE(card.control<Slider>("anchorSvgOffset, across")->value(), 17);
-    card.control<Slider>("anchorSvgOffset, down")->setValue(3);
+    card.control<OxaSlider>("anchorPadding")->setValue(17);
+    QCOMPARE(card.control<OxaSlider>("anchorSvgOffset, across")->value(), 17);
+    card.control<OxaSlider>("anchorSvgOffset, down")->setValue(3);
     QCOMPARE(card.values("anchorSvgOffset").front().toPoint(), QPoint(17, 3));
 }
 
 void tst_WidgetPages::keepsAPillRoundAtAnyHeight()
 {
     const Sample card("svg-widgets", 3);
-    card.control<Slider>("setFixedHeight()")->setValue(48);
+    card.control<OxaSlider>("setFixedHeight()")->setValue(48);
     QTRY_COMPARE(card.inUse()->height(), 48);
     QVERIFY2(card.inUse()->styleSheet().contains(QLatin1String("border-radius:24px")),
              qPrintable(card.inUse()->styleSheet()));
@@ -324,6 +326,10 @@ void tst_WidgetPages::holdsAWidgetInEachOfItsStates_data()
     QTest::newRow("a radio button") << QByteArray("forms") << 4 << 5;
     QTest::newRow("a text edit") << QByteArray("forms") << 5 << 3;
     QTest::newRow("a text browser") << QByteArray("forms") << 6 << 3;
+    QTest::newRow("a slider") << QByteArray("windows") << 0 << 3;
+    QTest::newRow("a progress bar") << QByteArray("windows") << 1 << 1;
+    QTest::newRow("a field for a date and a time") << QByteArray("windows") << 3 << 3;
+    QTest::newRow("a field for a time") << QByteArray("windows") << 4 << 3;
 }
 
 void tst_WidgetPages::holdsAWidgetInEachOfItsStates()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/TestMain.h"
+#include "support/Windows.h"
 
 #include <UiElements/keyboard/TabOrderUtils.h>
 
@@ -41,12 +42,7 @@ public:
             row.addWidget(field);
     }
 
-    bool appear()
-    {
-        show();
-        activateWindow();
-        return QTest::qWaitForWindowActive(this);
-    }
+    bool appear() { return Windows::activate(*this); }
 
     QHBoxLayout row { this };
     Field first;

@@ -2,6 +2,7 @@
 #include "support/FocusLog.h"
 #include "support/RealInput.h"
 #include "support/TestMain.h"
+#include "support/Windows.h"
 
 #include <UiElements/keyboard/TabOrderUtils.h>
 #include <UiElements/layouts/SmartLayout.h>
@@ -35,9 +36,7 @@ public:
     /// Shows the window with the focus on the widget called \a name.
     bool appear(const char *name)
     {
-        show();
-        activateWindow();
-        if (!QTest::qWaitForWindowActive(this))
+        if (!Windows::activate(*this))
             return false;
         child(name)->setFocus();
         m_visited.clear();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/TestMain.h"
+#include "support/Windows.h"
 
 #include <UiElements/keyboard/TabOrderUtils.h>
 
@@ -29,12 +30,7 @@ public:
         items.addWidget(new QLabel);
     }
 
-    bool appear()
-    {
-        show();
-        activateWindow();
-        return QTest::qWaitForWindowActive(this);
-    }
+    bool appear() { return Windows::activate(*this); }
 
     QWidget *item(int index) { return items.itemAt(index)->widget(); }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Windows.h"
 #include "support/ColorSets.h"
 #include "support/Pixels.h"
 
@@ -36,9 +37,7 @@ inline void addRows(bool isButton = true)
 inline bool focusByKeyboard(QWidget &widget)
 {
     QWidget *window = widget.window();
-    window->show();
-    window->activateWindow();
-    if (!QTest::qWaitForWindowActive(window))
+    if (!Windows::activate(*window))
         return false;
     window->setAttribute(Qt::WA_KeyboardFocusChange);
     widget.setFocus(Qt::TabFocusReason);

@@ -34,6 +34,12 @@ inline bool moveTo(const QWidget &widget, const QPoint &position)
                   QString::number(onScreen.y()) });
 }
 
+/// Moves the pointer to the corner of the screen, away from windows.
+inline bool parkPointer()
+{
+    return send({ QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") });
+}
+
 /// Clicks at \a position in \a widget. Buttons are numbered as in X: 1 left, 2 middle, 3 right.
 inline bool click(const QWidget &widget, const QPoint &position, int button = 1)
 {

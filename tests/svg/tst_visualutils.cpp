@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/TestMain.h"
+#include "support/Windows.h"
 
 #include <UiElements/svg/VisualUtils.h>
 
@@ -312,9 +313,7 @@ void tst_VisualUtils::keepsAltGrTextFromAShortcut()
     const QSignalSpy activated(&shortcut, &QShortcut::activated);
     if (hasFilter)
         EventFilter::overrideShortcutOverride(&widget);
-    widget.show();
-    widget.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&widget));
+    QVERIFY(Windows::activate(widget));
     QTest::sendKeyEvent(QTest::Press, widget.windowHandle(), Qt::Key_Q, text,
                         Qt::ControlModifier | Qt::AltModifier);
     QTEST(widget.typed, "typed");

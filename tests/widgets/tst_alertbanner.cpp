@@ -110,6 +110,7 @@ private Q_SLOTS:
     void takesTextWrapAndSize();
     void wrapsALongTextInsideItself();
     void clipsALongLineWithoutWrap();
+    void paintsSharplyAtTwoDevicePixels();
     void paintsFromTheRightInARightToLeftApplication_data();
     void paintsFromTheRightInARightToLeftApplication();
     void hidesTheIconAndItsSpaceForGood();
@@ -274,6 +275,26 @@ void tst_AlertBanner::paintsBackgroundIconAndText()
     QCOMPARE(image.pixelColor(398, 54), background);
     QTEST(Pixels::countNear(image, text, iconOf(banner).geometry(), 8), "iconPixels");
     QVERIFY(Pixels::countNear(image, text, labelOf(banner).geometry()) > 20);
+}
+
+void tst_AlertBanner::paintsSharplyAtTwoDevicePixels()
+{
+    const Window window(textOf(QStringLiteral("Hello")));
+    const QImage image = Pixels::render(*window.banner, Qt::white, 2.0);
+    QCOMPARE(image.size(), 2 * window.banner->size());
+    QCOMPARE(image.pixelColor(799, 111), QColor(0xffc0c0));
+    // Half a pixel off the text's middle is one row of the device, which is cut off.
+    const QRect icon = iconOf(*window.banner).geometry();
+    const QRect area(2 * icon.topLeft(), 2 * icon.size());
+    QCOMPARE(Pixels::countNear(image, 0x800000, area, 8), 24 * 23);
+    // The text is rendered anew: enlarged, each of its pixels would be four equal ones.
+    const QImage enlarged = Pixels::render(*window.banner)
+                                    .scaled(image.size(), Qt::IgnoreAspectRatio,
+                                            Qt::FastTransformation);
+    const QRect text = labelOf(*window.banner).geometry();
+    const QRect textArea(2 * text.topLeft(), 2 * text.size());
+    QVERIFY(image.copy(textArea) != enlarged.copy(textArea));
+    QVERIFY(Pixels::countNear(image, 0x800000, textArea) > 80);
 }
 
 void tst_AlertBanner::takesTextWrapAndSize()

@@ -2,6 +2,7 @@
 #include "support/Pixels.h"
 #include "support/RealInput.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/widgets/OxaDialog.h>
 #include <UiElements/widgets/OxaSlider.h>
@@ -44,9 +45,7 @@ public:
     bool appear()
     {
         move(100, 100);
-        show();
-        activateWindow();
-        return QTest::qWaitForWindowActive(this);
+        return Windows::activate(*this);
     }
 
     OxaSlider first;
@@ -56,12 +55,7 @@ public:
 /// Returns where the X server shows a frame on \a slider.
 QRect frameOn(const OxaSlider &slider)
 {
-    const QPoint position = slider.mapTo(slider.window(), QPoint());
-    const QImage image = slider.screen()
-                                 ->grabWindow(slider.window()->winId(), position.x(), position.y(),
-                                              slider.width(), slider.height())
-                                 .toImage();
-    return Pixels::boundsNear(image, frameColor, 4);
+    return Pixels::boundsNear(Windows::onScreen(slider), frameColor, 4);
 }
 
 /// What a slot of onClose() does with the dialog.
@@ -141,9 +135,7 @@ void tst_ContainersInteraction::dialogIsClosedByTheWindowManager()
         ++emissions;
         act(*dialog);
     });
-    dialog->show();
-    dialog->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    QVERIFY(Windows::activate(*dialog));
     QVERIFY(RealInput::typeKeys({ QStringLiteral("alt+F4") }));
     QTRY_VERIFY(!dialog);
     QCOMPARE(emissions, 1);
@@ -155,9 +147,7 @@ void tst_ContainersInteraction::dialogIsClosedByEscapeWithoutTheSignal()
     const QPointer<OxaDialog> dialog = new OxaDialog;
     const QSignalSpy onClose(dialog.data(), &OxaDialog::onClose);
     const QSignalSpy rejected(dialog.data(), &QDialog::rejected);
-    dialog->show();
-    dialog->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    QVERIFY(Windows::activate(*dialog));
     QVERIFY(RealInput::typeKeys({ QStringLiteral("Escape") }));
     QTRY_VERIFY(!dialog);
     QCOMPARE(rejected.size(), 1);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaPushButton.h>
@@ -84,12 +85,7 @@ public:
             column->addWidget(widget);
     }
 
-    bool appear()
-    {
-        show();
-        activateWindow();
-        return QTest::qWaitForWindowActive(this);
-    }
+    bool appear() { return Windows::activate(*this); }
 
     Button &button(const char *name) const
     {

@@ -42,9 +42,7 @@ public:
         move(100, 100);
         show();
         activateWindow();
-        return RealInput::send(
-                       { QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") })
-                && QTest::qWaitForWindowActive(this);
+        return RealInput::parkPointer() && QTest::qWaitForWindowActive(this);
     }
 
     /// True while the button's image plays.

@@ -5,6 +5,7 @@
 #include "support/RecordingStyle.h"
 #include "support/SignalLog.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/widgets/OxaRadioButton.h>
 
@@ -38,13 +39,10 @@ public:
     /// Shows the window, with the pointer away from it.
     bool appear()
     {
-        if (!RealInput::send(
-                    { QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") }))
+        if (!RealInput::parkPointer())
             return false;
         move(100, 100);
-        show();
-        activateWindow();
-        return QTest::qWaitForWindowActive(this);
+        return Windows::activate(*this);
     }
 
     OxaCheckBox first { this };
@@ -54,25 +52,16 @@ public:
     OxaRadioButton letter { this };
 };
 
-/// Returns what the X server shows of \a widget.
-QImage onScreen(const QWidget &widget)
-{
-    const QPoint position = widget.mapTo(widget.window(), QPoint());
-    return widget.screen()
-            ->grabWindow(widget.window()->winId(), position.x(), position.y(), widget.width(),
-                         widget.height())
-            .toImage();
-}
-
 bool hasFrame(const QWidget &widget)
 {
-    return Pixels::boundsNear(onScreen(widget), dots, 4) == widget.rect();
+    return Pixels::boundsNear(Windows::onScreen(widget), dots, 4) == widget.rect();
 }
 
 /// Returns the faces in which the box of \a checkBox shows the unchecked set.
 QString faceOf(const OxaCheckBox &checkBox)
 {
-    return Faces::facesIn(onScreen(checkBox), uncheckedColors, insideOfBox(checkBox.width()));
+    return Faces::facesIn(Windows::onScreen(checkBox), uncheckedColors,
+                          insideOfBox(checkBox.width()));
 }
 
 } // namespace
@@ -141,7 +130,7 @@ void tst_OxaCheckBoxInteraction::isToggledByTheSpaceKey()
     window.first.setFocus();
     QVERIFY(RealInput::typeKeys({ QStringLiteral("space") }));
     QTRY_VERIFY(window.first.isChecked());
-    QTRY_VERIFY(Pixels::countNear(onScreen(window.first), checkedColors.focused) > 20);
+    QTRY_VERIFY(Pixels::countNear(Windows::onScreen(window.first), checkedColors.focused) > 20);
     QVERIFY(RealInput::typeKeys({ QStringLiteral("Tab"), QStringLiteral("space") }));
     QTRY_COMPARE(window.second.checkState(), Qt::PartiallyChecked);
     QVERIFY(RealInput::typeKeys({ QStringLiteral("space") }));

@@ -2,6 +2,7 @@
 #include "ComboBoxes.h"
 #include "support/RealInput.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -40,13 +41,10 @@ public:
     /// Shows the window at \a place and waits until it is active there.
     bool open(const QPoint &place = { 200, 200 })
     {
-        if (!RealInput::send(
-                    { QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") }))
+        if (!RealInput::parkPointer())
             return false;
         move(place);
-        show();
-        activateWindow();
-        return QTest::qWaitForWindowActive(this);
+        return Windows::activate(*this);
     }
 
     bool isListOpen() const { return box.view()->isVisible() && box.view()->hasFocus(); }

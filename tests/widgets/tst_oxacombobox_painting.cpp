@@ -130,8 +130,7 @@ void tst_OxaComboBoxPainting::paintsTheArrowInColorsOfItsState_data()
 void tst_OxaComboBoxPainting::paintsTheArrowInColorsOfItsState()
 {
     QFETCH(const Face, face);
-    QVERIFY(RealInput::send(
-            { QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") }));
+    QVERIFY(RealInput::parkPointer());
     OpenBox box;
     box.setFixedSize(boxSize);
     box.move(200, 200);

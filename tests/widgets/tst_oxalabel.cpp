@@ -4,6 +4,7 @@
 #include "support/PaintCounter.h"
 #include "support/Pixels.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
@@ -24,11 +25,6 @@ QPixmap shape()
         image.setPixelColor(1, y, QColor(0, 255, 0, 128));
     }
     return QPixmap::fromImage(image);
-}
-
-QImage onScreen(const OxaLabel &label)
-{
-    return label.screen()->grabWindow(label.winId()).toImage();
 }
 
 } // namespace
@@ -215,17 +211,17 @@ void tst_OxaLabel::repaintsItsMarginsTooForAnotherText()
     label.setContentsMargins(20, 2, 20, 2);
     label.resize(200, 60);
     PaintCounter paints(label);
-    const QImage empty = onScreen(label);
+    const QImage empty = Windows::onScreen(label);
     label.setText(QStringLiteral("A text that is much longer than its label is wide"));
     paints.take();
-    const QImage written = onScreen(label);
+    const QImage written = Windows::onScreen(label);
     QVERIFY(written != empty);
     label.update();
     paints.take();
-    QCOMPARE(written, onScreen(label));
+    QCOMPARE(written, Windows::onScreen(label));
     label.setText(QString());
     paints.take();
-    QCOMPARE(onScreen(label), empty);
+    QCOMPARE(Windows::onScreen(label), empty);
 }
 
 void tst_OxaLabel::recolorsItsPixmapKeepingTheShape()

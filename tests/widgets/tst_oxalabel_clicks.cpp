@@ -3,6 +3,7 @@
 #include "support/Guards.h"
 #include "support/SignalLog.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
@@ -193,9 +194,7 @@ void tst_OxaLabelClicks::emitsClickedBeforeItsLinkIsFollowedByKey()
     label.setTextFormat(Qt::RichText);
     label.setTextInteractionFlags(Qt::LinksAccessibleByKeyboard);
     label.setText(QStringLiteral("<a href=\"x\">A link</a>"));
-    label.show();
-    label.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&label));
+    QVERIFY(Windows::activate(label));
     QTest::keyClick(&label, Qt::Key_Tab);
     SignalLog log;
     log.record(&label, &OxaLabel::clicked, QStringLiteral("clicked"));

@@ -4,6 +4,7 @@
 #include "support/Pixels.h"
 #include "support/RecordingStyle.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 using namespace LabelPictures;
 
@@ -23,9 +24,7 @@ public:
     /// Shows the window and gives the label the focus.
     bool focusLabel(Qt::FocusReason reason)
     {
-        show();
-        activateWindow();
-        if (!QTest::qWaitForWindowActive(this))
+        if (!Windows::activate(*this))
             return false;
         if (reason == Qt::TabFocusReason)
             QTest::keyClick(this, Qt::Key_Tab);

@@ -4,6 +4,7 @@
 #include "support/Pixels.h"
 #include "support/RealInput.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <QScreen>
 #include <QSignalSpy>
@@ -34,32 +35,19 @@ public:
     /// Shows the window, with the pointer away from it.
     bool appear()
     {
-        if (!RealInput::send(
-                    { QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") }))
+        if (!RealInput::parkPointer())
             return false;
         move(100, 100);
-        show();
-        activateWindow();
-        return QTest::qWaitForWindowActive(this);
+        return Windows::activate(*this);
     }
 
     OxaLabel first;
     OxaLabel second;
 };
 
-/// Returns what the X server shows of \a label.
-QImage onScreen(const OxaLabel &label)
-{
-    const QPoint position = label.mapTo(label.window(), QPoint());
-    return label.screen()
-            ->grabWindow(label.window()->winId(), position.x(), position.y(), label.width(),
-                         label.height())
-            .toImage();
-}
-
 bool hasFrame(const OxaLabel &label)
 {
-    return Pixels::boundsNear(onScreen(label), dots, 4) == label.rect();
+    return Pixels::boundsNear(Windows::onScreen(label), dots, 4) == label.rect();
 }
 
 } // namespace
@@ -155,7 +143,7 @@ void tst_OxaLabelInteraction::showsItsFrameForFocusByTabOnly()
     QVERIFY(window.appear());
     QVERIFY(RealInput::click(window.first, QPoint(20, 30)));
     QTRY_VERIFY(window.first.hasFocus());
-    QTRY_COMPARE(onScreen(window.first).pixelColor(199, 59), ground);
+    QTRY_COMPARE(Windows::onScreen(window.first).pixelColor(199, 59), ground);
     QVERIFY(!hasFrame(window.first));
 
     QVERIFY(RealInput::typeKeys({ QStringLiteral("Tab") }));
@@ -174,7 +162,7 @@ void tst_OxaLabelInteraction::changesItsTextsColorUnderThePointer()
     window.first.setCSS(QStringLiteral("$textColors: ink;"));
     QVERIFY(window.appear());
     const auto isWritten = [&window](const QColor &color) {
-        return Pixels::countNear(onScreen(window.first), color, QRect(), 4) > 0;
+        return Pixels::countNear(Windows::onScreen(window.first), color, QRect(), 4) > 0;
     };
     const QColor normal(0xf0, 0x00, 0xa8);
     const QColor hovered(0x00, 0xa8, 0xf0);

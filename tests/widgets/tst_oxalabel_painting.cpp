@@ -5,6 +5,7 @@
 #include "support/Pixels.h"
 #include "support/RecordingStyle.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <QScreen>
 
@@ -365,22 +366,19 @@ void tst_OxaLabelPainting::elidesAgainWhenTheSelectionIsGone()
 
 void tst_OxaLabelPainting::elidesAnotherTextThatTakesTheSelectionAway()
 {
-    const auto onScreen = [](const OxaLabel &label) {
-        return label.screen()->grabWindow(label.winId()).toImage();
-    };
     OxaLabel label(QStringLiteral("Other words that are wider than the label is, too"));
     label.setTextInteractionFlags(Qt::TextSelectableByMouse);
     use(Path::Line, label);
     label.resize(120, 30);
     PaintCounter paints(label);
-    const QImage elided = onScreen(label);
+    const QImage elided = Windows::onScreen(label);
     label.setText(longText);
     label.setSelection(0, 6);
     paints.take();
-    QVERIFY(onScreen(label) != elided);
+    QVERIFY(Windows::onScreen(label) != elided);
     label.setText(QStringLiteral("Other words that are wider than the label is, too"));
     paints.take();
-    QCOMPARE(onScreen(label), elided);
+    QCOMPARE(Windows::onScreen(label), elided);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaLabelPainting)

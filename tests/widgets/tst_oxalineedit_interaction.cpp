@@ -4,6 +4,7 @@
 #include "support/Pixels.h"
 #include "support/RealInput.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/widgets/OxaLineEdit.h>
@@ -126,7 +127,7 @@ void tst_OxaLineEditInteraction::opensNoContextMenuWhereNoneIsWanted()
 /// Returns how many pixels of \a edit on the screen are near \a color.
 static int pixelsOnScreen(const QWidget &edit, const QColor &color)
 {
-    return Pixels::countNear(edit.screen()->grabWindow(edit.window()->winId()).toImage(), color);
+    return Pixels::countNear(Windows::onScreen(edit), color);
 }
 
 void tst_OxaLineEditInteraction::changesUnderThePointer()
@@ -136,8 +137,7 @@ void tst_OxaLineEditInteraction::changesUnderThePointer()
     OxaColorSet hint(QStringLiteral("hint"), QColor(1, 1, 1));
     hint.hovered = QColor(2, 2, 2);
     const StoreGuard stores(ColorSets::storeOf({ ground, hint }));
-    QVERIFY(RealInput::send(
-            { QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") }));
+    QVERIFY(RealInput::parkPointer());
     OxaLineEdit edit;
     edit.setCSS(QStringLiteral("$backgroundColors: ground;"));
     edit.setPlaceholderColorSetName(hint.name);
@@ -151,8 +151,7 @@ void tst_OxaLineEditInteraction::changesUnderThePointer()
     QCOMPARE(hovered.takeFirst().constFirst().toBool(), true);
     QCOMPARE(edit.palette().color(QPalette::PlaceholderText), hint.hovered);
     QTRY_VERIFY(pixelsOnScreen(edit, ground.hovered) > 1000);
-    QVERIFY(RealInput::send(
-            { QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") }));
+    QVERIFY(RealInput::parkPointer());
     QTRY_COMPARE(hovered.size(), 1);
     QCOMPARE(hovered.takeFirst().constFirst().toBool(), false);
     QCOMPARE(edit.palette().color(QPalette::PlaceholderText), hint.normal);
@@ -180,9 +179,7 @@ void tst_OxaLineEditInteraction::typesByAltGrAndDeadKeys()
 {
     const RealInput::KeyboardLayoutGuard layout(QStringLiteral("de"));
     OxaLineEdit edit;
-    edit.show();
-    edit.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&edit));
+    QVERIFY(Windows::activate(edit));
     edit.setFocus();
     const QShortcut shortcut(QKeySequence(QStringLiteral("Ctrl+Alt+Q")), &edit);
     const QSignalSpy fired(&shortcut, &QShortcut::activated);

@@ -2,6 +2,7 @@
 #include "LoadedList.h"
 #include "support/RealInput.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <QPushButton>
 #include <QStyleOptionSlider>
@@ -28,9 +29,7 @@ public:
 
     bool appear()
     {
-        show();
-        activateWindow();
-        if (!QTest::qWaitForWindowActive(this))
+        if (!Windows::activate(*this))
             return false;
         setFocus();
         takeLog();

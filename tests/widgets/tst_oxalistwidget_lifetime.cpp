@@ -2,6 +2,7 @@
 #include "LoadedList.h"
 #include "support/TestApplication.h"
 
+#include <QLineEdit>
 #include <QResizeEvent>
 
 #include <memory>
@@ -104,7 +105,7 @@ const Removal removals[] = {
 Q_DECLARE_METATYPE(const Deletion *)
 Q_DECLARE_METATYPE(const Removal *)
 
-/// Lists and rows that are deleted in slots.
+/// Lists and rows that are deleted in slots, and the focus of rows that lose their widget.
 class tst_OxaListWidgetLifetime : public QObject
 {
     Q_OBJECT
@@ -119,6 +120,8 @@ private Q_SLOTS:
     void mayLoseRowsInASlot();
     void mayLoseRowsWhileTheyAreResized();
     void keepsNoRowsOfARemovedList();
+    void takesTheFocusOfARowThatScrollsAway_data();
+    void takesTheFocusOfARowThatScrollsAway();
 
 private:
     List m_list;
@@ -195,6 +198,44 @@ void tst_OxaListWidgetLifetime::keepsNoRowsOfARemovedList()
     list.fill(3);
     list.resize(50, 100);
     QCOMPARE(list.rowsWithWidgets(), QStringLiteral("0 1 2"));
+}
+
+void tst_OxaListWidgetLifetime::takesTheFocusOfARowThatScrollsAway_data()
+{
+    QTest::addColumn<int>("margin");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<bool>("isTaken");
+    QTest::newRow("on screen") << 0 << 20 << false;
+    QTest::newRow("above") << 0 << 80 << true;
+    QTest::newRow("far above") << 0 << 1000 << true;
+    QTest::newRow("in the margin") << 2 << 80 << false;
+    QTest::newRow("above the margin") << 2 << 140 << true;
+}
+
+void tst_OxaListWidgetLifetime::takesTheFocusOfARowThatScrollsAway()
+{
+    QFETCH(const int, margin);
+    QFETCH(const int, value);
+    QFETCH(const bool, isTaken);
+    LoadedList list;
+    list.setAttribute(Qt::WA_DontShowOnScreen, false);
+    list.setLoadExtraItemsNumber(margin);
+    list.makeWidget = [&list](QListWidgetItem *item) {
+        auto *row = new QWidget;
+        new QLineEdit(row);
+        list.setItemWidget(item, row);
+    };
+    list.fill(100);
+    list.show();
+    list.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&list));
+    const QPointer<QLineEdit> edit = list.itemWidget(list.item(3))->findChild<QLineEdit *>();
+    edit->setFocus();
+    QVERIFY(edit->hasFocus());
+    list.scrollTo(value);
+    QCOMPARE(list.hasFocus(), isTaken);
+    QTRY_COMPARE(edit && edit->hasFocus(), !isTaken);
+    QCOMPARE(list.hasFocus(), isTaken);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaListWidgetLifetime)

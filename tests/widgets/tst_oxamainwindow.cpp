@@ -3,6 +3,7 @@
 #include "support/Guards.h"
 #include "support/Pixels.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/widgets/OxaMainWindow.h>
 #include <UiElements/widgets/OxaWidget.h>
@@ -115,9 +116,7 @@ void tst_OxaMainWindow::firesTheShortcutsThatTheApplicationRegisters()
     const auto *shortcut = window.findChild<OxaShortcut *>();
     QVERIFY(shortcut);
     QCOMPARE(shortcut->parent(), &window);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(Windows::activate(window));
     const QSignalSpy activated(shortcut, &QShortcut::activated);
     const int key = shortcut->key()[0];
     QTest::keyClick(&window, Qt::Key(key & ~int(Qt::KeyboardModifierMask)),

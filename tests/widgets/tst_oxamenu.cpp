@@ -3,6 +3,7 @@
 #include "support/Guards.h"
 #include "support/RealInput.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaWidget.h>
@@ -222,9 +223,7 @@ void tst_OxaMenu::choosesItsActionsByKeys()
     QFETCH(const QStringList, keys);
     QFETCH(const QString, chosen);
     QWidget window;
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(Windows::activate(window));
     OxaMenu menu(&window);
     for (const char *text : { "a", "b", "c" })
         menu.addAction(QString::fromLatin1(text));

@@ -2,6 +2,7 @@
 #include "support/Guards.h"
 #include "support/SignalLog.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/widgets/OxaPushButton.h>
 
@@ -39,9 +40,7 @@ public:
     {
         QCursor::setPos(0, 0);
         move(200, 200);
-        show();
-        activateWindow();
-        if (!QTest::qWaitForWindowActive(this))
+        if (!Windows::activate(*this))
             return false;
         second.setFocus();
         log.take();

@@ -4,6 +4,7 @@
 #include "support/RealInput.h"
 #include "support/SignalLog.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
@@ -30,12 +31,10 @@ const QString left = QStringLiteral("1");
 /// Shows \a window, with the pointer away from it. Returns whether that worked.
 bool showWindow(QWidget &window)
 {
-    if (!RealInput::send({ QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") }))
+    if (!RealInput::parkPointer())
         return false;
     window.move(100, 100);
-    window.show();
-    window.activateWindow();
-    return QTest::qWaitForWindowActive(&window);
+    return Windows::activate(window);
 }
 
 /// A window with one button of each kind, and a log of the first one's signals.
@@ -96,20 +95,11 @@ public:
     OxaPillTabButton pill;
 };
 
-/// Returns what the X server shows of \a button.
-QImage onScreen(const OxaPushButton &button)
-{
-    const QPoint position = button.mapTo(button.window(), QPoint());
-    return button.screen()
-            ->grabWindow(button.window()->winId(), position.x(), position.y(), button.width(),
-                         button.height())
-            .toImage();
-}
-
 /// Returns whether most of \a button has the colour \a color. The focus may tint a part of it.
 bool isFilled(const OxaPushButton &button, const QColor &color)
 {
-    return Pixels::countNear(onScreen(button), color) > button.width() * button.height() / 2;
+    return Pixels::countNear(Windows::onScreen(button), color)
+            > button.width() * button.height() / 2;
 }
 
 } // namespace
@@ -214,7 +204,8 @@ void tst_OxaPushButtonInteraction::takesTheFocusByTabAndIsClickedByKeys()
     QCOMPARE(window.log.take(), QStringLiteral("onFocusIn | onFocusOut"));
     // The dotted frame ends above the bottom padding.
     const QColor dots(255, 255, 255 - 200);
-    QTRY_COMPARE(Pixels::boundsNear(onScreen(window.underline), dots, 4), QRect(0, 0, 200, 58));
+    QTRY_COMPARE(Pixels::boundsNear(Windows::onScreen(window.underline), dots, 4),
+                 QRect(0, 0, 200, 58));
 }
 
 void tst_OxaPushButtonInteraction::changesUnderThePointerAsAnUnderlineButton()

@@ -3,6 +3,7 @@
 #include "support/Pixels.h"
 #include "support/RecordingStyle.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/widgets/OxaSlider.h>
 
@@ -29,9 +30,7 @@ public:
     /// Shows the window and gives the slider the focus.
     bool focusSlider(Qt::FocusReason reason)
     {
-        show();
-        activateWindow();
-        if (!QTest::qWaitForWindowActive(this))
+        if (!Windows::activate(*this))
             return false;
         if (reason == Qt::TabFocusReason)
             QTest::keyClick(this, Qt::Key_Tab);

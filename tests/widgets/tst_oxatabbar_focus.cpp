@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "TabBars.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <QLineEdit>
 #include <QVBoxLayout>
@@ -23,12 +24,7 @@ public:
         bar.setCurrentIndex(current);
     }
 
-    bool appear()
-    {
-        show();
-        activateWindow();
-        return QTest::qWaitForWindowActive(this);
-    }
+    bool appear() { return Windows::activate(*this); }
 
     QLineEdit field;
     Bar bar;

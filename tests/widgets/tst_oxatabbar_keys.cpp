@@ -3,6 +3,7 @@
 #include "support/FocusLog.h"
 #include "support/RealInput.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/keyboard/TabOrderUtils.h>
 
@@ -43,9 +44,7 @@ public:
     /// Shows the window with the focus on \a widget.
     bool appear(QWidget &widget)
     {
-        show();
-        activateWindow();
-        if (!QTest::qWaitForWindowActive(this))
+        if (!Windows::activate(*this))
             return false;
         widget.setFocus();
         visited.clear();
@@ -209,9 +208,7 @@ void tst_OxaTabBarKeys::comesBackToTheTabThatHadTheFocus()
         QVERIFY(type("Escape"));
         QTRY_VERIFY(!menu.isVisible());
     } else {
-        other.show();
-        other.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY(Windows::activate(other));
         QVERIFY(!window.isActiveWindow());
         other.close();
     }

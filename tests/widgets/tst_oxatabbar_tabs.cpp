@@ -5,7 +5,6 @@
 #include "support/PaintCounter.h"
 #include "support/TestApplication.h"
 
-#include <QAccessible>
 #include <QLayout>
 
 using TabBars::Bar;
@@ -49,7 +48,6 @@ private Q_SLOTS:
     void returnsWhereATabIs();
     void spacesItsTabs();
     void returnsOnlyButtonsOfOursAsTabs();
-    void tellsScreenReadersWhatItsTabsAre();
 };
 
 void tst_OxaTabBarTabs::setsAndReturnsWhatATabHas_data()
@@ -205,30 +203,6 @@ void tst_OxaTabBarTabs::returnsOnlyButtonsOfOursAsTabs()
     bar.setCurrentIndex(0);
     QCOMPARE(bar.currentIndex(), 0);
     QCOMPARE(plain->focusPolicy(), Qt::StrongFocus);
-}
-
-void tst_OxaTabBarTabs::tellsScreenReadersWhatItsTabsAre()
-{
-    OxaTabBar bar;
-    bar.addTab(QStringLiteral("a"), QStringLiteral("inbox, 3 unread"));
-    bar.addTab(QStringLiteral("b"));
-    bar.setTabEnabled(1, false);
-    bar.setCurrentIndex(0);
-    QAccessibleInterface *list = QAccessible::queryAccessibleInterface(&bar);
-    QCOMPARE(list->childCount(), 2);
-    QAccessibleInterface *first = list->child(0);
-    // The roles of a tab list and its tabs need interfaces of the application's.
-    QCOMPARE(list->role(), QAccessible::Client);
-    QCOMPARE(first->role(), QAccessible::CheckBox);
-    QCOMPARE(first->text(QAccessible::Name), QStringLiteral("inbox, 3 unread"));
-    QCOMPARE(first->text(QAccessible::Description), QStringLiteral("inbox, 3 unread"));
-    QVERIFY(first->state().checkable);
-    QVERIFY(first->state().checked);
-    // Without a name of its own a tab has its text's.
-    QAccessibleInterface *second = list->child(1);
-    QCOMPARE(second->text(QAccessible::Name), QStringLiteral("b"));
-    QVERIFY(!second->state().checked);
-    QVERIFY(second->state().disabled);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaTabBarTabs)

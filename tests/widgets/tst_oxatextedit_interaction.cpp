@@ -4,6 +4,7 @@
 #include "support/Pixels.h"
 #include "support/RealInput.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/widgets/OxaTextEdit.h>
 
@@ -33,12 +34,7 @@ public:
         move(100, 100);
     }
 
-    bool comesToTheFront()
-    {
-        show();
-        activateWindow();
-        return QTest::qWaitForWindowActive(this);
-    }
+    bool comesToTheFront() { return Windows::activate(*this); }
 
     OxaTextEdit first;
     OxaTextEdit second;
@@ -47,7 +43,7 @@ public:
 /// Returns how much of \a menu the X server shows in the menu's colour.
 int countMenuColor(const QMenu &menu)
 {
-    return Pixels::countNear(menu.screen()->grabWindow(menu.winId()).toImage(), menuColor);
+    return Pixels::countNear(Windows::onScreen(menu), menuColor);
 }
 
 } // namespace

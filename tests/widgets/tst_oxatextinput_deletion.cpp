@@ -3,6 +3,7 @@
 #include "support/Guards.h"
 #include "support/SvgFiles.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <QHoverEvent>
 #include <QPointer>
@@ -23,9 +24,7 @@ struct Family
     {
         window->resize(200, 100);
         field->setGeometry(0, 40, 200, 40);
-        window->show();
-        window->activateWindow();
-        if (!QTest::qWaitForWindowActive(window))
+        if (!Windows::activate(*window))
             qFatal("The window is not active.");
         other->setFocus();
     }

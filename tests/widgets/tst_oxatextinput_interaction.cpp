@@ -5,6 +5,7 @@
 #include "support/RealInput.h"
 #include "support/SvgFiles.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <QClipboard>
 #include <QInputMethodEvent>
@@ -22,7 +23,7 @@ const QString left = QStringLiteral("1");
 /// Shows \a window, with the pointer away from it. Returns whether that worked.
 bool showWindow(Window &window)
 {
-    if (!RealInput::send({ QStringLiteral("mousemove"), QStringLiteral("0"), QStringLiteral("0") }))
+    if (!RealInput::parkPointer())
         return false;
     window.move(100, 100);
     return window.open();
@@ -31,12 +32,7 @@ bool showWindow(Window &window)
 /// Returns how many pixels of \a field on the screen are near \a color.
 int pixelsOnScreen(const OxaTextInput &field, const QColor &color)
 {
-    const QPoint position = field.mapTo(field.window(), QPoint());
-    const QImage image = field.screen()
-                                 ->grabWindow(field.window()->winId(), position.x(), position.y(),
-                                              field.width(), field.height())
-                                 .toImage();
-    return Pixels::countNear(image, color);
+    return Pixels::countNear(Windows::onScreen(field), color);
 }
 
 /// Drops \a text on \a widget as another program does.

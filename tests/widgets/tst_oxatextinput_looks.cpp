@@ -2,6 +2,7 @@
 #include "TextInputParts.h"
 #include "support/Guards.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <QSignalSpy>
 
@@ -267,9 +268,7 @@ void tst_OxaTextInputLooks::insertsNoTab()
     QWidget window; // Where Tab has nowhere else to go.
     OxaTextInput *field = makeField(&window);
     record(log, field);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(Windows::activate(window));
     field->setFocus();
     log.take();
     QTest::sendKeyEvent(QTest::Click, &textOf(*field), Qt::Key_Tab, QStringLiteral("\t"),

@@ -56,7 +56,6 @@ private Q_SLOTS:
     void mirrorsItsMargins();
     void setsItsBackgroundAndKeepsTheRest();
     void setsItsRadiusAndKeepsTheRest();
-    void tellsScreenReadersTheNamesOfItems();
 
 private:
     std::unique_ptr<StoreGuard> m_stores;
@@ -344,20 +343,6 @@ void tst_OxaVMenu::setsItsRadiusAndKeepsTheRest()
     QCOMPARE(int(style.borderWidth), 1);
     QCOMPARE(int(style.borderRadius), 12);
     QCOMPARE(style.radiusCorner, 0);
-}
-
-void tst_OxaVMenu::tellsScreenReadersTheNamesOfItems()
-{
-    OxaVMenu menu;
-    const auto item = menu.addMenuItem(&doNothing);
-    item->setText(QStringLiteral("Leave"));
-    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&menu);
-    QCOMPARE(interface->childCount(), 1);
-    QCOMPARE(interface->child(0)->text(QAccessible::Name), QStringLiteral("Leave"));
-    // The role that the item stores needs an interface of the application's.
-    QCOMPARE(interface->child(0)->role(), QAccessible::Button);
-    QVERIFY(interface->child(0)->state().focusable);
-    QVERIFY(!interface->child(0)->state().checkable);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaVMenu)

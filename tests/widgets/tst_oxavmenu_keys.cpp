@@ -4,6 +4,7 @@
 #include "support/Guards.h"
 #include "support/RealInput.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/ContainerWidget.h>
@@ -32,9 +33,7 @@ public:
         for (QWidget *each : { static_cast<QWidget *>(&before), static_cast<QWidget *>(&column),
                                static_cast<QWidget *>(&after) })
             rows->addWidget(each);
-        show();
-        activateWindow();
-        if (!QTest::qWaitForWindowActive(this))
+        if (!Windows::activate(*this))
             return false;
         widget.setFocus();
         visited.clear();

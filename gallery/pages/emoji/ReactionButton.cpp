@@ -3,8 +3,11 @@
 
 #include "looks/Metrics.h"
 
-ReactionButton::ReactionButton(const QString &emoji, int count, QWidget *parent)
-    : OxaEmojiPushButton(parent, QAccessible::Button), m_emoji(emoji), m_count(count)
+ReactionButton::ReactionButton(const QString &emoji, int count, QWidget *parent, bool isMine)
+    : OxaEmojiPushButton(parent, QAccessible::Button),
+      m_emoji(emoji),
+      m_count(count + (isMine ? 1 : 0)),
+      m_isMine(isMine)
 {
     setFocusPolicy(Qt::TabFocus);
     setCursor(Qt::PointingHandCursor);

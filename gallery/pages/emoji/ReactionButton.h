@@ -9,7 +9,8 @@ class ReactionButton : public OxaEmojiPushButton
     Q_OBJECT
 
 public:
-    ReactionButton(const QString &emoji, int count, QWidget *parent = nullptr);
+    /// Shows that \a count others have given \a emoji, and the user if \a isMine is true.
+    ReactionButton(const QString &emoji, int count, QWidget *parent = nullptr, bool isMine = false);
 
     QSize sizeHint() const override;
 
@@ -19,5 +20,5 @@ private:
 
     const QString m_emoji;
     int m_count;
-    bool m_isMine = false;
+    bool m_isMine;
 };

@@ -6,8 +6,6 @@
 #include "widgets/EmptyState.h"
 #include "widgets/ListView.h"
 
-#include <QStackedLayout>
-
 namespace {
 
 constexpr int listHeight = 272;
@@ -15,20 +13,18 @@ constexpr int listHeight = 272;
 } // namespace
 
 ConversationList::ConversationList(ConversationModel *model, QWidget *parent)
-    : OxaWidget(parent),
-      m_view(new ListView(model, new RowDelegate, this)),
-      m_stack(new QStackedLayout(this))
+    : OxaStackedWidget(parent), m_view(new ListView(model, new RowDelegate, this))
 {
     auto *emptyState = new EmptyState(model->property("emptyStateSubtitle").toString(),
                                       tr("Start some"), this);
     emptyState->setSummary(model->property("emptyStateHeader").toString());
     m_view->setAccessibleName(tr("Conversations"));
     m_view->setUniformItemSizes(true);
-    m_stack->addWidget(m_view);
-    m_stack->addWidget(emptyState);
+    addWidget(m_view);
+    addWidget(emptyState);
     setMinimumHeight(listHeight);
 
-    const auto showCount = [this](int count) { m_stack->setCurrentIndex(count > 0 ? 0 : 1); };
+    const auto showCount = [this](int count) { setCurrentIndex(count > 0 ? 0 : 1); };
     connect(model, &ConversationModel::countChanged, this, showCount);
     connect(emptyState, &EmptyState::actionTriggered, this, &ConversationList::fillRequested);
     showCount(model->getCount());

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <UiElements/widgets/OxaWidget.h>
+#include <UiElements/widgets/OxaStackedWidget.h>
 
 class ConversationModel;
 class ListView;
-class QStackedLayout;
 
 /// A list of conversations, or the model's texts for the empty state.
-class ConversationList : public OxaWidget
+class ConversationList : public OxaStackedWidget
 {
     Q_OBJECT
 
@@ -24,5 +23,4 @@ Q_SIGNALS:
 
 private:
     ListView *m_view;
-    QStackedLayout *m_stack;
 };

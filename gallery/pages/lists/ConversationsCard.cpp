@@ -9,12 +9,13 @@
 #include "looks/Metrics.h"
 #include "widgets/Buttons.h"
 #include "widgets/CodeEdit.h"
+#include "widgets/Fields.h"
 #include "widgets/Labels.h"
 #include "widgets/ListView.h"
-#include "widgets/Slider.h"
 #include "widgets/WrapLayout.h"
 
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <QHBoxLayout>
 
@@ -35,7 +36,7 @@ ConversationsCard::ConversationsCard(QWidget *parent)
       m_recorder(new ModelRecorder(m_model, this)),
       m_list(new ConversationList(m_model, this)),
       m_log(new CodeEdit(this)),
-      m_share(new Slider(0, 100, 25, this))
+      m_share(Fields::slider(0, 100, 25, this))
 {
     body()->addLayout(makeLists(), 1);
     body()->addLayout(makeButtons());
@@ -80,7 +81,7 @@ QLayout *ConversationsCard::makeReplaceRow()
     OxaLabel *caption = Labels::caption(text(m_share->value()), this);
     m_share->setAccessibleName(tr("Share of changed rows"));
     m_share->setFixedWidth(sliderWidth);
-    connect(m_share, &Slider::valueChanged, caption,
+    connect(m_share, &OxaSlider::valueChanged, caption,
             [caption, text](int percent) { caption->setText(text(percent)); });
     auto *row = new WrapLayout(Metrics::small);
     addButton(row, tr("Replace"), "replace", &ConversationsCard::replace);

@@ -9,7 +9,7 @@ class ConversationModel;
 class ModelRecorder;
 class QHBoxLayout;
 class QLayout;
-class Slider;
+class OxaSlider;
 
 /// A list of conversations, buttons that change it, and a log of what its model emits.
 class ConversationsCard : public Card
@@ -40,7 +40,7 @@ private:
     ModelRecorder *m_recorder;
     ConversationList *m_list;
     CodeEdit *m_log;
-    Slider *m_share;
+    OxaSlider *m_share;
     int m_made = 0;
     int m_step = 0;
 };

@@ -12,11 +12,12 @@
 #include "widgets/Card.h"
 #include "widgets/ColumnsLayout.h"
 #include "widgets/ControlRow.h"
+#include "widgets/Fields.h"
 #include "widgets/Labels.h"
-#include "widgets/Slider.h"
 
 #include <UiElements/models/SmallListModel.h>
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <QVBoxLayout>
 
@@ -60,8 +61,8 @@ Card *makeOverflow()
     QObject::connect(people, &OverflowListProxyModel::rowsInserted, hidden, showHidden);
     QObject::connect(people, &OverflowListProxyModel::rowsRemoved, hidden, showHidden);
     showHidden();
-    auto *width = new Slider(OverflowBar::leastWidth(), bar->fullWidth(), firstWidth);
-    QObject::connect(width, &Slider::valueChanged, bar, &QWidget::setFixedWidth);
+    OxaSlider *width = Fields::slider(OverflowBar::leastWidth(), bar->fullWidth(), firstWidth);
+    QObject::connect(width, &OxaSlider::valueChanged, bar, &QWidget::setFixedWidth);
     card->body()->addWidget(bar);
     card->body()->addWidget(new ControlRow(tr("Width"), width));
     card->body()->addWidget(hidden);

@@ -3,13 +3,12 @@
 
 #include "PaintedItemController.h"
 #include "looks/Metrics.h"
-#include "specimens/WidgetCard.h"
+#include "specimens/EmissionLog.h"
 
 #include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/qml/OxaQuickWidget.h>
 #include <UiElements/theme/OxaThemeUtils.h>
 
-#include <QQuickPaintedItem>
 #include <QVBoxLayout>
 
 namespace {
@@ -55,9 +54,10 @@ void PaintedItemCard::showItem(PaintedItemController *controller)
     column->setSpacing(Metrics::spacing);
     auto *controls = new PropertyControls(controller->item());
     column->addWidget(controls);
-    column->addWidget(WidgetCard::makeLog(controller->item(),
-                                          QQuickPaintedItem::staticMetaObject.methodCount(),
-                                          controls));
+    auto *log = new EmissionLog;
+    log->follow(controller->item());
+    connect(log, &EmissionLog::noted, controls, &PropertyControls::refresh);
+    column->addWidget(log);
     body()->addWidget(m_panel);
 
     addColor(controls, "backgroundColor", &m_background,

@@ -3,6 +3,7 @@
 
 #include <UiElements/app/OxaAppSignals.h>
 
+#include <QAction>
 #include <QMetaEnum>
 #include <QMetaMethod>
 
@@ -47,6 +48,8 @@ QString textOf(const QVariant &value)
 {
     return value.isValid() ? quoted(value.toString()) : QStringLiteral("invalid");
 }
+
+QString textOf(QAction *action) { return action ? quoted(action->text()) : QStringLiteral("null"); }
 
 QString textOf(const QVariantMap &values)
 {
@@ -126,6 +129,7 @@ const Type types[] = {
     TYPE(QRectF),
     TYPE(QVariant),
     TYPE(QVariantMap),
+    typeOf<QAction *>("QAction*"),
     typeOf<QWidget *>("QWidget*"),
     typeOf<QWindow *>("QWindow*"),
     TYPE(Qt::ArrowType),
@@ -157,7 +161,10 @@ const Type *findType(const QByteArray &name)
 QString SignalArguments::text(const QByteArray &typeName, const void *value)
 {
     const Type *type = findType(typeName);
-    return type ? type->text(value) : QStringLiteral("?");
+    if (type)
+        return type->text(value);
+    const QString text = QVariant(QMetaType::type(typeName), value).toString();
+    return text.isEmpty() ? QStringLiteral("?") : text;
 }
 
 bool SignalArguments::emitWithDefaults(QObject *sender, const QMetaMethod &signal)

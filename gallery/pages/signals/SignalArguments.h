@@ -11,7 +11,8 @@ class QObject;
 namespace SignalArguments {
 
 /// Returns the value at \a value as a short text: a string in quotation marks, a pointer as "null"
-/// or the class of what it points to. A type that no signal has gives "?".
+/// or the class of what it points to. A type that neither the hub's signals have nor Qt can turn
+/// into text gives "?".
 QString text(const QByteArray &typeName, const void *value);
 
 /// Emits \a signal of \a sender with a default-constructed value for each argument. Returns false,

@@ -12,8 +12,13 @@ Page *makeLabels(QWidget *parent);
 Page *makeButtons(QWidget *parent);
 Page *makeForms(QWidget *parent);
 Page *makeSvgWidgets(QWidget *parent);
+Page *makeTabs(QWidget *parent);
+Page *makeNotices(QWidget *parent);
 Page *makeEmojiText(QWidget *parent);
 Page *makeLists(QWidget *parent);
+Page *makeLongList(QWidget *parent);
+Page *makeMovies(QWidget *parent);
+Page *makeWindows(QWidget *parent);
 Page *makePaintedItems(QWidget *parent);
 
 } // namespace Pages
