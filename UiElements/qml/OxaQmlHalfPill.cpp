@@ -71,6 +71,7 @@ void OxaQmlHalfPill::drawRect(QPainter *painter, const QSizeF &size) const
     painter->drawRect(rect);
 }
 
+// NOLINTNEXTLINE(readability-function-size): each side has a parameter of its own
 void OxaQmlHalfPill::drawBorders(QPainter *painter, const QSizeF &size, const QColor &color,
                                  int width, bool left, bool top, bool right, bool bottom) const
 {

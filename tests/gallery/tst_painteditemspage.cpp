@@ -6,6 +6,7 @@
 #include <UiElements/qml/OxaQmlHalfPill.h>
 #include <UiElements/qml/OxaQuickWidget.h>
 #include <UiElements/theme/OxaThemeUtils.h>
+#include <UiElements/widgets/OxaSlider.h>
 
 #include <QMetaProperty>
 #include <QQuickItem>
@@ -15,7 +16,6 @@
 #include <shell/Page.h>
 #include <specimens/PropertyControls.h>
 #include <widgets/CodeEdit.h>
-#include <widgets/Slider.h>
 
 namespace {
 
@@ -44,7 +44,10 @@ public:
         return *view().rootObject()->findChild<Item *>();
     }
 
-    Slider &slider(const char *name) const { return *Controls::called<Slider>(controls(), name); }
+    OxaSlider &slider(const char *name) const
+    {
+        return *Controls::called<OxaSlider>(controls(), name);
+    }
     void choose(const char *name, const char *text) const
     {
         Controls::choose(controls(), name, text);

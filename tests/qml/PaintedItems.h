@@ -41,6 +41,8 @@ public:
         m_window.resize(size);
         m_control.initialize(nullptr);
     }
+    ~Stage() { m_control.invalidate(); } // The window would leave the pictures of its items behind.
+    Q_DISABLE_COPY_MOVE(Stage)
 
     qreal devicePixelRatio() const { return m_window.effectiveDevicePixelRatio(); }
 
