@@ -14,6 +14,7 @@
 #include <UiElements/movies/OxaGifLabel.h>
 #include <UiElements/movies/OxaMovieProvider.h>
 #include <UiElements/movies/OxaMovieProviderSource.h>
+#include <UiElements/qml/OxaQuickWidget.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
@@ -162,6 +163,7 @@ const std::vector<Subject> &subjects()
         subject<OxaMovie>(),
         subjectWithoutParent<OxaMovieProvider>(),
         subject<OxaMovieProviderSource>(),
+        subject<OxaQuickWidget>(),
         subject<OxaSvgRenderer>(),
         subjectWithoutParent<OxaSvgIcon>(),
         subject<OxaScaledFonts>(),
