@@ -40,13 +40,8 @@ OxaQuickView::OxaQuickView(OxaQmlEngine *engine, QWindow *parent, const ViewOpti
 {
     setIcon(AppUtils::getDialogIcon(parent != nullptr));
     setViewOptions(options);
-    const auto showAndActivate = [this] {
-        const QPointer<OxaQuickView> self(this); // A slot of a shown window may delete it.
-        show();
-        if (self)
-            requestActivate();
-    };
-    connect(this, &OxaQuickView::_dispatchShow, this, showAndActivate, Qt::QueuedConnection);
+    connect(this, &OxaQuickView::_dispatchShow, this, &OxaQuickView::showAndActivate,
+            Qt::QueuedConnection);
 }
 
 // Rendering that goes on while the base class is destroyed must not reach the timer.
@@ -104,6 +99,14 @@ void OxaQuickView::showAt(const QWidget *widget, QScreen *screen)
         return;
     const QPoint centre = widget->mapToGlobal(widget->rect().center());
     showAt(centre + QPoint(-(width() / 2), widget->height() / 2), screen);
+}
+
+void OxaQuickView::showAndActivate()
+{
+    const QPointer<OxaQuickView> self(this); // A slot of a shown window may delete it.
+    show();
+    if (self)
+        requestActivate();
 }
 
 void OxaQuickView::callControllerCallback(const std::function<void(OxaQmlController *)> &callback)

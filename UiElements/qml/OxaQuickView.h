@@ -119,6 +119,7 @@ private Q_SLOTS:
     void updateSize();
 
 private:
+    void showAndActivate();
     bool staysForActiveWindow();
 
     ViewOptions m_viewOptions;

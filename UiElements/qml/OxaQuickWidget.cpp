@@ -15,7 +15,7 @@
 namespace {
 
 /// The id of the item that marks where the keyboard focus leaves the QML.
-constexpr auto borderId = QLatin1String("breakQmlFocus");
+constexpr char borderId[] = "breakQmlFocus";
 
 /// Returns the id of \a item in its QML file. Empty without one, and for null.
 QString idOf(QQuickItem *item)
@@ -78,7 +78,7 @@ bool OxaQuickWidget::leavesQml(int key)
     if (key != Qt::Key_Tab && key != Qt::Key_Backtab)
         return false;
     const auto [id, item] = getNextFocusItem(key == Qt::Key_Tab);
-    if (id != borderId)
+    if (id != QLatin1String(borderId))
         return false;
     if (!m_breakFocusItem)
         m_breakFocusItem = item;

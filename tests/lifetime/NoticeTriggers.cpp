@@ -6,6 +6,7 @@
 #include <UiElements/movies/IOxaMovieProviderSource.h>
 #include <UiElements/movies/OxaGifLabel.h>
 #include <UiElements/movies/OxaMovieProvider.h>
+#include <UiElements/qml/OxaQuickWidget.h>
 #include <UiElements/widgets/AlertBanner.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaNotification.h>
@@ -129,6 +130,22 @@ void addMovieRows(SignalTriggers &rows)
     }
 }
 
+/// Gives the widget the focus, which its window does not have.
+void focusIn(OxaQuickWidget &widget)
+{
+    widget.setCustomAccessibilityEnabled(true);
+    widget.window()->winId(); // Makes the window.
+    send(widget, QFocusEvent(QEvent::FocusIn));
+}
+
+void addQuickWidgetRows(SignalTriggers &rows)
+{
+    rows.push_back(row<OxaQuickWidget>(
+            "focusAboutToChange()", "a change of the focus",
+            [](OxaQuickWidget &widget) { send(widget, QEvent(QEvent::FocusAboutToChange)); },
+            &focusIn));
+}
+
 } // namespace
 
 void addNoticeTriggers(SignalTriggers &rows)
@@ -137,4 +154,5 @@ void addNoticeTriggers(SignalTriggers &rows)
     addNotificationRows(rows);
     addPopupRows(rows);
     addMovieRows(rows);
+    addQuickWidgetRows(rows);
 }

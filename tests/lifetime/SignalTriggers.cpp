@@ -9,6 +9,7 @@
 #include <UiElements/fonts/OxaScaledFonts.h>
 #include <UiElements/keyboard/OxaKeyEvent.h>
 #include <UiElements/movies/IOxaMovieProviderSource.h>
+#include <UiElements/qml/OxaQuickWidget.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
@@ -255,6 +256,9 @@ bool isLeftOut(const QMetaObject *metaObject, const QMetaMethod &signal)
     // The button's handlers replace the label's.
     if (metaObject->inherits(&OxaEmojiPushButton::staticMetaObject)
         && signal == QMetaMethod::fromSignal(&OxaLabel::clicked))
+        return true;
+    // Qt goes on rendering after this one.
+    if (signal == QMetaMethod::fromSignal(&OxaQuickWidget::finishedRendering))
         return true;
     return isNeverEmitted(signal);
 }

@@ -50,7 +50,7 @@ bool isNeverEmitted(const QMetaMethod &signal);
 /// Adds the triggers of tab bars and menus to \a rows.
 void addMenuTriggers(SignalTriggers &rows);
 
-/// Adds the triggers of banners, notifications and movies to \a rows.
+/// Adds the triggers of banners, notifications, movies and QML widgets to \a rows.
 void addNoticeTriggers(SignalTriggers &rows);
 
 /// Adds the triggers of the list models to \a rows.

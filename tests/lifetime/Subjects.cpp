@@ -18,6 +18,7 @@
 #include <UiElements/qml/OxaQmlDialogController.h>
 #include <UiElements/qml/OxaQmlHalfPill.h>
 #include <UiElements/qml/OxaQmlPopupController.h>
+#include <UiElements/qml/OxaQuickWidget.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
@@ -176,6 +177,7 @@ const std::vector<Subject> &subjects()
         subject<OxaMovie>(),
         subjectWithoutParent<OxaMovieProvider>(),
         subject<OxaMovieProviderSource>(),
+        subject<OxaQuickWidget>(),
         subject<OxaSvgRenderer>(),
         subjectWithoutParent<OxaSvgIcon>(),
         subject<OxaScaledFonts>(),
