@@ -7,7 +7,7 @@
 
 #include <pages/windows/SecondWindow.h>
 #include <shell/NavigationList.h>
-#include <specimens/SignalLog.h>
+#include <specimens/EmissionLog.h>
 
 /// The gallery's shortcuts, dialogs and further windows, with keys that come from the X server.
 class tst_GalleryWindow_shortcuts : public QObject
@@ -187,7 +187,7 @@ void tst_GalleryWindow_shortcuts::followsAShortcutInASecondWindow()
     const QPointer<SecondWindow> second = shown.window.findChild<SecondWindow *>();
     QVERIFY(QTest::qWaitForWindowActive(second));
     QVERIFY(RealInput::typeKeys({ QStringLiteral("ctrl+m") }));
-    QTRY_COMPARE(second->findChild<SignalLog *>()->toPlainText(),
+    QTRY_COMPARE(second->findChild<EmissionLog *>()->toPlainText(),
                  QStringLiteral("toggleAudioMute()"));
     Controls::withText(*second, "Close")->setFocus(Qt::TabFocusReason);
     QVERIFY(RealInput::typeKeys({ QStringLiteral("space") }));

@@ -18,7 +18,7 @@
 #include <shell/Page.h>
 #include <shell/PageRegistry.h>
 #include <shell/ShortcutsDialog.h>
-#include <specimens/SignalLog.h>
+#include <specimens/EmissionLog.h>
 #include <support/RealInput.h>
 #include <widgets/Dialog.h>
 
@@ -41,7 +41,7 @@ struct Shown
     /// Returns what the dialogs have emitted.
     QStringList log() const
     {
-        return page->findChild<SignalLog *>()->toPlainText().split(QLatin1Char('\n'));
+        return page->findChild<EmissionLog *>()->toPlainText().split(QLatin1Char('\n'));
     }
 
     /// Returns the name that the first dialog asks for.
@@ -98,7 +98,8 @@ void tst_WindowsPage::logsTheShortcutsInASecondWindow()
     const QPointer<SecondWindow> second = shown.window.findChild<SecondWindow *>();
     QVERIFY(second && second->isVisible());
     Q_EMIT OxaAppSignals::get()->toggleAudioMute();
-    QCOMPARE(second->findChild<SignalLog *>()->toPlainText(), QStringLiteral("toggleAudioMute()"));
+    QCOMPARE(second->findChild<EmissionLog *>()->toPlainText(),
+             QStringLiteral("toggleAudioMute()"));
     Controls::withText(*second, "Close")->click();
     deleteClosed();
     QVERIFY(!second);
