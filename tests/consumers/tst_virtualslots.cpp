@@ -8,6 +8,9 @@
 #include <UiElements/models/LazyLoadedListModel.h>
 #include <UiElements/models/OverflowListProxyModel.h>
 #include <UiElements/movies/OxaMovieProviderSource.h>
+#include <UiElements/qml/DialogContext.h>
+#include <UiElements/qml/OxaQmlEngine.h>
+#include <UiElements/qml/PopupContext.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/ContainerWidget.h>
 #include <UiElements/widgets/OxaCheckBox.h>
@@ -70,6 +73,12 @@ struct OpenThemed : Widget
 struct OpenLayout : FlowLayout
 {
     using FlowLayout::doLayout;
+};
+
+struct OpenContext : OxaQuickViewContext
+{
+    using OxaQuickViewContext::instantiateOxaQuickView;
+    using OxaQuickViewContext::removeOxaQuickView;
 };
 
 /// Adds a virtual function to \a Base: its slot is the number of slots that Base has.
@@ -191,6 +200,13 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
     addRow<IOxaMovieProviderSource, QObject>({ slotOf(&IOxaMovieProviderSource::fetchMovie) });
     addRow<OxaMovieProviderSource, IOxaMovieProviderSource>({});
     addRow<OxaMovie, QMovie>({});
+    addRow<OxaQmlEngine, QQmlEngine>({});
+    addRow<OxaQuickViewContext, OxaObject>({
+            slotOf(&OpenContext::removeOxaQuickView),
+            slotOf(&OpenContext::instantiateOxaQuickView),
+    });
+    addRow<DialogContext, OxaQuickViewContext>({});
+    addRow<PopupContext, OxaQuickViewContext>({});
     addRow<BaseListModel, QAbstractListModel>({});
     addRow<LazyLoadedListModel, QAbstractListModel>({});
     addRow<OverflowListProxyModel, QSortFilterProxyModel>({});
