@@ -15,5 +15,7 @@ Page *makeSvgWidgets(QWidget *parent);
 Page *makeEmojiText(QWidget *parent);
 Page *makeLists(QWidget *parent);
 Page *makePaintedItems(QWidget *parent);
+Page *makeQmlViews(QWidget *parent);
+Page *makeHoverCards(QWidget *parent);
 
 } // namespace Pages
