@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "GalleryApplication.h"
 
+#include "GalleryQmlEngine.h"
 #include "GalleryWindow.h"
 #include "PageRegistry.h"
 #include "Screenshots.h"
@@ -51,6 +52,7 @@ GalleryApplication::GalleryApplication(int &argc, char **argv)
     setApplicationVersion(QStringLiteral(UIELEMENTS_VERSION));
     setApplicationDisplayName(tr("UiElements Gallery"));
     setStyle(new FocusFrameStyle);
+    OxaQmlEngine::setFactory([]() -> OxaQmlEngine * { return new GalleryQmlEngine; });
     substituteFonts();
     // QML among widgets is painted as they are, so that it needs no OpenGL.
     if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))

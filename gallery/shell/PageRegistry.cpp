@@ -60,6 +60,8 @@ const std::vector<PageEntry> &pageEntries()
         entry("focus", tr("Focus"), behaviour, make<FocusPage>),
         entry("signals", tr("Signals"), behaviour, make<SignalsPage>),
         entry("painted-items", tr("Painted items"), qml, Pages::makePaintedItems),
+        entry("qml-views", tr("QML views"), qml, Pages::makeQmlViews),
+        entry("hover-cards", tr("Hover cards"), qml, Pages::makeHoverCards),
     };
     return entries;
 }

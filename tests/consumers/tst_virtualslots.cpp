@@ -11,10 +11,13 @@
 #include <UiElements/movies/OxaGifLabel.h>
 #include <UiElements/movies/OxaMovieProvider.h>
 #include <UiElements/movies/OxaMovieProviderSource.h>
+#include <UiElements/qml/DialogContext.h>
 #include <UiElements/qml/OxaQmlBalloon.h>
 #include <UiElements/qml/OxaQmlDialogController.h>
+#include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/qml/OxaQmlHalfPill.h>
 #include <UiElements/qml/OxaQmlPopupController.h>
+#include <UiElements/qml/PopupContext.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/AlertBanner.h>
 #include <UiElements/widgets/ContainerWidget.h>
@@ -80,6 +83,12 @@ struct OpenThemed : Widget
 struct OpenLayout : FlowLayout
 {
     using FlowLayout::doLayout;
+};
+
+struct OpenContext : OxaQuickViewContext
+{
+    using OxaQuickViewContext::instantiateOxaQuickView;
+    using OxaQuickViewContext::removeOxaQuickView;
 };
 
 /// Adds a virtual function to \a Base: its slot is the number of slots that Base has.
@@ -207,6 +216,13 @@ void tst_VirtualSlots::followThoseOfTheBaseClassInOrder_data()
     addRow<OxaMovieProvider, QObject>({});
     addRow<OxaGifLabel, OxaLabel>({});
     addRow<OxaGifButton, OxaPushButton>({});
+    addRow<OxaQmlEngine, QQmlEngine>({});
+    addRow<OxaQuickViewContext, OxaObject>({
+            slotOf(&OpenContext::removeOxaQuickView),
+            slotOf(&OpenContext::instantiateOxaQuickView),
+    });
+    addRow<DialogContext, OxaQuickViewContext>({});
+    addRow<PopupContext, OxaQuickViewContext>({});
     addRow<BaseListModel, QAbstractListModel>({});
     addRow<LazyLoadedListModel, QAbstractListModel>({});
     addRow<OverflowListProxyModel, QSortFilterProxyModel>({});

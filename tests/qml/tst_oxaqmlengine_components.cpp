@@ -161,6 +161,8 @@ void tst_OxaQmlEngine_Components::surviveACallbackThatDeletes()
     const QPointer<QObject> parent = new QObject;
     QPointer<OxaQmlEngine> engine = fixture.engine();
     bool isCalled = false;
+    bool isKept = false;
+    QPointer<QQmlComponent> component;
     OxaQmlEngine::createQmlComponent(QStringLiteral("Controlled.qml"), parent, {},
                                      [&](QObject *object, OxaQmlController *controller) {
                                          isCalled = true;
@@ -171,12 +173,17 @@ void tst_OxaQmlEngine_Components::surviveACallbackThatDeletes()
                                              { QStringLiteral("controller"), controller }
                                          };
                                          delete all.value(victim);
+                                         isKept = !component.isNull(); // Qt still uses it.
                                      });
+    component = parent->findChild<QQmlComponent *>();
     QTRY_VERIFY(isCalled);
     const bool isReady = victim == QStringLiteral("controller");
     QCOMPARE(EngineLog::take().endsWith(QStringLiteral("Ready Controlled.qml")), isReady);
+    QVERIFY(isKept);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(component.isNull(), victim == QStringLiteral("parent"));
     delete parent;
+    QVERIFY(!component);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaQmlEngine_Components)

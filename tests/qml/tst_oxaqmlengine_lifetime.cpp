@@ -6,6 +6,7 @@
 #include <UiElements/qml/OxaQuickView.h>
 #include <UiElements/qml/OxaQuickWidget.h>
 
+#include <QQmlComponent>
 #include <QQuickItem>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -237,21 +238,27 @@ void tst_OxaQmlEngine_Lifetime::survivesDeletionByTheCallbackOfASlowFile()
     QPointer<QObject> view;
     QPointer<QObject> engine = fixture.engine();
     bool isCalled = false;
-    const auto callback = [&view, &engine, &isCalled, isEngine](OxaQmlController *) {
+    bool isKept = false;
+    QPointer<QQmlComponent> component;
+    const auto callback = [&, isEngine](OxaQmlController *) {
         isCalled = true;
         delete (isEngine ? engine : view);
+        isKept = !component.isNull(); // Qt still uses it.
     };
     if (isWidget)
         view = OxaQmlEngine::createQmlWidget(slow, &parent, {}, callback);
     else
         view = OxaQmlEngine::createQmlWindow(slow, nullptr, {}, callback);
     QVERIFY(view);
+    component = view->findChild<QQmlComponent *>();
     server.answer();
     QTRY_VERIFY(isCalled);
     QVERIFY(isEngine ? !engine : !view);
     QVERIFY(!EngineLog::take().contains(QStringLiteral("Ready")));
+    QVERIFY(isKept);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     delete view;
+    QVERIFY(!component);
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaQmlEngine_Lifetime)

@@ -19,6 +19,8 @@ Page *makeLists(QWidget *parent);
 Page *makeLongList(QWidget *parent);
 Page *makeMovies(QWidget *parent);
 Page *makePaintedItems(QWidget *parent);
+Page *makeHoverCards(QWidget *parent);
+Page *makeQmlViews(QWidget *parent);
 Page *makeWindows(QWidget *parent);
 
 } // namespace Pages
