@@ -165,7 +165,8 @@ void OxaQmlBalloon::paint(QPainter *painter)
 
     const QSizeF size(width(), height() - m_topMargin);
     if (m_arrowAnchor == None) {
-        painter->drawRoundedRect(0, 0, int(size.width()), int(size.height()), m_radius, m_radius);
+        const QRect rect(0, 0, int(size.width()), int(size.height()));
+        painter->drawRoundedRect(rect, m_radius, m_radius);
         return;
     }
     const auto parts = std::make_tuple(size.width(), size.height(), m_arrowAnchor, getXCenter(size),
