@@ -58,7 +58,8 @@ public:
     virtual void restart() = 0;
 
     /// Called from the constructor of each main window, so that the outer application can register
-    /// its shortcuts on \a window, which is not yet more than an OxaMainWindow.
+    /// its shortcuts on \a window, which is not yet more than an OxaMainWindow. Register for one
+    /// window only, e.g. if OxaAppSignals::shortcutExists() says no: a second time logs a warning.
     virtual void registerMainWindowShortcuts(OxaMainWindow *window) = 0;
 
     /// Returns the signal hub, or null once it is deleted.

@@ -19,8 +19,9 @@ public:
     virtual void fetchMovie(const QString &source) = 0;
 
 Q_SIGNALS:
-    /// The movie called \a source is there. The provider that asked becomes the parent of \a movie.
-    /// A movie that none takes stays with the sender, which is the case of late answers.
+    /// The movie called \a source is there. Each provider whose latest name is \a source takes it;
+    /// the last of them to be made becomes the parent of \a movie. None of them starts it. A movie
+    /// that none takes stays with the sender, which is the case of late answers.
     void movieFetched(OxaMovie *movie, const QString &source);
 
     /// There is no movie called \a source. The picture \a fallbackSource is to be shown instead; it

@@ -10,7 +10,8 @@ class QMovie;
 /// A button with a picture, which an animated image replaces while the pointer is on the button or
 /// it has the focus. The first of the two that ends stops the image.
 ///
-/// Give it a size: its size hint is that of a button without a text. Files that can't be read show
+/// Give it a size: its size hint is that of a button without a text. Give it an accessible name,
+/// too: it has nothing else to be read out. Files that can't be read show
 /// nothing, without a message. A button that is hidden stops playing.
 class UIELEMENTS_EXPORT OxaGifButton : public OxaPushButton
 {

@@ -6,7 +6,8 @@
 
 class QMovie;
 
-/// A label that plays an animated image, scaled into the label without its outer 10 pixels.
+/// A label that plays an animated image, scaled with its aspect ratio into a size that is 10 pixels
+/// less than the label's in each direction.
 ///
 /// Give it a fixed size: its size hint is that of the picture, so that a layout which follows the
 /// hint makes label and picture smaller with each frame.

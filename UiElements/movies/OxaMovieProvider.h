@@ -14,8 +14,12 @@ class IOxaMovieProviderSource;
 /// It keeps the latest movie only. What is shown stays until the next answer. A slot of its signals
 /// may delete it.
 ///
-/// All providers hear all answers of their source. Those that wait for the same name share the
-/// movie: the one that was made last owns it, and `movie` of the others is null once it is gone.
+/// All providers hear all answers of their source. Each one whose latest name is the answered one
+/// takes the answer, also if it had one before. They share the movie: the one that was made last
+/// owns it, and deletes it with itself or after its next movie. `movie` of the others is null then,
+/// without a signal. Where that matters, give each provider a name of its own.
+///
+/// A movie is not started: call QMovie::start() in a slot of movieChanged().
 class UIELEMENTS_EXPORT OxaMovieProvider : public QObject
 {
     Q_OBJECT

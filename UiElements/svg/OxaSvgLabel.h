@@ -8,6 +8,9 @@
 ///
 /// The text is one line and always plain; it is elided by the label's elide mode. Qt paints the
 /// frame and background of the style sheet.
+///
+/// Without `$textColors:` in its style text it shows neither text nor icon, except an icon with a
+/// set of its own.
 class UIELEMENTS_EXPORT OxaSvgLabel : public OxaLabel
 {
     Q_OBJECT

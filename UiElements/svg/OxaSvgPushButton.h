@@ -10,6 +10,9 @@ class QTextDocument;
 
 /// A button with an icon beside its text, both in the theme's colours, and optionally another icon
 /// while it is checked. Its text is elided at its end, or rich.
+///
+/// Without `$textColors:` in its style text it shows neither text nor icon, except an icon with a
+/// set of its own.
 class UIELEMENTS_EXPORT OxaSvgPushButton : public OxaPushButton
 {
     Q_OBJECT

@@ -10,10 +10,11 @@ class QHBoxLayout;
 class QSpacerItem;
 
 /// A strip with an icon and a text with links, which looks like an error, a warning or an
-/// information. It starts as a warning without a text, 400 by 56.
+/// information. It starts as a warning without a text, 400 by 56. A layout may make it as low as
+/// its text: give it a minimum height there, e.g. 56.
 ///
-/// The outer application supplies the icons "qrc:/Resources/warning_12.svg" and
-/// "qrc:/Resources/info_16.svg".
+/// The outer application supplies the icons as resources, ":/Resources/warning_12.svg" and
+/// ":/Resources/info_16.svg".
 ///
 /// Tab goes to the text and then from link to link, and Return activates one.
 class UIELEMENTS_EXPORT AlertBanner : public OxaWidget
@@ -28,11 +29,12 @@ public:
         Info = 2,    ///< In the sets "text-secondary" and "background-primary", with its own icon.
     };
 
-    /// What a banner shows.
+    /// What a banner shows. Its text is always rich: escape a plain one by
+    /// QString::toHtmlEscaped().
     struct AlertBannerInfo
     {
         AlertType alertType = AlertType::Error; ///< The look.
-        QString alertText;                      ///< May be rich text.
+        QString alertText;                      ///< Rich text.
         bool showIcon = true;                   ///< False hides the icon for good.
         bool wordWrap = true;                   ///< Breaks lines of the text.
         QSize bannerSize { 400, 56 };           ///< The size to resize the banner to.

@@ -10,6 +10,9 @@
 /// A dialog that takes part in theming, and that is deleted once it is closed.
 ///
 /// It takes over its parent's theme type when it is made, and follows it from then on.
+///
+/// It has Qt::WA_DeleteOnClose: make it with `new`, never on the stack. exec() deletes it before it
+/// returns its result, so read what was entered in a slot of accepted() or finished().
 class UIELEMENTS_EXPORT OxaDialog : public QDialog
 {
     Q_OBJECT

@@ -27,8 +27,18 @@
 /// all rows. A slot may remove rows, and may delete the list, except while Qt itself handles a key,
 /// a mouse button, the focus or a resize, or is asked for positions.
 ///
-/// Not supported: items that are inserted other than by insertItem() get their widgets only at the
-/// next pass.
+/// To fill the list, insert all rows between beginInsert() and endInsert(), and only then call
+/// setScrollToBottomAutomatically(). Otherwise the time grows with the square of the number of
+/// rows; and without beginInsert(), a list that stays at its bottom makes a widget for each row.
+/// Items inserted in other ways get their widgets at the next pass.
+///
+/// Rows stand below the viewport, a plain widget, which hands no theme type on. A list with a type
+/// of its own hands it to its rows when it makes them, and when it changes:
+///
+///     row->setThemeType(OxaThemeUtils::themeTypeToString(list->getThemeType()));
+///
+/// Rows of different heights scroll best with setVerticalScrollMode(ScrollPerPixel). A list that
+/// gets lower is no longer at its bottom: call scrollToBottom() where that matters.
 class UIELEMENTS_EXPORT OxaListWidget : public QListWidget
 {
     Q_OBJECT
@@ -87,7 +97,8 @@ public:
     /// it later.
     void delayScrollToBottom();
 
-    /// Keeps insertItem() from running passes, until endInsert().
+    /// Keeps insertItem() from running passes, but not from scrolling to the bottom, until
+    /// endInsert().
     void beginInsert() { m_isInserting = true; }
 
     /// Ends what beginInsert() began, and runs one pass if loading is dynamic.

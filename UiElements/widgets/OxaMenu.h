@@ -9,6 +9,9 @@
 #include <QPointer>
 
 /// A menu that takes part in theming, and that popupAt() opens with its first action highlighted.
+///
+/// A style text with a background replaces the highlight of actions: add a rule for
+/// `QMenu::item:selected`, or use UTContextMenuUtils::getContextMenuStyleSheet().
 class UIELEMENTS_EXPORT OxaMenu : public QMenu
 {
     Q_OBJECT

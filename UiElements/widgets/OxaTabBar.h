@@ -22,6 +22,9 @@ class QPushButton;
 /// Assistive technology is told of a list of page tabs, in which the tab that is checked is
 /// selected; pressing another one there clicks it.
 ///
+/// Tabs are spread over a bar that is wider than they are; the size policy QSizePolicy::Maximum
+/// keeps them together. The bar's height is no hint of its tabs': give it a fixed one.
+///
 /// Where there is no tab at an index, setters do nothing and getters return an empty value.
 ///
 /// A slot may delete the bar, or remove tabs by removeTab(), but not a slot of a tab's toggled(),
@@ -43,13 +46,15 @@ public:
     void setHorizontalPadding(int padding);
 
     /// Adds a tab with \a text, also as its tool tip, and \a accessibleName, also as its accessible
-    /// description. It is at most as wide as the text in the bar's font and the padding. Returns
-    /// its index, or -1 if no button was made for it.
+    /// description. It is at most as wide as the text in the bar's font and the padding. An & marks
+    /// a mnemonic, && shows one. Makes no tab current. Returns its index, or -1 if no button was
+    /// made for it.
     int addTab(const QString &text, const QString &accessibleName = QString());
 
     /// Deletes the tab at \a index and makes the first one current, whichever was; without tabs the
     /// index is -1. Emits currentChanged() in either case. The focus of the tab goes to the first
-    /// one that takes it, or else to the bar.
+    /// one that takes it, or else to the bar. Remove the tab's page in a stack before, so that
+    /// slots find the same indexes there.
     void removeTab(int index);
 
     /// Deletes all tabs, then emits currentChanged() once. Signals that were blocked are not
@@ -98,7 +103,8 @@ public:
 
     /// Returns the tab's text.
     QString tabText(int index) const;
-    /// Sets the tab's text alone: tool tip and maximum width stay.
+    /// Sets the tab's text alone: tool tip and maximum width stay. For a longer text, set the
+    /// maximum width of getTab() to QWIDGETSIZE_MAX.
     void setTabText(int index, const QString &text);
 
     /// Returns the tab's tool tip.

@@ -18,6 +18,9 @@ class QVBoxLayout;
 /// Assistive technology is told of a menu, and of its buttons as items. Each item is a stop for
 /// Tab. Set the menu's maximum width before adding anything but items: buttons, titles and inset
 /// separators take it over as it is then.
+///
+/// In a place higher than its contents they are spread: `addWidget(new QWidget, 1)` as the last
+/// call keeps them at the top.
 class UIELEMENTS_EXPORT OxaVMenu : public OxaWidget
 {
     Q_OBJECT
@@ -33,13 +36,16 @@ public:
     OxaProperties::SvgPushButtonWidget<OxaSvgPushButton> addMenuItem(
             std::function<void()> callback);
 
-    /// Adds a button, at most as wide as the menu, and returns it.
+    /// Adds a button, at most as wide as the menu, and returns it. It has no style text, and shows
+    /// nothing until it has one with `$textColors:`.
     OxaSvgPushButton *addButton();
 
     /// Adds a checkable button with an anchored icon, at most as wide as the menu, and returns it.
+    /// It needs a style text as addButton() says.
     OxaSvgAnchorButton *addAnchorButton();
 
     /// Adds a title in the font token BodySecondary, at most as wide as the menu, and returns it.
+    /// It needs a style text as addButton() says.
     OxaSvgLabel *addSectionTitle();
 
     /// Adds a line in the colours of the set called \a colorSetName, or with an empty name in its

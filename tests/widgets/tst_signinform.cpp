@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SignInForm.h"
+#include "support/CodeBlocks.h"
 #include "support/ColorSets.h"
 #include "support/Guards.h"
 #include "support/TestApplication.h"
 
 #include <UiElements/svg/OxaSvgPushButton.h>
 
-#include <QFile>
 #include <QPointer>
 #include <QSignalSpy>
 
@@ -22,12 +22,6 @@ OxaColorSetMap formStore()
            "oxa-reaction-list-item-gradient-background-end-color", "oxa-recorder-comboBox-border" })
         store.emplace(name, OxaColorSet(QString::fromLatin1(name), Qt::gray));
     return store;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// A window with the form, and the form's parts.
@@ -83,18 +77,10 @@ private:
 
 void tst_SignInForm::isQuotedWordForWord()
 {
-    const QByteArray source = contentOf(QStringLiteral(SIGN_IN_FORM));
-    const QByteArray guide = contentOf(QStringLiteral(FORMS_GUIDE));
-    const QByteArray opening = "\n```cpp\n";
-    QByteArrayList blocks;
-    for (int start = guide.indexOf(opening); start >= 0; start = guide.indexOf(opening, start)) {
-        const int code = start + opening.size();
-        start = guide.indexOf("\n```", code) + 1;
-        blocks += guide.mid(code, start - code);
-    }
+    const QByteArrayList blocks = CodeBlocks::blocksOf(QStringLiteral(FORMS_GUIDE));
     QVERIFY(blocks.size() > 1);
-    // All of it from the first include on, so that a reader's copy compiles.
-    QCOMPARE(blocks.join('\n'), source.mid(source.indexOf("#include")));
+    // All of it, so that a reader's copy compiles.
+    QCOMPARE(blocks.join('\n'), CodeBlocks::codeOf(QStringLiteral(SIGN_IN_FORM)));
 }
 
 void tst_SignInForm::paintsIconsInTheColorOfTheText()
