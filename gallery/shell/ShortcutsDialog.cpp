@@ -43,11 +43,13 @@ QString sectionOf(OxaShortcut::ShortcutGroup group, const QString &text)
     }
     const QString direction = QGuiApplication::isRightToLeft() ? QStringLiteral("rtl")
                                                                : QStringLiteral("ltr");
-    return rows.isEmpty()
-            ? QString()
-            : QStringLiteral("<h4 dir=\"%1\">%2</h4>"
-                             "<table dir=\"%1\" width=\"100%\">%3</table>")
-                      .arg(direction, heading, QStringList(rows.values()).join(QString()));
+    QString table;
+    for (const QString &row : qAsConst(rows))
+        table += row;
+    return rows.isEmpty() ? QString()
+                          : QStringLiteral("<h4 dir=\"%1\">%2</h4>"
+                                           "<table dir=\"%1\" width=\"100%\">%3</table>")
+                                    .arg(direction, heading, table);
 }
 
 QString listOf(const QString &text)

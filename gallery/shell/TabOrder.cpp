@@ -44,7 +44,8 @@ void appendContents(const QWidget &parent, std::vector<QWidget *> &widgets)
         appendItems(*parent.layout(), widgets);
         return;
     }
-    for (QWidget *child : partsOf(parent)) {
+    const QVector<QWidget *> parts = partsOf(parent);
+    for (QWidget *child : parts) {
         // The list of a combo box is a child too.
         if (child->isWindow())
             continue;
