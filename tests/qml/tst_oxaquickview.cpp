@@ -28,6 +28,15 @@ public:
     using OxaQuickView::findController;
     using OxaQuickView::nativeEvent;
     using OxaQuickView::OxaQuickView;
+
+    SignalLog log;
+
+protected:
+    void showEvent(QShowEvent *event) override
+    {
+        log.note(QStringLiteral("showEvent"));
+        OxaQuickView::showEvent(event);
+    }
 };
 
 /// Answers each native event with the same result.
@@ -56,6 +65,18 @@ constexpr char controllerInside[] = R"(
     Item {
         width: 100; height: 50
         OxaQmlPopupController { objectName: "named" }
+    })";
+
+constexpr char refusingToClose[] = R"(
+    import QtQuick 2.15
+    import QtQuick.Window 2.15
+    Item {
+        id: root
+        property bool isAsked: false
+        Connections {
+            target: root.Window.window
+            function onClosing(close) { root.isAsked = true; close.accepted = false; }
+        }
     })";
 
 constexpr char controllerDeeper[] = R"(
@@ -94,6 +115,7 @@ private Q_SLOTS:
     void callsNothingWithoutControllerOrCallback();
 
     void tellsThatItShowsAndCloses();
+    void isDeletedWhereQmlRefusesToClose();
     void survivesAClosingWithoutDeletion();
     void sendsNoCloseEventBeforeItWasShown();
     void asksItsNativeHandlerAlone();
@@ -242,19 +264,26 @@ void tst_OxaQuickView::centresItselfBelowAWidget_data()
 {
     QTest::addColumn<QRect>("widget");
     QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isAtSide");
     QTest::addColumn<QPoint>("expected");
     // The centre of a widget of an even size is left of and above its middle.
-    QTest::newRow("even sizes") << QRect(300, 200, 100, 40) << QSize(60, 30) << QPoint(319, 239);
-    QTest::newRow("odd sizes") << QRect(300, 200, 101, 41) << QSize(61, 31) << QPoint(320, 240);
+    QTest::newRow("even sizes") << QRect(300, 200, 100, 40) << QSize(60, 30) << false
+                                << QPoint(319, 239);
+    QTest::newRow("odd sizes") << QRect(300, 200, 101, 41) << QSize(61, 31) << false
+                               << QPoint(320, 240);
     QTest::newRow("at the right edge")
-            << QRect(700, 200, 100, 40) << QSize(200, 30) << QPoint(600, 239);
+            << QRect(700, 200, 100, 40) << QSize(200, 30) << false << QPoint(600, 239);
+    QTest::newRow("at the right edge of another screen")
+            << QRect(-120, 200, 100, 40) << QSize(200, 30) << true << QPoint(-220, 239);
 }
 
 void tst_OxaQuickView::centresItselfBelowAWidget()
 {
     QFETCH(const QRect, widget);
     QFETCH(const QSize, size);
+    QFETCH(const bool, isAtSide);
     QFETCH(const QPoint, expected);
+    const ScreenGuard side(sideScreen, sideArea);
     QWidget window(nullptr, Qt::FramelessWindowHint);
     QWidget child(&window);
     window.setGeometry(widget.translated(-5, -7));
@@ -264,7 +293,7 @@ void tst_OxaQuickView::centresItselfBelowAWidget()
     view.resize(size);
     view.showAt(static_cast<const QWidget *>(nullptr), nullptr);
     QVERIFY(!view.isVisible());
-    view.showAt(&child, QGuiApplication::primaryScreen());
+    view.showAt(&child, isAtSide ? side.screen() : QGuiApplication::primaryScreen());
     QCOMPARE(view.position(), expected);
     QVERIFY(view.isVisible());
 }
@@ -274,7 +303,7 @@ void tst_OxaQuickView::showsAndActivatesLaterWhereAsked()
     ViewOptions options;
     options.deferShow = true;
     OxaQuickView view(m_engine.get(), nullptr, options);
-    view.setFlag(Qt::FramelessWindowHint);
+    view.setFlags(Qt::ToolTip | Qt::FramelessWindowHint); // Showing it does not activate it.
     SignalLog log;
     log.record(&view, &OxaQuickView::_dispatchShow, QStringLiteral("_dispatchShow"));
     log.record(&view, &OxaQuickView::aboutToShow, QStringLiteral("aboutToShow"));
@@ -303,7 +332,12 @@ void tst_OxaQuickView::hasTheSizeOfItsRootItem()
     QCOMPARE(view.size(), QSize(101, 50));
     QCOMPARE(view.minimumSize(), QSize(101, 50));
     QCOMPARE(view.maximumSize(), QSize(101, 50));
+    SignalLog log;
+    log.record(&view, &QWindow::minimumWidthChanged, QStringLiteral("minimum"));
+    log.record(&view, &QWindow::maximumWidthChanged, QStringLiteral("maximum"));
+    log.record(&view, &QWindow::widthChanged, QStringLiteral("size"));
     root->setWidth(200);
+    QCOMPARE(log.take(), QStringLiteral("minimum | maximum | size"));
     QCOMPARE(view.size(), QSize(200, 50));
     root->setHeight(20);
     QCOMPARE(view.size(), QSize(200, 20));
@@ -353,22 +387,38 @@ void tst_OxaQuickView::callsNothingWithoutControllerOrCallback()
 
 void tst_OxaQuickView::tellsThatItShowsAndCloses()
 {
-    const Owned<OxaQuickView> view(m_engine.get(), nullptr, ViewOptions());
-    SignalLog log;
+    const Owned<OpenView> view(m_engine.get(), nullptr, ViewOptions());
+    SignalLog &log = view->log;
     log.record(view.get(), &OxaQuickView::aboutToShow, QStringLiteral("aboutToShow"));
     log.record(view.get(), &OxaQuickView::aboutToClose, QStringLiteral("aboutToClose"));
-    log.record(view.get(), &QObject::destroyed, QStringLiteral("destroyed"));
+    QSignalSpy ends(view.get(), &QObject::destroyed);
     view->show();
     view->hide();
-    QCOMPARE(log.take(), QStringLiteral("aboutToShow"));
+    QCOMPARE(log.take(), QStringLiteral("aboutToShow | showEvent"));
     view->show();
     QVERIFY(view->close());
-    QCOMPARE(log.take(), QStringLiteral("aboutToShow | aboutToClose"));
+    QCOMPARE(log.take(), QStringLiteral("aboutToShow | showEvent | aboutToClose"));
     QVERIFY(view);
     QVERIFY(!view->isVisible());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!view);
-    QCOMPARE(log.take(), QStringLiteral("destroyed"));
+    QCOMPARE(ends.size(), 1);
+}
+
+void tst_OxaQuickView::isDeletedWhereQmlRefusesToClose()
+{
+    const Owned<OxaQuickView> view(m_engine.get(), nullptr, ViewOptions());
+    const QQuickItem *root = load(*view, refusingToClose);
+    QVariant isAskedBefore;
+    connect(view.get(), &OxaQuickView::aboutToClose, this,
+            [root, &isAskedBefore] { isAskedBefore = root->property("isAsked"); });
+    view->show();
+    QVERIFY(!view->close());
+    QVERIFY(view->isVisible());
+    QCOMPARE(isAskedBefore, QVariant(false));
+    QCOMPARE(root->property("isAsked"), QVariant(true));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!view);
 }
 
 void tst_OxaQuickView::survivesAClosingWithoutDeletion()
