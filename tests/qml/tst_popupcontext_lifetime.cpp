@@ -20,7 +20,7 @@ struct Scene : PopupTrace
     {
         a = QRectF(1750, 560, 40, 20);
         b = QRectF(1400, 300, 40, 20);
-        parent = std::make_unique<QWindow>();
+        parent = std::make_unique<QWindow>(screen->screen());
     }
 
     /// Returns what is called \a name, or null.
@@ -203,6 +203,7 @@ void tst_PopupContext_Lifetime::survivesDeletionInAState()
     goTo(trace, state);
     const QPointer<OxaPopupQuickView> popup = trace.popup();
     QVERIFY(popup);
+    QCOMPARE(popup->screen(), trace.screen->screen());
     trace.kill(victim);
     goOn(trace);
     if (popup && !trace.context())
@@ -234,8 +235,15 @@ void tst_PopupContext_Lifetime::survivesDeletionInASlot()
     goTo(trace, QString::fromLatin1(now.state));
     const QPointer<OxaPopupQuickView> popup = trace.popup();
     popup->setPerformanceWatcherEnabled(true);
-    const Striker striker(trace.find(QString::fromLatin1(now.sender)), now.signal,
-                          [&trace, &victim] { trace.kill(victim); });
+    // Found before: a view that is being destroyed is not to be found any more.
+    const QPointer<QObject> found = trace.find(victim);
+    const auto strike = [&trace, &victim, &found] {
+        if (found)
+            delete found;
+        else
+            trace.kill(victim);
+    };
+    const Striker striker(trace.find(QString::fromLatin1(now.sender)), now.signal, strike);
     const bool waits = qstrcmp(now.state, "waiting") == 0;
     PopupTrace::point((waits ? trace.a : trace.b).center().toPoint());
     if (waits && qstrcmp(now.signal, "stopped()") == 0) {
