@@ -24,21 +24,30 @@ void settle()
         QCoreApplication::processEvents();
 }
 
-/// A popup of a button in an active window, with another window beside it.
-struct Scene
+/// An active window with a button that has the focus, and another window beside it.
+struct Desktop
 {
     SourceWindow window;
     QWidget other;
-    PopupWidget *popup;
 
-    explicit Scene(const WidgetData &widgetData)
+    Desktop()
     {
         other.setGeometry(700, 500, 200, 150);
         window.button.setFocusPolicy(Qt::StrongFocus);
         if (!showActive(other) || !showActive(window))
             qFatal("The windows do not become active.");
         window.button.setFocus();
-        popup = PopupWidget::createAndShow(&window.button, makeContent(), widgetData);
+    }
+};
+
+/// An active popup of the button.
+struct Scene : Desktop
+{
+    PopupWidget *popup;
+
+    explicit Scene(const WidgetData &widgetData)
+        : popup(PopupWidget::createAndShow(&window.button, makeContent(), widgetData))
+    {
         if (!showActive(*popup)) // The window manager leaves that to a tool window itself.
             qFatal("The popup does not become active.");
         settle();
@@ -154,17 +163,16 @@ void tst_PopupWidgetActivation::hidesWhenItsParentIsActivated()
 
 void tst_PopupWidgetActivation::hidesWithoutHavingBeenActive()
 {
-    Scene scene(data().focusSourceOnClose(false));
-    scene.popup->hide();
-    scene.popup->setAttribute(Qt::WA_ShowWithoutActivating);
-    QVERIFY(showActive(scene.window));
-    scene.popup->showSmooth();
-    QVERIFY(QTest::qWaitForWindowExposed(scene.popup));
+    Desktop desktop;
+    PopupWidget *popup = PopupWidget::create(&desktop.window.button, makeContent(), data());
+    popup->setAttribute(Qt::WA_ShowWithoutActivating);
+    popup->showSmooth(&desktop.window.button);
+    QVERIFY(QTest::qWaitForWindowExposed(popup));
     settle();
-    QVERIFY(scene.popup->isVisible());
-    QVERIFY(scene.window.isActiveWindow());
-    QVERIFY(showActive(scene.other));
-    QTRY_VERIFY(scene.popup->isHidden());
+    QVERIFY(popup->isVisible());
+    QVERIFY(desktop.window.isActiveWindow());
+    QVERIFY(showActive(desktop.other));
+    QTRY_VERIFY(popup->isHidden());
 }
 
 void tst_PopupWidgetActivation::hidesOnARealClickElsewhere()
@@ -272,19 +280,19 @@ void tst_PopupWidgetActivation::hidesWhenTheQmlWindowIsLeft()
 /// A client has put it into a window of its own.
 void tst_PopupWidgetActivation::isNotHiddenInAHiddenWindow()
 {
-    Scene scene(data().focusSourceOnClose(false));
-    scene.popup->setParent(&scene.window, Qt::Widget);
-    QVERIFY(showActive(scene.window));
-    scene.popup->show();
+    Desktop desktop;
+    PopupWidget *popup = PopupWidget::create(&desktop.window.button, makeContent(), data());
+    popup->setParent(&desktop.window, Qt::Widget);
+    popup->show();
     QQuickWindow window;
-    cover(window, *scene.popup);
+    cover(window, *popup);
     QVERIFY(showActive(window));
     settle();
-    QVERIFY(scene.popup->isVisible());
-    scene.window.hide();
-    QVERIFY(showActive(scene.other));
+    QVERIFY(popup->isVisible());
+    desktop.window.hide();
+    QVERIFY(showActive(desktop.other));
     settle();
-    QVERIFY(!scene.popup->isHidden()); // It is shown again with its window.
+    QVERIFY(!popup->isHidden()); // It is shown again with its window.
 }
 
 void tst_PopupWidgetActivation::handsTheActivationToAWindowInsideIt_data()
