@@ -336,10 +336,16 @@ void tst_PopupWidgetActivation::handsTheActivationToAWindowInsideIt()
 
 void tst_PopupWidgetActivation::givesTheFocusBackToItsButton()
 {
-    const Scene scene(data());
-    scene.popup->hide();
-    QTRY_COMPARE(QApplication::activeWindow(), static_cast<const QWidget *>(&scene.window));
-    QTRY_VERIFY(scene.window.button.hasFocus());
+    Desktop desktop;
+    desktop.window.setFocus();
+    PopupWidget *popup = PopupWidget::create(&desktop.window.button, makeContent(),
+                                             data().autoDismiss(false));
+    popup->setAttribute(Qt::WA_ShowWithoutActivating);
+    popup->showSmooth(&desktop.window.button);
+    QVERIFY(showActive(desktop.other));
+    popup->hide();
+    QTRY_COMPARE(QApplication::activeWindow(), static_cast<const QWidget *>(&desktop.window));
+    QTRY_VERIFY(desktop.window.button.hasFocus());
 }
 
 void tst_PopupWidgetActivation::tellsOfTheRealPointer()
