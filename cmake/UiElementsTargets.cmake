@@ -11,7 +11,7 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 if(UIELEMENTS_SANITIZE)
-    # GCC does not count what an int cannot hold among the undefined.
+    # Compilers do not count what an int cannot hold among the undefined.
     add_compile_options(
         -fsanitize=address,undefined,float-cast-overflow
         -fno-sanitize-recover=undefined,float-cast-overflow
@@ -103,5 +103,8 @@ function(uielements_precompile_headers target)
         <vector>
         ${ARGN}
     )
-    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+    target_compile_options(${target} PRIVATE
+        $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>
+        "$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>"
+    )
 endfunction()

@@ -6,11 +6,13 @@
 #include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/qml/OxaQuickView.h>
 
+#include <QFocusEvent>
 #include <QPointer>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QTest>
 #include <QUrl>
+#include <QVector>
 #include <QWidget>
 
 #include <utility>
@@ -39,6 +41,20 @@ public:
 
 private:
     const QPointer<Object> m_object;
+};
+
+/// Records why the objects that it filters get the focus.
+class FocusReasons : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            reasons += static_cast<QFocusEvent *>(event)->reason();
+        return false;
+    }
+
+    QVector<Qt::FocusReason> reasons;
 };
 
 /// Makes \a view, which is a window or a widget, show the QML \a text, and returns its root item.
