@@ -24,8 +24,10 @@ QPoint movedInside(const QRect &rect, const QRect &available)
     const QRect visible = available.intersected(rect);
     if (visible.isEmpty() || visible == rect)
         return rect.topLeft();
-    // What is outside at the right and the bottom is moved in, what is at the left and the top
-    // further out.
+    // By as much as is outside, at whichever edge: what is outside at the right and the bottom is
+    // moved in, what is outside at the left and the top further out, maybe beyond the edge. The
+    // corner stays at that edge then; an intersection, which may be empty, would have it at (0, 0),
+    // on whichever screen that is.
     const int x = rect.x() + visible.width() - rect.width();
     const int y = rect.y() + visible.height() - rect.height();
     return { qMax(x, available.x()), qMax(y, available.y()) };

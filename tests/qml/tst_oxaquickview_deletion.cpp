@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "QuickViews.h"
-#include "Screens.h"
+#include "support/Screens.h"
 #include "support/TestApplication.h"
 
 #include <UiElements/qml/OxaPopupQuickView.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "qml/PopupTrace.h"
-#include "qml/Screens.h"
+#include "support/Screens.h"
 
 #include <QMap>
 #include <QQuickItem>
