@@ -15,6 +15,8 @@
 #include <support/PaintCounter.h>
 #include <support/RealInput.h>
 
+#include <algorithm>
+
 namespace {
 
 QVector<OxaQuickView *> views()
