@@ -50,6 +50,7 @@ private Q_SLOTS:
     void startsTheCloseDelayOnce();
     void startsTheDelayAgainForANewRequest();
     void connectsEachPopupOnce();
+    void stopsOnlyActiveTimersWhenTheViewChanges();
 
     void closesAPopupThatWasNeverShown();
     void forgetsAPopupThatDies();
@@ -198,9 +199,12 @@ void tst_PopupContext::showsBesideAWidget()
     QCOMPARE(trace.state(), QStringLiteral("shown open"));
     QCOMPARE(trace.popup()->position(), QPoint(60, 120));
     widget.setAttribute(Qt::WA_UnderMouse, false);
+    PopupTrace::point(trace.popup()->geometry().center());
     trace.poll();
-    QCOMPARE(trace.state(), QStringLiteral("shown open close"));
+    QCOMPARE(trace.state(), QStringLiteral("shown open"));
     trace.popup()->hide();
+    trace.poll(); // A hidden popup is under no pointer.
+    QCOMPARE(trace.state(), QStringLiteral("hidden open close"));
     trace.context()->showQmlPopup(trace.source, &widget, false, OxaQmlBalloon::Top, {});
     trace.settle();
     QCOMPARE(trace.state(), QStringLiteral("shown open"));
@@ -259,10 +263,12 @@ void tst_PopupContext::callsTheCallbackOfTheRequestThatShows()
     trace.create();
     PopupTrace::point(trace.a.center().toPoint());
     EngineLog::take();
+    connect(trace.popup(), &OxaQuickView::_dispatchShow, this,
+            [] { EngineLog::note(QStringLiteral("show")); });
     trace.show(trace.a, true, OxaQmlBalloon::Top, noting(QStringLiteral("A")));
     QCOMPARE(EngineLog::take(), QString());
     trace.poll();
-    QCOMPARE(EngineLog::take(), QStringLiteral("A"));
+    QCOMPARE(EngineLog::take(), QStringLiteral("A | show"));
     trace.poll();
     trace.show(trace.a, false, OxaQmlBalloon::Top, noting(QStringLiteral("A again")));
     QCOMPARE(EngineLog::take(), QString());
@@ -273,7 +279,7 @@ void tst_PopupContext::callsTheCallbackOfTheRequestThatShows()
     trace.passCloseTime();
     QCOMPARE(EngineLog::take(), QString());
     trace.poll();
-    QCOMPARE(EngineLog::take(), QStringLiteral("B"));
+    QCOMPARE(EngineLog::take(), QStringLiteral("B | show"));
     QCOMPARE(trace.popup()->activationRect(), trace.b);
     QCOMPARE(controllerOf(trace.popup())->arrowAnchor(), OxaQmlBalloon::Bottom);
 }
@@ -366,9 +372,28 @@ void tst_PopupContext::connectsEachPopupOnce()
     for (int i = 0; i < 3; ++i)
         trace.showDelayed(trace.a);
     trace.poll();
+    for (PopupContextTimer *const timer : { trace.openTimer(), trace.closeTimer() }) {
+        disconnect(timer, &PopupContextTimer::stopped, nullptr, nullptr);
+        timer->setPopupPending(true); // So that receivers stay.
+    }
+    const QSignalSpy opens(trace.openTimer(), &PopupContextTimer::stopped);
+    const QSignalSpy closes(trace.closeTimer(), &PopupContextTimer::stopped);
+    Q_EMIT trace.popup()->aboutToClose();
+    Q_EMIT trace.popup()->aboutToShow();
+    QCOMPARE(opens.size(), 1);
+    QCOMPARE(closes.size(), 1);
+}
+
+void tst_PopupContext::stopsOnlyActiveTimersWhenTheViewChanges()
+{
+    PopupTrace trace;
+    trace.create();
     trace.openTimer()->setPopupPending(true); // So that receivers stay.
     const QSignalSpy stops(trace.openTimer(), &PopupContextTimer::stopped);
-    Q_EMIT trace.popup()->aboutToClose();
+    trace.context()->requestingViewChanged();
+    QCOMPARE(stops.size(), 0);
+    trace.openTimer()->start(PopupTrace::never);
+    trace.context()->requestingViewChanged();
     QCOMPARE(stops.size(), 1);
 }
 
