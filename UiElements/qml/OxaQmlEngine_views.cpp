@@ -14,6 +14,8 @@
 #include <QQmlComponent>
 #include <QQuickItem>
 
+#include <memory>
+
 namespace {
 
 using Status = OxaQmlEngine::QmlViewStatus;
@@ -236,12 +238,16 @@ QWindow *outermostWindowAbove(const QObject *owner)
     return window;
 }
 
-void onComponentReady(QQmlComponent *component, OxaQmlEngine *engine, QObject *parent,
-                      const Request &request, const OxaQmlEngine::ComponentCallback &callback)
+/// Makes the object, whose own QML may delete \a parent meanwhile.
+void onComponentReady(QQmlComponent *component, OxaQmlEngine *engine,
+                      const QPointer<QObject> &parent, const Request &request,
+                      const OxaQmlEngine::ComponentCallback &callback)
 {
-    QObject *const object = component->create();
-    if (!object)
+    const bool hasParent = !parent.isNull();
+    std::unique_ptr<QObject> made(component->create());
+    if (!made || (hasParent && !parent))
         return;
+    QObject *const object = made.release();
     object->setParent(parent);
     object->setObjectName(QFileInfo(request.source).baseName());
     reportDestruction(object, Status::DestroyedView, engine, request.source);

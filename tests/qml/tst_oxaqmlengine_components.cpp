@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "qml/DiskFolder.h"
 #include "qml/EngineFixture.h"
 
 #include <QQmlComponent>
@@ -26,9 +27,12 @@ private Q_SLOTS:
     void reportTheirLife();
     void areMadeLaterAsChildrenOfTheParent();
     void areLoadedTwiceFromTheCache();
+    void areReadFromDisk();
     void reportTheErrorOfAFile();
+    void reportNothingMoreWhereNoObjectIsMade();
     void warnOfAnEmptySource();
     void areNotMadeAfterTheParentDied();
+    void dieWithAParentThatTheirOwnQmlDeletes();
     void surviveACallbackThatDeletes_data();
     void surviveACallbackThatDeletes();
 };
@@ -107,6 +111,18 @@ void tst_OxaQmlEngine_Components::areLoadedTwiceFromTheCache()
     }
 }
 
+void tst_OxaQmlEngine_Components::areReadFromDisk()
+{
+    const EngineFixture fixture;
+    const DiskFolder folder;
+    QVERIFY(folder.write(QStringLiteral("Card.small.qml"), "import QtQml 2.15\nQtObject {}\n"));
+    fixture.engine()->setReadQmlFromDisk(true);
+    QObject parent;
+    OxaQmlEngine::createQmlComponent(folder.sourceOf(QStringLiteral("Card.small.qml")), &parent, {},
+                                     {});
+    QTRY_VERIFY(parent.findChild<QObject *>(QStringLiteral("Card")));
+}
+
 void tst_OxaQmlEngine_Components::reportTheErrorOfAFile()
 {
     const EngineFixture fixture;
@@ -118,6 +134,18 @@ void tst_OxaQmlEngine_Components::reportTheErrorOfAFile()
                                 "qrc:/Qml/UnknownType.qml:5 Missing is not a type\n"));
     QVERIFY(parent.findChild<QQmlComponent *>());
     EngineLog::take();
+}
+
+void tst_OxaQmlEngine_Components::reportNothingMoreWhereNoObjectIsMade()
+{
+    const EngineFixture fixture;
+    QObject parent;
+    OxaQmlEngine::createQmlComponent(QStringLiteral("Incomplete.qml"), &parent, {},
+                                     callbackWithObject());
+    const auto *const component = parent.findChild<QQmlComponent *>();
+    QTRY_VERIFY(!component->isLoading());
+    QCOMPARE(EngineLog::take(), QStringLiteral("Creating Incomplete.qml"));
+    QCOMPARE(parent.children().size(), 1); // The component.
 }
 
 void tst_OxaQmlEngine_Components::warnOfAnEmptySource()
@@ -145,6 +173,19 @@ void tst_OxaQmlEngine_Components::areNotMadeAfterTheParentDied()
     QCOMPARE(EngineLog::take(),
              QStringLiteral("Creating Controlled.qml | Creating Plain.qml | "
                             "Initializing Plain.qml | Ready Plain.qml"));
+}
+
+void tst_OxaQmlEngine_Components::dieWithAParentThatTheirOwnQmlDeletes()
+{
+    const EngineFixture fixture;
+    const QPointer<QObject> parent = new QObject;
+    OxaQmlEngine::createQmlComponent(QStringLiteral("WithWarning.qml"), parent, {},
+                                     callbackWithObject());
+    const QPointer<QQmlComponent> component = parent->findChild<QQmlComponent *>();
+    fixture.engine()->setOutputWarningsToStandardError(false);
+    connect(fixture.engine(), &QQmlEngine::warnings, this, [&parent] { delete parent; });
+    QTRY_VERIFY(!component);
+    QCOMPARE(EngineLog::take(), QStringLiteral("Creating WithWarning.qml"));
 }
 
 void tst_OxaQmlEngine_Components::surviveACallbackThatDeletes_data()

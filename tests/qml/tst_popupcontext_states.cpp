@@ -126,7 +126,8 @@ void tst_PopupContext_States::goesThroughItsStates_data()
     add("visible: another rectangle",
         "create: hidden, to A: hidden, A later: hidden open, poll: shown open, to B: shown open, "
         "B later: shown open pending, poll: shown open close pending, pass: hidden open, "
-        "poll: shown open, away: shown open, poll: shown open close, pass: none");
+        "poll: shown open, away: shown open, poll: shown open close, to B: shown open close, "
+        "pass: shown open, away: shown open, poll: shown open close, pass: none");
     add("visible: another rectangle and back",
         "create: hidden, to A: hidden, A later: hidden open, poll: shown open, "
         "B later: shown open pending, A later: shown open pending, poll: shown open pending");
