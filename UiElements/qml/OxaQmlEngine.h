@@ -33,7 +33,9 @@ class QWindow;
 ///
 /// A callback, or a slot of qmlViewStatusChanged(), may delete the view or the engine while a view
 /// loads: the function then returns null. Slots that hear of DestroyedController or DestroyedView
-/// run in a destructor: there, use deleteLater().
+/// run in a destructor: there, use deleteLater(), and neither reload nor run an event loop. What
+/// QML calls may neither delete the view or the engine nor reload: Qt still uses the object that
+/// calls.
 class UIELEMENTS_EXPORT OxaQmlEngine : public QQmlEngine
 {
     Q_OBJECT
@@ -73,7 +75,8 @@ public:
 
     /// Sets the function by which the application makes its next engine, so that this can be of the
     /// client's own class. Null, the default, makes an OxaQmlEngine, as does a function that
-    /// returns null. An engine that exists stays.
+    /// returns null. An engine that exists stays. Neither the function nor the constructor of what
+    /// it makes may ask for the engine.
     static void setFactory(Factory factory);
 
     /// True when QML files are read from disk. Off by default.

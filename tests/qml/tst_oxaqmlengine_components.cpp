@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "qml/DiskFolder.h"
 #include "qml/EngineFixture.h"
 
+#include <QAction>
 #include <QQmlComponent>
+#include <QQmlContext>
 
 namespace {
 
@@ -29,6 +32,7 @@ private Q_SLOTS:
     void reportTheErrorOfAFile();
     void warnOfAnEmptySource();
     void areNotMadeAfterTheParentDied();
+    void dieWithAParentThatTheyDelete();
     void surviveACallbackThatDeletes_data();
     void surviveACallbackThatDeletes();
 };
@@ -145,6 +149,23 @@ void tst_OxaQmlEngine_Components::areNotMadeAfterTheParentDied()
     QCOMPARE(EngineLog::take(),
              QStringLiteral("Creating Controlled.qml | Creating Plain.qml | "
                             "Initializing Plain.qml | Ready Plain.qml"));
+}
+
+void tst_OxaQmlEngine_Components::dieWithAParentThatTheyDelete()
+{
+    const EngineFixture fixture;
+    const DiskFolder folder;
+    QVERIFY(folder.write(QStringLiteral("Client.qml"),
+                         "import QtQuick 2.15\nItem { Component.onCompleted: client.trigger() }"));
+    fixture.engine()->setReadQmlFromDisk(true);
+    const QPointer<QObject> parent = new QObject;
+    QAction client;
+    fixture.engine()->rootContext()->setContextProperty(QStringLiteral("client"), &client);
+    connect(&client, &QAction::triggered, this, [&parent] { delete parent; });
+    const QString source = folder.sourceOf(QStringLiteral("Client.qml"));
+    OxaQmlEngine::createQmlComponent(source, parent, {}, callbackWithObject());
+    QTRY_VERIFY(!parent);
+    QCOMPARE(EngineLog::take(), QStringLiteral("Creating ") + source);
 }
 
 void tst_OxaQmlEngine_Components::surviveACallbackThatDeletes_data()

@@ -186,6 +186,7 @@ void tst_OxaQmlEngine_Lifetime::survivesDeletionOfTheEngineBeforeItsViews()
     const std::unique_ptr<OxaQuickView> view(
             OxaQmlEngine::createQmlWindow(source, nullptr, {}, {}));
     OxaQmlEngine::createQmlWidget(source, &parent, {}, {});
+    OxaQmlEngine::createQmlComponent(source, &parent, {}, {}); // It does not load any more.
     EngineLog::take();
     delete fixture.engine();
     QCOMPARE(EngineLog::take(), QString());
