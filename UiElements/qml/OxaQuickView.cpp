@@ -2,6 +2,7 @@
 #include "OxaQuickView.h"
 
 #include <UiElements/app/AppUtils.h>
+#include <UiElements/app/BoundedPixels_p.h>
 #include <UiElements/qml/OxaQmlController.h>
 #include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/qml/RenderTimer_p.h>
@@ -84,7 +85,8 @@ void OxaQuickView::showAt(const QPoint &point, QScreen *screen)
     setScreen(target);
     if (!self)
         return;
-    setPosition(movedInside(QRect(point, size()), target->availableGeometry()));
+    const QRect place(BoundedPixels::bounded(QPointF(point)), size());
+    setPosition(movedInside(place, target->availableGeometry()));
     if (!self)
         return;
     if (m_viewOptions.deferShow)
@@ -97,7 +99,8 @@ void OxaQuickView::showAt(const QWidget *widget, QScreen *screen)
 {
     if (!widget)
         return;
-    const QPoint centre = widget->mapToGlobal(widget->rect().center());
+    const QPoint centre = BoundedPixels::bounded(
+            QPointF(widget->mapToGlobal(widget->rect().center())));
     showAt(centre + QPoint(-(width() / 2), widget->height() / 2), screen);
 }
 
@@ -132,7 +135,7 @@ void OxaQuickView::updateSize()
     const QQuickItem *const root = rootObject();
     if (!root)
         return;
-    const QSize size = root->size().toSize();
+    const QSize size = BoundedPixels::bounded(root->size());
     setMinimumSize(size);
     setMaximumSize(size);
     resize(size);

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void movesOnlyToAnotherSource();
     void takesItsDesiredSize_data();
     void takesItsDesiredSize();
+    void liesFarAwayForASourceFarAway();
     void changesTheWishedSide();
     void changesItsBodysSizePolicy();
     void fixesItsHeight();
@@ -189,6 +190,20 @@ void tst_PopupWidgetPlacing::takesItsDesiredSize()
     popup.setDesiredSize(desired);
     popup.showSmooth(nearMiddle);
     QCOMPARE(popup.geometry(), QRect(QPoint(329 - size.width() / 2, 319), size));
+}
+
+void tst_PopupWidgetPlacing::liesFarAwayForASourceFarAway()
+{
+    for (const int far : { INT_MAX, INT_MIN }) {
+        const QPoint corner(far, far);
+        FilledPopup bySource;
+        bySource.repositionWindow(QRect(corner, corner), true);
+        QCOMPARE(bySource.x() > 0, far > 0);
+        QCOMPARE(bySource.getOriginRect(), QRect(corner, corner));
+        FilledPopup byOffset(data().offset(corner));
+        byOffset.showSmooth(nearMiddle);
+        QCOMPARE(byOffset.x() > 0, far > 0);
+    }
 }
 
 void tst_PopupWidgetPlacing::changesTheWishedSide()
