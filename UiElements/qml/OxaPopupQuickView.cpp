@@ -49,6 +49,7 @@ OxaPopupQuickView::OxaPopupQuickView(OxaQmlEngine *engine, QWindow *parent,
 
 OxaPopupQuickView::~OxaPopupQuickView()
 {
+    delete rootObject(); // Its QML may change the size of the view, which is still a popup here.
     if (m_activationItem && !m_activationProperty.isEmpty())
         setPropertyOrWarn(m_activationItem, m_activationProperty, false, resetWarning);
 }

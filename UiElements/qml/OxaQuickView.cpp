@@ -45,8 +45,12 @@ OxaQuickView::OxaQuickView(OxaQmlEngine *engine, QWindow *parent, const ViewOpti
             Qt::QueuedConnection);
 }
 
-// Rendering that goes on while the base class is destroyed must not reach the timer.
-OxaQuickView::~OxaQuickView() { setPerformanceWatcherEnabled(false); }
+OxaQuickView::~OxaQuickView()
+{
+    delete rootObject(); // Its QML may do something to the view, which is still whole here.
+    // Rendering that goes on while the base class is destroyed must not reach the timer.
+    setPerformanceWatcherEnabled(false);
+}
 
 ViewOptions OxaQuickView::getViewOptions() const { return m_viewOptions; }
 
@@ -91,7 +95,7 @@ void OxaQuickView::showAt(const QPoint &point, QScreen *screen)
         return;
     if (m_viewOptions.deferShow)
         Q_EMIT _dispatchShow();
-    else
+    else if (!isVisible() || handle()) // Not while it is shown and has changed its size by that.
         show();
 }
 
