@@ -240,13 +240,14 @@ void PopupWidget::setCentralWidgetSizePolicy(QSizePolicy::Policy horizontal,
 
 void PopupWidget::updateFixedHeight(int height)
 {
+    height = qMin(height, QWIDGETSIZE_MAX - fixedHeightMargin);
     const QPointer<PopupWidget> self(this); // A widget's handler of its size may delete the popup.
     if (QWidget *content = getRegisterWidget())
         content->setFixedHeight(height);
     if (self)
         m_centralWidget->setFixedHeight(height);
     if (self)
-        setFixedHeight(qMin(height, QWIDGETSIZE_MAX - fixedHeightMargin) + fixedHeightMargin);
+        setFixedHeight(height + fixedHeightMargin);
     if (self)
         resizeToContent();
 }

@@ -239,6 +239,10 @@ void tst_PopupWidgetPlacing::fixesItsHeight()
     QCOMPARE(popup.geometry(), QRect(329 - 55, 319, 110, 220));
     // Of the content, as much as the margin above it is not seen.
     QCOMPARE(popup.content->visibleRegion().boundingRect().height(), 200 - 11);
+
+    FilledPopup endless;
+    endless.updateFixedHeight(INT_MAX);
+    QCOMPARE(endless.content->minimumHeight(), QWIDGETSIZE_MAX - 20);
 }
 
 void tst_PopupWidgetPlacing::followsAContentThatFixesTheBody()
