@@ -33,7 +33,9 @@ class QWindow;
 ///
 /// A callback, or a slot of qmlViewStatusChanged(), may delete the view or the engine while a view
 /// loads: the function then returns null. Slots that hear of DestroyedController or DestroyedView
-/// run in a destructor: there, use deleteLater().
+/// run in a destructor: there, use deleteLater(), and neither reload nor run an event loop. What
+/// QML calls may neither delete the view or the engine nor reload: Qt still uses the object that
+/// calls.
 class UIELEMENTS_EXPORT OxaQmlEngine : public QQmlEngine
 {
     Q_OBJECT
@@ -63,7 +65,8 @@ public:
     ~OxaQmlEngine() override;
 
     /// Sets the function that makes the application's next engine, which can so be of the client's
-    /// own class. Null, the default, or a null result makes an OxaQmlEngine.
+    /// own class. Null, the default, or a null result makes an OxaQmlEngine. Neither the function
+    /// nor the constructor of what it makes may ask for the engine.
     static void setFactory(Factory factory);
 
     /// True when QML files are read from disk. Off by default.

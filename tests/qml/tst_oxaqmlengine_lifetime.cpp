@@ -186,6 +186,8 @@ void tst_OxaQmlEngine_Lifetime::survivesDeletionOfTheEngineBeforeItsViews()
     const std::unique_ptr<OxaQuickView> view(
             OxaQmlEngine::createQmlWindow(source, nullptr, {}, {}));
     OxaQmlEngine::createQmlWidget(source, &parent, {}, {});
+    // It does not load any more.
+    OxaQmlEngine::createQmlComponent(QStringLiteral("Plain.qml"), &parent, {}, {});
     EngineLog::take();
     delete fixture.engine();
     QCOMPARE(EngineLog::take(), QString());

@@ -214,6 +214,8 @@ void tst_OxaQuickView::hasTheSizeOfItsRootItem()
     QCOMPARE(view.size(), QSize(200, 20));
     QCOMPARE(view.minimumSize(), QSize(200, 20));
     QCOMPARE(view.maximumSize(), QSize(200, 20));
+    root->setWidth(qInf()); // As large as windows can be, though not shown so.
+    QVERIFY(view.minimumWidth() > 1000000);
 }
 
 void tst_OxaQuickView::staysResizableWithoutARootItem()

@@ -101,6 +101,7 @@ private Q_SLOTS:
     void keepsEveryTabWithoutABorder();
     void staysOutOfQmlWithTheBorderAlone();
     void keepsOtherKeysInQml();
+    void leavesAnItemThatIsHidden();
     void forgetsABorderThatDies();
     void takesTheFocusAgainOnceItsWindowIsActive_data();
     void takesTheFocusAgainOnceItsWindowIsActive();
@@ -243,6 +244,25 @@ void tst_OxaQuickWidget::keepsOtherKeysInQml()
     QTest::keyClick(scene.window.windowHandle(), Qt::Key_Tab);
     QTRY_COMPARE(scene.focus(), QStringLiteral("after"));
     QCOMPARE(scene.quick->rootObject()->property("tabs").toInt(), 0);
+}
+
+void tst_OxaQuickWidget::leavesAnItemThatIsHidden()
+{
+    FocusScene scene(m_engine.get(), R"(
+        import QtQuick 2.15
+        Item {
+            id: root
+            width: 100; height: 40
+            focus: true
+            Item { id: breakQmlFocus; activeFocusOnTab: true }
+        })");
+    QVERIFY(scene.show());
+    scene.quick->setFocus();
+    scene.quick->rootObject()->forceActiveFocus();
+    QTRY_COMPARE(scene.focus(), QStringLiteral("root"));
+    scene.quick->rootObject()->setVisible(false);
+    QTest::keyClick(scene.window.windowHandle(), Qt::Key_Backtab);
+    QTRY_COMPARE(scene.focus(), QStringLiteral("before"));
 }
 
 void tst_OxaQuickWidget::forgetsABorderThatDies()

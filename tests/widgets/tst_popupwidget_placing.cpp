@@ -32,6 +32,7 @@ private Q_SLOTS:
     void alignsItselfByTheMarginsOfItsLayout();
     void takesItsDesiredSize_data();
     void takesItsDesiredSize();
+    void liesFarAwayForASourceFarAway();
     void changesTheWishedSide();
     void changesItsBodysSizePolicy();
     void fixesItsHeight();
@@ -208,6 +209,20 @@ void tst_PopupWidgetPlacing::takesItsDesiredSize()
     QCOMPARE(popup.geometry(), QRect(QPoint(329 - size.width() / 2, 319), size));
 }
 
+void tst_PopupWidgetPlacing::liesFarAwayForASourceFarAway()
+{
+    for (const int far : { INT_MAX, INT_MIN }) {
+        const QPoint corner(far, far);
+        FilledPopup bySource;
+        bySource.repositionWindow(QRect(corner, corner), true);
+        QCOMPARE(bySource.x() > 0, far > 0);
+        QCOMPARE(bySource.getOriginRect(), QRect(corner, corner));
+        FilledPopup byOffset(data().offset(corner));
+        byOffset.showSmooth(nearMiddle);
+        QCOMPARE(byOffset.x() > 0, far > 0);
+    }
+}
+
 void tst_PopupWidgetPlacing::changesTheWishedSide()
 {
     FilledPopup popup;
@@ -241,6 +256,10 @@ void tst_PopupWidgetPlacing::fixesItsHeight()
     QCOMPARE(popup.geometry(), QRect(329 - 55, 319, 110, 220));
     // Of the content, as much as the margin above it is not seen.
     QCOMPARE(popup.content->visibleRegion().boundingRect().height(), 200 - 11);
+
+    FilledPopup endless;
+    endless.updateFixedHeight(INT_MAX);
+    QCOMPARE(endless.content->minimumHeight(), QWIDGETSIZE_MAX - 20);
 }
 
 void tst_PopupWidgetPlacing::followsAContentThatFixesTheBody()

@@ -1,6 +1,0 @@
-// SPDX-License-Identifier: Apache-2.0
-import QtQml 2.15
-
-QtObject {
-    property int value: missing
-}
