@@ -221,7 +221,7 @@ QPointer<View> makeView(const Request &request, const OxaQmlEngine::ControllerCa
     const QPointer<OxaQmlEngine> engine = findEngine();
     if (engine)
         Q_EMIT engine->qmlViewStatusChanged(Status::Creating, request.source);
-    const QPointer<View> view = engine ? construct(engine.data()) : nullptr;
+    QPointer<View> view = engine ? construct(engine.data()) : nullptr;
     if (!view)
         return {};
 
@@ -313,8 +313,8 @@ QPointer<OxaQuickView> OxaQmlEngine::createQmlDialog(const QString &source, QWin
                                                      bool fixedSize)
 {
     const QPointer<QWindow> guard = parent;
-    const QPointer<OxaQuickView> view = createQmlWindow(source, nullptr, initialProperties,
-                                                        controllerCallback);
+    QPointer<OxaQuickView> view = createQmlWindow(source, nullptr, initialProperties,
+                                                  controllerCallback);
     if (!view)
         return {};
     view->setViewOptions(ViewOptions());
@@ -330,11 +330,11 @@ QPointer<OxaPopupQuickView> OxaQmlEngine::createQmlPopup(
         const ControllerCallback &controllerCallback, bool dialog)
 {
     const QPointer<QWindow> guard = parent;
-    const auto view = makeView<OxaPopupQuickView>({ source, initialProperties }, controllerCallback,
-                                                  [](OxaQmlEngine *engine) {
-                                                      return new OxaPopupQuickView(engine, nullptr,
-                                                                                   ViewOptions());
-                                                  });
+    auto view = makeView<OxaPopupQuickView>({ source, initialProperties }, controllerCallback,
+                                            [](OxaQmlEngine *engine) {
+                                                return new OxaPopupQuickView(engine, nullptr,
+                                                                             ViewOptions());
+                                            });
     if (!view)
         return {};
     ViewOptions options;
