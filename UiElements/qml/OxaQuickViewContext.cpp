@@ -42,11 +42,11 @@ QPointer<OxaQuickView> OxaQuickViewContext::createOxaQuickView(
         const ControllerCallback &controllerCallback)
 {
     const std::string key = source.toStdString();
-    if (const QPointer<OxaQuickView> existing = findOxaQuickView(key))
+    if (QPointer<OxaQuickView> existing = findOxaQuickView(key))
         return existing;
 
     const QPointer<OxaQuickViewContext> guard = this;
-    const QPointer<OxaQuickView> view = instantiateOxaQuickView(source, parent, initialProperties,
+    QPointer<OxaQuickView> view = instantiateOxaQuickView(source, parent, initialProperties,
                                                                 controllerCallback);
     if (!guard || !view)
         return view;

@@ -61,7 +61,7 @@ bool OxaQuickWidget::event(QEvent *event)
 {
     if (m_customAccessibilityEnabled && event->type() == QEvent::KeyPress
         && leavesQml(static_cast<QKeyEvent *>(event)->key()))
-        return false; // The parent widgets get the key and move the focus.
+        return false; // The parent widgets move the focus. clazy:exclude=base-class-event
     if (m_customAccessibilityEnabled && m_focusRetryPending
         && event->type() == QEvent::FocusAboutToChange) {
         const QPointer<OxaQuickWidget> self(this); // A slot may delete the widget.
