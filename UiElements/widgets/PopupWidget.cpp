@@ -347,7 +347,7 @@ bool PopupWidget::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::LayoutRequest
         && m_centralWidget->contentLayout()->sizeConstraint() == QLayout::SetFixedSize)
         repositionWindow(m_data.m_alignment, m_data.m_arrowPostion);
-    return false;
+    return OxaWidget::eventFilter(watched, event);
 }
 
 void PopupWidget::enterEvent(QEvent *event)
