@@ -4,18 +4,33 @@
 #include <QAccessible>
 
 class QWidget;
-
-/// What the widgets of one class are to assistive technology. A class without a row of its own has
-/// that of its base class; without one there, what Qt tells of it is right as it is.
+/// What the widgets of one class are to assistive technology, as far as Qt does not know it. A
+/// class without a row of its own has that of its base class.
 struct AccessibleClass
 {
+    using Text = QString (*)(const QWidget &widget);
+
     const QMetaObject *metaObject;
-    QAccessible::Role role; ///< Where the widget stores none.
+
+    /// The role where the widget stores none; NoRole for the one that Qt tells.
+    QAccessible::Role role = QAccessible::NoRole;
+
+    Text name = nullptr;   ///< The text of a widget without an accessible name.
+    Text remark = nullptr; ///< What the description says at its end.
+
+    /// The role by what the widget shows; NoRole for that above.
+    QAccessible::Role (*shownRole)(const QWidget &widget) = nullptr;
 
     /// The role of the buttons in the widget's layout; NoRole where they are what they are anyway.
-    QAccessible::Role memberRole;
+    QAccessible::Role memberRole = QAccessible::NoRole;
 
-    QAccessibleInterface *(*makeInterface)(QWidget *widget, QAccessible::Role role);
+    /// Does what the key does that makes the value greater, or less.
+    void (*step)(QWidget &widget, bool isUp) = nullptr;
+
+    /// Makes the interface on top of \a qts, the one that Qt has made; null for an
+    /// AccessibleWidget.
+    QAccessibleInterface *(*make)(QWidget *widget, const AccessibleClass &row,
+                                  QAccessibleInterface *qts) = nullptr;
 };
 
 /// The table of those classes, and the factory that reads it.
