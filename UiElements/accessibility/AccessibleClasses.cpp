@@ -81,12 +81,12 @@ void stepField(QWidget &field, bool isUp)
 }
 
 template <typename Interface>
-QAccessibleInterface *make(QWidget *widget, const AccessibleClass &row, QAccessibleInterface *qts)
+QAccessibleInterface *make(QWidget *widget, QAccessibleInterface *qts)
 {
-    return new Interface(widget, row, qts);
+    return new Interface(widget, qts);
 }
 
-/// The usual case: a role at most.
+/// The usual case: a role at most, a text, a remark.
 template <typename Widget>
 constexpr AccessibleClass row(Role role = QAccessible::NoRole, AccessibleClass::Text name = nullptr,
                               AccessibleClass::Text remark = nullptr)
@@ -96,40 +96,42 @@ constexpr AccessibleClass row(Role role = QAccessible::NoRole, AccessibleClass::
 
 template <typename Label>
 constexpr AccessibleClass label(Role role = QAccessible::NoRole,
-                                Role (*shownRole)(const QWidget &) = nullptr)
+                                AccessibleClass::ShownRole shownRole = nullptr)
 {
-    return { &Label::staticMetaObject, role, AccessibleTexts::ofLabel, nullptr, shownRole };
+    AccessibleClass label = row<Label>(role, AccessibleTexts::ofLabel);
+    label.shownRole = shownRole;
+    return label;
 }
 
 template <typename Button>
 constexpr AccessibleClass button(AccessibleClass::Text remark = nullptr)
 {
-    return { &Button::staticMetaObject,
-             QAccessible::NoRole,
-             AccessibleTexts::ofButton,
-             remark,
-             nullptr,
-             QAccessible::NoRole,
-             nullptr,
-             make<AccessibleButton> };
+    AccessibleClass button = row<Button>(QAccessible::NoRole, AccessibleTexts::ofButton, remark);
+    button.make = make<AccessibleButton>;
+    return button;
 }
 
 template <typename Bar>
 constexpr AccessibleClass bar(Role role, Role memberRole)
 {
-    return { &Bar::staticMetaObject, role, nullptr, nullptr, nullptr, memberRole };
+    AccessibleClass bar = row<Bar>(role);
+    bar.memberRole = memberRole;
+    return bar;
 }
 
 template <typename Field>
-constexpr AccessibleClass stepper(void (*step)(QWidget &field, bool isUp))
+constexpr AccessibleClass stepper(AccessibleClass::Step step)
 {
-    return { &Field::staticMetaObject,
-             QAccessible::NoRole,
-             nullptr,
-             nullptr,
-             nullptr,
-             QAccessible::NoRole,
-             step };
+    AccessibleClass field = row<Field>();
+    field.step = step;
+    return field;
+}
+
+constexpr AccessibleClass popup()
+{
+    AccessibleClass popup = row<PopupWidget>(QAccessible::Dialog, AccessibleTexts::ofPopup);
+    popup.shownRole = popupRole;
+    return popup;
 }
 
 constexpr AccessibleClass classes[] = {
@@ -173,21 +175,8 @@ constexpr AccessibleClass classes[] = {
     row<OxaStackedWidget>(),
     row<OxaMainWindow>(),
     row<OxaDialog>(),
-    { &PopupWidget::staticMetaObject, QAccessible::Dialog, AccessibleTexts::ofPopup, nullptr,
-      popupRole },
+    popup(),
 };
-
-/// Returns the row of the class of \a object or of its nearest base class that has one, or null.
-const AccessibleClass *classOf(const QObject &object)
-{
-    for (const QMetaObject *each = object.metaObject(); each; each = each->superClass()) {
-        for (const AccessibleClass &row : classes) {
-            if (row.metaObject == each)
-                return &row;
-        }
-    }
-    return nullptr;
-}
 
 /// An interface whose removal has Qt forget which one its widget has.
 class Unregistration : public QAccessibleWidget
@@ -228,7 +217,8 @@ QAccessibleInterface *makeQtsInterface(QWidget *widget)
 QAccessibleInterface *makeInterface(const QString &className, QObject *object)
 {
     static const QObject *askedForQts = nullptr;
-    const AccessibleClass *row = object == askedForQts ? nullptr : classOf(*object);
+    const AccessibleClass *row = object == askedForQts ? nullptr
+                                                       : AccessibleClasses::rowOf(*object);
     if (!row || className != QLatin1String(row->metaObject->className()))
         return nullptr;
     const QScopedValueRollback<const QObject *> asking(askedForQts, object);
@@ -236,7 +226,7 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object)
     QAccessibleInterface *qts = makeQtsInterface(widget);
     if (!qts)
         return nullptr;
-    return row->make ? row->make(widget, *row, qts) : new AccessibleWidget(widget, *row, qts);
+    return row->make ? row->make(widget, qts) : new AccessibleWidget(widget, qts);
 }
 
 } // namespace
@@ -245,11 +235,22 @@ void AccessibleClasses::install() { QAccessible::installFactory(makeInterface); 
 
 void AccessibleClasses::remove() { QAccessible::removeFactory(makeInterface); }
 
+const AccessibleClass *AccessibleClasses::rowOf(const QObject &object)
+{
+    for (const QMetaObject *each = object.metaObject(); each; each = each->superClass()) {
+        for (const AccessibleClass &row : classes) {
+            if (row.metaObject == each)
+                return &row;
+        }
+    }
+    return nullptr;
+}
+
 QAccessible::Role AccessibleClasses::memberRole(QWidget *widget)
 {
     const QWidget *parent = widget->parentWidget();
     if (!parent || !parent->layout() || parent->layout()->indexOf(widget) < 0)
         return QAccessible::NoRole;
-    const AccessibleClass *row = classOf(*parent);
+    const AccessibleClass *row = rowOf(*parent);
     return row ? row->memberRole : QAccessible::NoRole;
 }

@@ -91,6 +91,14 @@ void tellErrors(Relations &relations, const QWidget &widget)
     }
 }
 
+/// True for a widget that listens to its own part: Qt takes all that listen to be controlled.
+bool isOwner(const QPair<QAccessibleInterface *, QAccessible::Relation> &relation,
+             const QWidget &widget)
+{
+    const auto *other = qobject_cast<const QWidget *>(relation.first->object());
+    return relation.second == QAccessible::Controlled && other && other->isAncestorOf(&widget);
+}
+
 } // namespace
 
 QAccessible::Role AccessibleRelations::storedRole(const QWidget &widget)
@@ -134,7 +142,9 @@ AccessibleRelations::Relations AccessibleRelations::of(const QWidget &widget,
     addParts(relations, widget);
     addPopups(relations, widget);
     tellErrors(relations, widget);
-    const auto isOther = [match](const auto &each) { return !(each.second & match); };
+    const auto isOther = [match, &widget](const auto &each) {
+        return !(each.second & match) || isOwner(each, widget);
+    };
     relations.erase(std::remove_if(relations.begin(), relations.end(), isOther), relations.end());
     return relations;
 }

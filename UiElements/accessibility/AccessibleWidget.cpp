@@ -9,22 +9,31 @@
 #include <QLabel>
 #include <QVariant>
 
-AccessibleWidget::AccessibleWidget(QWidget *widget, const AccessibleClass &row,
-                                   QAccessibleInterface *qts)
-    : QAccessibleWidget(widget), m_class(row), m_qts(qts), m_qtsId(QAccessible::uniqueId(qts))
+AccessibleWidget::AccessibleWidget(QWidget *widget, QAccessibleInterface *qts)
+    : QAccessibleWidget(widget), m_qts(qts), m_qtsId(QAccessible::uniqueId(qts))
 {
 }
 
 // By its id: at the end of the process Qt deletes all interfaces, in any order.
 AccessibleWidget::~AccessibleWidget() { QAccessible::deleteAccessibleInterface(m_qtsId); }
 
+/// Qt may make the interface in the constructor of a base class, as it does when a label gets its
+/// text: the row is looked up each time. A widget that is being deleted has none in the end.
+const AccessibleClass &AccessibleWidget::row() const
+{
+    static constexpr AccessibleClass none;
+    const AccessibleClass *row = AccessibleClasses::rowOf(*object());
+    return row ? *row : none;
+}
+
 QAccessible::Role AccessibleWidget::role() const
 {
+    const AccessibleClass &row = this->row();
     QAccessible::Role role = AccessibleRelations::storedRole(*widget());
-    if (role == QAccessible::NoRole && m_class.shownRole)
-        role = m_class.shownRole(*widget());
+    if (role == QAccessible::NoRole && row.shownRole)
+        role = row.shownRole(*widget());
     if (role == QAccessible::NoRole)
-        role = m_class.role == QAccessible::NoRole ? m_qts->role() : m_class.role;
+        role = row.role == QAccessible::NoRole ? m_qts->role() : row.role;
     return role == QAccessible::Pane && widget()->isWindow() ? QAccessible::Window : role;
 }
 
@@ -42,11 +51,12 @@ QString AccessibleWidget::text(QAccessible::Text kind) const
 
 QString AccessibleWidget::name() const
 {
+    const auto textOf = row().name;
     QString name = widget()->accessibleName();
-    if (name.isEmpty() && m_class.name)
-        name = m_class.name(*widget());
+    if (name.isEmpty() && textOf)
+        name = textOf(*widget());
     // A title that the class sets for all its windows is not the name of one.
-    if (name.isEmpty() && !(m_class.name && widget()->isWindow()))
+    if (name.isEmpty() && !(textOf && widget()->isWindow()))
         name = m_qts->text(QAccessible::Name);
     return name.isEmpty() ? widget()->toolTip() : name;
 }
@@ -57,8 +67,8 @@ QString AccessibleWidget::description() const
     if (parts.first() == name())
         parts.clear();
     parts += AccessibleTexts::errorOf(*widget());
-    if (m_class.remark)
-        parts += m_class.remark(*widget());
+    if (const auto remarkOf = row().remark)
+        parts += remarkOf(*widget());
     parts.removeAll(QString());
     return parts.join(QStringLiteral(", "));
 }
@@ -70,9 +80,13 @@ void AccessibleWidget::setText(QAccessible::Text kind, const QString &text)
 
 QAccessible::State AccessibleWidget::state() const
 {
+    // Qt tells none of these of a list.
+    const QAccessible::State common = QAccessibleWidget::state();
     QAccessible::State state = m_qts->state();
-    if (widget()->focusProxy())
-        state.focusable = state.focused = false;
+    state.disabled = common.disabled;
+    state.invisible = common.invisible;
+    state.focusable = common.focusable && !widget()->focusProxy();
+    state.focused = common.focused && !widget()->focusProxy();
     state.modal = widget()->isModal();
     state.hasPopup = state.hasPopup || AccessibleRelations::hasPopup(*widget());
     return state;
@@ -115,10 +129,11 @@ QStringList AccessibleWidget::actionNames() const
 {
     if (!widget()->isEnabled())
         return {};
-    QStringList names = m_qts->actionInterface()->actionNames();
+    QAccessibleActionInterface *qtsActions = m_qts->actionInterface();
+    QStringList names = qtsActions ? qtsActions->actionNames() : QAccessibleWidget::actionNames();
     if (isClickable())
         names.prepend(pressAction());
-    if (m_class.step)
+    if (row().step)
         names << increaseAction() << decreaseAction();
     return names;
 }
@@ -135,16 +150,13 @@ void AccessibleWidget::doAction(const QString &name)
 {
     if (!actionNames().contains(name))
         return;
-    if (m_class.step && (name == increaseAction() || name == decreaseAction()))
-        m_class.step(*widget(), name == increaseAction());
+    if (name == increaseAction() || name == decreaseAction())
+        row().step(*widget(), name == increaseAction());
     else if (name == pressAction() && isClickable())
         QCoreApplication::postEvent(widget(),
                                     new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier));
-    else
+    else if (m_qts->actionInterface())
         m_qts->actionInterface()->doAction(name);
-}
-
-QStringList AccessibleWidget::keyBindingsForAction(const QString &name) const
-{
-    return m_qts->actionInterface()->keyBindingsForAction(name);
+    else
+        QAccessibleWidget::doAction(name);
 }

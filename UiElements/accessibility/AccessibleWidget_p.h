@@ -15,8 +15,8 @@ class AccessibleWidget : public QAccessibleWidget
     Q_DISABLE_COPY_MOVE(AccessibleWidget)
 
 public:
-    /// Tells of \a widget by \a row, and what \a qts tells. Takes \a qts over.
-    AccessibleWidget(QWidget *widget, const AccessibleClass &row, QAccessibleInterface *qts);
+    /// Tells of \a widget by the row of its class, and what \a qts tells. Takes \a qts over.
+    AccessibleWidget(QWidget *widget, QAccessibleInterface *qts);
     ~AccessibleWidget() override;
 
     /// Returns the property `accessibleRole`, if there is one and it is not NoRole; or else that of
@@ -46,18 +46,17 @@ public:
     QStringList actionNames() const override;
 
     void doAction(const QString &name) override;
-    QStringList keyBindingsForAction(const QString &name) const override;
 
 protected:
     /// Returns the interface that Qt has made.
     QAccessibleInterface *qts() const { return m_qts; }
 
 private:
+    const AccessibleClass &row() const;
     QString name() const;
     QString description() const;
     bool isClickable() const;
 
-    const AccessibleClass &m_class;
     QAccessibleInterface *const m_qts;
     const QAccessible::Id m_qtsId;
 };

@@ -4,10 +4,10 @@
 #include "OxaLabel.h"
 #include "OxaLineEdit.h"
 #include "TextInputParts_p.h"
+#include "WidgetParts_p.h"
 
 #include <UiElements/svg/OxaSvgPushButton.h>
 
-#include <QAccessible>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QStyle>
@@ -241,10 +241,8 @@ void OxaTextInput::tellError(bool isError)
     m_isErrorShown = isError;
     const QPointer<OxaLineEdit> edit = m_lineEdit; // A slot may delete the field.
     Q_EMIT showErrorLabel(isError);
-    if (!isChange || !edit)
-        return;
-    QAccessibleEvent event(edit, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&event);
+    if (isChange && edit)
+        WidgetParts::tellAccessibility(edit, QAccessible::DescriptionChanged);
 }
 
 void OxaTextInput::onTextChanged(const QString &text)
