@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "AccessibleButton_p.h"
 #include "AccessibleClasses_p.h"
+#include "AccessibleQuick_p.h"
 #include "AccessibleTexts_p.h"
 #include "AccessibleWidget_p.h"
 
 #include <UiElements/emoji/OxaEmojiPushButton.h>
 #include <UiElements/movies/OxaGifLabel.h>
+#include <UiElements/qml/OxaPopupQuickView.h>
+#include <UiElements/qml/OxaQuickWidget.h>
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/widgets/AlertBanner.h>
 #include <UiElements/widgets/ContainerWidget.h>
@@ -37,7 +40,6 @@
 
 #include <QKeyEvent>
 #include <QLayout>
-#include <QScopedValueRollback>
 
 namespace {
 
@@ -127,6 +129,13 @@ constexpr AccessibleClass stepper(AccessibleClass::Step step)
     return field;
 }
 
+constexpr AccessibleClass qml()
+{
+    AccessibleClass qml = row<OxaQuickWidget>(QAccessible::Pane);
+    qml.make = make<AccessibleQuickWidget>;
+    return qml;
+}
+
 constexpr AccessibleClass popup()
 {
     AccessibleClass popup = row<PopupWidget>(QAccessible::Dialog, AccessibleTexts::ofPopup);
@@ -136,21 +145,15 @@ constexpr AccessibleClass popup()
 
 constexpr AccessibleClass classes[] = {
     // What is read.
-    label<OxaLabel>(),
-    label<OxaSvgLabel>(QAccessible::NoRole, iconRole),
-    label<OxaGifLabel>(QAccessible::Graphic),
-    label<OxaEmojiPushButton>(QAccessible::PushButton),
-    row<OxaTextBrowser>(),
-    row<OxaProgressBar>(),
-    row<OxaSeparator>(QAccessible::Separator),
+    label<OxaLabel>(), label<OxaSvgLabel>(QAccessible::NoRole, iconRole),
+    label<OxaGifLabel>(QAccessible::Graphic), label<OxaEmojiPushButton>(QAccessible::PushButton),
+    row<OxaTextBrowser>(), row<OxaProgressBar>(), row<OxaSeparator>(QAccessible::Separator),
     row<AlertBanner>(QAccessible::AlertMessage, AccessibleTexts::ofLabelsIn),
     row<OxaNotification>(QAccessible::AlertMessage, AccessibleTexts::ofLabelsIn),
 
     // What is clicked.
-    button<OxaPushButton>(AccessibleTexts::badgeOf),
-    button<OxaCheckBox>(),
-    button<OxaRadioButton>(),
-    bar<OxaTabBar>(QAccessible::PageTabList, QAccessible::PageTab),
+    button<OxaPushButton>(AccessibleTexts::badgeOf), button<OxaCheckBox>(),
+    button<OxaRadioButton>(), bar<OxaTabBar>(QAccessible::PageTabList, QAccessible::PageTab),
     bar<OxaVMenu>(QAccessible::PopupMenu, QAccessible::MenuItem),
 
     // What is entered.
@@ -159,73 +162,33 @@ constexpr AccessibleClass classes[] = {
     row<OxaTextEdit>(QAccessible::NoRole, nullptr,
                      textOf<OxaTextEdit, &QTextEdit::placeholderText>),
     row<OxaComboBox>(QAccessible::NoRole, nullptr, AccessibleTexts::choiceOf),
-    stepper<OxaSlider>(stepSlider),
-    stepper<OxaDateTimeEdit>(stepField),
+    stepper<OxaSlider>(stepSlider), stepper<OxaDateTimeEdit>(stepField),
     stepper<OxaTimeEdit>(stepField),
 
     // What has others in it.
-    row<OxaWidget>(QAccessible::Pane),
-    row<OxaFrame>(QAccessible::Pane),
+    row<OxaWidget>(QAccessible::Pane), row<OxaFrame>(QAccessible::Pane),
     row<ContainerWidget>(QAccessible::Grouping,
                          textOf<ContainerWidget, &ContainerWidget::getAccessibleMessage>),
-    row<OxaListView>(),
-    row<OxaListWidget>(),
-    row<OxaTreeView>(),
-    row<OxaSplitter>(),
-    row<OxaStackedWidget>(),
-    row<OxaMainWindow>(),
-    row<OxaDialog>(),
-    popup(),
+    row<OxaListView>(), row<OxaListWidget>(), row<OxaTreeView>(), row<OxaSplitter>(),
+    row<OxaStackedWidget>(), row<OxaMainWindow>(), row<OxaDialog>(), popup(), qml(),
+    row<OxaPopupQuickView>(QAccessible::Dialog), // The one that is no widget.
 };
-
-/// An interface whose removal has Qt forget which one its widget has.
-class Unregistration : public QAccessibleWidget
-{
-    Q_DISABLE_COPY_MOVE(Unregistration)
-
-public:
-    using QAccessibleWidget::QAccessibleWidget;
-    ~Unregistration() override = default;
-
-    /// Returns nothing at first: a widget can be registered with one interface only.
-    QObject *object() const override { return m_isHere ? QAccessibleWidget::object() : nullptr; }
-
-    static void run(QWidget *widget)
-    {
-        auto *interface = new Unregistration(widget);
-        const QAccessible::Id id = QAccessible::registerAccessibleInterface(interface);
-        interface->m_isHere = true;
-        QAccessible::deleteAccessibleInterface(id);
-    }
-
-private:
-    bool m_isHere = false;
-};
-
-/// Has Qt make its own interface of \a widget, without this factory, and returns it. It stays
-/// registered by its id, but the widget can have another one.
-QAccessibleInterface *makeQtsInterface(QWidget *widget)
-{
-    QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
-    if (interface)
-        Unregistration::run(widget);
-    return interface;
-}
 
 /// Qt asks for one class after the other, from that of \a object to its base classes, and other
 /// factories for each: the row is given for its own class, so that theirs can come before it.
 QAccessibleInterface *makeInterface(const QString &className, QObject *object)
 {
-    static const QObject *askedForQts = nullptr;
-    const AccessibleClass *row = object == askedForQts ? nullptr
-                                                       : AccessibleClasses::rowOf(*object);
+    if (QtsInterface::isBeingMade(object))
+        return nullptr;
+    const AccessibleClass *row = AccessibleClasses::rowOf(*object);
     if (!row || className != QLatin1String(row->metaObject->className()))
         return nullptr;
-    const QScopedValueRollback<const QObject *> asking(askedForQts, object);
-    auto *widget = static_cast<QWidget *>(object);
-    QAccessibleInterface *qts = makeQtsInterface(widget);
+    if (!object->isWidgetType())
+        return new AccessibleQuickWindow(static_cast<OxaPopupQuickView *>(object));
+    QAccessibleInterface *qts = QtsInterface::make(object);
     if (!qts)
         return nullptr;
+    auto *widget = static_cast<QWidget *>(object);
     return row->make ? row->make(widget, qts) : new AccessibleWidget(widget, qts);
 }
 

@@ -10,12 +10,9 @@
 #include <QVariant>
 
 AccessibleWidget::AccessibleWidget(QWidget *widget, QAccessibleInterface *qts)
-    : QAccessibleWidget(widget), m_qts(qts), m_qtsId(QAccessible::uniqueId(qts))
+    : QAccessibleWidget(widget), m_qts(qts)
 {
 }
-
-// By its id: at the end of the process Qt deletes all interfaces, in any order.
-AccessibleWidget::~AccessibleWidget() { QAccessible::deleteAccessibleInterface(m_qtsId); }
 
 /// Qt may make the interface in the constructor of a base class, as it does when a label gets its
 /// text: the row is looked up each time. A widget that is being deleted has none in the end.

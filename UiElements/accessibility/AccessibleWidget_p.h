@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "QtsInterface_p.h"
+
 #include <QAccessibleWidget>
 
 struct AccessibleClass;
@@ -17,7 +19,6 @@ class AccessibleWidget : public QAccessibleWidget
 public:
     /// Tells of \a widget by the row of its class, and what \a qts tells. Takes \a qts over.
     AccessibleWidget(QWidget *widget, QAccessibleInterface *qts);
-    ~AccessibleWidget() override;
 
     /// Returns the property `accessibleRole`, if there is one and it is not NoRole; or else that of
     /// the row.
@@ -49,7 +50,7 @@ public:
 
 protected:
     /// Returns the interface that Qt has made.
-    QAccessibleInterface *qts() const { return m_qts; }
+    const QtsInterface &qts() const { return m_qts; }
 
 private:
     const AccessibleClass &row() const;
@@ -57,6 +58,5 @@ private:
     QString description() const;
     bool isClickable() const;
 
-    QAccessibleInterface *const m_qts;
-    const QAccessible::Id m_qtsId;
+    const QtsInterface m_qts;
 };
