@@ -144,16 +144,23 @@ constexpr AccessibleClass popup()
 }
 
 constexpr AccessibleClass classes[] = {
+    // clang-format off
     // What is read.
-    label<OxaLabel>(), label<OxaSvgLabel>(QAccessible::NoRole, iconRole),
-    label<OxaGifLabel>(QAccessible::Graphic), label<OxaEmojiPushButton>(QAccessible::PushButton),
-    row<OxaTextBrowser>(), row<OxaProgressBar>(), row<OxaSeparator>(QAccessible::Separator),
+    label<OxaLabel>(),
+    label<OxaSvgLabel>(QAccessible::NoRole, iconRole),
+    label<OxaGifLabel>(QAccessible::Graphic),
+    label<OxaEmojiPushButton>(QAccessible::PushButton),
+    row<OxaTextBrowser>(),
+    row<OxaProgressBar>(),
+    row<OxaSeparator>(QAccessible::Separator),
     row<AlertBanner>(QAccessible::AlertMessage, AccessibleTexts::ofLabelsIn),
     row<OxaNotification>(QAccessible::AlertMessage, AccessibleTexts::ofLabelsIn),
 
     // What is clicked.
-    button<OxaPushButton>(AccessibleTexts::badgeOf), button<OxaCheckBox>(),
-    button<OxaRadioButton>(), bar<OxaTabBar>(QAccessible::PageTabList, QAccessible::PageTab),
+    button<OxaPushButton>(AccessibleTexts::badgeOf),
+    button<OxaCheckBox>(),
+    button<OxaRadioButton>(),
+    bar<OxaTabBar>(QAccessible::PageTabList, QAccessible::PageTab),
     bar<OxaVMenu>(QAccessible::PopupMenu, QAccessible::MenuItem),
 
     // What is entered.
@@ -162,16 +169,26 @@ constexpr AccessibleClass classes[] = {
     row<OxaTextEdit>(QAccessible::NoRole, nullptr,
                      textOf<OxaTextEdit, &QTextEdit::placeholderText>),
     row<OxaComboBox>(QAccessible::NoRole, nullptr, AccessibleTexts::choiceOf),
-    stepper<OxaSlider>(stepSlider), stepper<OxaDateTimeEdit>(stepField),
+    stepper<OxaSlider>(stepSlider),
+    stepper<OxaDateTimeEdit>(stepField),
     stepper<OxaTimeEdit>(stepField),
 
     // What has others in it.
-    row<OxaWidget>(QAccessible::Pane), row<OxaFrame>(QAccessible::Pane),
+    row<OxaWidget>(QAccessible::Pane),
+    row<OxaFrame>(QAccessible::Pane),
     row<ContainerWidget>(QAccessible::Grouping,
                          textOf<ContainerWidget, &ContainerWidget::getAccessibleMessage>),
-    row<OxaListView>(), row<OxaListWidget>(), row<OxaTreeView>(), row<OxaSplitter>(),
-    row<OxaStackedWidget>(), row<OxaMainWindow>(), row<OxaDialog>(), popup(), qml(),
+    row<OxaListView>(),
+    row<OxaListWidget>(),
+    row<OxaTreeView>(),
+    row<OxaSplitter>(),
+    row<OxaStackedWidget>(),
+    row<OxaMainWindow>(),
+    row<OxaDialog>(),
+    popup(),
+    qml(),
     row<OxaPopupQuickView>(QAccessible::Dialog), // The one that is no widget.
+    // clang-format on
 };
 
 /// Qt asks for one class after the other, from that of \a object to its base classes, and other
