@@ -131,8 +131,8 @@ void tst_AccessibleStories::opensAPopupAndLeavesIt()
     QTRY_VERIFY(content->hasFocus());
     QCOMPARE(events.take(), QStringLiteral("Focus content"));
     QTest::keyClick(popup, Qt::Key_Escape);
-    QTRY_VERIFY(button.hasFocus());
-    QCOMPARE(events.take(), QStringLiteral("Focus more"));
+    QVERIFY(!popup->isVisible());
+    QCOMPARE(window.focusWidget(), &button); // It has the focus when its window is active again.
 }
 
 void tst_AccessibleStories::showsABannerAndChangesIt()
