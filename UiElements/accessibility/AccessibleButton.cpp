@@ -43,7 +43,7 @@ QAccessible::State AccessibleButton::state() const
 
 QStringList AccessibleButton::actionNames() const
 {
-    QStringList names = QAccessibleWidget::actionNames();
+    QStringList names = AccessibleWidget::actionNames().filter(setFocusAction());
     if (button()->isEnabled() && !clickAction().isEmpty())
         names.prepend(clickAction());
     return names;
@@ -55,7 +55,7 @@ void AccessibleButton::doAction(const QString &name)
         return;
     auto *pushButton = qobject_cast<QPushButton *>(button());
     if (name != clickAction())
-        QAccessibleWidget::doAction(name);
+        AccessibleWidget::doAction(name);
     else if (pushButton && pushButton->menu())
         QMetaObject::invokeMethod(pushButton, &QPushButton::showMenu, Qt::QueuedConnection);
     else

@@ -147,8 +147,9 @@ void AccessibleWidget::doAction(const QString &name)
 {
     if (!actionNames().contains(name))
         return;
-    if (name == increaseAction() || name == decreaseAction())
-        row().step(*widget(), name == increaseAction());
+    const AccessibleClass::Step step = row().step;
+    if (step && (name == increaseAction() || name == decreaseAction()))
+        step(*widget(), name == increaseAction());
     else if (name == pressAction() && isClickable())
         QCoreApplication::postEvent(widget(),
                                     new QKeyEvent(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier));

@@ -244,10 +244,10 @@ void tst_AccessibilityBus::tellsOfAForm()
         "frame 'Account' [showing]",
         "  heading 'Account' [showing]",
         "  label 'Mail' [showing] <label for 'Mail'> <label for 'mail'>",
-        "  panel 'Mail' (No @ in it) [showing] {SetFocus} <labelled by 'Mail'>"
-        " <controller for 'No @ in it'>",
-        "    text 'mail' (No @ in it) [editable focusable showing] {SetFocus}"
-        " <labelled by 'Mail'> <controller for 'No @ in it'>",
+        ("  panel 'Mail' (No @ in it) [showing] {SetFocus} <labelled by 'Mail'>"
+         " <controller for 'No @ in it'>"),
+        ("    text 'mail' (No @ in it) [editable focusable showing] {SetFocus}"
+         " <labelled by 'Mail'> <controller for 'No @ in it'>"),
         "    label '' []",
         "    push button 'clear' [focusable showing] {Press SetFocus}",
         "    push button '' [focusable] {Press SetFocus}",
