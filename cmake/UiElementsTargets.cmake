@@ -11,9 +11,11 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 if(UIELEMENTS_SANITIZE)
-    # GCC does not count what an int cannot hold among the undefined.
+    # Compilers do not count what an int cannot hold among the undefined.
+    # Any int may be in an enumeration here: meta-objects put there what QML or a client gives them.
     add_compile_options(
         -fsanitize=address,undefined,float-cast-overflow
+        -fno-sanitize=enum
         -fno-sanitize-recover=undefined,float-cast-overflow
         -fno-omit-frame-pointer
     )
@@ -103,5 +105,8 @@ function(uielements_precompile_headers target)
         <vector>
         ${ARGN}
     )
-    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+    target_compile_options(${target} PRIVATE
+        $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>
+        "$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>"
+    )
 endfunction()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaPopupQuickView.h"
 
+#include <UiElements/app/BoundedPixels_p.h>
 #include <UiElements/qml/OxaQmlBalloon.h>
 #include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/qml/OxaQmlPopupController.h>
@@ -11,6 +12,8 @@
 #include <QQuickItem>
 #include <QScreen>
 #include <QWidget>
+
+using BoundedPixels::bounded;
 
 namespace {
 
@@ -46,6 +49,7 @@ OxaPopupQuickView::OxaPopupQuickView(OxaQmlEngine *engine, QWindow *parent,
 
 OxaPopupQuickView::~OxaPopupQuickView()
 {
+    delete rootObject(); // Its QML may change the size of the view, which is still a popup here.
     if (m_activationItem && !m_activationProperty.isEmpty())
         setPropertyOrWarn(m_activationItem, m_activationProperty, false, resetWarning);
 }
@@ -70,11 +74,11 @@ int OxaPopupQuickView::adjustArrowOffset(Qt::ArrowType arrow)
     case Qt::UpArrow:
     case Qt::DownArrow:
         return static_cast<int>(
-                overhang(popup.left(), popup.right(), screen.left(), screen.right()));
+                bounded(overhang(popup.left(), popup.right(), screen.left(), screen.right())));
     case Qt::LeftArrow:
     case Qt::RightArrow:
         return static_cast<int>(
-                overhang(popup.top(), popup.bottom(), screen.top(), screen.bottom()));
+                bounded(overhang(popup.top(), popup.bottom(), screen.top(), screen.bottom())));
     default:
         return 0;
     }
@@ -108,7 +112,7 @@ void OxaPopupQuickView::setPositionFromWidget(const QWidget *widget, Alignment a
 {
     if (!widget)
         return;
-    const QPoint centre = widget->mapToGlobal(widget->rect().center());
+    const QPoint centre = bounded(QPointF(widget->mapToGlobal(widget->rect().center())));
     QPoint point = centre + QPoint(-(width() / 2), widget->height() / 2);
     const QScreen *const screen = QGuiApplication::screenAt(centre);
     if (screen && alignment == BottomAlignment) {
@@ -186,7 +190,7 @@ void OxaPopupQuickView::showFrom(Qt::ArrowType arrow)
         if (!self)
             return;
     }
-    const QPoint point = getPointFromActivationRect(arrow).toPoint();
+    const QPoint point = bounded(getPointFromActivationRect(arrow));
     if (QGuiApplication::applicationState() == Qt::ApplicationActive)
         showAt(point, QGuiApplication::screenAt(point));
 }
@@ -201,7 +205,7 @@ QPointF OxaPopupQuickView::getPointFromActivationRect(Qt::ArrowType arrow) const
 std::pair<QRectF, QRectF> OxaPopupQuickView::getScreenAndPopupViewRects(Qt::ArrowType arrow) const
 {
     const QPointF point = getPointFromActivationRect(arrow);
-    const QScreen *screenThere = QGuiApplication::screenAt(point.toPoint());
+    const QScreen *screenThere = QGuiApplication::screenAt(bounded(point));
     if (!screenThere)
         screenThere = screen();
     const QRectF area = screenThere ? QRectF(screenThere->availableGeometry()) : QRectF();

@@ -70,6 +70,9 @@ public:
     /// it. A visible popup moves there. Emits arrowFlipped() if the popup is on the side opposite
     /// to \a arrow, then arrowOrthogonalChanged(). While the application is inactive, signals are
     /// emitted but the popup is neither moved nor shown.
+    ///
+    /// Ends all connections of the popup's xChanged(), yChanged(), widthChanged() and
+    /// heightChanged() to the popup itself, a client's too: give a lambda another context.
     void showAtRect(const QRectF &rect, Qt::ArrowType arrow);
 
     /// Opens the popup beside the geometry of \a widget, which is relative to the widget's parent:

@@ -3,9 +3,13 @@
 
 #include "NaturalRole_p.h"
 
+#include <UiElements/app/BoundedPixels_p.h>
+
 #include <QPainter>
 #include <QPointer>
 #include <QRect>
+
+using BoundedPixels::bounded;
 
 static QPainterPath roundedRectangle(const QRectF &rect, double radius)
 {
@@ -173,7 +177,7 @@ void OxaQmlBalloon::paint(QPainter *painter)
     painter->setPen(QPen(m_borderColor, m_borderWidth));
     painter->setRenderHint(QPainter::Antialiasing);
 
-    const QSizeF size(width(), height() - m_topMargin);
+    const QSizeF size(bounded(width()), bounded(height() - m_topMargin));
     if (m_arrowAnchor == None) {
         const QRect rect(0, 0, int(size.width()), int(size.height()));
         painter->drawRoundedRect(rect, m_radius, m_radius);
@@ -220,9 +224,11 @@ QPoint OxaQmlBalloon::calcArrowPos(QQuickItem *item, const QSize &size, ArrowAnc
 {
     if (!item)
         return {};
-    const QRect rect(item->mapToGlobal(QPointF(0, 0)).toPoint(), item->size().toSize());
-    return { getGlobalXCenter(alignment, anchor, rect, offset, inset, size.width()),
-             getGlobalYCenter(alignment, anchor, rect, offset, inset, size.height()) };
+    const QRect rect(bounded(item->mapToGlobal(QPointF(0, 0))), bounded(item->size()));
+    const QSize box = bounded(QSizeF(size));
+    const QPoint shift = bounded(QPointF(offset, inset));
+    return { getGlobalXCenter(alignment, anchor, rect, shift.x(), shift.y(), box.width()),
+             getGlobalYCenter(alignment, anchor, rect, shift.x(), shift.y(), box.height()) };
 }
 
 int OxaQmlBalloon::getGlobalXCenter(ArrowAlignment alignment, ArrowAnchor anchor, const QRect &rect,

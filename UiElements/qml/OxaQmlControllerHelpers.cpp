@@ -3,24 +3,21 @@
 
 #include <UiElements/qml/OxaQmlController.h>
 
-template <typename Value>
-static void applyInitialProperty(OxaQmlController *controller, const QVariantMap &initialProperties,
-                                 const QString &name)
-{
-    // What is missing is an invalid value, and converts to nothing.
-    const QVariant value = initialProperties.value(name);
-    if (value.canConvert<Value>())
-        controller->setProperty(name.toLatin1().constData(), value.value<Value>());
-}
+// What is missing is an invalid value, and converts to nothing. QVariant's own functions convert
+// what qvariant_cast() does not know, such as colours.
 
 void OxaQmlControllerHelpers::applyInitialStringPropertyToController(
         OxaQmlController *controller, const QVariantMap &initialProperties, const QString &name)
 {
-    applyInitialProperty<QString>(controller, initialProperties, name);
+    const QVariant value = initialProperties.value(name);
+    if (value.canConvert<QString>())
+        controller->setProperty(name.toLatin1().constData(), value.toString());
 }
 
 void OxaQmlControllerHelpers::applyInitialBoolPropertyToController(
         OxaQmlController *controller, const QVariantMap &initialProperties, const QString &name)
 {
-    applyInitialProperty<bool>(controller, initialProperties, name);
+    const QVariant value = initialProperties.value(name);
+    if (value.canConvert<bool>())
+        controller->setProperty(name.toLatin1().constData(), value.toBool());
 }

@@ -18,11 +18,11 @@ class QWindow;
 
 /// The QML engine of the application. IOxaApplication::getQmlEngine() makes it on demand.
 ///
-/// Its static functions make views from a source: the path of a QML file relative to the folder of
-/// all QML files, such as "people/Card.qml". That folder is "qrc:/Qml/", or on disk the one that
-/// the library was built with (the CMake variable UIELEMENTS_QML_SOURCE_DIR). They return null for
-/// an empty source, and where the process has no application object with an engine, each with a
-/// warning. Errors in a file are reported by qmlViewStatusChanged() only: its view stays empty.
+/// Its static functions make views from a source: the path of a QML file relative to "qrc:/Qml/",
+/// such as "people/Card.qml", or on disk to the folder that the library was built with (the CMake
+/// variable UIELEMENTS_QML_SOURCE_DIR). They return null with a warning for an empty source, and
+/// where the process has no application object with an engine. Errors in a file are reported by
+/// qmlViewStatusChanged() only: its view stays empty.
 ///
 /// A QML file may have one OxaQmlController, as a direct child of its root object. When the file
 /// has loaded, the controller's init() gets the initial properties, and then the callback is called
@@ -33,7 +33,9 @@ class QWindow;
 ///
 /// A callback, or a slot of qmlViewStatusChanged(), may delete the view or the engine while a view
 /// loads: the function then returns null. Slots that hear of DestroyedController or DestroyedView
-/// run in a destructor: there, use deleteLater().
+/// run in a destructor: there, use deleteLater(), and neither reload nor run an event loop. What
+/// QML calls may neither delete the view or the engine nor reload: Qt still uses the object that
+/// calls.
 class UIELEMENTS_EXPORT OxaQmlEngine : public QQmlEngine
 {
     Q_OBJECT
@@ -41,44 +43,34 @@ class UIELEMENTS_EXPORT OxaQmlEngine : public QQmlEngine
 public:
     /// Gets the controller of a view.
     using ControllerCallback = std::function<void(OxaQmlController *)>;
-
     /// Gets the root object of a component, and its controller.
     using ComponentCallback = std::function<void(QObject *, OxaQmlController *)>;
-
     /// Makes an engine without a parent.
     using Factory = OxaQmlEngine *(*)();
 
     /// What happened to a view. The meta-type's name is "QmlViewStatus".
     enum class QmlViewStatus {
-        /// A view is about to be made; or, with a message, it has loaded without a root object.
-        Creating = 0,
-        /// The file has loaded; the controller's init() follows.
-        Initializing = 1,
-        /// The controller, if there is one, is initialised and the callback has been called.
-        Ready = 2,
-        /// The controller was destroyed.
-        DestroyedController = 3,
-        /// The view was destroyed, or the root object of a component.
-        DestroyedView = 4,
-        /// Loading failed, or the file has more than one controller.
-        Error = 5,
+        Creating = 0, ///< A view is about to be made; or it has no root object, as a message says.
+        Initializing = 1, ///< The file has loaded; the controller's init() follows.
+        Ready = 2, ///< The controller, if there is one, is initialised and given to the callback.
+        DestroyedController = 3, ///< The controller was destroyed.
+        DestroyedView = 4,       ///< The view was destroyed, or the root object of a component.
+        Error = 5,               ///< Loading failed, or the file has more than one controller.
     };
     Q_ENUM(QmlViewStatus)
 
-    /// Makes an engine that reads QML files from resources and measures nothing. Takes its import
-    /// paths from the environment, see fixImportPath(), and reloads all views when the application
-    /// emits OxaAppSignals::reloadAllQmlViews().
+    /// Makes an engine that reads from resources, measures nothing and has the import paths of
+    /// fixImportPath(). It reloads all views at OxaAppSignals::reloadAllQmlViews().
     explicit OxaQmlEngine(QObject *parent = nullptr);
     ~OxaQmlEngine() override;
 
-    /// Sets the function by which the application makes its next engine, so that this can be of the
-    /// client's own class. Null, the default, makes an OxaQmlEngine, as does a function that
-    /// returns null. An engine that exists stays.
+    /// Sets the function that makes the application's next engine, which can so be of the client's
+    /// own class. Null, the default, or a null result makes an OxaQmlEngine. Neither the function
+    /// nor the constructor of what it makes may ask for the engine.
     static void setFactory(Factory factory);
 
     /// True when QML files are read from disk. Off by default.
     bool isReadingQmlFromDisk() const { return m_readQmlFromDisk; }
-
     /// True when new views measure their rendering time. Off by default.
     bool isWatchingPerformance() const { return m_performanceWatcherEnabled; }
 
@@ -107,14 +99,13 @@ public:
                                                       const ControllerCallback &controllerCallback,
                                                       bool dialog);
 
-    /// Makes a window of \a source as createQmlWindow() does. Its parent is the outermost window
-    /// among the ancestors of \a owner; null if there is none.
+    /// Makes a window as createQmlWindow() does. Its parent is the outermost window among the
+    /// ancestors of \a owner; null if there is none.
     static QPointer<OxaQuickView> createControllerQmlWindow(
             const QString &source, QObject *owner, const QVariantMap &initialProperties,
             const ControllerCallback &controllerCallback);
 
-    /// Makes a dialog of fixed size as createQmlDialog() does, above the outermost window among the
-    /// ancestors of \a owner.
+    /// Makes a dialog of fixed size as createQmlDialog() does, above that same window.
     static QPointer<OxaQuickView> createControllerQmlDialog(
             const QString &source, QObject *owner, const QVariantMap &initialProperties,
             const ControllerCallback &controllerCallback);
@@ -126,17 +117,13 @@ public:
                                    const ComponentCallback &callback);
 
 Q_SIGNALS:
-    /// The view of the source \a viewName reached \a status. The type's short name is what queued
-    /// connections look up.
+    /// The view of the source \a viewName reached \a status.
     void qmlViewStatusChanged(QmlViewStatus status, // clazy:exclude=fully-qualified-moc-types
                               const QString &viewName, const QString &message = QString());
-
     /// All views reload themselves if they were read from disk.
     void reloadAllQmlViews();
-
     /// A measured view painted a frame in \a milisec milliseconds. \a source is its object name.
     void finishedRendering(const QString &source, qlonglong milisec);
-
     /// A view got no graphics context. Emitted once, however many views fail.
     void sceneGraphCriticalError();
 
@@ -147,13 +134,10 @@ public Q_SLOTS:
 protected:
     /// Decides where sources are read from that are loaded from now on.
     void setReadQmlFromDisk(bool enabled);
-
     /// Decides whether views that are made from now on measure their rendering time.
     void setPerformanceWatcherEnabled(bool enabled);
-
-    /// Replaces the import paths by the folder that the environment variable QML2_IMPORT_PATH
-    /// names. Without one, they stay as they are. Logs a warning where it names several, which are
-    /// all used, and where one does not exist.
+    /// Replaces the import paths by the folders of the environment variable QML2_IMPORT_PATH, as
+    /// far as they exist and if any does. Warns of several, and of those that do not exist.
     void fixImportPath();
 
 private Q_SLOTS:

@@ -14,6 +14,8 @@
 #include <QQmlComponent>
 #include <QQuickItem>
 
+#include <memory>
+
 namespace {
 
 using Status = OxaQmlEngine::QmlViewStatus;
@@ -52,11 +54,16 @@ public:
     }
     ~ComponentGuard()
     {
-        if (m_component && m_hasOwner && !m_owner)
+        if (m_component && isOrphaned())
             m_component->deleteLater();
         else if (m_component)
             m_component->setParent(m_owner);
     }
+
+    QObject *owner() const { return m_owner; }
+
+    /// True when the owner was deleted meanwhile.
+    bool isOrphaned() const { return m_hasOwner && !m_owner; }
 
 private:
     const QPointer<QQmlComponent> m_component;
@@ -71,6 +78,13 @@ OxaQmlEngine *findEngine()
     if (!engine)
         QMessageLogger().warning() << noEngineWarning;
     return engine;
+}
+
+/// Returns the engine of a file that loads. Null also while it is being destroyed, when all such
+/// files fail: it is no OxaQmlEngine any more then.
+OxaQmlEngine *alive(const QPointer<QObject> &engine)
+{
+    return qobject_cast<OxaQmlEngine *>(engine.data());
 }
 
 /// Both URLs name exactly the file that \a source says, whatever characters it contains.
@@ -128,7 +142,7 @@ void initialize(QObject *root, const QPointer<OxaQmlEngine> &engine, const Reque
 }
 
 template <typename View>
-void onStatusChanged(View *view, typename View::Status status, const QPointer<OxaQmlEngine> &engine,
+void onStatusChanged(View *view, typename View::Status status, OxaQmlEngine *engine,
                      const Request &request, const OxaQmlEngine::ControllerCallback &callback)
 {
     if (!engine || status == View::Loading)
@@ -207,7 +221,7 @@ QPointer<View> makeView(const Request &request, const OxaQmlEngine::ControllerCa
     const QPointer<OxaQmlEngine> engine = findEngine();
     if (engine)
         Q_EMIT engine->qmlViewStatusChanged(Status::Creating, request.source);
-    const QPointer<View> view = engine ? construct(engine.data()) : nullptr;
+    QPointer<View> view = engine ? construct(engine.data()) : nullptr;
     if (!view)
         return {};
 
@@ -219,8 +233,9 @@ QPointer<View> makeView(const Request &request, const OxaQmlEngine::ControllerCa
         watch(view.data(), engine);
     reportDestruction(view, Status::DestroyedView, engine, request.source);
     QObject::connect(view.data(), &View::statusChanged, view.data(),
-                     [view, engine, request, callback](typename View::Status status) {
-                         onStatusChanged(view.data(), status, engine, request, callback);
+                     [view, guard = QPointer<QObject>(engine), request,
+                      callback](typename View::Status status) {
+                         onStatusChanged(view.data(), status, alive(guard), request, callback);
                      });
     view->setSource(urlOf(request.source, engine->isReadingQmlFromDisk()));
     return view;
@@ -236,13 +251,17 @@ QWindow *outermostWindowAbove(const QObject *owner)
     return window;
 }
 
-void onComponentReady(QQmlComponent *component, OxaQmlEngine *engine, QObject *parent,
+void onComponentReady(QQmlComponent *component, const ComponentGuard &guard, OxaQmlEngine *engine,
                       const Request &request, const OxaQmlEngine::ComponentCallback &callback)
 {
     QObject *const object = component->create();
+    if (guard.isOrphaned()) { // By what the QML called while it was created.
+        delete object;
+        return;
+    }
     if (!object)
         return;
-    object->setParent(parent);
+    object->setParent(guard.owner());
     object->setObjectName(QFileInfo(request.source).baseName());
     reportDestruction(object, Status::DestroyedView, engine, request.source);
     initialize(object, engine, request, [&callback, object](OxaQmlController *controller) {
@@ -294,8 +313,8 @@ QPointer<OxaQuickView> OxaQmlEngine::createQmlDialog(const QString &source, QWin
                                                      bool fixedSize)
 {
     const QPointer<QWindow> guard = parent;
-    const QPointer<OxaQuickView> view = createQmlWindow(source, nullptr, initialProperties,
-                                                        controllerCallback);
+    QPointer<OxaQuickView> view = createQmlWindow(source, nullptr, initialProperties,
+                                                  controllerCallback);
     if (!view)
         return {};
     view->setViewOptions(ViewOptions());
@@ -311,11 +330,11 @@ QPointer<OxaPopupQuickView> OxaQmlEngine::createQmlPopup(
         const ControllerCallback &controllerCallback, bool dialog)
 {
     const QPointer<QWindow> guard = parent;
-    const auto view = makeView<OxaPopupQuickView>({ source, initialProperties }, controllerCallback,
-                                                  [](OxaQmlEngine *engine) {
-                                                      return new OxaPopupQuickView(engine, nullptr,
-                                                                                   ViewOptions());
-                                                  });
+    auto view = makeView<OxaPopupQuickView>({ source, initialProperties }, controllerCallback,
+                                            [](OxaQmlEngine *engine) {
+                                                return new OxaPopupQuickView(engine, nullptr,
+                                                                             ViewOptions());
+                                            });
     if (!view)
         return {};
     ViewOptions options;
@@ -367,12 +386,14 @@ void OxaQmlEngine::createQmlComponent(const QString &source, QObject *parent,
     auto *const component = new QQmlComponent(engine, guard);
     const Request request { source, initialProperties };
     connect(component, &QQmlComponent::statusChanged, component,
-            [component, engine, guard, request, callback](QQmlComponent::Status status) {
+            [component, engineGuard = QPointer<QObject>(engine), guard, request,
+             callback](QQmlComponent::Status status) {
                 const ComponentGuard componentGuard(component, guard);
-                if (engine && status == QQmlComponent::Ready)
-                    onComponentReady(component, engine, guard, request, callback);
-                else if (engine && status == QQmlComponent::Error)
-                    onComponentError(component, engine, request.source);
+                OxaQmlEngine *const loader = alive(engineGuard);
+                if (loader && status == QQmlComponent::Ready)
+                    onComponentReady(component, componentGuard, loader, request, callback);
+                else if (loader && status == QQmlComponent::Error)
+                    onComponentError(component, loader, request.source);
             });
     component->loadUrl(urlOf(source, engine->isReadingQmlFromDisk()), QQmlComponent::Asynchronous);
 }

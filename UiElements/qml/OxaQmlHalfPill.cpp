@@ -93,7 +93,6 @@ void OxaQmlHalfPill::drawBorders(QPainter *painter, const QSizeF &size, const QC
 
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setBrush(Qt::NoBrush);
     painter->setPen(QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
 
     // Each line is drawn again with those after it: translucent colours and smooth edges add up.

@@ -2,6 +2,7 @@
 #include "OxaQuickView.h"
 
 #include <UiElements/app/AppUtils.h>
+#include <UiElements/app/BoundedPixels_p.h>
 #include <UiElements/qml/OxaQmlController.h>
 #include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/qml/RenderTimer_p.h>
@@ -24,8 +25,10 @@ QPoint movedInside(const QRect &rect, const QRect &available)
     const QRect visible = available.intersected(rect);
     if (visible.isEmpty() || visible == rect)
         return rect.topLeft();
-    // What is outside at the right and the bottom is moved in, what is at the left and the top
-    // further out.
+    // By as much as is outside, at whichever edge: what is outside at the right and the bottom is
+    // moved in, what is outside at the left and the top further out, maybe beyond the edge. The
+    // corner stays at that edge then; an intersection, which may be empty, would have it at (0, 0),
+    // on whichever screen that is.
     const int x = rect.x() + visible.width() - rect.width();
     const int y = rect.y() + visible.height() - rect.height();
     return { qMax(x, available.x()), qMax(y, available.y()) };
@@ -44,8 +47,12 @@ OxaQuickView::OxaQuickView(OxaQmlEngine *engine, QWindow *parent, const ViewOpti
             Qt::QueuedConnection);
 }
 
-// Rendering that goes on while the base class is destroyed must not reach the timer.
-OxaQuickView::~OxaQuickView() { setPerformanceWatcherEnabled(false); }
+OxaQuickView::~OxaQuickView()
+{
+    delete rootObject(); // Its QML may do something to the view, which is still whole here.
+    // Rendering that goes on while the base class is destroyed must not reach the timer.
+    setPerformanceWatcherEnabled(false);
+}
 
 ViewOptions OxaQuickView::getViewOptions() const { return m_viewOptions; }
 
@@ -84,12 +91,13 @@ void OxaQuickView::showAt(const QPoint &point, QScreen *screen)
     setScreen(target);
     if (!self)
         return;
-    setPosition(movedInside(QRect(point, size()), target->availableGeometry()));
+    const QRect place(BoundedPixels::bounded(QPointF(point)), size());
+    setPosition(movedInside(place, target->availableGeometry()));
     if (!self)
         return;
     if (m_viewOptions.deferShow)
         Q_EMIT _dispatchShow();
-    else
+    else if (!isVisible() || handle()) // Not while it is shown and has changed its size by that.
         show();
 }
 
@@ -97,7 +105,8 @@ void OxaQuickView::showAt(const QWidget *widget, QScreen *screen)
 {
     if (!widget)
         return;
-    const QPoint centre = widget->mapToGlobal(widget->rect().center());
+    const QPoint centre = BoundedPixels::bounded(
+            QPointF(widget->mapToGlobal(widget->rect().center())));
     showAt(centre + QPoint(-(width() / 2), widget->height() / 2), screen);
 }
 
@@ -132,7 +141,7 @@ void OxaQuickView::updateSize()
     const QQuickItem *const root = rootObject();
     if (!root)
         return;
-    const QSize size = root->size().toSize();
+    const QSize size = BoundedPixels::bounded(root->size());
     setMinimumSize(size);
     setMaximumSize(size);
     resize(size);

@@ -37,7 +37,8 @@ struct ViewOptions
 /// by a QPointer. Views are made by the functions of OxaQmlEngine.
 ///
 /// A slot of its signals calls deleteLater() instead of deleting the view: Qt still uses a window
-/// after it was shown, moved, rendered, or has lost activation.
+/// after it was shown, moved, rendered, or has lost activation. For the same reason a slot of
+/// aboutToShow() must not run an event loop, in which the view may be closed and deleted.
 class UIELEMENTS_EXPORT OxaQuickView : public QQuickView
 {
     Q_OBJECT

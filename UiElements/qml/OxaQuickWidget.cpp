@@ -117,7 +117,7 @@ void OxaQuickWidget::restoreItemFocus(Qt::FocusReason reason)
     if (getActiveFocusItem().isEmpty()) {
         quickWindow()->requestActivate();
         focusNextPrevChild(true);
-    } else if (m_breakFocusItem) {
+    } else if (m_breakFocusItem && m_breakFocusItem->isVisible()) {
         m_breakFocusItem->nextItemInFocusChain(true)->forceActiveFocus(reason);
     }
 }
@@ -142,7 +142,10 @@ void OxaQuickWidget::onFocusAboutToChange()
 std::pair<QString, QQuickItem *> OxaQuickWidget::getNextFocusItem(bool forward) const
 {
     QQuickItem *const current = quickWindow()->activeFocusItem();
-    QQuickItem *const next = current ? current->nextItemInFocusChain(forward) : nullptr;
+    // From a hidden item, Qt may look for the next one forever.
+    QQuickItem *const next = current && current->isVisible()
+            ? current->nextItemInFocusChain(forward)
+            : nullptr;
     return { idOf(next), next };
 }
 

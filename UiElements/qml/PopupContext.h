@@ -76,7 +76,8 @@ public:
 
 public Q_SLOTS:
     /// To be called when the view that asked for popups shows something else. Stops all timers that
-    /// open: what waits does not open, and what is open stays.
+    /// open: what waits does not open, and what is open stays. Only the delay of a request that
+    /// waits for an open popup begins now.
     void requestingViewChanged();
 
 protected:

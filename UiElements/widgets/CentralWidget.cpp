@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CentralWidget_p.h"
 
+#include <UiElements/app/BoundedPixels_p.h>
 #include <UiElements/theme/StateColor_p.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaSeparator.h>
@@ -138,7 +139,7 @@ QPainterPath CentralWidget::outline() const
     const int wanted = int(all.width() * 0.2);
     const int width = qMin(wanted % 2 == 0 ? wanted + 1 : wanted, m_arrowWidth);
     const int half = width / 2;
-    const QPoint aim = mapFromGlobal(middleOf(m_popup->getOriginRect()));
+    const QPoint aim = mapFromGlobal(middleOf(BoundedPixels::bounded(m_popup->getOriginRect())));
     const int tipX = aim.x() < half ? half : qMin(aim.x(), all.right() - width);
 
     QRect body = all;

@@ -4,6 +4,7 @@
 #include "CentralWidget_p.h"
 #include "PopupPlacement_p.h"
 
+#include <UiElements/app/BoundedPixels_p.h>
 #include <UiElements/svg/VisualUtils.h>
 
 #include <QCursor>
@@ -14,6 +15,8 @@
 #include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
+
+using BoundedPixels::bounded;
 
 namespace {
 
@@ -35,8 +38,8 @@ PopupPlacement::MappedRect mapped(const QWidget &widget, const QRect &rect, cons
                                   const QPoint &last)
 {
     QRect byBottomRight = rect;
-    byBottomRight.moveBottomRight(widget.mapToGlobal(last));
-    return { QRect(widget.mapToGlobal(first), rect.size()), byBottomRight };
+    byBottomRight.moveBottomRight(bounded(QPointF(widget.mapToGlobal(last))));
+    return { QRect(bounded(QPointF(widget.mapToGlobal(first))), rect.size()), byBottomRight };
 }
 
 QRect getOriginRectFromPopupRect(const QWidget *parent, const QRect &rect, const QPoint &offset)
@@ -177,7 +180,8 @@ PopupWidget *PopupWidget::create(QWidget *parent, const QRect &rect, const QPoin
                                  QWidget *content, const WidgetData &widgetData)
 {
     auto *popup = new PopupWidget(parent, widgetData);
-    popup->m_originRect = getOriginRectFromPopupRect(parent, rect, offset);
+    popup->m_originRect = getOriginRectFromPopupRect(parent, bounded(rect),
+                                                     bounded(QPointF(offset)));
     popup->takeContent(content);
     return popup;
 }
@@ -239,6 +243,7 @@ void PopupWidget::setCentralWidgetSizePolicy(QSizePolicy::Policy horizontal,
 
 void PopupWidget::updateFixedHeight(int height)
 {
+    height = qMin(height, QWIDGETSIZE_MAX - fixedHeightMargin);
     const QPointer<PopupWidget> self(this); // A widget's handler of its size may delete the popup.
     if (QWidget *content = getRegisterWidget())
         content->setFixedHeight(height);
@@ -303,15 +308,20 @@ void PopupWidget::repositionWindow(WidgetData::Alignment alignment, WidgetData::
     const QSize hint = sizeHint();
     const QSize size(m_desiredSize.width() >= 1 ? m_desiredSize.width() : hint.width(),
                      m_desiredSize.height() >= 1 ? m_desiredSize.height() : hint.height());
-    const PopupPlacement::Request request { m_originRect,    m_data.m_offset, size, margins.left(),
-                                            margins.right(), alignment,       arrow };
+    const PopupPlacement::Request request { bounded(m_originRect),
+                                            bounded(QPointF(m_data.m_offset)),
+                                            bounded(QSizeF(size)),
+                                            margins.left(),
+                                            margins.right(),
+                                            alignment,
+                                            arrow };
     if (!m_data.m_fitInMainWindowGeometry) {
         const auto placement = PopupPlacement::onScreen(request, currentScreens(),
                                                         m_data.m_showOnSourceScreen);
         if (placement)
             place(*placement);
     } else if (parentWidget()) {
-        place(PopupPlacement::inWindow(request, parentWidget()->window()->geometry()));
+        place(PopupPlacement::inWindow(request, bounded(parentWidget()->window()->geometry())));
     }
 }
 

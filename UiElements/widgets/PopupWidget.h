@@ -28,8 +28,8 @@ struct Request;
 /// hides on Escape and when it loses the activation, as its WidgetData says. Hiding does not delete
 /// it: show it again, or delete its content or its parent, with which it dies.
 ///
-/// A slot of widgetShown() or widgetHidden() that ends the popup must use deleteLater(), because Qt
-/// still uses a window after these events.
+/// What ends the popup in a slot of widgetShown() or widgetHidden(), or while it moves and its
+/// content is laid out, must use deleteLater(), because Qt still uses a window after these events.
 class UIELEMENTS_EXPORT PopupWidget : public OxaWidget
 {
     Q_OBJECT

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <filesystem>
 
 namespace {
 
@@ -83,5 +84,14 @@ BENCHMARK(startMemory)
         ->Name("memory at first paint of 20 widgets/plain Qt")
         ->Iterations(15)
         ->UseManualTime();
+
+void librarySize(benchmark::State &state)
+{
+    Comparison comparison(state);
+    for (auto _ : state)
+        comparison.add(double(std::filesystem::file_size(STRIPPED_LIBRARY)) / (1024 * 1024), 0);
+    comparison.excessAtMost(1.5, "MB");
+}
+BENCHMARK(librarySize)->Name("the stripped library/nothing")->Iterations(1)->UseManualTime();
 
 } // namespace

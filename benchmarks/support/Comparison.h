@@ -25,9 +25,19 @@ public:
     template <typename Ours, typename Peer>
     void round(Ours ours, Peer peer, int calls = 1)
     {
+        round(
+                ours, peer, [] {}, calls);
+    }
+
+    /// Does the same, and after each side calls \a tidyUp, whose time does not count.
+    template <typename Ours, typename Peer, typename TidyUp>
+    void round(Ours ours, Peer peer, TidyUp tidyUp, int calls = 1)
+    {
         const bool oursFirst = m_ours.size() % 2 == 0;
         const double first = oursFirst ? timeOf(ours, calls) : timeOf(peer, calls);
+        tidyUp();
         const double second = oursFirst ? timeOf(peer, calls) : timeOf(ours, calls);
+        tidyUp();
         add(oursFirst ? first : second, oursFirst ? second : first);
     }
 

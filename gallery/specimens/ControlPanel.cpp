@@ -15,8 +15,8 @@
 
 namespace {
 
-constexpr int captionShare = 2;
-constexpr int controlShare = 3;
+constexpr int captionShare = 1;
+constexpr int controlShare = 2;
 constexpr int numberWidth = 32;
 constexpr int leastSliderWidth = 64;
 

@@ -221,8 +221,8 @@ void tst_OxaAppSignalsKeys::survivesASlotThatDeletesTheHubWithItsShortcut_data()
 void tst_OxaAppSignalsKeys::survivesASlotThatDeletesTheHubWithItsShortcut()
 {
     QFETCH(const bool, all);
-    QWidget window;
     auto hub = std::make_unique<OxaAppSignals>();
+    QWidget window;
     hub->registerShortcuts(&window, OxaShortcut::Tool);
     const auto tools = hub->getGroupShortcuts(OxaShortcut::Tool);
     for (const auto &tool : tools)

@@ -110,7 +110,10 @@ void tst_CommandLine::takesPicturesOfEveryPageInEveryLook()
 {
     const QTemporaryDir folder;
     const Run run = runGallery({ QStringLiteral("--screenshots"), folder.path() });
-    QCOMPARE(run.errors, QString());
+    // The engine tells of its start.
+    QCOMPARE(run.errors,
+             QStringLiteral("[UILifecycle][Startup] Creating OxaQmlEngine.\n"
+                            "[UILifecycle][Startup] Finished creating OxaQmlEngine.\n"));
     QCOMPARE(run.exitCode, 0);
     const int pages = linesOf(runGallery({ QStringLiteral("--list-pages") }).output).size();
     QStringList files = linesOf(run.output);

@@ -90,7 +90,7 @@ void tst_GalleryWindow_keys::choosesTheFirstAndTheLastPageByHomeAndEnd()
     const ShownGallery shown("labels");
     QVERIFY(shown.isActive);
     QCOMPARE(shown.type("F6"), &shown.navigation());
-    QVERIFY(shown.titleAfter("End", "Signals"));
+    QVERIFY(shown.titleAfter("End", "Hover cards"));
     QVERIFY(shown.titleAfter("Home", "Colours"));
     QVERIFY(shown.titleAfter("Down", "Style text"));
     QVERIFY(shown.navigation().hasFocus());

@@ -65,7 +65,7 @@ private Q_SLOTS:
     void findsNoFaultInTheGallerysIcons();
 
 private:
-    const SvgFiles m_files;
+    const SvgFiles m_files {};
 };
 
 void tst_IconDiagnosis::saysHowAnIconIsPainted_data()

@@ -42,7 +42,7 @@ private Q_SLOTS:
 private:
     std::vector<IconFile> many(int count) const;
 
-    const SvgFiles m_svgs;
+    const SvgFiles m_svgs {};
     std::vector<IconFile> m_files;
 };
 

@@ -256,9 +256,8 @@ void tst_FlowLayout::appliesItsGeometry()
 void tst_FlowLayout::needsRoomForItsLargestItem_data()
 {
     QTest::addColumn<std::vector<QSize>>("sizes");
-    QTest::addColumn<QMargins>("margins");
+    QTest::addColumn<QMargins>("room");
     QTest::addColumn<QSize>("minimum");
-    const QMargins margins(1, 2, 3, 4);
     QTest::newRow("no items: a pixel less than the margins")
             << std::vector<QSize>() << margins << QSize(3, 5);
     QTest::newRow("neither items nor margins")
@@ -271,8 +270,8 @@ void tst_FlowLayout::needsRoomForItsLargestItem_data()
 void tst_FlowLayout::needsRoomForItsLargestItem()
 {
     QFETCH(const std::vector<QSize>, sizes);
-    QFETCH(const QMargins, margins);
-    PlainFlow layout(margins, 7, 9);
+    QFETCH(const QMargins, room);
+    PlainFlow layout(room, 7, 9);
     Blocks::fill(layout, sizes);
     QTEST(layout.minimumSize(), "minimum");
     QTEST(layout.sizeHint(), "minimum");

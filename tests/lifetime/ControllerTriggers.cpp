@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "SignalTriggers.h"
 
+#include <UiElements/app/OxaApplication.h>
 #include <UiElements/qml/OxaQmlBalloon.h>
 #include <UiElements/qml/OxaQmlDialogController.h>
+#include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/qml/OxaQmlHalfPill.h>
 #include <UiElements/qml/OxaQmlPopupController.h>
+#include <UiElements/qml/OxaQuickView.h>
+#include <UiElements/qml/PopupContextTimer.h>
 
 #include <QColor>
 #include <QVariant>
+
+#include <utility>
 
 namespace {
 
@@ -72,6 +78,40 @@ void addPopupControllerRows(SignalTriggers &rows)
     addPropertyRow<Controller>(rows, "themeType", QStringLiteral("dark"));
 }
 
+OxaApplication *application() { return static_cast<OxaApplication *>(qApp); }
+
+/// Makes \a engine the application's.
+void attach(OxaQmlEngine &engine)
+{
+    static OxaQmlEngine *next = nullptr;
+    next = &engine;
+    OxaQmlEngine::setFactory([] { return std::exchange(next, nullptr); });
+    application()->getQmlEngine();
+    OxaQmlEngine::setFactory(nullptr);
+}
+
+void addEngineRows(SignalTriggers &rows)
+{
+    const SignalTriggers own = {
+        row<OxaQmlEngine>(
+                "qmlViewStatusChanged(QmlViewStatus,QString,QString)", "a view",
+                [](OxaQmlEngine &) {
+                    OxaQmlEngine::createQmlWindow(QStringLiteral("View.qml"), nullptr, {}, {});
+                },
+                &attach),
+        row<OxaQmlEngine>("reloadAllQmlViews()", "the application's signal",
+                          [](OxaQmlEngine &) {
+                              Q_EMIT application()->getAppSignals()->reloadAllQmlViews();
+                          }),
+        row<OxaQmlEngine>("sceneGraphCriticalError()", "its slot",
+                          [](OxaQmlEngine &engine) { engine.onSceneGraphCriticalError(); }),
+        row<PopupContextTimer>(
+                "stopped()", "stopAndEmit()", [](PopupContextTimer &timer) { timer.stopAndEmit(); },
+                [](PopupContextTimer &timer) { timer.setPopupPending(true); }),
+    };
+    rows.insert(rows.end(), own.begin(), own.end());
+}
+
 } // namespace
 
 void addControllerTriggers(SignalTriggers &rows)
@@ -81,4 +121,5 @@ void addControllerTriggers(SignalTriggers &rows)
     addModelRows<OxaQmlDialogController>(rows);
     addModelRows<OxaQmlPopupController>(rows);
     addPopupControllerRows(rows);
+    addEngineRows(rows);
 }

@@ -9,6 +9,7 @@
 #include <UiElements/fonts/OxaScaledFonts.h>
 #include <UiElements/keyboard/OxaKeyEvent.h>
 #include <UiElements/movies/IOxaMovieProviderSource.h>
+#include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/qml/OxaQuickWidget.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
@@ -257,8 +258,9 @@ bool isLeftOut(const QMetaObject *metaObject, const QMetaMethod &signal)
     if (metaObject->inherits(&OxaEmojiPushButton::staticMetaObject)
         && signal == QMetaMethod::fromSignal(&OxaLabel::clicked))
         return true;
-    // Qt goes on rendering after this one.
-    if (signal == QMetaMethod::fromSignal(&OxaQuickWidget::finishedRendering))
+    // Qt goes on rendering after these.
+    if (signal == QMetaMethod::fromSignal(&OxaQuickWidget::finishedRendering)
+        || signal == QMetaMethod::fromSignal(&OxaQmlEngine::finishedRendering))
         return true;
     return isNeverEmitted(signal);
 }

@@ -38,7 +38,7 @@ SignalTrigger row(const char *signal, const char *cause, Act<Object> run,
 /// Adds the triggers of containers and range controls to \a rows.
 void addContainerTriggers(SignalTriggers &rows);
 
-/// Adds the triggers of painted items and their controllers to \a rows.
+/// Adds the triggers of painted items, controllers, engines and timers of QML to \a rows.
 void addControllerTriggers(SignalTriggers &rows);
 
 /// Adds the triggers of the controls of forms to \a rows.

@@ -16,9 +16,11 @@
 #include <UiElements/movies/OxaMovieProviderSource.h>
 #include <UiElements/qml/OxaQmlBalloon.h>
 #include <UiElements/qml/OxaQmlDialogController.h>
+#include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/qml/OxaQmlHalfPill.h>
 #include <UiElements/qml/OxaQmlPopupController.h>
 #include <UiElements/qml/OxaQuickWidget.h>
+#include <UiElements/qml/PopupContextTimer.h>
 #include <UiElements/svg/OxaPillTabButton.h>
 #include <UiElements/svg/OxaSvgAnchorButton.h>
 #include <UiElements/svg/OxaSvgLabel.h>
@@ -194,6 +196,8 @@ const std::vector<Subject> &subjects()
         subjectWithoutParent<OxaQmlHalfPill>(),
         subject<OxaQmlDialogController>(),
         subject<OxaQmlPopupController>(),
+        subject<OxaQmlEngine>(),
+        subjectWithoutParent<PopupContextTimer>(),
     };
     return all;
 }

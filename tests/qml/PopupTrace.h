@@ -39,6 +39,7 @@ public:
     QString source = QStringLiteral("Popup.qml");
     QRectF a { 100, 100, 40, 20 };
     QRectF b { 400, 300, 40, 20 };
+    std::unique_ptr<QWindow> parent; ///< That of the popup, if any.
 
     PopupContext *context() const { return m_context; }
     OxaQmlEngine *engine() const { return m_engine.engine(); }
@@ -60,7 +61,7 @@ public:
     void create()
     {
         if (m_context)
-            m_context->createQmlPopup(source, nullptr, OxaQmlBalloon::Top, {}, {});
+            m_context->createQmlPopup(source, parent.get(), OxaQmlBalloon::Top, {}, {});
         settle();
     }
 

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "support/Windows.h"
+
 #include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/qml/OxaQuickView.h>
 
+#include <QFocusEvent>
 #include <QPointer>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QTest>
 #include <QUrl>
+#include <QVector>
 #include <QWidget>
 
 #include <utility>
@@ -39,6 +43,20 @@ private:
     const QPointer<Object> m_object;
 };
 
+/// Records why the objects that it filters get the focus.
+class FocusReasons : public QObject
+{
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn)
+            reasons += static_cast<QFocusEvent *>(event)->reason();
+        return false;
+    }
+
+    QVector<Qt::FocusReason> reasons;
+};
+
 /// Makes \a view, which is a window or a widget, show the QML \a text, and returns its root item.
 template <typename View>
 QQuickItem *load(View &view, const QByteArray &text)
@@ -59,21 +77,6 @@ inline QQuickItem *loadItem(OxaQuickView &view, const QSize &size = QSize(100, 5
     return load(view, text.arg(size.width()).arg(size.height()).toUtf8());
 }
 
-inline void activate(QWindow &window) { window.requestActivate(); }
-inline void activate(QWidget &window) { window.activateWindow(); }
-
-/// Makes \a window, which is a QWindow or a QWidget, the active one. A window manager activates a
-/// window that is shown by itself: a second request might reach it after later ones for others.
-template <typename Window>
-bool showActive(Window &window)
-{
-    if (window.isVisible())
-        activate(window);
-    window.show();
-    if (QTest::qWaitForWindowActive(&window, 1000))
-        return true;
-    activate(window);
-    return QTest::qWaitForWindowActive(&window);
-}
+using Windows::showActive;
 
 } // namespace QuickViews

@@ -10,7 +10,7 @@
 namespace {
 
 const QString source = QStringLiteral("Controlled.qml");
-const QString other = QStringLiteral("Plain.qml");
+const QString other = QStringLiteral("50%20 gr\u00f6\u00dfer.qml");
 
 /// A context that shows its count of views.
 class Dialogs : public DialogContext
@@ -86,7 +86,7 @@ void tst_DialogContext::makesOneDialogForASource()
     QCOMPARE(context.oxaQuickViewsMapSize(), std::size_t(2));
     QVERIFY(!context.oxaQuickViewsMapEmpty());
     QCOMPARE(context.findOxaQuickView("Controlled.qml").data(), first.data());
-    QVERIFY(context.oxaQuickViewExists("Plain.qml"));
+    QVERIFY(context.oxaQuickViewExists("50%20 gr\u00f6\u00dfer.qml")); // In UTF-8.
     QVERIFY(!context.oxaQuickViewExists("Other.qml"));
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "QuickViews.h"
+#include "support/Screens.h"
 #include "support/SignalLog.h"
 #include "support/TestApplication.h"
 
@@ -63,6 +64,7 @@ private Q_SLOTS:
     void isATransparentPopupOnlyWithAnEngine();
     void flipsTheArrowWhereTheScreenEnds();
     void flipsOnceWhereNeitherSideHasRoom();
+    void flipsOnItsOwnScreenWhereThereIsNone();
     void opensAgainWhenItsWidthChanges();
     void opensAgainFromTheArrowThatWasAskedFor();
     void followsItsSizeAcrossTheLatestArrowOnly_data();
@@ -149,6 +151,19 @@ void tst_OxaPopupQuickView::flipsOnceWhereNeitherSideHasRoom()
     popup->showAtRect(QRectF(300, 300, 20, 10), Qt::DownArrow);
     QCOMPARE(log.take(), QStringLiteral("flipped to 1 | orthogonal"));
     QCOMPARE(popup->position(), QPoint(260, 10));
+}
+
+void tst_OxaPopupQuickView::flipsOnItsOwnScreenWhereThereIsNone()
+{
+    const ScreenGuard side(QRect(-1000, 0, 1000, 300), QRect(-1000, 0, 1000, 300));
+    const auto popup = makePopup();
+    popup->setScreen(side.screen());
+    SignalLog log;
+    recordArrow(log, *popup);
+    popup->showAtRect(QRectF(-500, 400, 20, 10), Qt::UpArrow); // Not below the first screen.
+    QCOMPARE(log.take(), QStringLiteral("flipped to 2 | orthogonal | orthogonal"));
+    QCOMPARE(popup->position(), QPoint(-540, 360));
+    QCOMPARE(popup->adjustArrowOffset(Qt::LeftArrow), 125);
 }
 
 void tst_OxaPopupQuickView::opensAgainWhenItsWidthChanges()

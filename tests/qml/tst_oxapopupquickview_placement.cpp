@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "QuickViews.h"
-#include "Screens.h"
+#include "support/Screens.h"
 #include "support/SignalLog.h"
 #include "support/TestApplication.h"
 
@@ -203,6 +203,8 @@ private Q_SLOTS:
     void putsItselfBelowAWidgetWithoutShowing();
     void findsThePointBesideARectangle_data();
     void findsThePointBesideARectangle();
+    void opensFarAwayForARectangleFarAway_data();
+    void opensFarAwayForARectangleFarAway();
     void takesTheGeometryOfAWidgetAsItIs();
 
 private:
@@ -360,6 +362,27 @@ void tst_OxaPopupQuickView_placement::findsThePointBesideARectangle()
     popup.resize(size);
     const QRectF rect(100, 50.5, 20.5, 10.5);
     QCOMPARE(popup.getPointFromRect(rect, Qt::ArrowType(arrow)), expected);
+}
+
+void tst_OxaPopupQuickView_placement::opensFarAwayForARectangleFarAway_data()
+{
+    QTest::addColumn<double>("place");
+    QTest::addColumn<bool>("isAfter");
+    QTest::newRow("beyond an int") << 1e300 << true;
+    QTest::newRow("below an int") << -1e300 << false;
+    QTest::newRow("infinite") << qInf() << true;
+    QTest::newRow("not a number") << qQNaN() << false;
+}
+
+void tst_OxaPopupQuickView_placement::opensFarAwayForARectangleFarAway()
+{
+    QFETCH(const double, place);
+    QFETCH(const bool, isAfter);
+    OxaPopupQuickView popup(m_engine.get(), nullptr, {});
+    popup.resize(40, 30);
+    popup.showAtRect(QRectF(place, place, 1, 1), Qt::LeftArrow);
+    QVERIFY(isAfter ? popup.x() > 1000000 : popup.x() < -1000000);
+    QCOMPARE(popup.adjustArrowOffset(Qt::UpArrow) > 1000000, isAfter);
 }
 
 void tst_OxaPopupQuickView_placement::takesTheGeometryOfAWidgetAsItIs()

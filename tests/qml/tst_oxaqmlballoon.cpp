@@ -45,6 +45,7 @@ private Q_SLOTS:
     void changesInQml();
     void returnsWhatWasSet();
     void repaintsOnceForSeveralChanges();
+    void emitsBeforeItRepaints();
     void mayBeDeletedInASlotOfASetter_data();
     void mayBeDeletedInASlotOfASetter();
 };
@@ -101,6 +102,19 @@ void tst_OxaQmlBalloon::repaintsOnceForSeveralChanges()
     balloon.setArrowOffset(4);
     balloon.setArrowAnchor(Balloon::Right);
     balloon.setBorderColor(Qt::red);
+    stage.picture();
+    QCOMPARE(balloon.paints, 2);
+}
+
+void tst_OxaQmlBalloon::emitsBeforeItRepaints()
+{
+    PaintedItems::Counted<Balloon> balloon;
+    balloon.setSize(QSizeF(60, 40));
+    PaintedItems::Stage stage(balloon);
+    stage.picture();
+    connect(&balloon, &Balloon::topMarginChanged, this, [&stage] { stage.picture(); });
+    balloon.setTopMargin(5);
+    QCOMPARE(balloon.paints, 1);
     stage.picture();
     QCOMPARE(balloon.paints, 2);
 }

@@ -99,6 +99,8 @@ private Q_SLOTS:
     void drawsAtSizesBelowThoseOfItsParts_data();
     void drawsAtSizesBelowThoseOfItsParts();
     void drawsNothingWithoutASize();
+    void drawsInfiniteSizes_data();
+    void drawsInfiniteSizes();
     void drawsNothingInItsFirstColors();
     void drawsAnewWhateverChanged();
 };
@@ -290,6 +292,20 @@ void tst_OxaQmlBalloonPainting::drawsNothingWithoutASize()
             painted(*balloon, 1);
         }
     }
+}
+
+void tst_OxaQmlBalloonPainting::drawsInfiniteSizes_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::newRow("width") << QSizeF(qInf(), 60);
+    QTest::newRow("height") << QSizeF(60, qInf());
+}
+
+void tst_OxaQmlBalloonPainting::drawsInfiniteSizes()
+{
+    QFETCH(const QSizeF, size);
+    const auto balloon = makeBalloon(size);
+    QCOMPARE(painted(*balloon, 1).pixelColor(30, 30), QColor(background));
 }
 
 void tst_OxaQmlBalloonPainting::drawsNothingInItsFirstColors()

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void placesABoxBesideAnItem();
     void dividesOddNumbersDownwards();
     void roundsTheItem();
+    void staysFarAwayForAnItemFarAway();
     void takesAnItemWithoutAWindowAtItsPlaceInTheScene();
     void answersZeroWithoutAnItem();
     void convertsAnchorsAndArrows_data();
@@ -103,6 +104,16 @@ void tst_OxaQmlBalloonPosition::roundsTheItem()
     QCOMPARE(Balloon::calcArrowPos(&item, QSize(0, 0), Balloon::Top, Balloon::CenterAlignment, 0,
                                    0),
              QPoint(20, 19));
+}
+
+void tst_OxaQmlBalloonPosition::staysFarAwayForAnItemFarAway()
+{
+    QQuickItem item;
+    item.setPosition(QPointF(1e300, INT_MAX));
+    item.setSize(QSizeF(qInf(), INT_MAX));
+    const QPoint place = Balloon::calcArrowPos(&item, QSize(INT_MAX, 8), Balloon::Left,
+                                               Balloon::CenterAlignment, INT_MIN, 0);
+    QVERIFY(place.x() > 1000000 && place.y() > 1000000);
 }
 
 void tst_OxaQmlBalloonPosition::takesAnItemWithoutAWindowAtItsPlaceInTheScene()

@@ -6,6 +6,7 @@
 #include <UiElements/qml/OxaQmlDialogController.h>
 #include <UiElements/qml/OxaQmlPopupController.h>
 
+#include <QColor>
 #include <QMetaMethod>
 #include <QSize>
 
@@ -216,6 +217,8 @@ void tst_OxaQmlControllers::appliesInitialStrings_data()
     QTest::newRow("a string") << QVariantMap { { name, dark } } << dark << 1;
     QTest::newRow("bytes") << QVariantMap { { name, QByteArray("dark") } } << dark << 1;
     QTest::newRow("a number") << QVariantMap { { name, 7 } } << QStringLiteral("7") << 1;
+    QTest::newRow("a colour") << QVariantMap { { name, QColor(Qt::red) } }
+                              << QStringLiteral("#ff0000") << 1;
     QTest::newRow("nothing") << QVariantMap() << QStringLiteral("global") << 0;
     QTest::newRow("another name") << QVariantMap { { dark, dark } } << QStringLiteral("global")
                                   << 0;

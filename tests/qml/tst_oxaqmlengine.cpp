@@ -56,6 +56,13 @@ QPointer<QObject> makeWidget(const QString &source, const QVariantMap &propertie
     return OxaQmlEngine::createQmlWidget(source, nullptr, properties, callback).data();
 }
 
+/// Sets all options of the view whose QML has loaded.
+void setOptions(OxaQmlController *controller)
+{
+    auto *const window = static_cast<QQuickItem *>(controller->parent())->window();
+    qobject_cast<OxaQuickView *>(window)->setViewOptions({ true, true, false, true, window });
+}
+
 QQuickItem *rootOf(const QObject *view)
 {
     const auto *window = qobject_cast<const QQuickView *>(view);
@@ -82,7 +89,6 @@ private Q_SLOTS:
     void sizesTheRootItemToTheView();
     void rendersTextAsQtDoes();
 
-    void warnsOfAWidgetWithoutParent();
     void makesAWidgetInItsParent();
     void makesAWindowOfItsParent();
     void makesADialogAboveItsParent();
@@ -152,12 +158,13 @@ void tst_OxaQmlEngine::reportsTheLifeOfAView_data()
           "Creating % | Error %: Unable to load the qml view!", "DestroyedView %" },
         { "NoSuchFile.qml", "qrc:/Qml/NoSuchFile.qml: No such file or directory",
           "Creating % | Error %: Unable to load the qml view!", "DestroyedView %" },
-        { "100% %20 free.qml", "", "Creating % | Initializing % | init Ada | callback | Ready %",
+        { "50%20 gr\u00f6\u00dfer.qml", "",
+          "Creating % | Initializing % | init Ada | callback | Ready %",
           "DestroyedController % | DestroyedView %" },
     };
     for (const auto &maker : makers) {
         for (const auto &file : files) {
-            const QString source = QLatin1String(file.source);
+            const QString source = QString::fromUtf8(file.source);
             QTest::addRow("%s of %s", maker.name, file.source)
                     << maker.make << source << QString(QLatin1String(file.warning))
                     << QString(QLatin1String(file.life)).replace(QLatin1String("%"), source)
@@ -237,13 +244,6 @@ void tst_OxaQmlEngine::rendersTextAsQtDoes()
     QCOMPARE(QQuickWindow::textRenderType(), QQuickWindow::QtTextRendering);
 }
 
-void tst_OxaQmlEngine::warnsOfAWidgetWithoutParent()
-{
-    const EngineFixture fixture;
-    const QScopedPointer<QObject> widget(makeWidget(QStringLiteral("Plain.qml"), {}, {}));
-    QVERIFY(!static_cast<QWidget *>(widget.data())->parent());
-}
-
 void tst_OxaQmlEngine::makesAWidgetInItsParent()
 {
     const EngineFixture fixture;
@@ -300,7 +300,8 @@ void tst_OxaQmlEngine::givesADialogDefaultOptions()
 {
     const EngineFixture fixture;
     const QScopedPointer<OxaQuickView> view(
-            OxaQmlEngine::createQmlDialog(QStringLiteral("Plain.qml"), nullptr, {}, {}, false));
+            OxaQmlEngine::createQmlDialog(QStringLiteral("Controlled.qml"), nullptr, {},
+                                          &setOptions, false));
     const ViewOptions options = view->getViewOptions();
     QVERIFY(!options.deferShow && !options.hideOnDeactivate && options.deleteOnClose
             && !options.focusContentOnActivate && !options.watchedWindow);
@@ -320,13 +321,14 @@ void tst_OxaQmlEngine::makesAPopup()
     const EngineFixture fixture;
     QWindow parent;
     const QScopedPointer<OxaPopupQuickView> view(
-            OxaQmlEngine::createQmlPopup(QStringLiteral("Controlled.qml"), &parent, {}, {},
+            OxaQmlEngine::createQmlPopup(QStringLiteral("Controlled.qml"), &parent, {}, &setOptions,
                                          isDialog));
     QTEST(view->type(), "type");
     QVERIFY(view->flags() & Qt::FramelessWindowHint);
     QVERIFY(!view->parent());
     QCOMPARE(view->screen(), parent.screen());
-    QCOMPARE(view->size(), QSize(120, 80));
+    QCOMPARE(view->minimumSize(), QSize(120, 80));
+    QCOMPARE(view->maximumSize(), QSize(120, 80));
     const ViewOptions options = view->getViewOptions();
     QVERIFY(!options.deferShow && options.hideOnDeactivate && options.deleteOnClose
             && !options.focusContentOnActivate);
@@ -376,14 +378,18 @@ void tst_OxaQmlEngine::reportsOnlyTheFirstMissingContext()
     const QString source = QStringLiteral("Plain.qml");
     const QScopedPointer<OxaQuickView> view(OxaQmlEngine::createQmlWindow(source, nullptr, {}, {}));
     QWidget parent;
-    auto *const widget = OxaQmlEngine::createQmlWidget(source, &parent, {}, {}).data();
+    auto *const widget = OxaQmlEngine::createQmlWidget(QStringLiteral("DevToolsView.qml"), &parent,
+                                                       {}, {})
+                                 .data();
     EngineLog::take();
-    const char warning[] =
-            "Critical Scene Graph Error creating:  \"Plain\"  with message:  \"no context\"";
-    QTest::ignoreMessage(QtWarningMsg, warning);
+    QTest::ignoreMessage(
+            QtWarningMsg,
+            "Critical Scene Graph Error creating:  \"Plain\"  with message:  \"no context\"");
     Q_EMIT view->sceneGraphError(QQuickWindow::ContextNotAvailable, QStringLiteral("no context"));
     QCOMPARE(EngineLog::take(), QStringLiteral("sceneGraphCriticalError"));
-    QTest::ignoreMessage(QtWarningMsg, warning);
+    QTest::ignoreMessage(QtWarningMsg,
+                         "Critical Scene Graph Error creating:  \"DevToolsView\"  with message:  "
+                         "\"no context\"");
     Q_EMIT widget->sceneGraphError(QQuickWindow::ContextNotAvailable, QStringLiteral("no context"));
     QCOMPARE(EngineLog::take(), QString());
 }

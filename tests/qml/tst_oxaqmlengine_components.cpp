@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "qml/DiskFolder.h"
 #include "qml/EngineFixture.h"
 
+#include <QAction>
 #include <QQmlComponent>
+#include <QQmlContext>
 
 namespace {
 
@@ -26,9 +29,12 @@ private Q_SLOTS:
     void reportTheirLife();
     void areMadeLaterAsChildrenOfTheParent();
     void areLoadedTwiceFromTheCache();
+    void areReadFromDisk();
     void reportTheErrorOfAFile();
+    void reportNothingMoreWhereNoObjectIsMade();
     void warnOfAnEmptySource();
     void areNotMadeAfterTheParentDied();
+    void dieWithAParentThatTheyDelete();
     void surviveACallbackThatDeletes_data();
     void surviveACallbackThatDeletes();
 };
@@ -107,6 +113,18 @@ void tst_OxaQmlEngine_Components::areLoadedTwiceFromTheCache()
     }
 }
 
+void tst_OxaQmlEngine_Components::areReadFromDisk()
+{
+    const EngineFixture fixture;
+    const DiskFolder folder;
+    QVERIFY(folder.write(QStringLiteral("Card.small.qml"), "import QtQml 2.15\nQtObject {}\n"));
+    fixture.engine()->setReadQmlFromDisk(true);
+    QObject parent;
+    OxaQmlEngine::createQmlComponent(folder.sourceOf(QStringLiteral("Card.small.qml")), &parent, {},
+                                     {});
+    QTRY_VERIFY(parent.findChild<QObject *>(QStringLiteral("Card")));
+}
+
 void tst_OxaQmlEngine_Components::reportTheErrorOfAFile()
 {
     const EngineFixture fixture;
@@ -118,6 +136,18 @@ void tst_OxaQmlEngine_Components::reportTheErrorOfAFile()
                                 "qrc:/Qml/UnknownType.qml:5 Missing is not a type\n"));
     QVERIFY(parent.findChild<QQmlComponent *>());
     EngineLog::take();
+}
+
+void tst_OxaQmlEngine_Components::reportNothingMoreWhereNoObjectIsMade()
+{
+    const EngineFixture fixture;
+    QObject parent;
+    OxaQmlEngine::createQmlComponent(QStringLiteral("Incomplete.qml"), &parent, {},
+                                     callbackWithObject());
+    const auto *const component = parent.findChild<QQmlComponent *>();
+    QTRY_VERIFY(!component->isLoading());
+    QCOMPARE(EngineLog::take(), QStringLiteral("Creating Incomplete.qml"));
+    QCOMPARE(parent.children().size(), 1); // The component.
 }
 
 void tst_OxaQmlEngine_Components::warnOfAnEmptySource()
@@ -145,6 +175,23 @@ void tst_OxaQmlEngine_Components::areNotMadeAfterTheParentDied()
     QCOMPARE(EngineLog::take(),
              QStringLiteral("Creating Controlled.qml | Creating Plain.qml | "
                             "Initializing Plain.qml | Ready Plain.qml"));
+}
+
+void tst_OxaQmlEngine_Components::dieWithAParentThatTheyDelete()
+{
+    const EngineFixture fixture;
+    const DiskFolder folder;
+    QVERIFY(folder.write(QStringLiteral("Client.qml"),
+                         "import QtQuick 2.15\nItem { Component.onCompleted: client.trigger() }"));
+    fixture.engine()->setReadQmlFromDisk(true);
+    const QPointer<QObject> parent = new QObject;
+    QAction client;
+    fixture.engine()->rootContext()->setContextProperty(QStringLiteral("client"), &client);
+    connect(&client, &QAction::triggered, this, [&parent] { delete parent; });
+    const QString source = folder.sourceOf(QStringLiteral("Client.qml"));
+    OxaQmlEngine::createQmlComponent(source, parent, {}, callbackWithObject());
+    QTRY_VERIFY(!parent);
+    QCOMPARE(EngineLog::take(), QStringLiteral("Creating ") + source);
 }
 
 void tst_OxaQmlEngine_Components::surviveACallbackThatDeletes_data()

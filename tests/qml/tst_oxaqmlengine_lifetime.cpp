@@ -51,7 +51,7 @@ private:
     static void send(QTcpSocket *socket)
     {
         socket->readAll();
-        const QByteArray qmldir = "Part 1.0 Part.qml\n";
+        const QByteArray qmldir = "Piece 1.0 Piece.qml\n";
         socket->write("HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(qmldir.size())
                       + "\r\nConnection: close\r\n\r\n" + qmldir);
         socket->disconnectFromHost();
@@ -186,6 +186,8 @@ void tst_OxaQmlEngine_Lifetime::survivesDeletionOfTheEngineBeforeItsViews()
     const std::unique_ptr<OxaQuickView> view(
             OxaQmlEngine::createQmlWindow(source, nullptr, {}, {}));
     OxaQmlEngine::createQmlWidget(source, &parent, {}, {});
+    // It does not load any more.
+    OxaQmlEngine::createQmlComponent(QStringLiteral("Plain.qml"), &parent, {}, {});
     EngineLog::take();
     delete fixture.engine();
     QCOMPARE(EngineLog::take(), QString());

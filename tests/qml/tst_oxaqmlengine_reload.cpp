@@ -70,6 +70,7 @@ private Q_SLOTS:
     void leavesViewsFromResourcesAlone();
     void leavesAViewWithoutSourceAlone();
     void leavesTheDevToolsAlone();
+    void leavesAViewAloneThatIsNamedLikeTheDevTools();
     void survivesACallbackThatDeletesViewsWhileTheyReload();
 
 private:
@@ -209,6 +210,21 @@ void tst_OxaQmlEngine_Reload::leavesTheDevToolsAlone()
     QCOMPARE(EngineLog::take(),
              QStringLiteral("DestroyedController % | DestroyedView %")
                      .replace(QLatin1Char('%'), source));
+}
+
+void tst_OxaQmlEngine_Reload::leavesAViewAloneThatIsNamedLikeTheDevTools()
+{
+    const DiskFixture fixture;
+    const std::unique_ptr<OxaQuickView> view(
+            OxaQmlEngine::createQmlWindow(fixture.source(), nullptr, {}, {}));
+    const QPointer<QQuickItem> root = view->rootObject();
+    view->setObjectName(QStringLiteral("DevToolsView"));
+    reloadAll();
+    QVERIFY(root);
+    view->setSource(QUrl(QStringLiteral("qrc:/Qml/Plain.qml"))); // Which warns all the same.
+    QTest::ignoreMessage(QtWarningMsg,
+                         "Reloading views from QRC is not supported. QUrl(\"qrc:/Qml/Plain.qml\")");
+    reloadAll();
 }
 
 void tst_OxaQmlEngine_Reload::survivesACallbackThatDeletesViewsWhileTheyReload()

@@ -53,6 +53,7 @@ private Q_SLOTS:
     void measuresViewsThatAreMadeLater();
     void doesNotMeasureTheDevTools();
     void forgetsWhatItReceivesOfItselfWhenItStopsToMeasure();
+    void reportsWhereThereAreNoGraphics();
 };
 
 void tst_OxaQmlEngine_Settings::isMadeOnDemand()
@@ -260,6 +261,31 @@ void tst_OxaQmlEngine_Settings::forgetsWhatItReceivesOfItselfWhenItStopsToMeasur
     Q_EMIT engine->finishedRendering(QString(), 0);
     QCOMPARE(own, 1);
     QCOMPARE(others, 2);
+}
+
+/// Runs with the software scene graph, and once more with OpenGL, for which there is no display.
+void tst_OxaQmlEngine_Settings::reportsWhereThereAreNoGraphics()
+{
+    const bool areMissing = !qEnvironmentVariableIsSet("QT_QUICK_BACKEND");
+    const EngineFixture fixture;
+    const std::unique_ptr<OxaQuickView> first(
+            OxaQmlEngine::createQmlWindow(QStringLiteral("Plain.qml"), nullptr, {}, {}));
+    const std::unique_ptr<OxaQuickView> second(
+            OxaQmlEngine::createQmlWindow(QStringLiteral("Controlled.qml"), nullptr, {}, {}));
+    EngineLog::take();
+    for (OxaQuickView *const view : { first.get(), second.get() }) {
+        QSignalSpy rendered(view, &QQuickWindow::afterRendering);
+        int errors = 0;
+        connect(view, &QQuickWindow::sceneGraphError, this, [&errors] { ++errors; });
+        if (areMissing)
+            ignoreWarningOfQml(
+                    QStringLiteral("Critical Scene Graph Error creating:  \"%1\"  with message:")
+                            .arg(view->objectName()));
+        view->show();
+        QTRY_VERIFY(errors > 0 || !rendered.isEmpty());
+        QCOMPARE(errors, areMissing ? 1 : 0);
+    }
+    QCOMPARE(EngineLog::take(), areMissing ? QStringLiteral("sceneGraphCriticalError") : QString());
 }
 
 UIELEMENTS_TEST_MAIN(tst_OxaQmlEngine_Settings)

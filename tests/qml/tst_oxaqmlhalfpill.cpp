@@ -36,6 +36,7 @@ private Q_SLOTS:
     void changesInQml_data();
     void changesInQml();
     void returnsItsColors();
+    void emitsBeforeItRepaints();
     void mayBeDeletedInASlotOfASetter_data();
     void mayBeDeletedInASlotOfASetter();
 };
@@ -71,6 +72,22 @@ void tst_OxaQmlHalfPill::returnsItsColors()
     pill.setBorderColor(Qt::blue);
     QCOMPARE(pill.backgroundColor(), QColor(Qt::yellow));
     QCOMPARE(pill.borderColor(), QColor(Qt::blue));
+}
+
+void tst_OxaQmlHalfPill::emitsBeforeItRepaints()
+{
+    PaintedItems::Counted<HalfPill> pill;
+    pill.setSize(QSizeF(60, 40));
+    PaintedItems::Stage stage(pill);
+    stage.picture();
+    connect(&pill, &HalfPill::backgroundColorChanged, this, [&stage] { stage.picture(); });
+    connect(&pill, &HalfPill::borderColorChanged, this, [&stage] { stage.picture(); });
+    pill.setBackgroundColor(Qt::yellow);
+    QCOMPARE(pill.paints, 1);
+    pill.setBorderColor(Qt::blue); // Its slot paints the yellow.
+    QCOMPARE(pill.paints, 2);
+    stage.picture();
+    QCOMPARE(pill.paints, 3);
 }
 
 void tst_OxaQmlHalfPill::mayBeDeletedInASlotOfASetter_data()

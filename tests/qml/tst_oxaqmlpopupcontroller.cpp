@@ -6,6 +6,7 @@
 #include <UiElements/qml/OxaQmlPopupController.h>
 
 #include <QGuiApplication>
+#include <QMetaMethod>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
@@ -88,6 +89,7 @@ private Q_SLOTS:
     void staysWithItsViewWhenItIsSetAgain();
     void leavesTheViewBefore();
     void leavesTheViewForNone();
+    void keepsItsSlotsToItself();
     void outlivesItsView();
     void mayBeDeletedWhenTheArrowFlips();
     void mayBeDeletedWhenTheArrowMoves();
@@ -205,6 +207,15 @@ void tst_OxaQmlPopupController::leavesTheViewForNone()
     Q_EMIT view.arrowOrthogonalChanged();
     QCOMPARE(log.take(), QStringLiteral("another listener"));
     controller.setPopupQuickView(nullptr);
+    controller.setPopupQuickView(&view);
+    QCOMPARE(view.listeners(), 3);
+}
+
+void tst_OxaQmlPopupController::keepsItsSlotsToItself()
+{
+    const QMetaObject &type = OxaQmlPopupController::staticMetaObject;
+    for (const char *slot : { "adjustArrowOffset()", "flipArrow(Qt::ArrowType)" })
+        QCOMPARE(type.method(type.indexOfSlot(slot)).access(), QMetaMethod::Private);
 }
 
 void tst_OxaQmlPopupController::outlivesItsView()

@@ -12,6 +12,7 @@ class tst_OxaQmlTypes : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void registersItsTypesInOrder();
     void makesEachType_data();
     void makesEachType();
     void hasNoOtherTypes_data();
@@ -20,6 +21,18 @@ private Q_SLOTS:
     void knowsTheEnumerations_data();
     void knowsTheEnumerations();
 };
+
+void tst_OxaQmlTypes::registersItsTypesInOrder()
+{
+    OxaQmlTypes::registerQmlTypes();
+    int last = -1;
+    for (const char *name : { "OverflowListProxyModel", "OxaBalloon", "OxaHalfPill",
+                              "OxaQmlPopupController", "OxaQmlDialogController" }) {
+        const int id = qmlTypeId("UiElements", 1, 0, name);
+        QVERIFY2(id > last, name);
+        last = id;
+    }
+}
 
 void tst_OxaQmlTypes::makesEachType_data()
 {

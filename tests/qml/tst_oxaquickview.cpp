@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "QuickViews.h"
-#include "Screens.h"
 #include "support/SignalLog.h"
 #include "support/TestApplication.h"
 
@@ -11,15 +10,9 @@
 #include <QCursor>
 #include <QSignalSpy>
 
-#include <limits>
-
 using namespace QuickViews;
 
 namespace {
-
-/// A screen to the left of the first one, with a panel at its left, its top and its right.
-const QRect sideScreen(-1000, -300, 1000, 700);
-const QRect sideArea(-990, -270, 970, 670);
 
 /// Gives access to protected functions.
 class OpenView : public OxaQuickView
@@ -28,6 +21,15 @@ public:
     using OxaQuickView::findController;
     using OxaQuickView::nativeEvent;
     using OxaQuickView::OxaQuickView;
+
+    SignalLog log;
+
+protected:
+    void showEvent(QShowEvent *event) override
+    {
+        log.note(QStringLiteral("showEvent"));
+        OxaQuickView::showEvent(event);
+    }
 };
 
 /// Answers each native event with the same result.
@@ -58,6 +60,18 @@ constexpr char controllerInside[] = R"(
         OxaQmlPopupController { objectName: "named" }
     })";
 
+constexpr char refusingToClose[] = R"(
+    import QtQuick 2.15
+    import QtQuick.Window 2.15
+    Item {
+        id: root
+        property bool isAsked: false
+        Connections {
+            target: root.Window.window
+            function onClosing(close) { root.isAsked = true; close.accepted = false; }
+        }
+    })";
+
 constexpr char controllerDeeper[] = R"(
     import QtQuick 2.15
     import UiElements 1.0
@@ -80,12 +94,6 @@ private Q_SLOTS:
     void hasATransparentIconOnlyWithAParent();
     void keepsACopyOfItsOptions();
 
-    void movesToAPointAndShows_data();
-    void movesToAPointAndShows();
-    void takesItsOwnScreenForNone();
-    void doesNothingWithoutAScreen();
-    void centresItselfBelowAWidget_data();
-    void centresItselfBelowAWidget();
     void showsAndActivatesLaterWhereAsked();
 
     void hasTheSizeOfItsRootItem();
@@ -94,6 +102,7 @@ private Q_SLOTS:
     void callsNothingWithoutControllerOrCallback();
 
     void tellsThatItShowsAndCloses();
+    void isDeletedWhereQmlRefusesToClose();
     void survivesAClosingWithoutDeletion();
     void sendsNoCloseEventBeforeItWasShown();
     void asksItsNativeHandlerAlone();
@@ -160,121 +169,12 @@ void tst_OxaQuickView::keepsACopyOfItsOptions()
     QVERIFY(!view.getViewOptions().watchedWindow);
 }
 
-void tst_OxaQuickView::movesToAPointAndShows_data()
-{
-    QTest::addColumn<QPoint>("point");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QPoint>("expected");
-    const QSize size(200, 100);
-    const auto row = [](const char *name, const QPoint &point, const QSize &viewSize,
-                        const QPoint &expected) {
-        QTest::newRow(name) << point << viewSize << expected;
-    };
-    // The area is from -990 to -20 and from -270 to 400.
-    row("in the middle", { -500, 0 }, size, { -500, 0 });
-    row("fitting exactly at the top left", { -990, -270 }, size, { -990, -270 });
-    row("fitting exactly at the bottom right", { -220, 300 }, size, { -220, 300 });
-    row("across the left edge", { -1000, 0 }, size, { -990, 0 });
-    row("more than half across the left edge", { -1150, 0 }, size, { -990, 0 });
-    row("across the top", { -500, -300 }, size, { -500, -270 });
-    row("more than half across the top", { -500, -360 }, size, { -500, -270 });
-    row("across the right edge", { -219, 0 }, size, { -220, 0 });
-    row("more than half across the right edge", { -30, 0 }, size, { -220, 0 });
-    row("across the bottom", { -500, 301 }, size, { -500, 300 });
-    row("across the top left corner", { -1000, -300 }, size, { -990, -270 });
-    row("across the top right corner", { -200, -300 }, size, { -220, -270 });
-    row("across the bottom left corner", { -1000, 350 }, size, { -990, 300 });
-    row("across the bottom right corner", { -100, 399 }, size, { -220, 300 });
-    row("outside at the left", { -1190, 0 }, size, { -1190, 0 });
-    row("outside at the right", { -20, 0 }, size, { -20, 0 });
-    row("outside at the top", { -500, -370 }, size, { -500, -370 });
-    row("outside at the bottom", { -500, 400 }, size, { -500, 400 });
-    row("wider than the area", { -500, 0 }, { 1200, 100 }, { -990, 0 });
-    row("wider than the area, from its left", { -990, 0 }, { 1200, 100 }, { -990, 0 });
-    row("higher than the area", { -500, 0 }, { 200, 900 }, { -500, -270 });
-    row("without a size", { -1000, 0 }, { 0, 0 }, { -1000, 0 });
-}
-
-void tst_OxaQuickView::movesToAPointAndShows()
-{
-    QFETCH(const QPoint, point);
-    QFETCH(const QSize, size);
-    QFETCH(const QPoint, expected);
-    const ScreenGuard side(sideScreen, sideArea);
-    OxaQuickView view(m_engine.get(), nullptr, {});
-    view.setFlag(Qt::FramelessWindowHint);
-    view.resize(size);
-    SignalLog log;
-    log.record(&view, &OxaQuickView::aboutToShow, QStringLiteral("aboutToShow"));
-    view.showAt(point, side.screen());
-    QCOMPARE(view.position(), expected);
-    QCOMPARE(view.screen(), side.screen());
-    QVERIFY(view.isVisible());
-    QCOMPARE(log.take(), QStringLiteral("aboutToShow"));
-}
-
-void tst_OxaQuickView::takesItsOwnScreenForNone()
-{
-    const ScreenGuard side(sideScreen, sideArea);
-    OxaQuickView view(m_engine.get(), nullptr, {});
-    view.setFlag(Qt::FramelessWindowHint);
-    view.setScreen(side.screen());
-    view.resize(200, 100);
-    view.showAt(QPoint(-100, 0), nullptr);
-    QCOMPARE(view.position(), QPoint(-220, 0));
-    QCOMPARE(view.screen(), side.screen());
-}
-
-void tst_OxaQuickView::doesNothingWithoutAScreen()
-{
-    OxaQuickView view(m_engine.get(), nullptr, {});
-    const QPoint before = view.position();
-    {
-        const NoScreenGuard noScreen;
-        QVERIFY(!view.screen());
-        view.showAt(QPoint(10, 10), nullptr);
-    }
-    QVERIFY(!view.isVisible());
-    QCOMPARE(view.position(), before);
-}
-
-void tst_OxaQuickView::centresItselfBelowAWidget_data()
-{
-    QTest::addColumn<QRect>("widget");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QPoint>("expected");
-    // The centre of a widget of an even size is left of and above its middle.
-    QTest::newRow("even sizes") << QRect(300, 200, 100, 40) << QSize(60, 30) << QPoint(319, 239);
-    QTest::newRow("odd sizes") << QRect(300, 200, 101, 41) << QSize(61, 31) << QPoint(320, 240);
-    QTest::newRow("at the right edge")
-            << QRect(700, 200, 100, 40) << QSize(200, 30) << QPoint(600, 239);
-}
-
-void tst_OxaQuickView::centresItselfBelowAWidget()
-{
-    QFETCH(const QRect, widget);
-    QFETCH(const QSize, size);
-    QFETCH(const QPoint, expected);
-    QWidget window(nullptr, Qt::FramelessWindowHint);
-    QWidget child(&window);
-    window.setGeometry(widget.translated(-5, -7));
-    child.setGeometry(QRect(QPoint(5, 7), widget.size()));
-    OxaQuickView view(m_engine.get(), nullptr, {});
-    view.setFlag(Qt::FramelessWindowHint);
-    view.resize(size);
-    view.showAt(static_cast<const QWidget *>(nullptr), nullptr);
-    QVERIFY(!view.isVisible());
-    view.showAt(&child, QGuiApplication::primaryScreen());
-    QCOMPARE(view.position(), expected);
-    QVERIFY(view.isVisible());
-}
-
 void tst_OxaQuickView::showsAndActivatesLaterWhereAsked()
 {
     ViewOptions options;
     options.deferShow = true;
     OxaQuickView view(m_engine.get(), nullptr, options);
-    view.setFlag(Qt::FramelessWindowHint);
+    view.setFlags(Qt::ToolTip | Qt::FramelessWindowHint); // Showing it does not activate it.
     SignalLog log;
     log.record(&view, &OxaQuickView::_dispatchShow, QStringLiteral("_dispatchShow"));
     log.record(&view, &OxaQuickView::aboutToShow, QStringLiteral("aboutToShow"));
@@ -303,12 +203,19 @@ void tst_OxaQuickView::hasTheSizeOfItsRootItem()
     QCOMPARE(view.size(), QSize(101, 50));
     QCOMPARE(view.minimumSize(), QSize(101, 50));
     QCOMPARE(view.maximumSize(), QSize(101, 50));
+    SignalLog log;
+    log.record(&view, &QWindow::minimumWidthChanged, QStringLiteral("minimum"));
+    log.record(&view, &QWindow::maximumWidthChanged, QStringLiteral("maximum"));
+    log.record(&view, &QWindow::widthChanged, QStringLiteral("size"));
     root->setWidth(200);
+    QCOMPARE(log.take(), QStringLiteral("minimum | maximum | size"));
     QCOMPARE(view.size(), QSize(200, 50));
     root->setHeight(20);
     QCOMPARE(view.size(), QSize(200, 20));
     QCOMPARE(view.minimumSize(), QSize(200, 20));
     QCOMPARE(view.maximumSize(), QSize(200, 20));
+    root->setWidth(qInf()); // As large as windows can be, though not shown so.
+    QVERIFY(view.minimumWidth() > 1000000);
 }
 
 void tst_OxaQuickView::staysResizableWithoutARootItem()
@@ -353,22 +260,38 @@ void tst_OxaQuickView::callsNothingWithoutControllerOrCallback()
 
 void tst_OxaQuickView::tellsThatItShowsAndCloses()
 {
-    const Owned<OxaQuickView> view(m_engine.get(), nullptr, ViewOptions());
-    SignalLog log;
+    const Owned<OpenView> view(m_engine.get(), nullptr, ViewOptions());
+    SignalLog &log = view->log;
     log.record(view.get(), &OxaQuickView::aboutToShow, QStringLiteral("aboutToShow"));
     log.record(view.get(), &OxaQuickView::aboutToClose, QStringLiteral("aboutToClose"));
-    log.record(view.get(), &QObject::destroyed, QStringLiteral("destroyed"));
+    QSignalSpy ends(view.get(), &QObject::destroyed);
     view->show();
     view->hide();
-    QCOMPARE(log.take(), QStringLiteral("aboutToShow"));
+    QCOMPARE(log.take(), QStringLiteral("aboutToShow | showEvent"));
     view->show();
     QVERIFY(view->close());
-    QCOMPARE(log.take(), QStringLiteral("aboutToShow | aboutToClose"));
+    QCOMPARE(log.take(), QStringLiteral("aboutToShow | showEvent | aboutToClose"));
     QVERIFY(view);
     QVERIFY(!view->isVisible());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!view);
-    QCOMPARE(log.take(), QStringLiteral("destroyed"));
+    QCOMPARE(ends.size(), 1);
+}
+
+void tst_OxaQuickView::isDeletedWhereQmlRefusesToClose()
+{
+    const Owned<OxaQuickView> view(m_engine.get(), nullptr, ViewOptions());
+    const QQuickItem *root = load(*view, refusingToClose);
+    QVariant isAskedBefore;
+    connect(view.get(), &OxaQuickView::aboutToClose, this,
+            [root, &isAskedBefore] { isAskedBefore = root->property("isAsked"); });
+    view->show();
+    QVERIFY(!view->close());
+    QVERIFY(view->isVisible());
+    QCOMPARE(isAskedBefore, QVariant(false));
+    QCOMPARE(root->property("isAsked"), QVariant(true));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!view);
 }
 
 void tst_OxaQuickView::survivesAClosingWithoutDeletion()

@@ -62,6 +62,7 @@ private Q_SLOTS:
     void staysForADialogOfAPopupThatOverlapsIt();
     void hidesForAnyOtherWindowThatOverlapsIt();
     void hidesOnceThePopupIsGone();
+    void hidesOnceThePopupIsLeft();
 
 private:
     OxaQuickView *showView(bool hides, bool closes, const QPoint &position = place) const;
@@ -109,8 +110,12 @@ void tst_OxaQuickView_activation::givesItsContentTheFocusWhereAsked()
     QVERIFY(!view.contentItem()->hasFocus());
     QVERIFY(showActive(view));
     view.contentItem()->setFocus(false);
+    FocusReasons log;
+    view.contentItem()->installEventFilter(&log);
     view.onActiveChanged();
+    const QVector<Qt::FocusReason> given { Qt::ActiveWindowFocusReason };
     QCOMPARE(view.contentItem()->hasFocus(), isLoaded && isAsked);
+    QCOMPARE(log.reasons, isLoaded && isAsked ? given : QVector<Qt::FocusReason>());
 }
 
 void tst_OxaQuickView_activation::hidesOrClosesOrStays_data()
@@ -295,6 +300,19 @@ void tst_OxaQuickView_activation::hidesOnceThePopupIsGone()
     QVERIFY(view->isVisible());
     popup.reset();
     QWindow other;
+    QVERIFY(showActive(other));
+    QVERIFY(!view->isVisible());
+    delete view;
+}
+
+void tst_OxaQuickView_activation::hidesOnceThePopupIsLeft()
+{
+    const StoreGuard stores(popupColors());
+    const auto popup = showPopup();
+    const QPointer<OxaQuickView> view = showView(true, false, popup->pos());
+    QVERIFY(showActive(*popup));
+    QVERIFY(view->isVisible());
+    QWindow other; // The view is as inactive as before.
     QVERIFY(showActive(other));
     QVERIFY(!view->isVisible());
     delete view;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "QuickViews.h"
-#include "Screens.h"
+#include "support/Screens.h"
 #include "support/TestApplication.h"
 
 #include <UiElements/qml/OxaPopupQuickView.h>
 #include <UiElements/qml/OxaQmlController.h>
 #include <UiElements/qml/OxaQmlTypes.h>
 #include <UiElements/qml/OxaQuickWidget.h>
+
+#include <QSignalSpy>
 
 #include <functional>
 
@@ -141,12 +143,14 @@ private Q_SLOTS:
     void survivesTheEndOfAPopupInASlot_data();
     void survivesTheEndOfAPopupInASlot();
     void survivesTheEndOfAPopupAsItOpens();
+    void isShownOnceWhereShowingChangesItsSize();
     void survivesTheEndOfAViewInItsCallback();
     void survivesTheEndOfAnActivePopup();
     void survivesTheEndOfTheItemsWindowAtEscape();
     void survivesAnEndBeforeItIsShownLater();
     void survivesTheEndOfItsParent();
     void survivesTheEndOfItsRootItem();
+    void survivesWhatItsQmlDoesAtItsEnd();
     void survivesTheEndOfItsScreen();
     void survivesTheEndOfAWidgetAsItsFocusChanges();
     void survivesTheEndOfAWidgetByItsQml();
@@ -195,6 +199,24 @@ void tst_OxaQuickView_deletion::survivesTheEndOfAPopupAsItOpens()
     connect(popup.get(), &Popup::arrowOrthogonalChanged, this, [&popup] { delete popup.get(); });
     popup->showAtRect(QRectF(300, 300, 20, 10), Qt::UpArrow);
     QVERIFY(!popup);
+}
+
+void tst_OxaQuickView_deletion::isShownOnceWhereShowingChangesItsSize()
+{
+    ViewOptions options;
+    options.deleteOnClose = false;
+    const Owned<Popup> popup(m_engine.get(), nullptr, options);
+    const QRectF rect(300, 300, 20, 10);
+    popup->showAtRect(rect, Qt::UpArrow);
+    popup->resize(77, 88);
+    popup->close();
+    QSignalSpy shown(popup.get(), &Popup::aboutToShow);
+    // The platform tells of the size while it makes a window anew, and Qt paints this already.
+    const QRegularExpression early(QStringLiteral("^QBackingStore::flush\\(\\) called for .*"));
+    for (int i = 0; i < 2; ++i)
+        QTest::ignoreMessage(QtWarningMsg, early);
+    popup->showAtRect(rect, Qt::UpArrow);
+    QCOMPARE(shown.size(), 1);
 }
 
 void tst_OxaQuickView_deletion::survivesTheEndOfAViewInItsCallback()
@@ -268,6 +290,33 @@ void tst_OxaQuickView_deletion::survivesTheEndOfItsRootItem()
     QCOMPARE(calls, 0);
     view->showAt(QPoint(10, 10), nullptr);
     QVERIFY(view->isVisible());
+}
+
+void tst_OxaQuickView_deletion::survivesWhatItsQmlDoesAtItsEnd()
+{
+    const ViewOptions options { false, true, true, false, nullptr };
+    const QPointer<Popup> popup = new Popup(m_engine.get(), nullptr, options);
+    load(*popup, R"(
+        import QtQuick 2.15
+        import QtQuick.Window 2.15
+        Item {
+            id: root
+            width: 100; height: 40
+            Component.onDestruction: {
+                root.Window.window.width = 50
+                root.Window.window.visible = false
+            }
+        })");
+    popup->setupFixedSize();
+    QVERIFY(showActive(*popup));
+    popup->showAtRect(QRectF(300, 300, 20, 10), Qt::UpArrow);
+    int changes = 0;
+    connect(popup, &QWindow::visibleChanged, this, [&popup, &changes] {
+        ++changes;
+        QVERIFY(qobject_cast<OxaQuickView *>(popup));
+    });
+    delete popup;
+    QVERIFY(changes > 0);
 }
 
 void tst_OxaQuickView_deletion::survivesTheEndOfItsScreen()

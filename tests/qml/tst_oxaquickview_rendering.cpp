@@ -7,6 +7,8 @@
 #include <QSignalSpy>
 #include <QThread>
 
+#include <functional>
+
 using namespace QuickViews;
 
 namespace {
@@ -23,6 +25,14 @@ void change(QQuickItem *root)
 
 QQuickWindow *windowOf(OxaQuickView &view) { return &view; }
 QQuickWindow *windowOf(OxaQuickWidget &widget) { return widget.quickWindow(); }
+
+/// Runs \a code in another thread while this one waits.
+void runElsewhere(const std::function<void()> &code)
+{
+    const std::unique_ptr<QThread> thread(QThread::create(code));
+    thread->start();
+    thread->wait();
+}
 
 bool isExposed(OxaQuickView &view) { return QTest::qWaitForWindowExposed(&view); }
 bool isExposed(OxaQuickWidget &widget) { return QTest::qWaitForWindowExposed(&widget); }
@@ -44,6 +54,8 @@ private Q_SLOTS:
     void stopsMeasuringAWidget();
     void endsOnlyConnectionsOfTheWindowToItself();
     void tellsInTheThreadOfTheView();
+    void leavesTheTimerOfAViewToItsThread();
+    void leavesTheTimerOfAWidgetToItsThread();
     void survivesTheEndOfAViewThatRenders();
     void measuresTheLatestRendering();
 
@@ -52,6 +64,8 @@ private:
     void measuresTheRendering(View &view);
     template <typename View>
     void stopsMeasuring(View &view);
+    template <typename View>
+    void leavesTheTimerToItsThread(View &view);
 
     std::unique_ptr<OxaQmlEngine> m_engine;
 };
@@ -164,6 +178,40 @@ void tst_OxaQuickView_rendering::tellsInTheThreadOfTheView()
     QTRY_VERIFY(tellingThread.loadAcquire());
     QCOMPARE(tellingThread.loadAcquire(), QThread::currentThread());
     QCOMPARE(renderThread.loadAcquire() != QThread::currentThread(), isThreaded);
+}
+
+template <typename View>
+void tst_OxaQuickView_rendering::leavesTheTimerToItsThread(View &view)
+{
+    QQuickWindow *const window = windowOf(view);
+    QSignalSpy measured(&view, &View::finishedRendering);
+    view.setPerformanceWatcherEnabled(true);
+    QElapsedTimer longer;
+    longer.start();
+    QTRY_VERIFY(longer.elapsed() > 200);
+    runElsewhere([window] {
+        Q_EMIT window->beforeRendering();
+        Q_EMIT window->afterRendering();
+    });
+    QCOMPARE(measured.size(), 0); // Nothing is told there,
+    Q_EMIT window->afterRendering();
+    QVERIFY(measured.takeFirst().at(1).toLongLong() > 200); // and nothing started again.
+    longer.start();
+    QCoreApplication::processEvents();
+    QCOMPARE(measured.size(), 1);
+    QVERIFY(measured.takeFirst().at(1).toLongLong() <= longer.elapsed());
+}
+
+void tst_OxaQuickView_rendering::leavesTheTimerOfAViewToItsThread()
+{
+    OxaQuickView view(m_engine.get(), nullptr, {});
+    leavesTheTimerToItsThread(view);
+}
+
+void tst_OxaQuickView_rendering::leavesTheTimerOfAWidgetToItsThread()
+{
+    OxaQuickWidget widget(m_engine.get(), nullptr);
+    leavesTheTimerToItsThread(widget);
 }
 
 void tst_OxaQuickView_rendering::survivesTheEndOfAViewThatRenders()

@@ -39,6 +39,36 @@ constexpr char onlyTheBorder[] = R"(
         Item { id: breakQmlFocus; activeFocusOnTab: true }
     })";
 
+constexpr char borderInsideAndOutside[] = R"(
+    import QtQuick 2.15
+    Item {
+        id: root
+        width: 100; height: 40
+        component Part: Item {
+            Item { id: inside; activeFocusOnTab: true }
+            Item { id: breakQmlFocus; activeFocusOnTab: true }
+        }
+        Part { }
+        Item { id: outside; activeFocusOnTab: true }
+        Item { id: breakQmlFocus; activeFocusOnTab: true }
+    })";
+
+/// Records why it gets the focus.
+class RecordingWidget : public OxaQuickWidget
+{
+public:
+    using OxaQuickWidget::OxaQuickWidget;
+
+    QVector<Qt::FocusReason> reasons;
+
+protected:
+    void focusInEvent(QFocusEvent *event) override
+    {
+        reasons += event->reason();
+        OxaQuickWidget::focusInEvent(event);
+    }
+};
+
 /// Sends \a widget the event of a changed focus.
 void sendFocus(QWidget &widget, QEvent::Type type, Qt::FocusReason reason = Qt::OtherFocusReason)
 {
@@ -65,14 +95,18 @@ private Q_SLOTS:
     void movesTheFocusThroughQmlAndOut();
     void movesTheFocusBackThroughQmlAndOut();
     void comesBackToTheItemAfterTheBorder();
+    void comesBackToTheFirstOfTwoBorders();
     void comesBackToItsLastItemWithoutABorder();
     void keepsEveryTabWithoutCustomAccessibility();
     void keepsEveryTabWithoutABorder();
     void staysOutOfQmlWithTheBorderAlone();
     void keepsOtherKeysInQml();
+    void leavesAnItemThatIsHidden();
     void forgetsABorderThatDies();
     void takesTheFocusAgainOnceItsWindowIsActive_data();
     void takesTheFocusAgainOnceItsWindowIsActive();
+    void asksForTheFocusAgainAsForAnActiveWindow_data();
+    void asksForTheFocusAgainAsForAnActiveWindow();
     void asksForNoFocusAgainInTheFocusWindow();
     void tellsOfAFocusThatChangesOnlyWhereEnabled();
 
@@ -123,8 +157,27 @@ void tst_OxaQuickWidget::comesBackToTheItemAfterTheBorder()
         QTest::keyClick(scene.window.windowHandle(), Qt::Key_Tab);
     QTRY_COMPARE(scene.focus(), QStringLiteral("after"));
     // It left from the second item.
+    QuickViews::FocusReasons log;
+    scene.quick->rootObject()->childItems().constFirst()->installEventFilter(&log);
     QTest::keyClick(scene.window.windowHandle(), Qt::Key_Backtab);
     QTRY_COMPARE(scene.focus(), QStringLiteral("first"));
+    QCOMPARE(log.reasons, QVector<Qt::FocusReason> { Qt::BacktabFocusReason });
+}
+
+void tst_OxaQuickWidget::comesBackToTheFirstOfTwoBorders()
+{
+    FocusScene scene(m_engine.get(), borderInsideAndOutside);
+    QVERIFY(scene.show());
+    for (const char *expected : { "inside", "after" }) {
+        QTest::keyClick(scene.window.windowHandle(), Qt::Key_Tab);
+        QTRY_COMPARE(scene.focus(), QString::fromLatin1(expected));
+    }
+    for (int round = 0; round < 2; ++round) {
+        QTest::keyClick(scene.window.windowHandle(), Qt::Key_Backtab);
+        QTRY_COMPARE(scene.focus(), QStringLiteral("outside"));
+        QTest::keyClick(scene.window.windowHandle(), Qt::Key_Tab); // By the other border.
+        QTRY_COMPARE(scene.focus(), QStringLiteral("after"));
+    }
 }
 
 void tst_OxaQuickWidget::comesBackToItsLastItemWithoutABorder()
@@ -193,6 +246,25 @@ void tst_OxaQuickWidget::keepsOtherKeysInQml()
     QCOMPARE(scene.quick->rootObject()->property("tabs").toInt(), 0);
 }
 
+void tst_OxaQuickWidget::leavesAnItemThatIsHidden()
+{
+    FocusScene scene(m_engine.get(), R"(
+        import QtQuick 2.15
+        Item {
+            id: root
+            width: 100; height: 40
+            focus: true
+            Item { id: breakQmlFocus; activeFocusOnTab: true }
+        })");
+    QVERIFY(scene.show());
+    scene.quick->setFocus();
+    scene.quick->rootObject()->forceActiveFocus();
+    QTRY_COMPARE(scene.focus(), QStringLiteral("root"));
+    scene.quick->rootObject()->setVisible(false);
+    QTest::keyClick(scene.window.windowHandle(), Qt::Key_Backtab);
+    QTRY_COMPARE(scene.focus(), QStringLiteral("before"));
+}
+
 void tst_OxaQuickWidget::forgetsABorderThatDies()
 {
     FocusScene scene(m_engine.get(), FocusScene::twoItems);
@@ -239,6 +311,31 @@ void tst_OxaQuickWidget::takesTheFocusAgainOnceItsWindowIsActive()
     QCOMPARE(scene.activeItem(), expected);
     sendFocusAboutToChange(*scene.quick);
     QCOMPARE(changes.size(), 1);
+}
+
+void tst_OxaQuickWidget::asksForTheFocusAgainAsForAnActiveWindow_data()
+{
+    QTest::addColumn<bool>("isDisabled");
+    QTest::newRow("later") << false;
+    QTest::newRow("unless it was disabled meanwhile") << true;
+}
+
+void tst_OxaQuickWidget::asksForTheFocusAgainAsForAnActiveWindow()
+{
+    QFETCH(const bool, isDisabled);
+    RecordingWidget widget(m_engine.get(), nullptr);
+    widget.setCustomAccessibilityEnabled(true);
+    QWindow other;
+    QVERIFY(QuickViews::showActive(other));
+    sendFocus(widget, QEvent::FocusIn, Qt::MouseFocusReason);
+    sendFocusAboutToChange(widget);
+    widget.setCustomAccessibilityEnabled(!isDisabled);
+    QVector<Qt::FocusReason> expected { Qt::MouseFocusReason };
+    QCOMPARE(widget.reasons, expected);
+    QCoreApplication::processEvents();
+    if (!isDisabled)
+        expected += Qt::ActiveWindowFocusReason;
+    QCOMPARE(widget.reasons, expected);
 }
 
 void tst_OxaQuickWidget::asksForNoFocusAgainInTheFocusWindow()

@@ -34,11 +34,11 @@ private Q_SLOTS:
     void knowsNothingAtFirst();
     void makesNothingOfAnEmptySource();
     void makesADeferredPopupOfItsView();
+    void initialisesTheController();
     void makesOnePopupForASource();
     void makesTimersForEachSource();
     void givesTheControllerTheAnchorAfterTheCallback();
 
-    void showsBesideTheRectangle();
     void showsBesideAWidget();
     void ignoresAWidgetThatIsNullOrDies();
     void mapsAnchorsToPlaces_data();
@@ -46,10 +46,10 @@ private Q_SLOTS:
     void callsTheCallbackOfTheRequestThatShows();
     void keepsTheRequestThatWaits();
     void keepsThePositionForTheSameRectangle();
-    void hidesAndDoesNotDeleteBetweenTwoRectangles();
     void startsTheCloseDelayOnce();
     void startsTheDelayAgainForANewRequest();
     void connectsEachPopupOnce();
+    void stopsOnlyActiveTimersWhenTheViewChanges();
 
     void closesAPopupThatWasNeverShown();
     void forgetsAPopupThatDies();
@@ -123,6 +123,19 @@ void tst_PopupContext::makesADeferredPopupOfItsView()
     QCOMPARE(controllerOf(popup)->arrowAnchor(), OxaQmlBalloon::Right);
 }
 
+void tst_PopupContext::initialisesTheController()
+{
+    const EngineFixture fixture;
+    PopupContext context;
+    const QScopedPointer<OxaPopupQuickView> popup(
+            context.createQmlPopup(QStringLiteral("Controlled.qml"), nullptr, OxaQmlBalloon::Top,
+                                   EngineFixture::named(QStringLiteral("Ada")),
+                                   EngineFixture::callback()));
+    QCOMPARE(EngineLog::take(),
+             QStringLiteral("Creating Controlled.qml | Initializing Controlled.qml | init Ada | "
+                            "callback | Ready Controlled.qml"));
+}
+
 void tst_PopupContext::makesOnePopupForASource()
 {
     PopupTrace trace;
@@ -173,15 +186,6 @@ void tst_PopupContext::givesTheControllerTheAnchorAfterTheCallback()
     QCOMPARE(spy.size(), 2);
 }
 
-void tst_PopupContext::showsBesideTheRectangle()
-{
-    PopupTrace trace;
-    trace.create();
-    trace.showNow(trace.a);
-    QCOMPARE(trace.popup()->position(), QPoint(60, 120));
-    QCOMPARE(trace.popup()->activationRect(), trace.a);
-}
-
 void tst_PopupContext::showsBesideAWidget()
 {
     PopupTrace trace;
@@ -198,9 +202,12 @@ void tst_PopupContext::showsBesideAWidget()
     QCOMPARE(trace.state(), QStringLiteral("shown open"));
     QCOMPARE(trace.popup()->position(), QPoint(60, 120));
     widget.setAttribute(Qt::WA_UnderMouse, false);
+    PopupTrace::point(trace.popup()->geometry().center());
     trace.poll();
-    QCOMPARE(trace.state(), QStringLiteral("shown open close"));
+    QCOMPARE(trace.state(), QStringLiteral("shown open"));
     trace.popup()->hide();
+    trace.poll(); // A hidden popup is under no pointer.
+    QCOMPARE(trace.state(), QStringLiteral("hidden open close"));
     trace.context()->showQmlPopup(trace.source, &widget, false, OxaQmlBalloon::Top, {});
     trace.settle();
     QCOMPARE(trace.state(), QStringLiteral("shown open"));
@@ -259,10 +266,12 @@ void tst_PopupContext::callsTheCallbackOfTheRequestThatShows()
     trace.create();
     PopupTrace::point(trace.a.center().toPoint());
     EngineLog::take();
+    connect(trace.popup(), &OxaQuickView::_dispatchShow, this,
+            [] { EngineLog::note(QStringLiteral("show")); });
     trace.show(trace.a, true, OxaQmlBalloon::Top, noting(QStringLiteral("A")));
     QCOMPARE(EngineLog::take(), QString());
     trace.poll();
-    QCOMPARE(EngineLog::take(), QStringLiteral("A"));
+    QCOMPARE(EngineLog::take(), QStringLiteral("A | show"));
     trace.poll();
     trace.show(trace.a, false, OxaQmlBalloon::Top, noting(QStringLiteral("A again")));
     QCOMPARE(EngineLog::take(), QString());
@@ -273,7 +282,7 @@ void tst_PopupContext::callsTheCallbackOfTheRequestThatShows()
     trace.passCloseTime();
     QCOMPARE(EngineLog::take(), QString());
     trace.poll();
-    QCOMPARE(EngineLog::take(), QStringLiteral("B"));
+    QCOMPARE(EngineLog::take(), QStringLiteral("B | show"));
     QCOMPARE(trace.popup()->activationRect(), trace.b);
     QCOMPARE(controllerOf(trace.popup())->arrowAnchor(), OxaQmlBalloon::Bottom);
 }
@@ -315,26 +324,6 @@ void tst_PopupContext::keepsThePositionForTheSameRectangle()
     QCOMPARE(trace.popup()->position(), QPoint(10, 10));
 }
 
-void tst_PopupContext::hidesAndDoesNotDeleteBetweenTwoRectangles()
-{
-    PopupTrace trace;
-    trace.create();
-    PopupTrace::point(trace.a.center().toPoint());
-    trace.showDelayed(trace.a);
-    trace.poll();
-    const QPointer<OxaPopupQuickView> popup = trace.popup();
-    const QSignalSpy closes(popup, &OxaQuickView::aboutToClose);
-    PopupTrace::point(trace.b.center().toPoint());
-    trace.showDelayed(trace.b);
-    trace.poll();
-    trace.passCloseTime();
-    QCOMPARE(trace.state(), QStringLiteral("hidden open"));
-    QCOMPARE(trace.popup(), popup.data());
-    QCOMPARE(closes.size(), 0);
-    trace.poll();
-    QCOMPARE(popup->position(), QPoint(360, 320));
-}
-
 void tst_PopupContext::startsTheCloseDelayOnce()
 {
     PopupTrace trace;
@@ -352,10 +341,13 @@ void tst_PopupContext::startsTheDelayAgainForANewRequest()
     trace.create();
     trace.showDelayed(trace.a);
     QCOMPARE(trace.openTimer()->interval(), PopupTrace::never);
-    trace.context()->showQmlPopup(trace.source, trace.b, true, OxaQmlBalloon::Top, {});
-    QCOMPARE(trace.openTimer()->interval(), 500);
-    QCOMPARE(trace.openTimer()->requestedRect(), trace.b);
-    QVERIFY(!trace.openTimer()->popupPending());
+    for (const QRectF &rect : { trace.b, trace.b }) { // Also for the same rectangle.
+        trace.context()->showQmlPopup(trace.source, rect, true, OxaQmlBalloon::Top, {});
+        QCOMPARE(trace.openTimer()->interval(), 500);
+        QCOMPARE(trace.openTimer()->requestedRect(), trace.b);
+        QVERIFY(!trace.openTimer()->popupPending());
+        trace.settle();
+    }
 }
 
 void tst_PopupContext::connectsEachPopupOnce()
@@ -366,9 +358,28 @@ void tst_PopupContext::connectsEachPopupOnce()
     for (int i = 0; i < 3; ++i)
         trace.showDelayed(trace.a);
     trace.poll();
+    for (PopupContextTimer *const timer : { trace.openTimer(), trace.closeTimer() }) {
+        disconnect(timer, &PopupContextTimer::stopped, nullptr, nullptr);
+        timer->setPopupPending(true); // So that receivers stay.
+    }
+    const QSignalSpy opens(trace.openTimer(), &PopupContextTimer::stopped);
+    const QSignalSpy closes(trace.closeTimer(), &PopupContextTimer::stopped);
+    Q_EMIT trace.popup()->aboutToClose();
+    Q_EMIT trace.popup()->aboutToShow();
+    QCOMPARE(opens.size(), 1);
+    QCOMPARE(closes.size(), 1);
+}
+
+void tst_PopupContext::stopsOnlyActiveTimersWhenTheViewChanges()
+{
+    PopupTrace trace;
+    trace.create();
     trace.openTimer()->setPopupPending(true); // So that receivers stay.
     const QSignalSpy stops(trace.openTimer(), &PopupContextTimer::stopped);
-    Q_EMIT trace.popup()->aboutToClose();
+    trace.context()->requestingViewChanged();
+    QCOMPARE(stops.size(), 0);
+    trace.openTimer()->start(PopupTrace::never);
+    trace.context()->requestingViewChanged();
     QCOMPARE(stops.size(), 1);
 }
 

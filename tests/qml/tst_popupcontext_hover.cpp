@@ -71,6 +71,28 @@ private:
     QPointer<const OxaQuickView> m_recorded;
 };
 
+/// A window of another application, which gets the keyboard.
+class OtherApplication
+{
+    Q_DISABLE_COPY_MOVE(OtherApplication)
+
+public:
+    OtherApplication()
+    {
+        m_process.start(QStringLiteral("xmessage"),
+                        { QStringLiteral("-geometry"), QStringLiteral("+900+700"),
+                          QStringLiteral("other") });
+    }
+    ~OtherApplication()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+private:
+    QProcess m_process;
+};
+
 } // namespace
 
 /// PopupContext with a real pointer and real time.
@@ -89,6 +111,9 @@ private Q_SLOTS:
     void staysWhileThePointerIsOverIt();
     void movesToAnotherAnchor();
     void closesAtEscape();
+    void opensAgainWhileTheKeyIsStillDown();
+    void opensNothingWhileAnotherApplicationIsActive();
+    void closesLaterWhileAnotherApplicationIsActive();
     void staysWithoutPollingWhenTheViewChanges();
     void opensBesideAWindowUnderThePointer();
 
@@ -209,6 +234,49 @@ void tst_PopupContext_Hover::closesAtEscape()
     QVERIFY(enter(m_people->ada));
     QTRY_VERIFY(popup() && popup()->isActive());
     QVERIFY(RealInput::typeKeys({ QStringLiteral("Escape") }));
+    QTRY_COMPARE(log(), QStringLiteral("Ada shown closing hidden gone"));
+}
+
+void tst_PopupContext_Hover::opensAgainWhileTheKeyIsStillDown()
+{
+    QVERIFY(enter(m_people->ada));
+    QTRY_VERIFY(popup() && popup()->isActive());
+    QVERIFY(RealInput::send({ QStringLiteral("keydown"), QStringLiteral("Escape") }));
+    QTRY_COMPARE(log(), QStringLiteral("Ada shown closing hidden gone"));
+    const QPoint next = People::rectOf(m_people->grace).center().toPoint();
+    QVERIFY(RealInput::send({ QStringLiteral("mousemove"), QString::number(next.x()),
+                              QString::number(next.y()), QStringLiteral("keyup"),
+                              QStringLiteral("Escape") }));
+    QTRY_COMPARE(log(), QStringLiteral("Ada shown closing hidden gone Grace shown"));
+}
+
+void tst_PopupContext_Hover::opensNothingWhileAnotherApplicationIsActive()
+{
+    QVERIFY(enter(m_people->ada));
+    QTRY_VERIFY(popup() && popup()->isActive());
+    {
+        const OtherApplication other;
+        QTRY_COMPARE(log(), QStringLiteral("Ada shown hidden closing gone"));
+        QVERIFY(enter(m_people->grace));
+        QTRY_VERIFY(popup());
+        QSignalSpy closeTimes(m_context->findDelayCloseTimer(source).data(), &QTimer::timeout);
+        QTRY_COMPARE(closeTimes.size(), 2);
+        QCOMPARE(log(), QStringLiteral("Ada shown hidden closing gone"));
+    }
+    QTRY_COMPARE(log(), QStringLiteral("Ada shown hidden closing gone Grace shown"));
+}
+
+void tst_PopupContext_Hover::closesLaterWhileAnotherApplicationIsActive()
+{
+    QVERIFY(enter(m_people->ada));
+    QTRY_VERIFY(popup() && popup()->isActive());
+    popup()->setViewOptions({}); // It stays when it is inactive.
+    const OtherApplication other;
+    QTRY_VERIFY(m_context->findDelayCloseTimer(source)->isActive());
+    QSignalSpy closeTimes(m_context->findDelayCloseTimer(source).data(), &QTimer::timeout);
+    QTRY_COMPARE(closeTimes.size(), 2); // The pointer is still there.
+    QCOMPARE(log(), QStringLiteral("Ada shown"));
+    QVERIFY(leave());
     QTRY_COMPARE(log(), QStringLiteral("Ada shown closing hidden gone"));
 }
 

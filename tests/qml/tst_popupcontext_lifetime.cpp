@@ -1,40 +1,67 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "qml/PopupTrace.h"
+#include "support/Screens.h"
 
+#include <QMap>
 #include <QQuickItem>
 
 namespace {
 
-const char *const victims[] = { "popup",  "controller", "root item",  "context",
-                                "engine", "open timer", "close timer" };
+const char *const victims[] = { "popup",      "controller",  "root item",     "context", "engine",
+                                "open timer", "close timer", "parent window", "screen" };
 
-void kill(const PopupTrace &trace, const QString &victim)
+const char *const states[] = { "created",          "waiting", "waiting and left", "visible",
+                               "visible and left", "pending", "closing",          "hidden" };
+
+/// A popup with a parent, on a screen of its own. Beside A it flips and moves.
+struct Scene : PopupTrace
 {
-    OxaPopupQuickView *const popup = trace.popup();
-    QQuickItem *const root = popup ? popup->rootObject() : nullptr;
-    if (victim == QStringLiteral("popup"))
-        delete popup;
-    else if (victim == QStringLiteral("controller"))
-        delete (root ? root->findChild<OxaQmlController *>() : nullptr);
-    else if (victim == QStringLiteral("root item"))
-        delete root;
-    else if (victim == QStringLiteral("context"))
-        delete trace.context();
-    else if (victim == QStringLiteral("engine"))
-        delete trace.engine();
-    else if (victim == QStringLiteral("open timer"))
-        delete trace.openTimer();
-    else if (victim == QStringLiteral("close timer"))
-        delete trace.closeTimer();
-}
+    Scene()
+    {
+        a = QRectF(1750, 560, 40, 20);
+        b = QRectF(1400, 300, 40, 20);
+        parent = std::make_unique<QWindow>(screen->screen());
+    }
 
-/// Goes to a state. Each is reached through those before it.
+    /// Returns what is called \a name, or null.
+    QObject *find(const QString &name) const
+    {
+        QQuickItem *const root = popup() ? popup()->rootObject() : nullptr;
+        const QMap<QString, QObject *> all {
+            { QStringLiteral("popup"), popup() },
+            { QStringLiteral("controller"),
+              root ? root->findChild<OxaQmlController *>() : nullptr },
+            { QStringLiteral("root item"), root },
+            { QStringLiteral("context"), context() },
+            { QStringLiteral("engine"), engine() },
+            { QStringLiteral("open timer"), openTimer() },
+            { QStringLiteral("close timer"), closeTimer() },
+            { QStringLiteral("application"), EngineFixture::application()->getAppSignals() },
+        };
+        return all.value(name);
+    }
+
+    void kill(const QString &victim)
+    {
+        if (victim == QStringLiteral("parent window"))
+            parent.reset();
+        else if (victim == QStringLiteral("screen"))
+            screen.reset();
+        else
+            delete find(victim);
+    }
+
+    std::unique_ptr<ScreenGuard> screen = std::make_unique<ScreenGuard>(QRect(1000, 0, 800, 600),
+                                                                        QRect(1000, 0, 800, 600));
+};
+
+/// Goes to a state. Each is reached through those before it, or from one by leaving the rectangle.
 void goTo(PopupTrace &trace, const QString &state)
 {
     const QStringList all { QStringLiteral("created"), QStringLiteral("waiting"),
                             QStringLiteral("visible"), QStringLiteral("pending"),
                             QStringLiteral("closing"), QStringLiteral("hidden") };
-    const int last = all.indexOf(state);
+    const int last = all.indexOf(state.section(QLatin1Char(' '), 0, 0));
     PopupTrace::point(trace.a.center().toPoint());
     trace.create();
     if (last >= 1)
@@ -44,7 +71,7 @@ void goTo(PopupTrace &trace, const QString &state)
     if (last >= 3)
         trace.showDelayed(trace.b);
     PopupTrace::point(trace.b.center().toPoint());
-    if (last >= 4)
+    if (last >= 4 || state.endsWith(QLatin1String("left")))
         trace.poll();
     if (last >= 5)
         trace.passCloseTime();
@@ -65,27 +92,75 @@ void goOn(PopupTrace &trace)
     trace.settle();
 }
 
-/// Calls \a strike at the emission of one signal, or in a callback.
-void arm(PopupTrace &trace, const QString &signal, const std::function<void()> &strike)
+/// Calls a function when a signal is emitted, and only then.
+class Striker : public QObject
 {
-    OxaPopupQuickView *const popup = trace.popup();
-    QObject *const receiver = EngineFixture::application();
-    if (signal == QStringLiteral("aboutToShow"))
-        QObject::connect(popup, &OxaQuickView::aboutToShow, receiver, strike);
-    else if (signal == QStringLiteral("aboutToClose"))
-        QObject::connect(popup, &OxaQuickView::aboutToClose, receiver, strike);
-    else if (signal == QStringLiteral("visibleChanged"))
-        QObject::connect(popup, &QWindow::visibleChanged, receiver, strike);
-    else if (signal == QStringLiteral("arrowOrthogonalChanged"))
-        QObject::connect(popup, &OxaPopupQuickView::arrowOrthogonalChanged, receiver, strike);
-    else if (signal == QStringLiteral("destroyed"))
-        QObject::connect(popup, &QObject::destroyed, receiver, strike);
-    else if (signal == QStringLiteral("stopped"))
-        QObject::connect(trace.openTimer(), &PopupContextTimer::stopped, receiver, strike);
-    else if (signal == QStringLiteral("open timeout"))
-        QObject::connect(trace.openTimer(), &QTimer::timeout, receiver, strike);
-    else if (signal == QStringLiteral("close timeout"))
-        QObject::connect(trace.closeTimer(), &QTimer::timeout, receiver, strike);
+    Q_OBJECT
+
+public:
+    Striker(const QObject *sender, const char *signal, const std::function<void()> &strike)
+        : m_strike(strike)
+    {
+        const QMetaObject *const meta = sender->metaObject();
+        connect(sender, meta->method(meta->indexOfSignal(signal)), this,
+                metaObject()->method(metaObject()->indexOfSlot("run()")));
+    }
+
+    bool isRun = false;
+
+public Q_SLOTS:
+    void run()
+    {
+        if (!isRun) {
+            isRun = true;
+            m_strike();
+        }
+    }
+
+private:
+    const std::function<void()> m_strike;
+};
+
+/// When something is deleted in a slot.
+struct Moment
+{
+    const char *state;
+    const char *sender;
+    const char *signal;
+    QByteArrayList used; ///< By Qt: a slot must delete it later.
+};
+
+const std::vector<Moment> &moments()
+{
+    const QByteArrayList none;
+    const QByteArrayList popup { "popup" };
+    const QByteArrayList view { "popup", "root item", "controller" };
+    static const std::vector<Moment> all = {
+        { "waiting", "popup", "aboutToShow()", popup },
+        { "waiting", "popup", "_dispatchShow()", none },
+        { "waiting", "popup", "visibleChanged(bool)", popup },
+        { "waiting", "popup", "activeChanged()", popup },
+        { "waiting", "popup", "xChanged(int)", popup },
+        { "waiting", "popup", "arrowFlipped(Qt::ArrowType)", none },
+        { "waiting", "popup", "arrowOrthogonalChanged()", popup },
+        { "waiting", "popup", "finishedRendering(QString,qlonglong)", popup },
+        { "waiting", "controller", "arrowAnchorChanged()", none },
+        { "waiting", "controller", "arrowOffsetChanged()", popup },
+        { "waiting", "open timer", "timeout()", none },
+        { "waiting", "open timer", "stopped()", none },
+        { "waiting", "application", "closeQmlPopups()", none },
+        { "visible", "popup", "aboutToClose()", none },
+        { "visible", "popup", "destroyed()", view },
+        { "visible", "engine", "qmlViewStatusChanged(QmlViewStatus,QString)", view },
+        { "visible", "application", "closeQmlPopups()", none },
+        { "visible and left", "close timer", "timeout()", none },
+        { "visible and left", "close timer", "destroyed()", none },
+        { "visible and left", "open timer", "destroyed()", none },
+        { "closing", "close timer", "timeout()", none },
+        { "closing", "open timer", "stopped()", none },
+        { "closing", "popup", "visibleChanged(bool)", popup },
+    };
+    return all;
 }
 
 } // namespace
@@ -113,7 +188,7 @@ void tst_PopupContext_Lifetime::survivesDeletionInAState_data()
 {
     QTest::addColumn<QString>("state");
     QTest::addColumn<QString>("victim");
-    for (const char *state : { "created", "waiting", "visible", "pending", "closing", "hidden" }) {
+    for (const char *state : states) {
         for (const char *victim : victims)
             QTest::addRow("%s, %s", state, victim)
                     << QString(QLatin1String(state)) << QString(QLatin1String(victim));
@@ -124,11 +199,12 @@ void tst_PopupContext_Lifetime::survivesDeletionInAState()
 {
     QFETCH(const QString, state);
     QFETCH(const QString, victim);
-    PopupTrace trace;
+    Scene trace;
     goTo(trace, state);
     const QPointer<OxaPopupQuickView> popup = trace.popup();
     QVERIFY(popup);
-    kill(trace, victim);
+    QCOMPARE(popup->screen(), trace.screen->screen());
+    trace.kill(victim);
     goOn(trace);
     if (popup && !trace.context())
         QTest::keyPress(popup, Qt::Key_Escape);
@@ -137,59 +213,47 @@ void tst_PopupContext_Lifetime::survivesDeletionInAState()
 
 void tst_PopupContext_Lifetime::survivesDeletionInASlot_data()
 {
-    QTest::addColumn<QString>("state");
-    QTest::addColumn<QString>("signal");
+    QTest::addColumn<int>("moment");
     QTest::addColumn<QString>("victim");
-    const struct
-    {
-        const char *state;
-        const char *signal;
-        bool isPopupInUse; // by Qt, so that a slot must delete it later
-    } moments[] = { { "waiting", "aboutToShow", true },
-                    { "waiting", "visibleChanged", true },
-                    { "waiting", "arrowOrthogonalChanged", true },
-                    { "waiting", "open timeout", false },
-                    { "waiting", "stopped", false },
-                    { "visible", "aboutToClose", false },
-                    { "visible", "destroyed", true },
-                    { "closing", "close timeout", false },
-                    { "closing", "stopped", false },
-                    { "closing", "visibleChanged", true } };
-    for (const auto &moment : moments) {
+    for (std::size_t i = 0; i < moments().size(); ++i) {
+        const Moment &moment = moments().at(i);
         for (const char *victim : victims) {
-            if (moment.isPopupInUse && qstrcmp(victim, "popup") == 0)
-                continue;
-            QTest::addRow("%s in %s, %s", moment.signal, moment.state, victim)
-                    << QString(QLatin1String(moment.state)) << QString(QLatin1String(moment.signal))
-                    << QString(QLatin1String(victim));
+            if (!moment.used.contains(victim))
+                QTest::addRow("%s of %s, %s: %s", moment.signal, moment.sender, moment.state,
+                              victim)
+                        << int(i) << QString(QLatin1String(victim));
         }
     }
 }
 
 void tst_PopupContext_Lifetime::survivesDeletionInASlot()
 {
-    QFETCH(const QString, state);
-    QFETCH(const QString, signal);
+    QFETCH(const int, moment);
     QFETCH(const QString, victim);
-    PopupTrace trace;
-    goTo(trace, state);
+    const Moment &now = moments().at(std::size_t(moment));
+    Scene trace;
+    goTo(trace, QString::fromLatin1(now.state));
     const QPointer<OxaPopupQuickView> popup = trace.popup();
-    bool isStruck = false;
-    arm(trace, signal, [&trace, &victim, &isStruck] {
-        if (!isStruck)
-            kill(trace, victim);
-        isStruck = true;
-    });
-    PopupTrace::point(state == QStringLiteral("waiting") ? trace.a.center().toPoint()
-                                                         : trace.b.center().toPoint());
-    if (signal == QStringLiteral("stopped") && state == QStringLiteral("waiting")) {
+    popup->setPerformanceWatcherEnabled(true);
+    // Found before: a view that is being destroyed is not to be found any more.
+    const QPointer<QObject> found = trace.find(victim);
+    const auto strike = [&trace, &victim, &found] {
+        if (found)
+            delete found;
+        else
+            trace.kill(victim);
+    };
+    const Striker striker(trace.find(QString::fromLatin1(now.sender)), now.signal, strike);
+    const bool waits = qstrcmp(now.state, "waiting") == 0;
+    PopupTrace::point((waits ? trace.a : trace.b).center().toPoint());
+    if (waits && qstrcmp(now.signal, "stopped()") == 0) {
         trace.openTimer()->setPopupPending(true); // So that the slot stays.
         trace.context()->requestingViewChanged();
     }
     goOn(trace);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     delete popup;
-    QCOMPARE(isStruck, true);
+    QVERIFY(striker.isRun);
 }
 
 void tst_PopupContext_Lifetime::survivesDeletionInACallback_data()
@@ -206,14 +270,14 @@ void tst_PopupContext_Lifetime::survivesDeletionInACallback()
 {
     QFETCH(const bool, isDelayed);
     QFETCH(const QString, victim);
-    PopupTrace trace;
+    Scene trace;
     trace.create();
     const QPointer<OxaPopupQuickView> popup = trace.popup();
     PopupTrace::point(trace.a.center().toPoint());
     bool isCalled = false;
     trace.show(trace.a, isDelayed, OxaQmlBalloon::Top, [&](OxaQmlController *) {
         isCalled = true;
-        kill(trace, victim);
+        trace.kill(victim);
     });
     trace.poll();
     QVERIFY(isCalled);
@@ -224,7 +288,7 @@ void tst_PopupContext_Lifetime::survivesDeletionInACallback()
 void tst_PopupContext_Lifetime::takesItsTimersWithIt_data()
 {
     QTest::addColumn<QString>("state");
-    for (const char *state : { "created", "waiting", "visible", "pending", "closing", "hidden" })
+    for (const char *state : states)
         QTest::newRow(state) << QString(QLatin1String(state));
 }
 

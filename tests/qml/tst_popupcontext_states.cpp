@@ -126,7 +126,8 @@ void tst_PopupContext_States::goesThroughItsStates_data()
     add("visible: another rectangle",
         "create: hidden, to A: hidden, A later: hidden open, poll: shown open, to B: shown open, "
         "B later: shown open pending, poll: shown open close pending, pass: hidden open, "
-        "poll: shown open, away: shown open, poll: shown open close, pass: none");
+        "poll: shown open, away: shown open, poll: shown open close, to B: shown open close, "
+        "pass: shown open, away: shown open, poll: shown open close, pass: none");
     add("visible: another rectangle and back",
         "create: hidden, to A: hidden, A later: hidden open, poll: shown open, "
         "B later: shown open pending, A later: shown open pending, poll: shown open pending");
@@ -163,6 +164,26 @@ void tst_PopupContext_States::goesThroughItsStates_data()
     add("closing: escape",
         "create: hidden, to A: hidden, A later: hidden open, poll: shown open, away: shown open, "
         "poll: shown open close, escape: none");
+    add("closing: closed",
+        "create: hidden, to A: hidden, A later: hidden open, poll: shown open, away: shown open, "
+        "poll: shown open close, closeQmlPopups: none");
+    add("closing: the application is left",
+        "create: hidden, to A: hidden, A later: hidden open, poll: shown open, away: shown open, "
+        "poll: shown open close, leave application: none");
+    add("closing: the same rectangle, later and at once",
+        "create: hidden, to A: hidden, A later: hidden open, poll: shown open, away: shown open, "
+        "poll: shown open close, A later: shown open close, A now: shown open close, pass: none");
+    add("closing, not shown yet: another rectangle",
+        "create: hidden, A later: hidden open, poll: hidden open close, to B: hidden open close, "
+        "B later: hidden open close, poll: shown open");
+    add("closing, not shown yet: shown at once",
+        "create: hidden, A later: hidden open, poll: hidden open close, A now: shown open");
+    add("closing, not shown yet: closed",
+        "create: hidden, A later: hidden open, poll: hidden open close, closeQmlPopups: none");
+    add("closing, not shown yet: the view changes",
+        "create: hidden, A later: hidden open, poll: hidden open close, view changed: hidden "
+        "close, "
+        "pass: hidden");
     add("closing: another rectangle",
         "create: hidden, to A: hidden, A later: hidden open, poll: shown open, to B: shown open, "
         "poll: shown open close, B later: shown open close pending, pass: hidden open, "

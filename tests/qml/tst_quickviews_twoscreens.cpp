@@ -4,7 +4,10 @@
 
 #include <UiElements/qml/OxaPopupQuickView.h>
 
+#include <QRegularExpression>
 #include <QScreen>
+
+#include <memory>
 
 using namespace QuickViews;
 
@@ -27,6 +30,7 @@ private Q_SLOTS:
     void opensAPopupOnTheScreenOfItsCorner_data();
     void opensAPopupOnTheScreenOfItsCorner();
     void opensAViewOnTheScreenThatIsGiven();
+    void makesAPopupOnTheScreenOfItsParent();
 
 private:
     std::unique_ptr<OxaQmlEngine> m_engine;
@@ -97,6 +101,21 @@ void tst_QuickViewsTwoScreens::opensAViewOnTheScreenThatIsGiven()
     QTRY_COMPARE(view.position(), QPoint(700, 300));
     view.showAt(QPoint(750, 300), QGuiApplication::screens().at(1));
     QTRY_COMPARE(view.position(), QPoint(750, 300));
+}
+
+void tst_QuickViewsTwoScreens::makesAPopupOnTheScreenOfItsParent()
+{
+    const std::unique_ptr<OxaQmlEngine> engine(
+            static_cast<TestApplication *>(qApp)->getQmlEngine());
+    for (QScreen *const screen : QGuiApplication::screens()) {
+        QWindow parent(screen);
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(
+                                     QStringLiteral("^qrc:/Qml/None.qml: No such file")));
+        const std::unique_ptr<OxaPopupQuickView> popup(
+                OxaQmlEngine::createQmlPopup(QStringLiteral("None.qml"), &parent, {}, {}, true));
+        QCOMPARE(popup->screen(), screen);
+    }
 }
 
 UIELEMENTS_TEST_MAIN(tst_QuickViewsTwoScreens)

@@ -75,7 +75,7 @@ public:
         return rows.join(QLatin1Char(' '));
     }
 
-    void scrollTo(int value) { verticalScrollBar()->setValue(value); }
+    void scrollToValue(int value) { verticalScrollBar()->setValue(value); }
 
     void executeLayout() { executeDelayedItemsLayout(); }
 

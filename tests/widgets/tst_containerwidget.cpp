@@ -63,7 +63,7 @@ protected:
 class Window : public QWidget
 {
 public:
-    explicit Window(QBoxLayout *items) : m_items(items)
+    explicit Window(QBoxLayout *items)
     {
         container.setLayout(items);
         for (const char *name : { "a", "b", "c", "d" }) {
@@ -103,9 +103,6 @@ public:
     ContainerWidget container;
     QLineEdit field;
     QLineEdit after;
-
-private:
-    QBoxLayout *const m_items;
 };
 
 } // namespace

@@ -95,7 +95,7 @@ void tst_OxaLabelPlacement::beginsItsTextByItsVerticalAlignment_data()
     QTest::addColumn<bool>("wrap");
     QTest::addColumn<int>("height");
     QTest::addColumn<int>("offset");
-    const QFontMetrics metrics(OxaFont(OxaFont::Token::Default));
+    const QFontMetrics metrics { OxaFont(OxaFont::Token::Default) };
     const int line = metrics.height();
     const int twoLines = metrics.boundingRect(QRect(), 0, QStringLiteral("wordy\nwordy")).height();
     const Qt::Alignment top = Qt::AlignTop;

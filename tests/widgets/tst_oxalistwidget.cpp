@@ -25,35 +25,35 @@ const Step steps[] = {
     { "nothing", [](LoadedList &) {}, "", "0 1 2 3 4" },
     { "a pass with nothing to do", [](LoadedList &list) { list.updateCurrentVisibleListItems(); },
       "", "0 1 2 3 4" },
-    { "half a row down, where the first row stays", [](LoadedList &list) { list.scrollTo(10); },
-      "5", "0 1 2 3 4 5" },
-    { "two rows down", [](LoadedList &list) { list.scrollTo(40); }, "5 6", "2 3 4 5 6" },
-    { "a page down", [](LoadedList &list) { list.scrollTo(100); }, "5 6 7 8 9", "5 6 7 8 9" },
-    { "to the bottom", [](LoadedList &list) { list.scrollTo(300); }, "15 16 17 18 19",
+    { "half a row down, where the first row stays",
+      [](LoadedList &list) { list.scrollToValue(10); }, "5", "0 1 2 3 4 5" },
+    { "two rows down", [](LoadedList &list) { list.scrollToValue(40); }, "5 6", "2 3 4 5 6" },
+    { "a page down", [](LoadedList &list) { list.scrollToValue(100); }, "5 6 7 8 9", "5 6 7 8 9" },
+    { "to the bottom", [](LoadedList &list) { list.scrollToValue(300); }, "15 16 17 18 19",
       "15 16 17 18 19" },
     { "down and back, where the row behind the last stays",
       [](LoadedList &list) {
-          list.scrollTo(40);
-          list.scrollTo(0);
+          list.scrollToValue(40);
+          list.scrollToValue(0);
       },
       "5 6 0 1", "0 1 2 3 4 5" },
     { "with a margin, whose upper rows stay and whose lower ones are not made",
       [](LoadedList &list) {
           list.setLoadExtraItemsNumber(3);
-          list.scrollTo(80);
+          list.scrollToValue(80);
       },
       "5 6 7 8", "1 2 3 4 5 6 7 8" },
     { "with a margin, upwards",
       [](LoadedList &list) {
           list.setLoadExtraItemsNumber(2);
-          list.scrollTo(80);
-          list.scrollTo(20);
+          list.scrollToValue(80);
+          list.scrollToValue(20);
       },
       "5 6 7 8 1", "1 2 3 4 5 6 7 8" },
     { "with an endless margin",
       [](LoadedList &list) {
           list.setLoadExtraItemsNumber(INT_MAX);
-          list.scrollTo(300);
+          list.scrollToValue(300);
       },
       "15 16 17 18 19", "0 1 2 3 4 15 16 17 18 19" },
     { "hidden rows, which do not end the walk",
@@ -65,32 +65,32 @@ const Step steps[] = {
     { "rows hidden while they are off the screen",
       [](LoadedList &list) {
           hide(list, { 10, 11 });
-          list.scrollTo(180);
+          list.scrollToValue(180);
       },
       "9 12 13 14 15", "9 12 13 14 15" },
     { "loading that is not dynamic any more, where widgets stay",
       [](LoadedList &list) {
           list.setItemWidgetsDynamicLoadingEnabled(false);
-          list.scrollTo(100);
+          list.scrollToValue(100);
       },
       "", "0 1 2 3 4" },
     { "loading that is made dynamic twice",
       [](LoadedList &list) {
           list.setItemWidgetsDynamicLoadingEnabled(true);
           list.setItemWidgetsDynamicLoadingEnabled(false);
-          list.scrollTo(100);
+          list.scrollToValue(100);
       },
       "", "0 1 2 3 4" },
     { "between beginInsert() and endInsert()",
       [](LoadedList &list) {
           list.beginInsert();
-          list.scrollTo(100);
+          list.scrollToValue(100);
       },
       "", "0 1 2 3 4" },
     { "after endInsert()",
       [](LoadedList &list) {
           list.beginInsert();
-          list.scrollTo(100);
+          list.scrollToValue(100);
           list.endInsert();
       },
       "5 6 7 8 9", "5 6 7 8 9" },
@@ -102,7 +102,7 @@ const Step steps[] = {
       "new", "new 0 1 2 3 4" },
     { "rows inserted above the view while the user reads",
       [](LoadedList &list) {
-          list.scrollTo(100);
+          list.scrollToValue(100);
           list.beginInsert();
           for (int i = 0; i < 3; ++i)
               list.insertItem(0, LoadedList::makeItem(QStringLiteral("new")));
@@ -168,19 +168,19 @@ const Step steps[] = {
           list.item(1)->setSizeHint(QSize(10, 5));
           list.item(2)->setSizeHint(QSize(10, 30));
           list.updateCurrentVisibleListItems();
-          list.scrollTo(52);
+          list.scrollToValue(52);
       },
       "5 6", "1 2 3 4 5 6" },
     { "a row without height, which does not end the walk",
       [](LoadedList &list) {
           list.item(6)->setSizeHint(QSize(10, 0));
-          list.scrollTo(100);
+          list.scrollToValue(100);
       },
       "5 6 7 8 9 10", "5 6 7 8 9 10" },
     { "a row that is not as wide as the view",
       [](LoadedList &list) {
           list.item(5)->setSizeHint(QSize(0, 20));
-          list.scrollTo(20);
+          list.scrollToValue(20);
       },
       "5", "1 2 3 4 5" },
 };
@@ -285,7 +285,7 @@ void tst_OxaListWidget::followsSizeHintsSetWhileRowsAreAskedFor()
     list.show();
     QCOMPARE(list.takeLog(), QStringLiteral("0 1 2 visible | 0 1 2"));
     QCOMPARE(list.visualItemRect(list.item(2)), QRect(0, 80, list.viewport()->width(), 40));
-    list.scrollTo(40);
+    list.scrollToValue(40);
     QCOMPARE(list.takeLog(), QStringLiteral("3"));
 }
 
@@ -312,9 +312,9 @@ void tst_OxaListWidget::loadsWhereASlotScrolls()
     list.makeWidget = [&list, makeLabel](QListWidgetItem *item) {
         makeLabel(item);
         if (item->text() == QLatin1String("5"))
-            list.scrollTo(200);
+            list.scrollToValue(200);
     };
-    list.scrollTo(20);
+    list.scrollToValue(20);
     QCOMPARE(list.takeLog(), QStringLiteral("5 10 11 12 13 14 6 7 8 9"));
 }
 
@@ -325,10 +325,10 @@ void tst_OxaListWidget::losesTheWidgetOfARowThatASlotScrollsAway()
     const auto makeLabel = list.makeWidget;
     list.makeWidget = [&list, makeLabel](QListWidgetItem *item) {
         if (item->text() == QLatin1String("5"))
-            list.scrollTo(200);
+            list.scrollToValue(200);
         makeLabel(item);
     };
-    list.scrollTo(20);
+    list.scrollToValue(20);
     list.updateCurrentVisibleListItems();
     QCOMPARE(list.rowsWithWidgets(), QStringLiteral("10 11 12 13 14"));
 }

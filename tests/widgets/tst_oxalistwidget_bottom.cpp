@@ -55,7 +55,7 @@ void tst_OxaListWidgetBottom::sticksToItsBottom()
     LoadedList list(stick->rows);
     list.setScrollToBottomAutomatically(stick->isEnabled);
     list.show();
-    list.scrollTo(stick->scrolledTo);
+    list.scrollToValue(stick->scrolledTo);
     list.insertItem(list.count(), LoadedList::makeItem(QStringLiteral("new")));
     QCOMPARE(list.verticalScrollBar()->value(), stick->expected);
 }
@@ -93,7 +93,7 @@ void tst_OxaListWidgetBottom::returnsToItsBottomWhenShown()
     QFETCH(const int, scrolledTo);
     LoadedList list(20);
     list.show();
-    list.scrollTo(scrolledTo);
+    list.scrollToValue(scrolledTo);
     list.hide();
     list.fill(10);
     list.show();
@@ -108,7 +108,7 @@ void tst_OxaListWidgetBottom::scrollsLaterAndOnlyIfItWasAtItsBottom()
     list.show();
     QCOMPARE(list.verticalScrollBar()->value(), 0);
     QTRY_COMPARE(list.verticalScrollBar()->value(), 300);
-    list.scrollTo(0);
+    list.scrollToValue(0);
     list.setIsScrollAtBottom(false);
     list.delayScrollToBottom();
     QCOMPARE(list.verticalScrollBar()->value(), 0);

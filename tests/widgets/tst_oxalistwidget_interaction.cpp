@@ -186,7 +186,7 @@ void tst_OxaListWidgetInteraction::givesInputToTheWidgetOfARow()
         list.setItemWidget(item, button);
     };
     QVERIFY(list.appear());
-    list.scrollTo(2000);
+    list.scrollToValue(2000);
     QVERIFY(RealInput::click(list, QPoint(50, 30)));
     QTRY_COMPARE(clicks, 1);
     QVERIFY(list.itemWidget(list.item(101))->hasFocus());

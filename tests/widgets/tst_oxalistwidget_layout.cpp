@@ -171,7 +171,7 @@ void tst_OxaListWidgetLayout::laysOutNoRowsToScroll()
     QCoreApplication::processEvents();
     delegate.sizes = 0;
     for (int page = 1; page <= 100; ++page) {
-        list.scrollTo(page * 100);
+        list.scrollToValue(page * 100);
         list.grab();
         QCoreApplication::processEvents();
     }

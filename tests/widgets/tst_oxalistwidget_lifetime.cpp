@@ -28,7 +28,7 @@ void resizeEvent(LoadedList &list, QSize size)
 
 const Deletion deletions[] = {
     { "asked for a row by scrolling", SIGNAL(updateItemWidget(QListWidgetItem *)),
-      [](LoadedList &list) { list.scrollTo(50); } },
+      [](LoadedList &list) { list.scrollToValue(50); } },
     { "asked for a row by a pass", SIGNAL(updateItemWidget(QListWidgetItem *)),
       [](LoadedList &list) {
           list.removeItem(0);
@@ -159,7 +159,7 @@ void tst_OxaListWidgetLifetime::mayLoseRowsInASlot()
     QFETCH(const Removal *const, removal);
     LoadedList list(20);
     list.show();
-    list.scrollTo(0);
+    list.scrollToValue(0);
     list.takeLog();
     const auto makeLabel = list.makeWidget;
     list.makeWidget = [&list, makeLabel, removal](QListWidgetItem *item) {
@@ -168,7 +168,7 @@ void tst_OxaListWidgetLifetime::mayLoseRowsInASlot()
         else
             makeLabel(item);
     };
-    list.scrollTo(80);
+    list.scrollToValue(80);
     list.updateCurrentVisibleListItems();
     QCOMPARE(list.takeLog(), QString::fromLatin1(removal->log));
     QCOMPARE(list.rowsWithWidgets(), QString::fromLatin1(removal->rows));
@@ -232,7 +232,7 @@ void tst_OxaListWidgetLifetime::takesTheFocusOfARowThatScrollsAway()
     const QPointer<QLineEdit> edit = list.itemWidget(list.item(3))->findChild<QLineEdit *>();
     edit->setFocus();
     QVERIFY(edit->hasFocus());
-    list.scrollTo(value);
+    list.scrollToValue(value);
     QCOMPARE(list.hasFocus(), isTaken);
     QTRY_COMPARE(edit && edit->hasFocus(), !isTaken);
     QCOMPARE(list.hasFocus(), isTaken);

@@ -267,10 +267,10 @@ void tst_OxaUnderlineButtonPainting::paintsTheAnchorInTheStatesColor()
 void tst_OxaUnderlineButtonPainting::elidesItsTextInTheRoomThatIsLeft()
 {
     const QString longText = QStringLiteral("A text that is too long for its button");
-    const auto picture = [this](const QString &text, Qt::TextElideMode mode) {
+    const auto picture = [this](const QString &shown, Qt::TextElideMode mode) {
         OxaUnderlineButton button;
         setUp(button);
-        button.setText(text);
+        button.setText(shown);
         button.setLeftIcon(square(orange));
         button.setAnchorIcon(m_files.square());
         button.setElideMode(mode);

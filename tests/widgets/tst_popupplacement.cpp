@@ -47,7 +47,7 @@ void forEachCase(const QRect &area, const Check &check)
     QFETCH(const int, side);
     for (const QRect &source : PopupRules::sources(area)) {
         for (const QSize &size : PopupRules::sizes(area)) {
-            for (const QPoint &offset : { QPoint(0, 0), QPoint(-7, 5) })
+            for (const QPoint &offset : { QPoint(0, 0), QPoint(-71, 25) })
                 check(Case { source, offset, size, Alignment(alignment), Side(side) });
         }
     }
@@ -83,6 +83,8 @@ private Q_SLOTS:
     void staysOnTheScreenOfItsSource();
     void staysInTheWindow_data() { addSideRows(); }
     void staysInTheWindow();
+    void flipsWhenItDoesNotFit_data();
+    void flipsWhenItDoesNotFit();
     void doesNotFlipAtTheNearEdges_data();
     void doesNotFlipAtTheNearEdges();
     void isNowhereWithoutAScreen();
@@ -165,6 +167,39 @@ void tst_PopupPlacement::staysInTheWindow()
                      PopupRules::inWindow(c, window).text());
         });
     }
+}
+
+void tst_PopupPlacement::flipsWhenItDoesNotFit_data()
+{
+    QTest::addColumn<int>("side");
+    QTest::addColumn<QPoint>("source"); // Beside which 100 by 100 pixels just fit.
+    QTest::addColumn<QPoint>("step");
+    QTest::addColumn<int>("onScreen");
+    QTest::addColumn<int>("inWindow");
+    const auto row = [](const char *name, Side side, const QPoint &source, const QPoint &step,
+                        Side onScreen, Side inWindow) {
+        QTest::addRow("%s, fits exactly", name)
+                << int(side) << source << QPoint() << int(side) << int(side);
+        QTest::addRow("%s, one pixel more", name)
+                << int(side) << source << step << int(onScreen) << int(inWindow);
+    };
+    row("below", Side::Top, { 500, 905 }, { 0, 1 }, Side::Bottom, Side::Bottom);
+    row("right", Side::Left, { 1121, 500 }, { 1, 0 }, Side::Right, Side::Right);
+    row("above without arrow", Side::NoArrowAbove, { 500, 100 }, { 0, -1 }, Side::NoArrowBelow,
+        Side::NoArrowAbove);
+}
+
+void tst_PopupPlacement::flipsWhenItDoesNotFit()
+{
+    QFETCH(const int, side);
+    QFETCH(const QPoint, source);
+    QFETCH(const QPoint, step);
+    const Case c { QRect(source + step, QSize(60, 20)), QPoint(), QSize(100, 100),
+                   Alignment::Center, Side(side) };
+    const QRect area(0, 0, 1280, 1024);
+    QTEST(int(PopupPlacement::onScreen(requestOf(c), { { area, area } }, false)->arrow),
+          "onScreen");
+    QTEST(int(PopupPlacement::inWindow(requestOf(c), area).arrow), "inWindow");
 }
 
 void tst_PopupPlacement::doesNotFlipAtTheNearEdges_data()

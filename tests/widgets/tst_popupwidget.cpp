@@ -2,7 +2,9 @@
 #include "PopupParts.h"
 #include "PopupRules.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
+#include <UiElements/svg/VisualUtils.h>
 #include <UiElements/widgets/CentralWidget_p.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaSeparator.h>
@@ -39,7 +41,10 @@ private Q_SLOTS:
     void takesAContentOut();
     void isMadeForAButton();
     void isMadeAtThePointer();
+    void isMadeAtThePointerInItsParent_data();
+    void isMadeAtThePointerInItsParent();
     void isShownAtOnceForAButton();
+    void givesTheFocusAsTabDoes();
     void isMadeWithoutASource();
     void releasesItsButton_data();
     void releasesItsButton();
@@ -231,6 +236,29 @@ void tst_PopupWidget::isMadeAtThePointer()
     QVERIFY(popup->isHidden());
 }
 
+void tst_PopupWidget::isMadeAtThePointerInItsParent_data()
+{
+    QTest::addColumn<QPoint>("cursor");
+    QTest::addColumn<QPoint>("origin");
+    // As far as the pointer is concerned, a parent reaches from its second pixel to the one after
+    // its last.
+    QTest::newRow("first pixel") << QPoint(150, 150) << QPoint(250, 200);
+    QTest::newRow("second pixel") << QPoint(151, 151) << QPoint(151, 151);
+    QTest::newRow("after the last pixel") << QPoint(350, 250) << QPoint(350, 250);
+    QTest::newRow("two after the last pixel") << QPoint(351, 251) << QPoint(250, 200);
+}
+
+void tst_PopupWidget::isMadeAtThePointerInItsParent()
+{
+    QFETCH(const QPoint, cursor);
+    QWidget window;
+    window.setGeometry(150, 150, 200, 100);
+    QCursor::setPos(cursor);
+    const QRect rect(-20, -20, 300, 300);
+    const PopupWidget *popup = PopupWidget::create(&window, rect, QPoint(), makeContent(), data());
+    QTEST(popup->getOriginRect().topLeft(), "origin");
+}
+
 void tst_PopupWidget::isShownAtOnceForAButton()
 {
     SourceWindow window;
@@ -242,6 +270,34 @@ void tst_PopupWidget::isShownAtOnceForAButton()
     QCOMPARE(popup->getOriginRect(), QRect(320, 290, 60, 20));
     QVERIFY(QTest::qWaitForWindowActive(popup));
     QTRY_VERIFY(content->hasFocus());
+}
+
+void tst_PopupWidget::givesTheFocusAsTabDoes()
+{
+    SourceWindow window;
+    QVERIFY(Windows::activate(window));
+    QWidget *content = makeContent();
+    content->setFocusPolicy(Qt::ClickFocus); // So that it is not focused with its window.
+    QVector<Qt::FocusReason> reasons;
+    const auto note = [&reasons](QEvent *event) {
+        reasons += static_cast<QFocusEvent *>(event)->reason();
+        return false;
+    };
+    const VisualUtils::EventFilter ofContent(content, { QEvent::FocusIn }, note);
+    const VisualUtils::EventFilter ofButton(&window.button, { QEvent::FocusIn }, note);
+    // Its window is active by then, as on a desktop that is quicker than this one.
+    const VisualUtils::EventFilter activator(content, { QEvent::Paint }, [content](QEvent *) {
+        QApplication::setActiveWindow(content->window());
+        return false;
+    });
+    PopupWidget *popup = PopupWidget::createAndShow(&window.button, content,
+                                                    data().autoDismiss(false));
+    QCOMPARE(reasons, QVector<Qt::FocusReason>({ Qt::TabFocusReason }));
+    QApplication::setActiveWindow(&window);
+    window.setFocus();
+    reasons.clear();
+    popup->hide();
+    QCOMPARE(reasons, QVector<Qt::FocusReason>({ Qt::TabFocusReason }));
 }
 
 void tst_PopupWidget::isMadeWithoutASource()

@@ -2,6 +2,7 @@
 #include "PopupParts.h"
 #include "support/RealInput.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -12,23 +13,9 @@
 using PopupParts::data;
 using PopupParts::makeContent;
 using PopupParts::SourceWindow;
+using Windows::showActive;
 
 namespace {
-
-/// Activates \a window and waits until it is active.
-bool activate(QWidget &window)
-{
-    window.show();
-    window.activateWindow();
-    return QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; });
-}
-
-bool activate(QWindow &window)
-{
-    window.show();
-    window.requestActivate();
-    return QTest::qWaitFor([&window] { return QGuiApplication::focusWindow() == &window; });
-}
 
 /// Lets the rules run that follow a change of the active window.
 void settle()
@@ -37,22 +24,31 @@ void settle()
         QCoreApplication::processEvents();
 }
 
-/// A popup of a button in an active window, with another window beside it.
-struct Scene
+/// An active window with a button that has the focus, and another window beside it.
+struct Desktop
 {
     SourceWindow window;
     QWidget other;
-    PopupWidget *popup;
 
-    explicit Scene(const WidgetData &widgetData)
+    Desktop()
     {
         other.setGeometry(700, 500, 200, 150);
         window.button.setFocusPolicy(Qt::StrongFocus);
-        if (!activate(other) || !activate(window))
+        if (!showActive(other) || !showActive(window))
             qFatal("The windows do not become active.");
         window.button.setFocus();
-        popup = PopupWidget::createAndShow(&window.button, makeContent(), widgetData);
-        if (!activate(*popup)) // A window manager need not do so with a tool window.
+    }
+};
+
+/// An active popup of the button.
+struct Scene : Desktop
+{
+    PopupWidget *popup;
+
+    explicit Scene(const WidgetData &widgetData)
+        : popup(PopupWidget::createAndShow(&window.button, makeContent(), widgetData))
+    {
+        if (!showActive(*popup)) // The window manager leaves that to a tool window itself.
             qFatal("The popup does not become active.");
         settle();
     }
@@ -88,6 +84,7 @@ private Q_SLOTS:
     void hidesWhenAnotherWindowIsActivated();
     void hidesWhenItsParentIsActivated_data();
     void hidesWhenItsParentIsActivated();
+    void hidesWithoutHavingBeenActive();
     void hidesOnARealClickElsewhere();
     void hidesWhenTheApplicationIsLeft();
     void staysWhileAWindowInsideItIsActive();
@@ -97,6 +94,7 @@ private Q_SLOTS:
     void hidesForOtherQmlWindows_data();
     void hidesForOtherQmlWindows();
     void hidesWhenTheQmlWindowIsLeft();
+    void isNotHiddenInAHiddenWindow();
     void handsTheActivationToAWindowInsideIt_data();
     void handsTheActivationToAWindowInsideIt();
     void givesTheFocusBackToItsButton();
@@ -140,7 +138,7 @@ void tst_PopupWidgetActivation::hidesWhenAnotherWindowIsActivated()
                         .dismissWithParentFocused(isHiddenWithParentFocused)
                         .skipDeepFocusCheck(isFocusSkipped)
                         .focusSourceOnClose(false));
-    QVERIFY(activate(scene.other));
+    QVERIFY(showActive(scene.other));
     settle();
     QCOMPARE(scene.popup->isHidden(), isHidden);
 }
@@ -157,10 +155,24 @@ void tst_PopupWidgetActivation::hidesWhenItsParentIsActivated()
     QFETCH(const bool, isHiddenWithParentFocused);
     Scene scene(
             data().dismissWithParentFocused(isHiddenWithParentFocused).focusSourceOnClose(false));
-    QVERIFY(activate(scene.window));
+    QVERIFY(showActive(scene.window));
     QVERIFY(scene.window.button.hasFocus());
     settle();
     QCOMPARE(scene.popup->isHidden(), isHiddenWithParentFocused);
+}
+
+void tst_PopupWidgetActivation::hidesWithoutHavingBeenActive()
+{
+    Desktop desktop;
+    PopupWidget *popup = PopupWidget::create(&desktop.window.button, makeContent(), data());
+    popup->setAttribute(Qt::WA_ShowWithoutActivating);
+    popup->showSmooth(&desktop.window.button);
+    QVERIFY(QTest::qWaitForWindowExposed(popup));
+    settle();
+    QVERIFY(popup->isVisible());
+    QVERIFY(desktop.window.isActiveWindow());
+    QVERIFY(showActive(desktop.other));
+    QTRY_VERIFY(popup->isHidden());
 }
 
 void tst_PopupWidgetActivation::hidesOnARealClickElsewhere()
@@ -187,10 +199,10 @@ void tst_PopupWidgetActivation::staysWhileAWindowInsideItIsActive()
 {
     const Scene scene(data());
     QDialog *dialog = scene.dialog();
-    QVERIFY(activate(*dialog));
+    QVERIFY(showActive(*dialog));
     settle();
     QVERIFY(scene.popup->isVisible());
-    QVERIFY(activate(*scene.popup));
+    QVERIFY(showActive(*scene.popup));
     settle();
     QVERIFY(scene.popup->isVisible());
 }
@@ -213,10 +225,10 @@ void tst_PopupWidgetActivation::hidesWhenTheWindowInsideItIsLeft()
     Scene scene(data().dismissWithParentFocused(isHiddenWithParentFocused)
                         .skipDeepFocusCheck(isFocusSkipped)
                         .focusSourceOnClose(false));
-    QVERIFY(activate(*scene.dialog()));
+    QVERIFY(showActive(*scene.dialog()));
     settle();
     QVERIFY(scene.popup->isVisible());
-    QVERIFY(activate(scene.other));
+    QVERIFY(showActive(scene.other));
     settle();
     QCOMPARE(scene.popup->isHidden(), isHidden);
 }
@@ -226,7 +238,7 @@ void tst_PopupWidgetActivation::staysWhileAQmlWindowCoversIt()
     const Scene scene(data());
     QQuickWindow window;
     cover(window, *scene.popup);
-    QVERIFY(activate(window));
+    QVERIFY(showActive(window));
     settle();
     QVERIFY(scene.popup->isVisible());
 }
@@ -249,7 +261,7 @@ void tst_PopupWidgetActivation::hidesForOtherQmlWindows()
     cover(window, *scene.popup);
     if (!isCovering)
         window.setPosition(900, 100);
-    QVERIFY(activate(window));
+    QVERIFY(showActive(window));
     QTRY_VERIFY(scene.popup->isHidden());
 }
 
@@ -258,46 +270,82 @@ void tst_PopupWidgetActivation::hidesWhenTheQmlWindowIsLeft()
     Scene scene(data().focusSourceOnClose(false));
     QQuickWindow window;
     cover(window, *scene.popup);
-    QVERIFY(activate(window));
+    QVERIFY(showActive(window));
     settle();
     QVERIFY(scene.popup->isVisible());
-    QVERIFY(activate(scene.other));
+    QVERIFY(showActive(scene.other));
     QTRY_VERIFY(scene.popup->isHidden());
+}
+
+/// A client has put it into a window of its own.
+void tst_PopupWidgetActivation::isNotHiddenInAHiddenWindow()
+{
+    Desktop desktop;
+    PopupWidget *popup = PopupWidget::create(&desktop.window.button, makeContent(), data());
+    popup->setParent(&desktop.window, Qt::Widget);
+    popup->show();
+    QQuickWindow window;
+    cover(window, *popup);
+    QVERIFY(showActive(window));
+    settle();
+    QVERIFY(popup->isVisible());
+    desktop.window.hide();
+    QVERIFY(showActive(desktop.other));
+    settle();
+    QVERIFY(!popup->isHidden()); // It is shown again with its window.
 }
 
 void tst_PopupWidgetActivation::handsTheActivationToAWindowInsideIt_data()
 {
     QTest::addColumn<bool>("isReactivated");
-    QTest::newRow("with itself first") << true;
-    QTest::newRow("alone") << false;
+    QTest::addColumn<bool>("isHiddenWithParentFocused");
+    QTest::addColumn<bool>("isFocused");
+    QTest::addColumn<bool>("isHidden");
+    QTest::newRow("with itself first") << true << true << false << false;
+    QTest::newRow("alone") << false << true << false << false;
+    QTest::newRow("with the focus in it") << true << false << true << false;
+    QTest::newRow("without any focus") << true << false << false << true;
 }
 
 void tst_PopupWidgetActivation::handsTheActivationToAWindowInsideIt()
 {
     QFETCH(const bool, isReactivated);
-    const Scene scene(data().selfReactivate(isReactivated));
+    QFETCH(const bool, isHiddenWithParentFocused);
+    QFETCH(const bool, isFocused);
+    QFETCH(const bool, isHidden);
+    const Scene scene(data().selfReactivate(isReactivated)
+                              .dismissWithParentFocused(isHiddenWithParentFocused)
+                              .focusSourceOnClose(false));
     QDialog *dialog = scene.dialog();
+    if (isFocused)
+        new QPushButton(dialog);
     QQuickWindow window;
     cover(window, *scene.popup);
-    QVERIFY(activate(window));
+    QVERIFY(showActive(window));
     settle();
     bool wasActive = false;
     connect(qApp, &QGuiApplication::focusWindowChanged, scene.popup, [&](const QWindow *focused) {
         wasActive = wasActive || focused == scene.popup->windowHandle();
     });
-    QVERIFY(activate(*dialog));
+    QVERIFY(showActive(*dialog));
     QTRY_COMPARE(wasActive, isReactivated);
     QTRY_COMPARE(QApplication::activeWindow(), dialog);
     settle();
-    QVERIFY(scene.popup->isVisible());
+    QCOMPARE(scene.popup->isHidden(), isHidden);
 }
 
 void tst_PopupWidgetActivation::givesTheFocusBackToItsButton()
 {
-    const Scene scene(data());
-    scene.popup->hide();
-    QTRY_COMPARE(QApplication::activeWindow(), static_cast<const QWidget *>(&scene.window));
-    QTRY_VERIFY(scene.window.button.hasFocus());
+    Desktop desktop;
+    desktop.window.setFocus();
+    PopupWidget *popup = PopupWidget::create(&desktop.window.button, makeContent(),
+                                             data().autoDismiss(false));
+    popup->setAttribute(Qt::WA_ShowWithoutActivating);
+    popup->showSmooth(&desktop.window.button);
+    QVERIFY(showActive(desktop.other));
+    popup->hide();
+    QTRY_COMPARE(QApplication::activeWindow(), static_cast<const QWidget *>(&desktop.window));
+    QTRY_VERIFY(desktop.window.button.hasFocus());
 }
 
 void tst_PopupWidgetActivation::tellsOfTheRealPointer()

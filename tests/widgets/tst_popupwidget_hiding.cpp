@@ -125,14 +125,21 @@ void tst_PopupWidgetHiding::hasNoTimerWithoutATime()
 
 void tst_PopupWidgetHiding::hidesWhenItsSourceMoves()
 {
-    SourceWindow window;
+    struct Window : SourceWindow
+    {
+        int moves = 0;
+        void moveEvent(QMoveEvent *) override { ++moves; }
+    };
+    Window window;
     window.show();
     FilledPopup popup(data().dismissPopupOnSourceMove(true), &window.button);
     popup.showSmooth(&window.button);
     window.button.move(5, 5); // Its window counts.
     QVERIFY(popup.isVisible());
+    window.moves = 0;
     window.move(window.pos() + QPoint(10, 0));
     QTRY_VERIFY(!popup.isVisible());
+    QVERIFY(window.moves > 0); // It is told too.
 }
 
 void tst_PopupWidgetHiding::staysWhenItsSourceMoves()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PopupParts.h"
 #include "PopupRules.h"
+#include "support/Screens.h"
 #include "support/TestApplication.h"
 
 #include <QProcess>
@@ -69,6 +70,8 @@ private Q_SLOTS:
 
     void staysOnTheScreen_data();
     void staysOnTheScreen();
+    void staysOnAScreenAtNegativeCoordinates_data() { staysOnTheScreen_data(); }
+    void staysOnAScreenAtNegativeCoordinates();
     void staysInItsParentsWindow_data() { staysOnTheScreen_data(); }
     void staysInItsParentsWindow();
     void isWhereItSaysOnTheScreen_data();
@@ -116,6 +119,12 @@ void tst_PopupWidgetScreens::staysOnTheScreen()
     }
 }
 
+void tst_PopupWidgetScreens::staysOnAScreenAtNegativeCoordinates()
+{
+    const ScreenGuard guard(QRect(-800, -700, 800, 600), QRect(-790, -670, 770, 570));
+    staysOnTheScreen();
+}
+
 void tst_PopupWidgetScreens::staysInItsParentsWindow()
 {
     QFETCH(const int, alignment);
@@ -124,6 +133,8 @@ void tst_PopupWidgetScreens::staysInItsParentsWindow()
     const LayoutDirectionGuard guard(direction);
     Case c { QRect(), QPoint(3, -2), QSize(), Alignment(alignment), Side(side) };
     SourceWindow window(QRect(150, 120, 500, 400));
+    window.show();
+    QTRY_VERIFY(window.frameGeometry() != window.geometry()); // The frame is no part of it.
     FilledPopup popup(dataOf(c).fitInMainWindowGeometry(true), &window.button);
     for (const QSize &size : PopupRules::sizes(window.geometry())) {
         for (const QRect &source : PopupRules::sources(window.geometry())) {

@@ -98,7 +98,7 @@ Page *Pages::makeLongList(QWidget *parent)
     row->setSpacing(Metrics::gap);
     row->addWidget(chat, 1);
     row->addLayout(side);
-    auto *controls = new PropertyControls({ chat }, card);
+    auto *controls = new PropertyControls(chat, card);
     controls->addAll();
     card->body()->addLayout(row, 1);
     card->body()->addWidget(controls);

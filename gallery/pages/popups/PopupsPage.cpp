@@ -109,9 +109,8 @@ void PopupsPage::addChoices(ControlPanel &panel)
                         apply();
                     });
     OxaComboBox *dismissal = Fields::combo(tr("Hides"),
-                                           { tr("By a click only"),
-                                             tr("When the window loses the focus"),
-                                             tr("When it is no longer active") });
+                                           { tr("On a click only"), tr("When focus leaves"),
+                                             tr("When no longer active") });
     connect(dismissal, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int i) {
         m_settings.dismissal = Dismissal(i);
         apply();

@@ -14,6 +14,7 @@
 #include <UiElements/qml/OxaQmlPopupController.h>
 #include <UiElements/qml/OxaQuickWidget.h>
 #include <UiElements/widgets/OxaCheckBox.h>
+#include <UiElements/widgets/OxaWidget.h>
 
 #include <QMetaEnum>
 #include <QShortcut>
@@ -88,7 +89,7 @@ void QmlViewsCard::onThemeChanged()
 
 QWidget *QmlViewsCard::makeButtons()
 {
-    auto *row = new QWidget;
+    auto *row = new OxaWidget;
     row->setLayout(new WrapLayout(Metrics::spacing));
     addButton(row, tr("Open window"), &QmlViewsCard::openWindow);
     addButton(row, tr("Open dialog"), &QmlViewsCard::openDialog);
@@ -108,7 +109,7 @@ void QmlViewsCard::addButton(QWidget *row, const QString &text, void (QmlViewsCa
 
 QWidget *QmlViewsCard::makeReloading()
 {
-    auto *row = new QWidget;
+    auto *row = new OxaWidget;
     row->setLayout(new WrapLayout(Metrics::spacing));
     auto *fromDisk = Fields::checkBox(tr("Read new views from the source tree"), row);
     auto *engine = static_cast<GalleryQmlEngine *>(GalleryApplication::get()->getQmlEngine());

@@ -264,7 +264,7 @@ void addVerticalMenu(Page &page)
     row->setSpacing(Metrics::gap);
     row->addWidget(menu);
     row->addWidget(chosen, 1);
-    auto *controls = new PropertyControls({ menu });
+    auto *controls = new PropertyControls(menu);
     card->body()->addLayout(row);
     card->body()->addWidget(controls);
     page.body()->addWidget(card);

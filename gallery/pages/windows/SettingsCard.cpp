@@ -129,7 +129,7 @@ void SettingsCard::addPage(const QString &title, QWidget *page)
 
 void SettingsCard::addControls()
 {
-    auto *controls = new PropertyControls({ m_splitter });
+    auto *controls = new PropertyControls(m_splitter);
     controls->setRange("handleWidth", 1, Metrics::gap);
     controls->addProperty("handleWidth");
     controls->addProperty("childrenCollapsible");
