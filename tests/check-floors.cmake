@@ -16,9 +16,10 @@ set(svgFiles svg/OxaPillTabButton svg/OxaSvgAnchorButton svg/OxaSvgLabel svg/Oxa
 
 # What sources include from above: the application object, a widget's own answer to arrow keys, the widgets that are
 # painted for, the icons of a text input and of a banner, the source of movies that an application starts with, its QML
-# engine, and what it has Qt tell assistive technology.
+# engine, and what it has Qt tell assistive technology, as a widget with QML does.
 set(upwards
     theme-app fonts-app keyboard-widgets drawing-svg drawing-widgets widgets-svg app-movies app-qml app-accessibility
+    qml-accessibility
 )
 
 # Sets <result> to the floor of <file>, a path below SOURCE_DIR.

@@ -1,74 +1,39 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "AccessibleButton_p.h"
 #include "AccessibleClasses_p.h"
+#include "AccessibleRelations_p.h"
 
 #include <QPushButton>
 
 namespace {
 
-/// Returns the role that \a button has by what it is and where.
-QAccessible::Role naturalRole(QPushButton &button)
-{
-    const QAccessible::Role member = AccessibleClasses::memberRole(&button);
-    if (member != QAccessible::NoRole)
-        return member;
-    if (button.menu())
-        return QAccessible::ButtonMenu;
-    if (button.isCheckable())
-        return button.autoExclusive() ? QAccessible::RadioButton : QAccessible::CheckBox;
-    return QAccessible::PushButton;
-}
-
-/// Returns \a text without the "&" that mark keys, and with one for each "&&".
-QString withoutMnemonics(const QString &text)
-{
-    QString plain;
-    for (int i = 0; i < text.size(); ++i) {
-        if (text.at(i) == QLatin1Char('&') && ++i == text.size())
-            break;
-        plain += text.at(i);
-    }
-    return plain;
-}
-
 /// Returns the key that clicks \a button.
-QKeySequence keyOf(const QPushButton &button)
+QKeySequence keyOf(const QAbstractButton &button)
 {
-    return button.isDefault() ? QKeySequence(Qt::Key_Enter) : button.shortcut();
+    const auto *pushButton = qobject_cast<const QPushButton *>(&button);
+    return pushButton && pushButton->isDefault() ? QKeySequence(Qt::Key_Enter) : button.shortcut();
 }
 
 } // namespace
 
-AccessibleButton::AccessibleButton(QWidget *button, QAccessible::Role role)
-    : AccessibleWidget(button, role)
-{
-    addControllingSignal(QStringLiteral("clicked()"));
-}
-
 QAccessible::Role AccessibleButton::role() const
 {
-    const QAccessible::Role stored = AccessibleWidget::role();
-    return stored == QAccessible::PushButton ? naturalRole(*button()) : stored;
+    const QAccessible::Role stored = AccessibleRelations::storedRole(*widget());
+    if (stored != QAccessible::NoRole && stored != QAccessible::PushButton)
+        return stored;
+    const QAccessible::Role member = AccessibleClasses::memberRole(widget());
+    return member == QAccessible::NoRole ? qts()->role() : member;
 }
 
 QString AccessibleButton::text(QAccessible::Text kind) const
 {
-    QString text;
-    if (kind == QAccessible::Name && button()->accessibleName().isEmpty())
-        text = withoutMnemonics(button()->text());
-    else if (kind == QAccessible::Accelerator)
-        text = keyOf(*button()).toString(QKeySequence::NativeText);
-    return text.isEmpty() ? AccessibleWidget::text(kind) : text;
+    return kind == QAccessible::Accelerator ? keyOf(*button()).toString(QKeySequence::NativeText)
+                                            : AccessibleWidget::text(kind);
 }
 
 QAccessible::State AccessibleButton::state() const
 {
     QAccessible::State state = AccessibleWidget::state();
-    state.checkable = button()->isCheckable();
-    state.checked = button()->isChecked();
-    state.pressed = button()->isDown();
-    state.defaultButton = button()->isDefault();
-    state.hasPopup = button()->menu() != nullptr;
     if (role() == QAccessible::PageTab) {
         state.selectable = true;
         state.selected = state.checked;
@@ -78,7 +43,7 @@ QAccessible::State AccessibleButton::state() const
 
 QStringList AccessibleButton::actionNames() const
 {
-    QStringList names = AccessibleWidget::actionNames();
+    QStringList names = AccessibleWidget::actionNames().filter(setFocusAction());
     if (button()->isEnabled() && !clickAction().isEmpty())
         names.prepend(clickAction());
     return names;
@@ -88,10 +53,11 @@ void AccessibleButton::doAction(const QString &name)
 {
     if (!actionNames().contains(name))
         return;
+    auto *pushButton = qobject_cast<QPushButton *>(button());
     if (name != clickAction())
         AccessibleWidget::doAction(name);
-    else if (button()->menu())
-        QMetaObject::invokeMethod(button(), &QPushButton::showMenu, Qt::QueuedConnection);
+    else if (pushButton && pushButton->menu())
+        QMetaObject::invokeMethod(pushButton, &QPushButton::showMenu, Qt::QueuedConnection);
     else
         button()->animateClick();
 }
@@ -101,7 +67,10 @@ QStringList AccessibleButton::keyBindingsForAction(const QString &name) const
     return name == clickAction() ? QStringList(keyOf(*button()).toString()) : QStringList();
 }
 
-QPushButton *AccessibleButton::button() const { return static_cast<QPushButton *>(object()); }
+QAbstractButton *AccessibleButton::button() const
+{
+    return static_cast<QAbstractButton *>(object());
+}
 
 /// Returns the action that is a click, or nothing: a picture cannot be clicked.
 QString AccessibleButton::clickAction() const

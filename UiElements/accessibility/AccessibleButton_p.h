@@ -3,7 +3,7 @@
 
 #include "AccessibleWidget_p.h"
 
-class QPushButton;
+class QAbstractButton;
 
 /// What assistive technology is told of a button, whose role depends on where it is: in a tab bar
 /// it is a tab. It is asked for each time: Qt may make the interface before the button is added to
@@ -11,7 +11,7 @@ class QPushButton;
 class AccessibleButton : public AccessibleWidget
 {
 public:
-    AccessibleButton(QWidget *button, QAccessible::Role role);
+    using AccessibleWidget::AccessibleWidget;
 
     /// Returns the stored role. PushButton, which all buttons store at first, counts as none.
     QAccessible::Role role() const override;
@@ -28,6 +28,6 @@ public:
     QStringList keyBindingsForAction(const QString &name) const override;
 
 private:
-    QPushButton *button() const;
+    QAbstractButton *button() const;
     QString clickAction() const;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaQmlBalloon.h"
 
+#include "NaturalRole_p.h"
+
 #include <UiElements/app/BoundedPixels_p.h>
 
 #include <QPainter>
@@ -35,6 +37,14 @@ static double clampedCenter(double center, double corner, double length)
 }
 
 OxaQmlBalloon::OxaQmlBalloon(QQuickItem *parent) : QQuickPaintedItem(parent) { }
+
+void OxaQmlBalloon::componentComplete()
+{
+    const QPointer<OxaQmlBalloon> self = this; // A handler in QML may delete it.
+    QQuickPaintedItem::componentComplete();
+    if (self)
+        setNaturalRole(this, QAccessible::ToolTip);
+}
 
 template <typename Value>
 void OxaQmlBalloon::change(Value &member, const Value &value, void (OxaQmlBalloon::*changed)())

@@ -88,6 +88,9 @@ public:
 
     void paint(QPainter *painter) override;
 
+    /// Sets `Accessible.role` to Accessible.ToolTip if the file sets none.
+    void componentComplete() override;
+
     /// Returns the value of the same number, None for other than the four directions.
     static ArrowAnchor arrowAnchorFromArrowType(Qt::ArrowType arrow);
 

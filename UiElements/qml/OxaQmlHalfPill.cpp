@@ -1,11 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaQmlHalfPill.h"
 
+#include "NaturalRole_p.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <QPointer>
 
 OxaQmlHalfPill::OxaQmlHalfPill(QQuickItem *parent) : QQuickPaintedItem(parent) { }
+
+void OxaQmlHalfPill::componentComplete()
+{
+    const QPointer<OxaQmlHalfPill> self = this; // A handler in QML may delete it.
+    QQuickPaintedItem::componentComplete();
+    if (self)
+        setNaturalRole(this, QAccessible::Grouping);
+}
 
 QColor OxaQmlHalfPill::backgroundColor() const { return m_backgroundColor; }
 

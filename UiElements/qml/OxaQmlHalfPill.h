@@ -48,6 +48,9 @@ public:
 
     void paint(QPainter *painter) override;
 
+    /// Sets `Accessible.role` to Accessible.Grouping if the file sets none.
+    void componentComplete() override;
+
 Q_SIGNALS:
     /// backgroundColor was set, to whatever value.
     void backgroundColorChanged();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaQuickWidget.h"
 
+#include <UiElements/accessibility/AccessibleQuick_p.h>
 #include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/qml/RenderTimer_p.h>
 
@@ -35,6 +36,8 @@ OxaQuickWidget::OxaQuickWidget(OxaQmlEngine *engine, QWidget *parent) : QQuickWi
 
 void OxaQuickWidget::initialise()
 {
+    // Now, and by no factory: that of QtQuick, which comes with a file, would be asked first.
+    QAccessible::registerAccessibleInterface(new AccessibleQuickWindow(quickWindow(), this));
     quickWindow()->setTitle(QString());
     connect(this, &OxaQuickWidget::focusAboutToChange, this, &OxaQuickWidget::onFocusAboutToChange,
             Qt::QueuedConnection);
@@ -89,10 +92,24 @@ void OxaQuickWidget::focusInEvent(QFocusEvent *event)
 {
     const QPointer<OxaQuickWidget> self(this); // A handler in QML may delete the widget.
     QQuickWidget::focusInEvent(event);
-    if (!self || !m_customAccessibilityEnabled)
+    if (!self)
+        return;
+    // Qt tells of the item's focus now, and then of the widget's, which would be the last word.
+    if (QAccessible::isActive())
+        QMetaObject::invokeMethod(this, &OxaQuickWidget::tellFocusOfItem, Qt::QueuedConnection);
+    if (!m_customAccessibilityEnabled)
         return;
     m_focusRetryPending = getWindowHandle() != QGuiApplication::focusWindow();
     restoreItemFocus(event->reason());
+}
+
+void OxaQuickWidget::tellFocusOfItem()
+{
+    QQuickItem *const item = quickWindow()->activeFocusItem();
+    if (!hasFocus() || !QAccessible::queryAccessibleInterface(item))
+        return;
+    QAccessibleEvent event(item, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
 }
 
 void OxaQuickWidget::restoreItemFocus(Qt::FocusReason reason)

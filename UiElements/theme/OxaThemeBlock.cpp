@@ -4,6 +4,7 @@
 #include "ThemeChange_p.h"
 #include "WidgetStyleText_p.h"
 
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QMetaMethod>
 #include <QPointer>
@@ -31,9 +32,10 @@ void keep(Value *place, const Value &value)
 
 /// Makes Qt forget what it has told assistive technology of \a widget. Qt tells it that a widget is
 /// disabled, for its parent is, while it makes its QWidget, and goes on to take it for a plain one.
+/// In the same way it tells the first text of a spin box too early.
 void forgetEarlyInterface(QWidget *widget)
 {
-    if (widget->isEnabled())
+    if (widget->isEnabled() && !qobject_cast<QAbstractSpinBox *>(widget))
         return;
     QAccessibleInterface *early = QAccessible::queryAccessibleInterface(widget);
     QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));

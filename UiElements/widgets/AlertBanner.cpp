@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "AlertBanner.h"
 
+#include "WidgetParts_p.h"
+
 #include <UiElements/svg/OxaSvgLabel.h>
 
 #include <QHBoxLayout>
@@ -91,7 +93,16 @@ void AlertBanner::setAlert(const AlertBannerInfo &info)
     if (!info.showIcon)
         hideAlertIcon();
     resize(info.bannerSize);
+    const QPointer<AlertBanner> self(this); // A slot of the parts' signals may delete the banner.
     setAlertStyle(info.alertType);
+    if (self && isVisible())
+        WidgetParts::tellAccessibility(this, QAccessible::Alert);
+}
+
+void AlertBanner::showEvent(QShowEvent *event)
+{
+    OxaWidget::showEvent(event);
+    WidgetParts::tellAccessibility(this, QAccessible::Alert);
 }
 
 void AlertBanner::setAlertStyle(AlertType type)

@@ -16,7 +16,8 @@ class QSpacerItem;
 /// The outer application supplies the icons as resources, ":/Resources/warning_12.svg" and
 /// ":/Resources/info_16.svg".
 ///
-/// Tab goes to the text and then from link to link, and Return activates one.
+/// Tab goes to the text and then from link to link, and Return activates one. Assistive technology
+/// is told of an alert when the banner appears, and when a visible one gets a text.
 class UIELEMENTS_EXPORT AlertBanner : public OxaWidget
 {
     Q_OBJECT
@@ -50,6 +51,9 @@ public:
 Q_SIGNALS:
     /// A link of the text was activated, whichever it is. A slot may delete the banner.
     void alertLinkActivated();
+
+protected:
+    void showEvent(QShowEvent *event) override;
 
 private:
     void addIcon();

@@ -22,8 +22,8 @@ private:                                                                        
 /// other blocks, without a semicolon; it leaves the access at private.
 ///
 /// Property: `accessibleRole` (QAccessible::NoRole, unless the class's constructor sets it).
-/// Assistive technology is told that of an OxaPushButton, unless it is PushButton: then the button
-/// is what its class and its place make it, such as a tab. Of other classes it is only stored.
+/// Assistive technology is told that role. PushButton, with which buttons are made, counts as none:
+/// then a button is what its class and its place make it, such as a tab.
 #define UIELEMENTS_ACCESSIBLE_ROLE_BLOCK                                                           \
     Q_PROPERTY(QAccessible::Role accessibleRole READ getAccessibleRole WRITE setAccessibleRole)    \
                                                                                                    \

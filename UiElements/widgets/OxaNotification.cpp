@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaNotification.h"
 
+#include "WidgetParts_p.h"
+
 #include <QGraphicsOpacityEffect>
 #include <QPointer>
 #include <QPropertyAnimation>
@@ -29,6 +31,12 @@ void OxaNotification::start()
     }
     m_timer->setInterval(m_showTimeout);
     m_timer->start();
+}
+
+void OxaNotification::showEvent(QShowEvent *event)
+{
+    OxaWidget::showEvent(event);
+    WidgetParts::tellAccessibility(this, QAccessible::Alert);
 }
 
 void OxaNotification::onFadeOut()

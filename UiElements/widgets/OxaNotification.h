@@ -9,6 +9,8 @@ class QTimer;
 /// The base of a message that fades out by itself: start() waits for `showTimeout`, then fades for
 /// `fadeOutDuration`, and then emits fadeOutCompleted().
 ///
+/// Assistive technology is told of an alert when it appears, with the texts of its labels.
+///
 /// Hiding it stops nothing. After the fade it is visible and opaque again, if nobody has hidden or
 /// deleted it.
 class UIELEMENTS_EXPORT OxaNotification : public OxaWidget
@@ -42,6 +44,9 @@ Q_SIGNALS:
     /// The message is faded out: hide or delete it. It is shown opaque again after this signal. A
     /// slot may delete the message.
     void fadeOutCompleted();
+
+protected:
+    void showEvent(QShowEvent *event) override;
 
 private Q_SLOTS:
     void onFadeOut();

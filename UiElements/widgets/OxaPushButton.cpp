@@ -56,8 +56,11 @@ bool OxaPushButton::isBadgeVisible() const { return m_isBadgeVisible; }
 
 void OxaPushButton::setBadgeVisible(bool visible)
 {
+    const bool isChange = m_isBadgeVisible != visible;
     m_isBadgeVisible = visible;
     repaint();
+    if (isChange)
+        WidgetParts::tellAccessibility(this, QAccessible::DescriptionChanged);
 }
 
 void OxaPushButton::setIcon(const QIcon &icon)

@@ -4,6 +4,7 @@
 #include "OxaLabel.h"
 #include "OxaLineEdit.h"
 #include "TextInputParts_p.h"
+#include "WidgetParts_p.h"
 
 #include <UiElements/svg/OxaSvgPushButton.h>
 
@@ -224,12 +225,24 @@ void OxaTextInput::onEditingFinished()
 {
     const LineEditCall call(this);
     if (text().isEmpty()) {
-        Q_EMIT showErrorLabel(false);
+        tellError(false);
     } else if (m_inputValidator) {
         const bool isError = !isValidInput();
         if (call.isFieldAlive())
-            Q_EMIT showErrorLabel(isError);
+            tellError(isError);
     }
+}
+
+/// Emits showErrorLabel(), whose slots show or hide the message. Assistive technology is told that
+/// message with the text, after they have done so.
+void OxaTextInput::tellError(bool isError)
+{
+    const bool isChange = m_isErrorShown != isError;
+    m_isErrorShown = isError;
+    const QPointer<OxaLineEdit> edit = m_lineEdit; // A slot may delete the field.
+    Q_EMIT showErrorLabel(isError);
+    if (isChange && edit)
+        WidgetParts::tellAccessibility(edit, QAccessible::DescriptionChanged);
 }
 
 void OxaTextInput::onTextChanged(const QString &text)
@@ -244,7 +257,7 @@ void OxaTextInput::onTextChanged(const QString &text)
         Q_EMIT textChanged(text);
     }
     if (call.isFieldAlive())
-        Q_EMIT showErrorLabel(isError);
+        tellError(isError);
 }
 
 /// Shows \a css. At most keys it is what Qt shows already: computing the styles of all parts again
@@ -281,7 +294,7 @@ void OxaTextInput::clearAndFocusInput()
     if (self)
         Q_EMIT textEdited();
     if (self)
-        Q_EMIT showErrorLabel(false);
+        tellError(false);
 }
 
 void OxaTextInput::passwordActionPressed()
@@ -335,7 +348,7 @@ void OxaTextInput::updateCSS(const OxaCSSData &css)
             return;
         if (isError) {
             shown = m_cssError;
-            Q_EMIT showErrorLabel(true);
+            tellError(true);
         }
     }
     if (self)

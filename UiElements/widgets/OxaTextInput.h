@@ -106,6 +106,13 @@ public:
     /// True when the validator accepts the text, or there is none.
     bool isValidInput() const;
 
+    /// Returns what showErrorLabel() has said last: true while the message of an error is to be
+    /// shown.
+    bool isErrorShown() const { return m_isErrorShown; }
+
+    /// True while the field shows the counter.
+    bool isCounterShown() const;
+
     /// Sets what the user can type, as QLineEdit::setValidator(). It does not own \a validator.
     void setValidator(const QValidator *validator);
 
@@ -197,6 +204,7 @@ private:
     bool onFocusChanged(bool hasCome);
     bool onKeyPressed(int key);
     void onEditingFinished();
+    void tellError(bool isError);
     void onTextChanged(const QString &text);
     void showTypingLook(const OxaCSSData &css);
     void clearAndFocusInput();
@@ -225,4 +233,5 @@ private:
     int m_displayMaxLength = 0;
     int m_lineEditCalls = 0;
     bool m_isTypingLookShown = false;
+    bool m_isErrorShown = false;
 };

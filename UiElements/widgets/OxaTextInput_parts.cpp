@@ -4,6 +4,7 @@
 
 #include "OxaTextInput.h"
 
+#include "OxaLabel.h"
 #include "OxaLineEdit.h"
 #include "TextInputParts_p.h"
 
@@ -63,6 +64,8 @@ void OxaTextInput::setMaxLength(int length)
     m_displayMaxLength = length;
     showOrHideActionButtons();
 }
+
+bool OxaTextInput::isCounterShown() const { return m_counterLabel && m_counterLabel->isVisible(); }
 
 int OxaTextInput::getDisplayMaxLength() const { return m_displayMaxLength; }
 

@@ -168,6 +168,7 @@ PopupWidget *PopupWidget::create(QPushButton *button, QWidget *content,
                                  const WidgetData &widgetData)
 {
     auto *popup = new PopupWidget(button ? button->window() : nullptr, widgetData);
+    popup->m_sourceButton = button;
     popup->takeContent(content);
     const QPointer<QPushButton> source(button);
     connect(popup, &PopupWidget::widgetHidden, popup,
@@ -225,6 +226,8 @@ QWidget *PopupWidget::getRegisterWidget() const
 }
 
 QWidget *PopupWidget::getMainWidget() const { return m_centralWidget; }
+
+QPushButton *PopupWidget::getSourceButton() const { return m_sourceButton; }
 
 void PopupWidget::setArrowPosition(WidgetData::ArrowPostion position)
 {

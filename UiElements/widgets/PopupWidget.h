@@ -65,6 +65,9 @@ public:
     /// Returns the body.
     QWidget *getMainWidget() const;
 
+    /// Returns the button that the popup was made for. Null without one, and once it is deleted.
+    QPushButton *getSourceButton() const;
+
     /// Returns the source on the screen; null at first.
     QRect getOriginRect() const { return m_originRect; }
 
@@ -145,6 +148,7 @@ private:
 
     CentralWidget *const m_centralWidget;
     WidgetData m_data;
+    QPointer<QPushButton> m_sourceButton;
     QRect m_originRect;
     QSize m_desiredSize { 0, 0 };
     QPointer<VisualUtils::EventFilter> m_sourceMoveFilter;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QAccessible>
 #include <QColor>
 #include <QMargins>
 #include <QPainter>
 #include <QPixmap>
+#include <QWidget>
 
 /// Small rules that several widgets follow.
 namespace WidgetParts {
@@ -48,6 +50,15 @@ inline QPixmap fitted(const QPixmap &pixmap, const QSize &size, qreal devicePixe
                                    Qt::SmoothTransformation);
     fitted.setDevicePixelRatio(devicePixelRatio);
     return fitted;
+}
+
+/// Tells assistive technology of \a event in \a widget, for what Qt does not know of.
+inline void tellAccessibility(QWidget *widget, QAccessible::Event event)
+{
+    if (!QAccessible::isActive())
+        return; // Qt would make an interface for it all the same.
+    QAccessibleEvent told(widget, event);
+    QAccessible::updateAccessibility(&told);
 }
 
 } // namespace WidgetParts

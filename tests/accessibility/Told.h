@@ -28,8 +28,10 @@ inline QString states(const QAccessibleInterface *told)
         { state.focusable, "focusable" },   { state.focused, "focused" },
         { state.selectable, "selectable" }, { state.selected, "selected" },
         { state.checkable, "checkable" },   { state.checked, "checked" },
-        { state.pressed, "pressed" },       { state.defaultButton, "default" },
-        { state.hasPopup, "popup" },
+        { state.checkStateMixed, "mixed" }, { state.editable, "editable" },
+        { state.readOnly, "read-only" },    { state.passwordEdit, "password" },
+        { state.modal, "modal" },           { state.pressed, "pressed" },
+        { state.defaultButton, "default" }, { state.hasPopup, "popup" },
     };
     QStringList names;
     for (const auto &[isSet, name] : all) {
@@ -90,7 +92,24 @@ private:
         if (s_type != QAccessible::InvalidEvent && event->type() != s_type)
             return;
         const QLatin1String type(qAccessibleEventString(event->type()));
-        s_log->note(QStringLiteral("%1 %2").arg(type, nameOf(event->accessibleInterface())));
+        s_log->note(QStringLiteral("%1 %2%3").arg(type, nameOf(event->accessibleInterface()),
+                                                  rowsOf(*event)));
+    }
+
+    /// Returns the rows that a table says have changed: " changed 3-5", or nothing for other
+    /// events.
+    static QString rowsOf(const QAccessibleEvent &event)
+    {
+        if (event.type() != QAccessible::TableModelChanged)
+            return {};
+        static const char *const changes[] = { "reset",    "changed",
+                                               "inserted", "columns inserted",
+                                               "removed",  "columns removed" };
+        const auto &change = static_cast<const QAccessibleTableModelChangeEvent &>(event);
+        return QStringLiteral(" %1 %2-%3")
+                .arg(QLatin1String(changes[change.modelChangeType()]))
+                .arg(change.firstRow())
+                .arg(change.lastRow());
     }
 
     static inline SignalLog *s_log = nullptr;

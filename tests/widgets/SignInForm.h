@@ -55,7 +55,9 @@ public:
         auto *mail = makeField(tr("Mail address"), this);
         mail->setInputValidator([](const QString &text) { return text.contains(QLatin1Char('@')); },
                                 false);
-        auto *error = new OxaLabel(tr("Enter an address with an @."), this);
+        auto *error = new OxaLabel(tr("Enter an address with an @."), this,
+                                   QAccessible::AlertMessage);
+        error->setBuddy(mail); // A screen reader reads it with the field.
         error->setCSS(QStringLiteral("$textColors: field-error;"));
         error->hide();
         connect(mail, &OxaTextInput::showErrorLabel, error, &OxaLabel::setVisible);

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "AccessibleQuick_p.h"
+
+#include <UiElements/qml/OxaQuickWidget.h>
+
+#include <QCoreApplication>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+namespace {
+
+/// Adds the items in \a item that Qt tells of, past those that it does not.
+void addItems(QList<QQuickItem *> &items, const QQuickItem &item)
+{
+    const QList<QQuickItem *> children = item.childItems();
+    for (QQuickItem *child : children) {
+        if (QAccessible::queryAccessibleInterface(child))
+            items += child;
+        else
+            addItems(items, *child);
+    }
+}
+
+} // namespace
+
+QAccessibleInterface *AccessibleQuickWidget::quickWindow() const
+{
+    return QAccessible::queryAccessibleInterface(
+            static_cast<OxaQuickWidget *>(object())->quickWindow());
+}
+
+QAccessible::State AccessibleQuickWidget::state() const
+{
+    QAccessible::State state = AccessibleWidget::state();
+    if (focusChild() != this)
+        state.focused = false;
+    return state;
+}
+
+QAccessibleInterface *AccessibleQuickWidget::focusChild() const
+{
+    QAccessibleInterface *item = widget()->hasFocus() ? quickWindow()->focusChild() : nullptr;
+    return item ? item : AccessibleWidget::focusChild();
+}
+
+QAccessibleInterface *AccessibleQuickWidget::child(int index) const
+{
+    return index == 0 ? quickWindow() : nullptr;
+}
+
+QAccessibleInterface *AccessibleQuickWidget::childAt(int x, int y) const
+{
+    return rect().contains(x, y) ? quickWindow() : nullptr;
+}
+
+int AccessibleQuickWidget::childCount() const { return 1; }
+
+int AccessibleQuickWidget::indexOfChild(const QAccessibleInterface *child) const
+{
+    return child == quickWindow() ? 0 : -1;
+}
+
+AccessibleQuickWindow::AccessibleQuickWindow(QQuickWindow *window, QWidget *widget)
+    : QAccessibleObject(window), m_widget(widget)
+{
+}
+
+QQuickWindow *AccessibleQuickWindow::quickWindow() const
+{
+    return static_cast<QQuickWindow *>(object());
+}
+
+QList<QQuickItem *> AccessibleQuickWindow::items() const
+{
+    QList<QQuickItem *> items;
+    addItems(items, *quickWindow()->contentItem());
+    return items;
+}
+
+QRect AccessibleQuickWindow::rect() const
+{
+    return m_widget ? parent()->rect() : quickWindow()->geometry();
+}
+
+QAccessibleInterface *AccessibleQuickWindow::parent() const
+{
+    return QAccessible::queryAccessibleInterface(m_widget ? m_widget
+                                                          : static_cast<QObject *>(qApp));
+}
+
+QAccessibleInterface *AccessibleQuickWindow::focusChild() const
+{
+    return QAccessible::queryAccessibleInterface(quickWindow()->activeFocusItem());
+}
+
+QAccessibleInterface *AccessibleQuickWindow::child(int index) const
+{
+    return QAccessible::queryAccessibleInterface(items().value(index));
+}
+
+int AccessibleQuickWindow::childCount() const { return items().size(); }
+
+int AccessibleQuickWindow::indexOfChild(const QAccessibleInterface *child) const
+{
+    return child ? items().indexOf(qobject_cast<QQuickItem *>(child->object())) : -1;
+}
+
+QWindow *AccessibleQuickWindow::window() const
+{
+    return m_widget ? m_widget->window()->windowHandle() : quickWindow();
+}
+
+QString AccessibleQuickWindow::text(QAccessible::Text kind) const
+{
+    return kind == QAccessible::Name ? quickWindow()->title() : QString();
+}
+
+QAccessible::Role AccessibleQuickWindow::role() const
+{
+    return m_widget ? QAccessible::Pane : QAccessible::Dialog;
+}
+
+QAccessible::State AccessibleQuickWindow::state() const
+{
+    QAccessible::State state;
+    state.invisible = m_widget ? !m_widget->isVisible() : !quickWindow()->isVisible();
+    state.disabled = m_widget && !m_widget->isEnabled();
+    state.active = quickWindow()->isActive() && !m_widget;
+    return state;
+}
