@@ -47,7 +47,7 @@ QPointer<OxaQuickView> OxaQuickViewContext::createOxaQuickView(
 
     const QPointer<OxaQuickViewContext> guard = this;
     QPointer<OxaQuickView> view = instantiateOxaQuickView(source, parent, initialProperties,
-                                                                controllerCallback);
+                                                          controllerCallback);
     if (!guard || !view)
         return view;
     addOxaQuickView(key, view);
