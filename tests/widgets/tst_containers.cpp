@@ -149,8 +149,8 @@ void tst_Containers::haveTheRolesAndNamesOfTheirKind_data()
             << Make([]() -> QWidget * { return new OxaMainWindow; }) << QAccessible::Window << name;
     QTest::newRow("OxaDialog") << Make([]() -> QWidget * { return new OxaDialog; })
                                << QAccessible::Dialog << name;
-    QTest::newRow("OxaFrame") << Make([]() -> QWidget * { return new OxaFrame; })
-                              << QAccessible::Border << name;
+    QTest::newRow("OxaFrame: a window of its own")
+            << Make([]() -> QWidget * { return new OxaFrame; }) << QAccessible::Window << name;
     QTest::newRow("OxaSplitter") << Make([]() -> QWidget * { return new OxaSplitter; })
                                  << QAccessible::Splitter << name;
     QTest::newRow("OxaStackedWidget") << Make([]() -> QWidget * { return new OxaStackedWidget; })
