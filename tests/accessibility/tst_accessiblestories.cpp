@@ -43,7 +43,7 @@ private Q_SLOTS:
     void movesASlider();
     void checksABox();
     void replacesAListByRuns();
-    void readsManyRowsInLinearTime();
+    void findsEachOfManyRows();
 
 private:
     std::unique_ptr<const StoreGuard> m_stores;
@@ -231,7 +231,7 @@ void tst_AccessibleStories::replacesAListByRuns()
     QCOMPARE(events.take(), QString());
 }
 
-void tst_AccessibleStories::readsManyRowsInLinearTime()
+void tst_AccessibleStories::findsEachOfManyRows()
 {
     OxaListView view;
     ShownLetters letters;
