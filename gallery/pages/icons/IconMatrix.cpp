@@ -11,6 +11,7 @@
 #include <QStyle>
 
 #include <iterator>
+#include <numeric>
 
 namespace {
 
@@ -33,18 +34,16 @@ int headingHeight() { return QFontMetrics(headingFont()).height() + Metrics::tig
 /// Returns where \a column begins; for the number of columns, where the last one ends.
 int left(int column)
 {
-    int x = headingWidth();
-    for (int i = 0; i < column; ++i)
-        x += pixels(sizes[rows - 1], ratios[i]) + Metrics::small;
-    return x;
+    return std::accumulate(ratios, ratios + column, headingWidth(), [](int x, qreal ratio) {
+        return x + pixels(sizes[rows - 1], ratio) + Metrics::small;
+    });
 }
 
 int top(int row)
 {
-    int y = headingHeight();
-    for (int i = 0; i < row; ++i)
-        y += pixels(sizes[i], ratios[columns - 1]) + Metrics::small;
-    return y;
+    return std::accumulate(sizes, sizes + row, headingHeight(), [](int y, int size) {
+        return y + pixels(size, ratios[columns - 1]) + Metrics::small;
+    });
 }
 
 } // namespace

@@ -8,6 +8,8 @@
 
 #include <QGridLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr int sampleHeight = 56;
@@ -30,14 +32,16 @@ StyleTextPreview::StyleTextPreview(QWidget *parent)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(Metrics::spacing);
     grid->setVerticalSpacing(Metrics::tight);
-    const QStringList captions = { tr("OxaLabel"), tr("OxaLabel, disabled"), tr("OxaWidget") };
-    QWidget *const samples[] = { m_label, m_disabledLabel, m_widget };
-    for (int column = 0; column < captions.size(); ++column) {
-        samples[column]->setObjectName(sampleName());
-        samples[column]->setMinimumHeight(sampleHeight);
-        grid->addWidget(Labels::caption(captions[column], this), 0, column);
-        grid->addWidget(samples[column], 1, column);
-        grid->setColumnStretch(column, 1);
+    const std::pair<QString, QWidget *> samples[] = { { tr("OxaLabel"), m_label },
+                                                      { tr("OxaLabel, disabled"), m_disabledLabel },
+                                                      { tr("OxaWidget"), m_widget } };
+    int column = 0;
+    for (const auto &[caption, sample] : samples) {
+        sample->setObjectName(sampleName());
+        sample->setMinimumHeight(sampleHeight);
+        grid->addWidget(Labels::caption(caption, this), 0, column);
+        grid->addWidget(sample, 1, column);
+        grid->setColumnStretch(column++, 1);
     }
 }
 
