@@ -59,6 +59,9 @@ GalleryApplication::GalleryApplication(int &argc, char **argv)
         QQuickWindow::setSceneGraphBackend(QSGRendererInterface::Software);
 }
 
+// The base class leaves the engine to the event loop, which has ended.
+GalleryApplication::~GalleryApplication() { delete m_engine; }
+
 GalleryApplication *GalleryApplication::get()
 {
     return qobject_cast<GalleryApplication *>(instance());
@@ -118,7 +121,7 @@ IOxaMovieProviderSource *GalleryApplication::getMovieProviderSource()
 
 void GalleryApplication::onQmlEngineCreated(OxaQmlEngine *engine)
 {
-    Q_UNUSED(engine)
+    m_engine = engine;
     OxaQmlTypes::registerQmlTypes();
     qmlRegisterType<PaintedItemController>("Gallery", 1, 0, "PaintedItemController");
 }

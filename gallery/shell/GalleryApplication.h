@@ -6,6 +6,8 @@
 
 #include <UiElements/app/OxaApplication.h>
 
+#include <QPointer>
+
 class TextSettings;
 class ThemeSwitcher;
 
@@ -17,6 +19,7 @@ class GalleryApplication : public OxaApplication
 
 public:
     GalleryApplication(int &argc, char **argv);
+    ~GalleryApplication() override;
 
     /// Returns the application object of the process, which must be a GalleryApplication.
     static GalleryApplication *get();
@@ -53,5 +56,6 @@ private:
     ThemeSwitcher *m_themeSwitcher = nullptr;
     TextSettings *const m_textSettings;
     IOxaMovieProviderSource *m_movieSource = nullptr;
+    QPointer<OxaQmlEngine> m_engine;
     QString m_artworkFolder = GalleryOptions::defaultArtworkFolder();
 };

@@ -114,6 +114,7 @@ private:
             argument.endStructure();
             names += name;
         }
+        argument.endArray();
         return names.isEmpty() ? QString()
                                : QStringLiteral(" {%1}").arg(names.join(QLatin1Char(' ')));
     }
@@ -137,6 +138,7 @@ private:
                 text += QStringLiteral(" <%1 '%2'>")
                                 .arg(names.value(relation), property(other, "Name"));
         }
+        argument.endArray();
         return text;
     }
 
