@@ -4,7 +4,6 @@
 #include "ThemeChange_p.h"
 #include "WidgetStyleText_p.h"
 
-#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QMetaMethod>
 #include <QPointer>
@@ -30,12 +29,11 @@ void keep(Value *place, const Value &value)
         *place = value;
 }
 
-/// Makes Qt forget what it has told assistive technology of \a widget. Qt tells it that a widget is
-/// disabled, for its parent is, while it makes its QWidget, and goes on to take it for a plain one.
-/// In the same way it tells the first text of a spin box too early.
+/// Makes Qt forget what it takes \a widget for. Its base classes may have told assistive technology
+/// that the widget is disabled, or of a model or a text, and Qt goes on to take it for one of them.
 void forgetEarlyInterface(QWidget *widget)
 {
-    if (widget->isEnabled() && !qobject_cast<QAbstractSpinBox *>(widget))
+    if (!QAccessible::isActive())
         return;
     QAccessibleInterface *early = QAccessible::queryAccessibleInterface(widget);
     QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));

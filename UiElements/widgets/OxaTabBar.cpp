@@ -3,10 +3,10 @@
 
 #include "FocusStop_p.h"
 #include "OxaPushButton.h"
+#include "WidgetParts_p.h"
 
 #include <UiElements/keyboard/TabOrderUtils.h>
 
-#include <QAccessible>
 #include <QDebug>
 #include <QHBoxLayout>
 
@@ -20,18 +20,12 @@ constexpr char notAButtonWarning[] =
 /// The type of buttons that keep Left and Right to themselves, see TabOrderUtils.
 constexpr auto tabAcceleratorType = RillsAccessible::AcceleratorType(1);
 
-/// Tells assistive technology that \a tab is selected, or no longer. That does not depend on the
-/// bar's signals, which may be blocked.
-void tellSelection(QPushButton &tab, QAccessible::Event type)
-{
-    QAccessibleEvent event(&tab, type);
-    QAccessible::updateAccessibility(&event);
-}
-
+/// Which tab is selected is told to assistive technology independently of the bar's signals, which
+/// may be blocked.
 void deselect(QPushButton &tab)
 {
     tab.setChecked(false);
-    tellSelection(tab, QAccessible::SelectionRemove);
+    WidgetParts::tellAccessibility(&tab, QAccessible::SelectionRemove);
 }
 
 } // namespace
@@ -150,7 +144,7 @@ void OxaTabBar::setCurrentIndex(int index)
     if (previous)
         deselect(*previous);
     if (QPushButton *current = buttonAt(m_currentIndex))
-        tellSelection(*current, QAccessible::Selection);
+        WidgetParts::tellAccessibility(current, QAccessible::Selection);
     Q_EMIT currentChanged(m_currentIndex);
 }
 

@@ -11,7 +11,7 @@
 
 /// Ends the process once its window is painted for the first time, and prints what that took:
 /// the nanoseconds of CPU time since the process began, loading its libraries included, and the
-/// resident memory in kilobytes.
+/// megabytes of resident memory.
 class FirstPaint : public QObject
 {
 public:
@@ -33,7 +33,7 @@ private:
         timespec time = {};
         clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
         const long long nanoseconds = 1000000000LL * time.tv_sec + time.tv_nsec;
-        std::printf("%lld %ld\n", nanoseconds, residentKilobytes());
+        std::printf("%lld %f\n", nanoseconds, double(residentKilobytes()) / 1024);
         std::fflush(stdout);
         QCoreApplication::exit();
     }

@@ -10,24 +10,18 @@
 
 namespace {
 
-/// The cost of a program from its start to its first paint.
-struct Cost
-{
-    double nanoseconds = 0; ///< Of CPU time, so that a busy machine changes little.
-    double megabytes = 0;   ///< Resident at the first paint.
-    bool isValid = false;
-};
+/// What a program prints; see FirstPaint, and many_labels.
+using Numbers = std::array<double, 2>;
 
-/// Reads what the program prints; see FirstPaint.
-Cost costIn(const char *report)
+Numbers numbersIn(const char *report)
 {
     char *end = nullptr;
-    const double nanoseconds = std::strtod(report, &end);
-    const double kilobytes = std::strtod(end, nullptr);
-    return { nanoseconds, kilobytes / 1024.0, nanoseconds > 0 && kilobytes > 0 };
+    const double first = std::strtod(report, &end);
+    return { first, std::strtod(end, nullptr) };
 }
 
-Cost costOf(const char *program)
+/// Runs a program, with \a argument unless it is null. Zeros mean that it has failed.
+Numbers run(const char *program, const char *argument)
 {
     std::array<int, 2> output = {};
     if (pipe(output.data()) != 0)
@@ -36,7 +30,7 @@ Cost costOf(const char *program)
     if (child == 0) {
         dup2(output[1], STDOUT_FILENO);
         close(output[0]);
-        execl(program, program, nullptr);
+        execl(program, program, argument, nullptr);
         _exit(127);
     }
     close(output[1]);
@@ -46,27 +40,29 @@ Cost costOf(const char *program)
     int status = 0;
     waitpid(child, &status, 0);
     const bool hasEndedWell = WIFEXITED(status) && WEXITSTATUS(status) == 0;
-    return length > 0 && hasEndedWell ? costIn(report.data()) : Cost();
+    return length > 0 && hasEndedWell ? numbersIn(report.data()) : Numbers();
 }
 
-/// Starts both programs in turn and adds the \a quantity of each to \a comparison.
-void startBoth(benchmark::State &state, Comparison &comparison, double Cost::*quantity)
+/// Runs both programs in turn, the \a peer with \a argument, and adds one number of each to
+/// \a comparison.
+void runBoth(benchmark::State &state, Comparison &comparison, std::size_t index, const char *ours,
+             const char *peer, const char *argument = nullptr)
 {
     for (auto _ : state) {
-        const Cost ours = costOf(START_OURS);
-        const Cost plain = costOf(START_PLAIN);
-        if (!ours.isValid || !plain.isValid) {
-            state.SkipWithError("a program did not come to its first paint");
+        const double oursCost = run(ours, nullptr).at(index);
+        const double peerCost = run(peer, argument).at(index);
+        if (oursCost <= 0 || peerCost <= 0) {
+            state.SkipWithError("a program has failed");
             break;
         }
-        comparison.add(ours.*quantity, plain.*quantity);
+        comparison.add(oursCost, peerCost);
     }
 }
 
 void startTime(benchmark::State &state)
 {
     Comparison comparison(state);
-    startBoth(state, comparison, &Cost::nanoseconds);
+    runBoth(state, comparison, 0, START_OURS, START_PLAIN);
     comparison.ratioAtMost(1.05);
 }
 BENCHMARK(startTime)
@@ -77,12 +73,33 @@ BENCHMARK(startTime)
 void startMemory(benchmark::State &state)
 {
     Comparison comparison(state);
-    startBoth(state, comparison, &Cost::megabytes);
+    runBoth(state, comparison, 1, START_OURS, START_PLAIN);
     comparison.excessAtMost(1.5, "MB");
 }
 BENCHMARK(startMemory)
         ->Name("memory at first paint of 20 widgets/plain Qt")
         ->Iterations(15)
+        ->UseManualTime();
+
+/// No assistive technology is running. Then the library tells none what it knows, and makes
+/// nothing.
+void accessibility(benchmark::State &state, const char *program, std::size_t index)
+{
+    Comparison comparison(state);
+    runBoth(state, comparison, index, program, program, "Qt");
+    comparison.ratioAtMost(1.02);
+}
+BENCHMARK_CAPTURE(accessibility, start, START_OURS, 0)
+        ->Name("start to first paint of 20 widgets/accessibility left to Qt")
+        ->Iterations(150)
+        ->UseManualTime();
+BENCHMARK_CAPTURE(accessibility, making, MANY_LABELS, 0)
+        ->Name("1,000 labels with texts/accessibility left to Qt")
+        ->Iterations(60)
+        ->UseManualTime();
+BENCHMARK_CAPTURE(accessibility, themeSwitch, MANY_LABELS, 1)
+        ->Name("theme switch of 1,000 labels/accessibility left to Qt")
+        ->Iterations(60)
         ->UseManualTime();
 
 void librarySize(benchmark::State &state)

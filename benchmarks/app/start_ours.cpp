@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// Shows a window of 20 themed widgets and ends at its first paint.
+// Shows a window of 20 themed widgets and ends at its first paint. With an argument, accessibility
+// is left to Qt.
 #include "FirstPaint.h"
 #include "support/BenchmarkApplication.h"
 #include "support/Stores.h"
@@ -13,6 +14,8 @@
 int main(int argc, char **argv)
 {
     const BenchmarkApplication application(argc, argv);
+    if (argc > 1)
+        BenchmarkApplication::leaveAccessibilityToQt();
     OxaThemeUtils::setAppOxaColorSets(Stores::make(10));
     OxaWidget window;
     const FirstPaint firstPaint(&window);

@@ -56,17 +56,18 @@ public:
     /// Ours by itself, in nanoseconds.
     void timeAtMost(double limit);
 
-private:
-    static double cpuNanoseconds();
-
+    /// Returns the time of one of \a calls calls.
     template <typename Work>
-    static double timeOf(Work &work, int calls)
+    static double timeOf(Work &&work, int calls = 1)
     {
         const double start = cpuNanoseconds();
         for (int i = 0; i < calls; ++i)
             work();
         return (cpuNanoseconds() - start) / calls;
     }
+
+private:
+    static double cpuNanoseconds();
 
     template <typename Result>
     double medianOf(Result result) const;
