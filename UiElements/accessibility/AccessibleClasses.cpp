@@ -38,10 +38,8 @@
 #include <UiElements/widgets/OxaVMenu.h>
 #include <UiElements/widgets/PopupWidget.h>
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QLayout>
-#include <QWindow>
 
 namespace {
 
@@ -193,14 +191,11 @@ constexpr AccessibleClass classes[] = {
     // clang-format on
 };
 
-bool isListenedTo = false;
-
 /// Qt asks for one class after the other, from that of \a object to its base classes, and other
-/// factories for each: the row is given for its own class, so that theirs can come before it. It
-/// asks at each text that a widget gets, also while nobody listens.
+/// factories for each: the row is given for its own class, so that theirs can come before it.
 QAccessibleInterface *makeInterface(const QString &className, QObject *object)
 {
-    if (!isListenedTo || QtsInterface::isBeingMade(object))
+    if (QtsInterface::isBeingMade(object))
         return nullptr;
     const AccessibleClass *row = AccessibleClasses::rowOf(*object);
     if (!row || className != QLatin1String(row->metaObject->className()))
@@ -214,53 +209,11 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object)
     return row->make ? row->make(widget, qts) : new AccessibleWidget(widget, qts);
 }
 
-bool isOurs(const QAccessibleInterface *interface)
-{
-    return dynamic_cast<const AccessibleWidget *>(interface)
-            || dynamic_cast<const AccessibleQuickWindow *>(interface);
-}
-
-/// Makes Qt forget what it has made of those of \a objects that have a row.
-template <typename Objects>
-void forgetQts(const Objects &objects)
-{
-    for (QObject *object : objects) {
-        if (!AccessibleClasses::rowOf(*object))
-            continue;
-        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(object);
-        if (interface && !isOurs(interface))
-            QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(interface));
-    }
-}
-
-/// Switches the factory on when assistive technology begins to listen.
-class Listeners : public QAccessible::ActivationObserver
-{
-    void accessibilityActiveChanged(bool active) override
-    {
-        isListenedTo = false;
-        if (active) {
-            forgetQts(QApplication::allWidgets());
-            forgetQts(QGuiApplication::allWindows());
-        }
-        isListenedTo = active;
-    }
-} listeners;
-
 } // namespace
 
-void AccessibleClasses::install()
-{
-    QAccessible::installFactory(makeInterface);
-    QAccessible::installActivationObserver(&listeners);
-    isListenedTo = isListenedTo || QAccessible::isActive();
-}
+void AccessibleClasses::install() { QAccessible::installFactory(makeInterface); }
 
-void AccessibleClasses::remove()
-{
-    QAccessible::removeFactory(makeInterface);
-    QAccessible::removeActivationObserver(&listeners);
-}
+void AccessibleClasses::remove() { QAccessible::removeFactory(makeInterface); }
 
 const AccessibleClass *AccessibleClasses::rowOf(const QObject &object)
 {

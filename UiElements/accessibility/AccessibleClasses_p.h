@@ -38,9 +38,8 @@ struct AccessibleClass
 /// The table of those classes, and the factory that reads it.
 namespace AccessibleClasses {
 
-/// Has Qt tell what the table says as soon as assistive technology listens, or somebody has called
-/// QAccessible::setActive(). Before, Qt makes an interface of its own of each widget that gets a
-/// text, and is left alone with it; it forgets that one then.
+/// Has Qt tell what the table says, of widgets that it has not been asked about before. There is no
+/// more to it than a function pointer: nothing happens until Qt asks.
 void install();
 
 /// Takes back install(). Interfaces that were made stay.

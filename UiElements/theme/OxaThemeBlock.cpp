@@ -4,6 +4,8 @@
 #include "ThemeChange_p.h"
 #include "WidgetStyleText_p.h"
 
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QMetaMethod>
 #include <QPointer>
@@ -29,11 +31,14 @@ void keep(Value *place, const Value &value)
         *place = value;
 }
 
-/// Makes Qt forget what it takes \a widget for. Its base classes may have told assistive technology
-/// that the widget is disabled, or of a model or a text, and Qt goes on to take it for one of them.
+/// Makes Qt forget what it takes \a widget for, if one of its base classes may have told assistive
+/// technology of it: that it is disabled, as its parent is, or that it has a model or a text.
 void forgetEarlyInterface(QWidget *widget)
 {
-    if (!QAccessible::isActive())
+    const bool isToldEarly = QAccessible::isActive() || !widget->isEnabled()
+            || qobject_cast<QAbstractItemView *>(widget)
+            || qobject_cast<QAbstractSpinBox *>(widget);
+    if (!isToldEarly)
         return;
     QAccessibleInterface *early = QAccessible::queryAccessibleInterface(widget);
     QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(early));

@@ -98,7 +98,6 @@ void tst_AccessibleButtons::hasTheRoleThatItWasMadeWith()
 
 void tst_AccessibleButtons::isAButtonInADisabledParent()
 {
-    const Told::Events listening;
     QWidget window;
     window.setEnabled(false);
     OxaSvgPushButton button(QStringLiteral("text"), &window, QAccessible::Link);

@@ -364,7 +364,6 @@ private Q_SLOTS:
     void tellsARoleThatIsNoFiller_data();
     void tellsARoleThatIsNoFiller();
     void tellsWhatQtKnows();
-    void leavesQtAloneWhileNobodyListens();
     void isDeletedWithItsWidget();
     void translatesItsOwnTexts();
 
@@ -391,7 +390,6 @@ void tst_AccessibleClasses::tellsOfAWidget_data()
 void tst_AccessibleClasses::tellsOfAWidget()
 {
     QFETCH(const Row *const, row);
-    const Told::Events listening;
     QWidget window;
     QWidget *const widget = row->make(&window);
     window.show();
@@ -452,19 +450,6 @@ void tst_AccessibleClasses::tellsWhatQtKnows()
     QCOMPARE(Told::of(list.get())->tableInterface()->rowCount(), 2);
     OxaComboBox box;
     QCOMPARE(Told::children(Told::of(&box)), QStringLiteral("List"));
-}
-
-void tst_AccessibleClasses::leavesQtAloneWhileNobodyListens()
-{
-    QAccessible::setActive(false);
-    OxaLabel label(QStringLiteral("text"), nullptr, QAccessible::Heading);
-    QCOMPARE(Told::of(&label)->role(), QAccessible::StaticText);
-    QAccessible::setActive(true);
-    QAccessibleInterface *told = Told::of(&label);
-    QCOMPARE(told->role(), QAccessible::Heading);
-    QAccessible::setActive(false);
-    QAccessible::setActive(true);
-    QCOMPARE(Told::of(&label), told);
 }
 
 void tst_AccessibleClasses::isDeletedWithItsWidget()

@@ -5,6 +5,9 @@
 #include "support/TestMain.h"
 #include "theme/ThemedWidgets.h"
 
+#include <UiElements/accessibility/AccessibleClasses_p.h>
+#include <UiElements/accessibility/AccessibleWidget_p.h>
+
 #include <QVBoxLayout>
 
 #include <limits>
@@ -103,6 +106,9 @@ private Q_SLOTS:
         QVBoxLayout layout(&window);
         std::unique_ptr<QWidget> widget = themed.make(&window);
         layout.addWidget(widget.get());
+        // Its base classes may have told of it before it was one of the library's.
+        QCOMPARE(dynamic_cast<AccessibleWidget *>(Told::of(widget.get())) != nullptr,
+                 AccessibleClasses::rowOf(*widget) != nullptr);
         readAll(*Told::of(widget.get()));
         window.show();
         widget->show();

@@ -142,7 +142,6 @@ void tst_AccessibleTabsChanges::tellsOfATabThatWasAButtonBefore()
 
 void tst_AccessibleTabsChanges::tellsOfATabInADisabledBar()
 {
-    const Told::Events listening;
     QWidget window;
     window.setEnabled(false);
     Bar bar(1, &window);

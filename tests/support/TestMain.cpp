@@ -3,7 +3,6 @@
 
 #include "support/ApplicationState.h"
 
-#include <QAccessible>
 #include <QFile>
 
 #include <algorithm>
@@ -98,7 +97,6 @@ int main(int argc, char **argv)
         return 1;
     const auto application = classes.front().makeApplication(argc, argv);
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi); // As in Qt Test's own main functions.
-    QAccessible::setActive(true);                    // Tests ask what assistive technology is told.
 
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
