@@ -6,6 +6,7 @@
 #include <UiElements/qml/OxaQmlEngine.h>
 #include <UiElements/qml/OxaQmlPopupController.h>
 
+#include <QAccessible>
 #include <QDebug>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -33,6 +34,19 @@ void setPropertyOrWarn(QQuickItem *item, const QString &property, bool value, co
 {
     if (!item->setProperty(property.toUtf8().constData(), value))
         QMessageLogger().warning() << warning << property;
+}
+
+/// Tells assistive technology of \a type, in what \a popup shows if that has a role, such as the
+/// tool tip that a balloon is, or else in the popup. Qt tells nothing: the items are visible
+/// already.
+void tellAccessibility(OxaPopupQuickView *popup, QAccessible::Event type)
+{
+    if (!QAccessible::isActive())
+        return;
+    QObject *const content = popup->rootObject();
+    const bool hasRole = QAccessible::queryAccessibleInterface(content);
+    QAccessibleEvent event(hasRole ? content : popup, type);
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace
@@ -233,6 +247,22 @@ Qt::ArrowType OxaPopupQuickView::flipArrow(Qt::ArrowType arrow)
 {
     const auto anchor = OxaQmlBalloon::arrowAnchorFromArrowType(arrow);
     return OxaQmlBalloon::arrowTypeFromArrowAnchor(OxaQmlBalloon::flipAnchor(anchor));
+}
+
+void OxaPopupQuickView::showEvent(QShowEvent *event)
+{
+    const QPointer<OxaPopupQuickView> self(this); // A handler in QML may delete the popup.
+    OxaQuickView::showEvent(event);
+    if (self)
+        tellAccessibility(this, QAccessible::ObjectShow);
+}
+
+void OxaPopupQuickView::hideEvent(QHideEvent *event)
+{
+    const QPointer<OxaPopupQuickView> self(this); // A handler in QML may delete the popup.
+    OxaQuickView::hideEvent(event);
+    if (self)
+        tellAccessibility(this, QAccessible::ObjectHide);
 }
 
 void OxaPopupQuickView::keyPressEvent(QKeyEvent *event)

@@ -87,6 +87,8 @@ Q_SIGNALS:
     void arrowOrthogonalChanged();
 
 protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private Q_SLOTS:

@@ -320,7 +320,8 @@ void OxaTextInput::showPasswordIcon(const QString &name, const QString &icon, co
     const QPointer<OxaSvgPushButton> button = m_passwordButton;
     if (!button)
         return;
-    button->setAccessibleName(name);
+    if (button->accessibleName() != name) // Qt would tell it again.
+        button->setAccessibleName(name);
     button->setSvgIcon(icon);
     TextInputParts::setIconSizes(button, size);
 }

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Told.h"
 #include "models/LetterListModel.h"
+#include "qml/FocusScenes.h"
+#include "qml/PopupTrace.h"
 #include "support/Guards.h"
 #include "support/TestApplication.h"
 #include "support/Windows.h"
 #include "theme/ThemedWidgets.h"
+#include "widgets/TabBars.h"
 
 #include <QAbstractItemView>
+#include <QQmlProperty>
 #include <QVBoxLayout>
 
 namespace {
@@ -36,11 +40,16 @@ private Q_SLOTS:
     void typesIntoAFieldUntilItErrs();
     void opensAComboBoxAndCancels();
     void stepsThroughAComboBox();
-    void opensAPopupAndLeavesIt();
     void showsABannerAndChangesIt();
     void hasANotificationFade();
     void tellsOfABadgeOnce();
     void movesASlider();
+    void switchesTabsByKey();
+    void opensAMenuAndLeavesIt();
+    void opensADialogAndLeavesIt();
+    void showsAPasswordAndMasksIt();
+    void goesIntoQmlAndOut();
+    void hasAHoverCardComeAndGo();
     void checksABox();
     void replacesAListByRuns();
     void findsEachOfManyRows();
@@ -118,38 +127,23 @@ void tst_AccessibleStories::stepsThroughAComboBox()
     QCOMPARE(events.take(), QStringLiteral("ValueChanged b"));
 }
 
-void tst_AccessibleStories::opensAPopupAndLeavesIt()
-{
-    QWidget window;
-    OxaPushButton button(QStringLiteral("more"), &window);
-    auto *content = new OxaPushButton(QStringLiteral("content"));
-    QVERIFY(Windows::activate(window));
-    Told::Events events(QAccessible::Focus);
-    PopupWidget *popup = PopupWidget::createAndShow(&button, content,
-                                                    WidgetData(OxaThemeUtils::AppThemeType::Global)
-                                                            .activateOnShow(true));
-    QTRY_VERIFY(content->hasFocus());
-    QCOMPARE(events.take(), QStringLiteral("Focus content"));
-    QTest::keyClick(popup, Qt::Key_Escape);
-    QVERIFY(!popup->isVisible());
-    QCOMPARE(window.focusWidget(), &button); // It has the focus when its window is active again.
-}
-
 void tst_AccessibleStories::showsABannerAndChangesIt()
 {
     QWidget window;
     window.show();
     AlertBanner banner(&window);
-    Told::Events events(QAccessible::Alert);
+    Told::Events events;
     AlertBanner::AlertBannerInfo info;
     info.alertText = QStringLiteral("first");
     banner.setAlert(info);
-    QCOMPARE(events.take(), QString());
+    QCOMPARE(events.take(), QStringLiteral("NameChanged first"));
     banner.show();
-    QCOMPARE(events.take(), QStringLiteral("Alert first"));
+    QCOMPARE(events.take(),
+             QStringLiteral("TextRemoved first | TextInserted first | TextUpdated first | "
+                            "ObjectShow  | ObjectShow first | Alert first | ObjectShow first"));
     info.alertText = QStringLiteral("second");
     banner.setAlert(info);
-    QCOMPARE(events.take(), QStringLiteral("Alert second"));
+    QCOMPARE(events.take(), QStringLiteral("NameChanged second | Alert second"));
 }
 
 void tst_AccessibleStories::hasANotificationFade()
@@ -186,9 +180,10 @@ void tst_AccessibleStories::movesASlider()
     SignalLog log;
     log.record(&slider, &QSlider::actionTriggered, QStringLiteral("action"));
     log.record(&slider, &QSlider::valueChanged, QStringLiteral("value"));
+    Told::Events events;
     QTest::keyClick(&slider, Qt::Key_Up);
     const QString byKey = log.take();
-    Told::Events events;
+    QCOMPARE(events.take(), QStringLiteral("ValueChanged volume"));
     Told::of(&slider)->actionInterface()->doAction(QStringLiteral("Increase"));
     QCOMPARE(log.take(), byKey);
     QCOMPARE(slider.value(), 2);
@@ -205,9 +200,10 @@ void tst_AccessibleStories::checksABox()
     log.record(&box, &QCheckBox::pressed, QStringLiteral("pressed"));
     log.record(&box, &QCheckBox::stateChanged, QStringLiteral("state"));
     log.record(&box, &QCheckBox::clicked, QStringLiteral("clicked"));
+    Told::Events events;
     QTest::keyClick(&box, Qt::Key_Space);
     const QString byKey = log.take();
-    Told::Events events;
+    QCOMPARE(events.take(), QStringLiteral("StateChanged box"));
     Told::of(&box)->actionInterface()->doAction(QStringLiteral("Toggle"));
     QTRY_VERIFY(!box.isChecked());
     QCOMPARE(log.take(), byKey);
@@ -222,7 +218,7 @@ void tst_AccessibleStories::replacesAListByRuns()
     ShownLetters letters(QStringLiteral("abcdefgh"));
     view.setModel(&letters);
     window.show();
-    Told::Events events(QAccessible::TableModelChanged);
+    Told::Events events;
     letters.replace(LetterListModel::rowsOf(QStringLiteral("aBCdefGhij")));
     QCOMPARE(events.take(),
              QStringLiteral("TableModelChanged list inserted 8-9 | TableModelChanged list changed "
@@ -241,6 +237,144 @@ void tst_AccessibleStories::findsEachOfManyRows()
     QCOMPARE(list->childCount(), 1000);
     for (int i = 0; i < 1000; ++i)
         QCOMPARE(list->indexOfChild(list->child(i)), i);
+}
+
+void tst_AccessibleStories::switchesTabsByKey()
+{
+    QWidget window;
+    TabBars::Bar bar(3, &window);
+    QVERIFY(Windows::activate(window));
+    bar.setCurrentIndex(0);
+    bar.getTab(0)->setFocus();
+    Told::Events events;
+    QTest::keyClick(bar.getTab(0), Qt::Key_Right);
+    QCOMPARE(events.take(), QStringLiteral("Focus b"));
+    QTest::keyClick(bar.getTab(1), Qt::Key_Space);
+    QCOMPARE(events.take(),
+             QStringLiteral("StateChanged b | StateChanged a | SelectionRemove a | Selection b"));
+}
+
+void tst_AccessibleStories::opensAMenuAndLeavesIt()
+{
+    QWidget window;
+    window.setWindowTitle(QStringLiteral("window"));
+    OxaPushButton button(QStringLiteral("more"), &window);
+    auto *menu = new OxaVMenu;
+    menu->setAccessibleName(QStringLiteral("menu"));
+    for (const char *text : { "first", "second" })
+        menu->addMenuItem({})->setText(QString::fromLatin1(text));
+    QVERIFY(Windows::activate(window));
+    Told::Events events;
+    PopupWidget *popup = PopupWidget::createAndShow(&button, menu,
+                                                    WidgetData(OxaThemeUtils::AppThemeType::Global)
+                                                            .activateOnShow(true));
+    QTRY_VERIFY(popup->isActiveWindow());
+    QCOMPARE(events.take(),
+             QStringLiteral(
+                     "ObjectShow first | ObjectShow second | ObjectShow menu | ObjectShow  | "
+                     "ObjectShow menu | StateChanged window | StateChanged menu | Focus first"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QCOMPARE(events.take(), QStringLiteral("Focus second"));
+    QTest::keyClick(popup, Qt::Key_Escape);
+    QCOMPARE(events.take(),
+             QStringLiteral(
+                     "ObjectHide first | ObjectHide second | ObjectHide menu | ObjectHide  | "
+                     "ObjectHide menu"));
+    QCOMPARE(window.focusWidget(), &button); // It has the focus when its window is active again.
+}
+
+void tst_AccessibleStories::opensADialogAndLeavesIt()
+{
+    QWidget window;
+    window.setWindowTitle(QStringLiteral("window"));
+    OxaPushButton button(QStringLiteral("open"), &window);
+    QVERIFY(Windows::activate(window));
+    auto *dialog = new OxaDialog(&window);
+    dialog->setWindowTitle(QStringLiteral("dialog"));
+    const OxaPushButton ok(QStringLiteral("ok"), dialog);
+    Told::Events events;
+    dialog->open();
+    QTRY_VERIFY(ok.hasFocus());
+    QCOMPARE(events.take(),
+             QStringLiteral("ObjectShow ok | ObjectShow dialog | StateChanged ok | DialogStart "
+                            "dialog | StateChanged window | StateChanged dialog | Focus ok"));
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    // At once: Qt would ask the window manager for a frame that is gone.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(Windows::showActive(window));
+    QCOMPARE(events.take(),
+             QStringLiteral(
+                     "DialogEnd dialog | StateChanged ok | StateChanged ok | ObjectHide ok | "
+                     "ObjectHide dialog | StateChanged dialog | StateChanged window | Focus open"));
+}
+
+void tst_AccessibleStories::showsAPasswordAndMasksIt()
+{
+    QWidget window;
+    OxaTextInput *field = OxaTextInputFactory({}).make(&window);
+    field->setPasswordField(true);
+    field->setTextInputAccessibleText(QStringLiteral("password"));
+    field->setText(QStringLiteral("secret"));
+    QVERIFY(Windows::activate(window));
+    QWidget *const button = field->getPasswordActionButton();
+    Told::Events events;
+    button->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(button, Qt::Key_Space);
+    QCOMPARE(events.take(),
+             QStringLiteral("Focus Show password | NameChanged Hide password | Focus password"));
+    button->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(button, Qt::Key_Space);
+    QCOMPARE(events.take(),
+             QStringLiteral("Focus Hide password | NameChanged Show password | Focus password"));
+}
+
+void tst_AccessibleStories::goesIntoQmlAndOut()
+{
+    const EngineFixture engine;
+    FocusScene scene(engine.engine(), FocusScene::twoItems);
+    scene.quick->setAccessibleName(QStringLiteral("quick"));
+    QVERIFY(scene.show());
+    Told::Events events;
+    const auto press = [&scene](Qt::Key key) {
+        QTest::keyClick(scene.window.windowHandle(), key);
+        QCoreApplication::processEvents();
+    };
+    press(Qt::Key_Tab);
+    // Qt tells of the widget in between, and so of the item too early.
+    QCOMPARE(events.take(),
+             QStringLiteral("TextCaretMoved before | Focus first | Focus quick | Focus first"));
+    press(Qt::Key_Tab);
+    QCOMPARE(events.take(), QStringLiteral("Focus second"));
+    press(Qt::Key_Tab);
+    QCOMPARE(events.take(),
+             QStringLiteral("TextSelectionChanged after | TextCaretMoved after | Focus after"));
+    press(Qt::Key_Backtab);
+    QCOMPARE(events.take(),
+             QStringLiteral("Focus second | Focus first | Focus quick | Focus first"));
+}
+
+void tst_AccessibleStories::hasAHoverCardComeAndGo()
+{
+    PopupTrace trace;
+    trace.create();
+    trace.popup()->setTitle(QStringLiteral("popup"));
+    QObject *const balloon = trace.popup()->rootObject();
+    QQmlProperty::write(balloon, QStringLiteral("Accessible.name"), QStringLiteral("card"),
+                        qmlContext(balloon));
+    Told::Events events;
+    trace.point(trace.a.center().toPoint());
+    trace.showDelayed(trace.a);
+    QCOMPARE(events.take(), QString());
+    trace.poll();
+    QCOMPARE(trace.state(), QStringLiteral("shown open"));
+    QCOMPARE(events.take(), QStringLiteral("ObjectShow card"));
+    QVERIFY(Windows::waitForActive(*trace.popup()));
+    QCOMPARE(events.take(), QStringLiteral("StateChanged  | StateChanged popup"));
+    trace.point(QPoint(790, 10));
+    trace.poll();
+    trace.passCloseTime();
+    QCOMPARE(trace.state(), QStringLiteral("none"));
+    QCOMPARE(events.take(), QStringLiteral("ObjectHide card"));
 }
 
 UIELEMENTS_TEST_MAIN(tst_AccessibleStories)
