@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QSlider>
 #include <QTreeWidget>
 
@@ -35,6 +36,20 @@ QWidget *chain(QWidget *first, const QLayout &layout)
         previous = widget;
     }
     return previous;
+}
+
+/// Scrolls what has the focus into view. Qt's scroll areas do so only where they move the focus
+/// themselves.
+void scrollToFocus()
+{
+    QWidget *const focused = QApplication::focusWidget();
+    QWidget *parent = focused;
+    // A slot may delete what is shown, which has the focus no more then.
+    while (parent && QApplication::focusWidget() == focused) {
+        parent = parent->parentWidget();
+        if (auto *area = qobject_cast<QScrollArea *>(parent))
+            area->ensureWidgetVisible(focused);
+    }
 }
 
 /// Returns the first index from \a start on, in steps of \a step, whose widget takes the focus by
@@ -132,6 +147,7 @@ bool TabOrderUtils::focusNextPrevChild(bool next, QWidget *widget, QLayout *layo
     if (!target)
         return false;
     target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    scrollToFocus();
     return true;
 }
 

@@ -38,8 +38,8 @@ UIELEMENTS_EXPORT bool shouldFocusNextWidget(QWidget *widget, bool next, QLayout
 /// round through the chain finds none.
 UIELEMENTS_EXPORT QWidget *getNextPrevFocusableWidget(QWidget *widget, bool next, QLayout *layout);
 
-/// Gives the focus to that widget, with the reason Tab or Backtab. False if there is none. For an
-/// override of QWidget::focusNextPrevChild() in the owner of \a layout.
+/// Gives the focus to that widget, with the reason Tab or Backtab, and scrolls it into view. False
+/// if there is none. For an override of QWidget::focusNextPrevChild() in the owner of \a layout.
 UIELEMENTS_EXPORT bool focusNextPrevChild(bool next, QWidget *widget, QLayout *layout);
 
 /// Puts the widgets of \a layout after \a first in the tab order, in the order of the layout.

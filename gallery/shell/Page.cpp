@@ -38,14 +38,11 @@ ScrollArea *Page::makeArea()
     auto *contents = new OxaWidget(area->viewport());
     contents->setLayout(m_body);
     const QScrollBar *bar = area->verticalScrollBar();
-    // Cards are as wide with a scroll bar beside them as without. Tab stops at pages that
-    // keys can scroll.
-    const auto followBar = [area, contents, bar] {
+    // Cards are as wide with a scroll bar beside them as without.
+    const auto followBar = [contents, bar] {
         constexpr int side = Metrics::margin - ScrollArea::focusBorder;
-        const bool scrolls = bar->maximum() > 0;
-        area->setFocusPolicy(scrolls ? Qt::TabFocus : Qt::NoFocus);
-        contents->setLayoutContentsMargins(side, 0, side - (scrolls ? Metrics::scrollBar : 0),
-                                           side);
+        const int barWidth = bar->maximum() > 0 ? Metrics::scrollBar : 0;
+        contents->setLayoutContentsMargins(side, 0, side - barWidth, side);
     };
     connect(bar, &QScrollBar::rangeChanged, contents, followBar);
     followBar();

@@ -17,7 +17,7 @@ public:
     /// The width of the border that showFocus() adds.
     static constexpr int focusBorder = 2;
 
-    /// Shows a border while the area has the focus, for an area that keys scroll.
+    /// Lets Tab stop at the area while keys can scroll it, and shows a border then.
     void showFocus();
 
     /// Shows \a contents over the parent's background.

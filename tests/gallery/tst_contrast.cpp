@@ -3,9 +3,9 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QtMath>
 
 #include <looks/ColorDocuments.h>
+#include <support/Contrast.h>
 
 Q_DECLARE_METATYPE(OxaColorSetMap)
 
@@ -37,24 +37,6 @@ QColor composed(const QColor &top, const QColor &background)
                             top.blueF() * alpha + background.blueF() * (1 - alpha));
 }
 
-qreal linear(qreal channel)
-{
-    return channel <= 0.04045 ? channel / 12.92 : qPow((channel + 0.055) / 1.055, 2.4);
-}
-
-qreal luminance(const QColor &color)
-{
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
-            + 0.0722 * linear(color.blueF());
-}
-
-qreal contrast(const QColor &a, const QColor &b)
-{
-    // A list, since minmax() of two temporaries would return references to them.
-    const auto [darker, lighter] = std::minmax({ luminance(a), luminance(b) });
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 /// The states of a pair that must be readable: those that it names, or all except disabled.
 QStringList statesOf(const QJsonObject &pair)
 {
@@ -81,7 +63,7 @@ QStringList shortfalls(const OxaColorSetMap &sets, const QJsonObject &pair, qrea
         const QColor ink = composed(sets.at(text.toStdString())
                                             .colorForState(inkState.isEmpty() ? state : inkState),
                                     ground);
-        const qreal reached = contrast(ink, ground);
+        const qreal reached = Contrast::between(ink, ground);
         if (reached < least)
             lines += QStringLiteral("%1 on %2, %3: %4").arg(text, background, state).arg(reached);
     }
@@ -104,8 +86,8 @@ private Q_SLOTS:
 
 void tst_Contrast::knowsTheContrastOfBlackOnWhite()
 {
-    QCOMPARE(contrast(Qt::black, Qt::white), 21.0);
-    QCOMPARE(contrast(Qt::white, Qt::white), 1.0);
+    QCOMPARE(Contrast::between(Qt::black, Qt::white), 21.0);
+    QCOMPARE(Contrast::between(Qt::white, Qt::white), 1.0);
 }
 
 void tst_Contrast::composesTranslucentColors()

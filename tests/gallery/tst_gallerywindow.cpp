@@ -307,8 +307,7 @@ void tst_GalleryWindow::stopsInTheOrderOnScreen_data()
                              << QStringLiteral("Search, Emit, Add a receiver, Remove receivers, "
                                                "Signals, What is emitted, Clear the log");
     QTest::newRow("icons") << QStringLiteral("icons")
-                           << QStringLiteral("Gallery, All, Search, Icon, 24, Icons, "
-                                             "About the icon");
+                           << QStringLiteral("Gallery, All, Search, Icon, 24, Icons");
 }
 
 void tst_GalleryWindow::stopsInTheOrderOnScreen()

@@ -10,7 +10,6 @@
 #include <QAbstractItemView>
 
 #include <shell/NavigationList.h>
-#include <shell/PageRegistry.h>
 #include <widgets/TableView.h>
 
 /// The gallery by keyboard, with keys that come from the X server.
@@ -27,8 +26,6 @@ private Q_SLOTS:
     void clearsASearchByEscape();
     void fillsInAFormByKeys();
     void showsTheCurrentCellOfATable();
-    void showsWhereTheFocusIs_data();
-    void showsWhereTheFocusIs();
 };
 
 void tst_GalleryWindow_keys::entersASegmentedControlAtItsCurrentMember()
@@ -162,33 +159,6 @@ void tst_GalleryWindow_keys::showsTheCurrentCellOfATable()
     QVERIFY(RealInput::typeKeys({ QStringLiteral("Right") }));
     QTRY_VERIFY(frameIsAt(first.siblingAtColumn(1)));
     QVERIFY(!frameIsAt(first));
-}
-
-void tst_GalleryWindow_keys::showsWhereTheFocusIs_data()
-{
-    QTest::addColumn<QByteArray>("page");
-    for (const QString &name : pageNames())
-        QTest::newRow(qPrintable(name)) << name.toLatin1();
-}
-
-void tst_GalleryWindow_keys::showsWhereTheFocusIs()
-{
-    QFETCH(const QByteArray, page);
-    ShownGallery shown(page.constData());
-    QVERIFY(shown.isActive);
-    // Frames that are for the keyboard only need a window in which a key was pressed.
-    QVERIFY(shown.type("Tab"));
-    QStringList unseen;
-    for (QWidget *stop : TabOrder::of(&shown.window)) {
-        if (QWidget *focused = shown.window.focusWidget())
-            focused->clearFocus();
-        const QImage without = stop->grab().toImage();
-        stop->setFocus(Qt::TabFocusReason);
-        // Tiles are one stop, which hands the focus to the first of them.
-        if (stop->grab().toImage() == without)
-            unseen += TabOrder::describe(*stop);
-    }
-    QCOMPARE(unseen.join(QLatin1Char('\n')), QString());
 }
 
 GALLERY_TEST_MAIN(tst_GalleryWindow_keys)

@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSpinBox>
 #include <QTest>
 
@@ -70,6 +71,7 @@ private Q_SLOTS:
     void stepsOverTheItemsOfALayout();
     void stopsSearchingAfterOneRoundOfTheChain();
     void movesTheFocusForTheReasonOfItsKey();
+    void scrollsTheTargetIntoView();
     void movesNothingWithoutATarget();
     void knowsWhereTheFocusIs();
     void hasNoDeepFocusWhenNothingHasIt();
@@ -234,6 +236,19 @@ void tst_TabOrderUtils::movesTheFocusForTheReasonOfItsKey()
     QVERIFY(TabOrderUtils::focusNextPrevChild(false, &window.second, nullptr));
     QCOMPARE(QApplication::focusWidget(), &window.first);
     QCOMPARE(window.first.reason, Qt::BacktabFocusReason);
+}
+
+void tst_TabOrderUtils::scrollsTheTargetIntoView()
+{
+    QScrollArea area;
+    area.resize(100, 100);
+    auto *fields = new Fields;
+    fields->row.setSpacing(500);
+    area.setWidget(fields);
+    QVERIFY(Windows::activate(area));
+    QVERIFY(fields->third.visibleRegion().isEmpty());
+    QVERIFY(TabOrderUtils::focusNextPrevChild(true, &fields->second, nullptr));
+    QVERIFY(!fields->third.visibleRegion().isEmpty());
 }
 
 void tst_TabOrderUtils::movesNothingWithoutATarget()

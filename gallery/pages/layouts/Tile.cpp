@@ -50,7 +50,7 @@ void Tile::paintEvent(QPaintEvent *)
     if (!hasFocus())
         return;
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(m_look.focusBorder, focusWidth));
+    painter.setPen(QPen(m_look.text, focusWidth));
     constexpr int inset = focusWidth / 2;
     painter.drawRoundedRect(inner.adjusted(inset, inset, -inset, -inset), radius, radius);
 }

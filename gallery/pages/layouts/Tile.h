@@ -13,7 +13,6 @@ struct TileLook
 {
     std::vector<QColor> grounds;
     QColor text;
-    QColor focusBorder;
     int borderWidth = 0; ///< Empty space on each side, in pixels.
 };
 

@@ -177,7 +177,6 @@ void TileBoard::refreshLook()
     for (int i = 0; i < AvatarColors::count(); ++i)
         m_look.grounds.push_back(color(AvatarColors::setName(i)));
     m_look.text = color(QStringLiteral("avatar-text"));
-    m_look.focusBorder = color(QStringLiteral("gallery-focus-border"));
     for (Tile *tile : tiles()) {
         tile->setFont(OxaFont(OxaFont::Token::TagLabelSecondary));
         tile->update();

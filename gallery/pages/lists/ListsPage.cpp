@@ -8,6 +8,7 @@
 #include "RowRole.h"
 #include "pages/widgets/Pages.h"
 #include "shell/Page.h"
+#include "shell/TabOrder.h"
 #include "widgets/Buttons.h"
 #include "widgets/Card.h"
 #include "widgets/ColumnsLayout.h"
@@ -84,7 +85,12 @@ Card *makeEmptyState()
     card->body()->addWidget(clear, 0, Qt::AlignLeading);
     QObject::connect(list, &ConversationList::fillRequested, model,
                      [model] { model->appendRows(Conversations::make(0, rowsToFill)); });
-    QObject::connect(clear, &OxaPushButton::clicked, model, &ConversationModel::clear);
+    QObject::connect(clear, &OxaPushButton::clicked, model, [model, list, clear] {
+        const bool hadFocus = clear->hasFocus();
+        model->clear();
+        if (hadFocus) // The button is disabled now, and Qt would go on to what is after this page.
+            TabOrder::firstIn(*list)->setFocus(Qt::TabFocusReason);
+    });
     QObject::connect(model, &ConversationModel::countChanged, clear,
                      [clear](int count) { clear->setEnabled(count > 0); });
     return card;

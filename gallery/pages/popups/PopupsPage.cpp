@@ -160,6 +160,8 @@ WidgetData PopupsPage::popupData() const
             .arrowPostion(m_settings.arrow)
             .alignment(m_settings.alignment)
             .fitInMainWindowGeometry(m_settings.isInWindow)
+            // A click on the source leaves the focus where it was: only keys bring it to the popup.
+            .activateOnShow(m_source->hasFocus())
             .autoDismiss(m_settings.dismissal != Dismissal::Never)
             .dismissWithParentFocused(m_settings.dismissal == Dismissal::Always)
             .focusSourceOnClose(false)

@@ -16,7 +16,8 @@ constexpr Entry entries[] = {
       "$backgroundColors: gallery-accent-button-background;\n"
       "$textColors: gallery-accent-button-text;\n"
       "$borderRadius: 6;\n"
-      "#preview { padding: 8px 16px; }" },
+      "#preview { padding: 8px 16px; }\n"
+      "#preview:focus { border: 2px solid $(gallery-accent-button-text); }" },
     { QT_TRANSLATE_NOOP("StyleTextExamples", "Field"),
       "$backgroundColors: gallery-field-background;\n"
       "$borderColors: gallery-field-border;\n"

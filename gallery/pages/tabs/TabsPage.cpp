@@ -87,7 +87,7 @@ OxaPushButton *makePill(QWidget *bar)
     auto *pill = new OxaPillTabButton(bar);
     pill->setBackgroundColorSet(QStringLiteral("gallery-pill-background"));
     pill->setBackgroundColorSetChecked(QStringLiteral("gallery-pill-checked-background"));
-    pill->setFocusRectColorSet(QStringLiteral("gallery-focus-border"));
+    pill->setFocusRectColorSet(QStringLiteral("gallery-focus-frame-inverse"));
     pill->setFixedHeight(pillHeight);
     return pill;
 }
@@ -96,9 +96,15 @@ OxaPushButton *makeIconButton(QWidget *bar)
 {
     auto *button = new OxaSvgPushButton(bar);
     button->setFontToken(OxaFont::Token::TagLabelPrimary);
-    button->setCSS(Buttons::toggle());
-    // The name of a tab is stronger than the rule of the look for the focus.
-    button->setFocusRectColorSet(QStringLiteral("gallery-focus-border"));
+    // A look has rules for the name of the widget, so that the one for the focus needs the name
+    // too.
+    QObject::connect(button, &QObject::objectNameChanged, button, [button](const QString &name) {
+        button->setCSS(Buttons::toggle()
+                       + QStringLiteral("#%1:focus { border: 2px solid $(gallery-focus-border); }"
+                                        "#%1:focus:checked {"
+                                        " border-color: $(gallery-focus-border.checked); }")
+                                 .arg(name));
+    });
     button->setFixedHeight(iconTabHeight);
     button->setSvgIconSize(iconSize);
     button->setSvgIconPadding(QMargins(0, 0, Metrics::small, 0));
@@ -209,7 +215,7 @@ void fillVerticalMenu(OxaVMenu *menu, OxaLabel *chosen)
         button->setSvgIcon(icon(iconName));
         button->setSvgIconSize(iconSize);
         button->setFontToken(OxaFont::Token::BodySecondary);
-        button->setFocusRectColorSet(QStringLiteral("gallery-focus-border"));
+        button->setFocusRectColorSet(QStringLiteral("gallery-focus-frame-inverse"));
         button->setTextHorAlign(OxaEnum::HorAlign::LeftAlign);
         button->setSvgIconPadding(QMargins(itemPadding, 0, itemPadding, 0));
     };

@@ -287,7 +287,10 @@ void addCheckBox(Page &page)
             tr("The box stands on any side of the text, and a click anywhere in the widget "
                "toggles it."),
             [] { return Fields::checkBox(tr("Remember me")); });
-    controls->offer("svgIcon", WidgetCard::icons({ tr("Tick"), WidgetCard::icon("check_12_w") }));
+    const PropertyControls::Choices icons = WidgetCard::icons(
+            { tr("Tick"), WidgetCard::icon("check_12_w") });
+    controls->offer("svgIcon", icons);
+    controls->offer("innerSvgIcon", icons);
     controls->offer("ColorSet", WidgetCard::colorSets());
     controls->addProperty("text");
     controls->addProperty("tristate");

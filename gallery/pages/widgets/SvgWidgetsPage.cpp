@@ -44,7 +44,7 @@ ButtonClass *makeButton(const QString &text, const char *iconName)
 {
     auto *button = new ButtonClass(text);
     button->setCheckable(true);
-    button->setFocusRectColorSet(QStringLiteral("gallery-focus-border"));
+    button->setFocusRectColorSet(QStringLiteral("gallery-focus-frame-inverse"));
     button->setFontToken(OxaFont::Token::TagLabelPrimary);
     return setUp(button, iconName,
                  "$backgroundColors: gallery-button-background;"
@@ -70,6 +70,10 @@ void addControls(PropertyControls *controls, const Choice &own)
                     { { tr("None"), QString() },
                       { tr("Plus"), icon("plus_16") },
                       { tr("Check"), icon("check_12_w") } });
+    // Those that a button takes; a label takes all.
+    if (qobject_cast<QAbstractButton *>(controls->front()))
+        controls->offer("textFormat",
+                        { { tr("Plain"), Qt::PlainText }, { tr("Rich"), Qt::RichText } });
     controls->setRange("anchorSvgOffset", -widestPadding, widestPadding);
     controls->addProperty("text");
     controls->addAll();
@@ -151,7 +155,7 @@ void addPill(Page &page)
                 pill->setBackgroundColorSet(QStringLiteral("gallery-pill-background"));
                 pill->setBackgroundColorSetChecked(
                         QStringLiteral("gallery-pill-checked-background"));
-                pill->setFocusRectColorSet(QStringLiteral("gallery-focus-border"));
+                pill->setFocusRectColorSet(QStringLiteral("gallery-focus-frame-inverse"));
                 pill->setSvgIcon(icon("mention_16"));
                 pill->setFixedHeight(pillHeight);
                 return pill;
