@@ -40,6 +40,7 @@
 
 #include <QKeyEvent>
 #include <QLayout>
+#include <QScrollArea>
 
 namespace {
 
@@ -188,6 +189,11 @@ constexpr AccessibleClass classes[] = {
     popup(),
     qml(),
     row<OxaPopupQuickView>(QAccessible::Dialog), // The one that is no widget.
+
+    // What clients derive from. Qt tells of fillers, which are passed over even with the focus.
+    row<QScrollArea>(QAccessible::Pane),
+    row<QAbstractScrollArea>(QAccessible::Pane),
+    row<QWidget>(),
     // clang-format on
 };
 

@@ -53,6 +53,7 @@ GalleryWindow::GalleryWindow(QWidget *parent)
       m_navigation(new NavigationList(this)),
       m_pages(new PageStack(this))
 {
+    setWindowTitle(QGuiApplication::applicationDisplayName());
     setThemeType(GalleryApplication::get()->themeSwitcher()->themeType());
     setCSS(QStringLiteral("$backgroundColors: gallery-window-background;") + scrollBarStyleText());
     setMinimumSize(Metrics::smallestWindowWidth, Metrics::smallestWindowHeight);

@@ -76,7 +76,7 @@ OxaLabel *ControlPanel::addValue(const QString &caption, const QString &text)
 {
     OxaLabel *label = Labels::elidedLine(text);
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    add(caption, label);
+    place(caption, label);
     return label;
 }
 

@@ -17,13 +17,18 @@ OxaLabel *make(const QString &text, QWidget *parent, OxaFont::Token token, const
 
 OxaLabel *Labels::title(const QString &text, QWidget *parent)
 {
-    return make(text, parent, OxaFont::Token::Title, "$textColors: gallery-heading-text;");
+    OxaLabel *label = make(text, parent, OxaFont::Token::Title,
+                           "$textColors: gallery-heading-text;");
+    label->setAccessibleRole(QAccessible::Heading);
+    return label;
 }
 
 OxaLabel *Labels::heading(const QString &text, QWidget *parent)
 {
-    return make(text, parent, OxaFont::Token::SubheaderPrimary,
-                "$textColors: gallery-heading-text;");
+    OxaLabel *label = make(text, parent, OxaFont::Token::SubheaderPrimary,
+                           "$textColors: gallery-heading-text;");
+    label->setAccessibleRole(QAccessible::Heading);
+    return label;
 }
 
 OxaLabel *Labels::line(const QString &text, QWidget *parent)

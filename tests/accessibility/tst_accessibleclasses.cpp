@@ -5,6 +5,7 @@
 #include "support/TestApplication.h"
 #include "theme/ThemedWidgets.h"
 
+#include <QScrollArea>
 #include <QStandardItemModel>
 #include <QVBoxLayout>
 
@@ -294,6 +295,19 @@ const Row rows[] = {
     { "a list of widgets", make<OxaListWidget>, "List", "", "focusable", "SetFocus" },
     { "a splitter", make<OxaSplitter>, "Splitter", "", "", "" },
     { "a stack", make<OxaStackedWidget>, "LayeredPane", "", "", "" },
+
+    // What clients derive from.
+    { "a scroll area", make<QScrollArea>, "Pane", "", "focusable", "SetFocus" },
+    { "a scroll area of another kind", make<QAbstractScrollArea>, "Pane", "", "focusable",
+      "SetFocus" },
+    { "a plain widget that stores a role",
+      [](QWidget *parent) -> QWidget * {
+          auto *widget = new QWidget(parent);
+          widget->setProperty("accessibleRole", QVariant::fromValue(QAccessible::ListItem));
+          widget->setToolTip(QStringLiteral("tip"));
+          return widget;
+      },
+      "ListItem tip", "", "", "" },
 };
 
 /// What is told of a window.

@@ -102,8 +102,10 @@ void tst_AccessibleQml::tellsWhereAnItemIs()
     QCOMPARE(button->rect().x(), place.x() + 7);
     QCOMPARE(window.quick()->rect(), Told::of(&window.quickWidget)->rect());
     QCOMPARE(Told::states(window.quick()), QString());
+    QCOMPARE(Told::states(button), QStringLiteral("focusable"));
     window.quickWidget.hide();
     QCOMPARE(Told::states(window.quick()), QStringLiteral("invisible"));
+    QCOMPARE(Told::states(button), QStringLiteral("invisible focusable"));
 }
 
 void tst_AccessibleQml::tellsOfTheFocusInAWidget()

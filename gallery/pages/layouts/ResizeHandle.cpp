@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ResizeHandle.h"
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -27,6 +28,7 @@ ResizeHandle::ResizeHandle(QWidget *parent) : QWidget(parent)
     setFixedSize(handleSize, handleSize);
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(tr("Size"));
+    setProperty("accessibleRole", QVariant::fromValue(QAccessible::Grip));
     setToolTip(tr("Drag, or use the arrow keys"));
     m_themeBlock.followTheme();
     connect(qGuiApp, &QGuiApplication::layoutDirectionChanged, this, &ResizeHandle::fitCursor);

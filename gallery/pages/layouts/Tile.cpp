@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tile.h"
 
+#include <QAccessible>
 #include <QPainter>
 
 namespace {
@@ -17,6 +18,7 @@ Tile::Tile(int number, const TileLook &look, QWidget *parent)
     // All tiles are one stop for Tab; the arrow keys go from one to the next.
     setFocusPolicy(Qt::ClickFocus);
     setAccessibleName(tr("Tile %1").arg(number));
+    setProperty("accessibleRole", QVariant::fromValue(QAccessible::ListItem));
 }
 
 void Tile::setSizes(LayoutSettings::Sizes sizes)

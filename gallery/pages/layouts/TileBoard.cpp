@@ -10,6 +10,7 @@
 #include <UiElements/layouts/AutoGridLayout.h>
 #include <UiElements/layouts/SmartLayout.h>
 
+#include <QAccessible>
 #include <QGuiApplication>
 #include <QKeyEvent>
 
@@ -56,6 +57,7 @@ TileBoard::TileBoard(QWidget *parent) : QWidget(parent)
 {
     setFocusPolicy(Qt::TabFocus);
     setAccessibleName(tr("Tiles"));
+    setProperty("accessibleRole", QVariant::fromValue(QAccessible::List));
     m_themeBlock.followTheme();
     connect(GalleryApplication::get()->textSettings(), &TextSettings::sizesChanged, this,
             &TileBoard::refreshLook);

@@ -70,5 +70,6 @@ void CssDataTable::showData(const OxaCSSData &cssData)
         const QString text = fields[i].textOf(cssData);
         m_values[i]->setText(leftToRightMark + text + leftToRightMark);
         m_values[i]->setToolTip(text);
+        m_values[i]->setAccessibleName(text);
     }
 }

@@ -26,6 +26,7 @@ Rectangle {
         borderWidth: 2
         backgroundColor: controller.background
         borderColor: controller.border
+        Accessible.name: "OxaBalloon"
 
         // These do not repaint by themselves.
         onArrowSizeChanged: update()

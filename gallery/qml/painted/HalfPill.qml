@@ -25,6 +25,7 @@ Rectangle {
         borderWidth: 2
         backgroundColor: controller.background
         borderColor: controller.border
+        Accessible.name: "OxaHalfPill"
 
         // These do not repaint by themselves.
         onBorderChanged: update()

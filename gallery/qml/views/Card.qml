@@ -16,6 +16,8 @@ OxaBalloon {
     backgroundColor: looks.background ? looks.background : "transparent"
     borderColor: looks.border ? looks.border : "transparent"
 
+    Accessible.name: looks.text ? looks.text : ""
+
     OxaQmlPopupController {
         id: controller
     }
@@ -29,5 +31,7 @@ OxaBalloon {
         text: root.looks.text ? root.looks.text : ""
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.WordWrap
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 }

@@ -34,5 +34,7 @@ Rectangle {
         text: root.looks.text ? root.looks.text : ""
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.WordWrap
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 }
