@@ -4,51 +4,14 @@
 #include "AccessibleTexts_p.h"
 #include "AccessibleWidget_p.h"
 
-#include <UiElements/widgets/WidgetParts_p.h>
-
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVariant>
 
-namespace {
-
-/// Tells of tool tips that change, which Qt does not. They are the names of widgets without any.
-class ToolTipWatcher : public QObject
-{
-public:
-    using QObject::QObject;
-
-    static ToolTipWatcher *instance()
-    {
-        static auto *const watcher = new ToolTipWatcher(qApp);
-        return watcher;
-    }
-
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() == QEvent::ToolTipChange && watched->isWidgetType())
-            tell(static_cast<QWidget *>(watched));
-        return false;
-    }
-
-private:
-    static void tell(QWidget *widget)
-    {
-        const QAccessibleInterface *told = QAccessible::queryAccessibleInterface(widget);
-        const bool isName = told && told->text(QAccessible::Name) == widget->toolTip();
-        WidgetParts::tellAccessibility(widget,
-                                       isName ? QAccessible::NameChanged
-                                              : QAccessible::DescriptionChanged);
-    }
-};
-
-} // namespace
-
 AccessibleWidget::AccessibleWidget(QWidget *widget, QAccessibleInterface *qts)
     : QAccessibleWidget(widget), m_qts(qts)
 {
-    widget->installEventFilter(ToolTipWatcher::instance());
 }
 
 /// Qt may make the interface in the constructor of a base class, as it does when a label gets its

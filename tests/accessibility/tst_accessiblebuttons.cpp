@@ -49,7 +49,6 @@ private Q_SLOTS:
     void doesNothingButItsActions();
     void togglesLikeAClick();
     void showsItsMenu();
-    void tellsOfAToolTipThatChanges();
     void asksFactoriesOfTheApplicationFirst();
     void leavesAllOfItToQt();
 };
@@ -165,19 +164,6 @@ void tst_AccessibleButtons::showsItsMenu()
     Told::of(&button)->actionInterface()->doAction(showMenu);
     QVERIFY(!wasShown);
     QTRY_VERIFY(wasShown);
-}
-
-void tst_AccessibleButtons::tellsOfAToolTipThatChanges()
-{
-    OxaPushButton button;
-    Told::of(&button);
-    Told::Events events;
-    button.setToolTip(QStringLiteral("Mute"));
-    QCOMPARE(events.take(), QStringLiteral("NameChanged Mute"));
-    button.setAccessibleName(QStringLiteral("Microphone"));
-    events.take();
-    button.setToolTip(QStringLiteral("Unmute"));
-    QCOMPARE(events.take(), QStringLiteral("DescriptionChanged Microphone"));
 }
 
 void tst_AccessibleButtons::asksFactoriesOfTheApplicationFirst()
