@@ -21,6 +21,34 @@ void addItems(QList<QQuickItem *> &items, const QQuickItem &item)
     }
 }
 
+/// Returns the widget that shows \a item, or null.
+QWidget *widgetOf(const QQuickItem &item)
+{
+    const auto *window = dynamic_cast<AccessibleQuickWindow *>(
+            QAccessible::queryAccessibleInterface(item.window()));
+    return window ? window->widget() : nullptr;
+}
+
+QAccessibleInterface *makeItem(const QString &className, QObject *object)
+{
+    const bool isItem = className == QLatin1String(QQuickItem::staticMetaObject.className());
+    return isItem && !QtsInterface::isBeingMade(object)
+            ? AccessibleQuickItem::make(static_cast<QQuickItem *>(object))
+            : nullptr;
+}
+
+/// Makes Qt forget what it has made of the items in \a item.
+void forgetQts(const QQuickItem &item)
+{
+    const QList<QQuickItem *> children = item.childItems();
+    for (QQuickItem *child : children) {
+        QAccessibleInterface *told = QAccessible::queryAccessibleInterface(child);
+        if (told && !dynamic_cast<AccessibleQuickItem *>(told))
+            QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(told));
+        forgetQts(*child);
+    }
+}
+
 } // namespace
 
 QAccessibleInterface *AccessibleQuickWidget::quickWindow() const
@@ -127,4 +155,75 @@ QAccessible::State AccessibleQuickWindow::state() const
     state.disabled = m_widget && !m_widget->isEnabled();
     state.active = quickWindow()->isActive() && !m_widget;
     return state;
+}
+
+AccessibleQuickItem::AccessibleQuickItem(QQuickItem *item, QAccessibleInterface *qts)
+    : QAccessibleObject(item), m_qts(qts)
+{
+}
+
+void AccessibleQuickItem::tellOfItemsIn(const QQuickWindow &window)
+{
+    QAccessible::removeFactory(makeItem);
+    QAccessible::installFactory(makeItem);
+    forgetQts(*window.contentItem());
+}
+
+QAccessibleInterface *AccessibleQuickItem::make(QQuickItem *item)
+{
+    // Qt may ask before the item is in a window.
+    if (item->window() && !widgetOf(*item))
+        return nullptr;
+    QAccessibleInterface *qts = QtsInterface::make(item);
+    return qts ? new AccessibleQuickItem(item, qts) : nullptr;
+}
+
+QQuickItem *AccessibleQuickItem::item() const { return static_cast<QQuickItem *>(object()); }
+
+QRect AccessibleQuickItem::rect() const
+{
+    const QWidget *widget = widgetOf(*item());
+    if (!widget)
+        return m_qts->rect();
+    const QRect place = item()->mapRectToScene({ QPointF(), item()->size() }).toRect();
+    return place.translated(widget->mapToGlobal(QPoint()));
+}
+
+QAccessible::State AccessibleQuickItem::state() const
+{
+    QAccessible::State state = m_qts->state();
+    if (const QWidget *widget = widgetOf(*item())) {
+        const QRect pane(widget->mapToGlobal(QPoint()), widget->size());
+        state.offscreen = !pane.intersects(rect());
+        state.invisible = !widget->isVisible() || !item()->isVisible()
+                || qFuzzyIsNull(item()->opacity()) || rect().isNull();
+    }
+    return state;
+}
+
+void AccessibleQuickItem::setText(QAccessible::Text kind, const QString &text)
+{
+    m_qts->setText(kind, text);
+}
+
+QVector<QPair<QAccessibleInterface *, QAccessible::Relation>> AccessibleQuickItem::relations(
+        QAccessible::Relation match) const
+{
+    return m_qts->relations(match);
+}
+
+QWindow *AccessibleQuickItem::window() const
+{
+    const QWidget *widget = widgetOf(*item());
+    return widget ? widget->window()->windowHandle() : m_qts->window();
+}
+
+int AccessibleQuickItem::indexOfChild(const QAccessibleInterface *child) const
+{
+    return m_qts->indexOfChild(child);
+}
+
+void *AccessibleQuickItem::interface_cast(QAccessible::InterfaceType type)
+{
+    return m_qts->interface_cast(type);
 }

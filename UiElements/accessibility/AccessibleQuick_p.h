@@ -46,9 +46,48 @@ public:
     QAccessible::Role role() const override;
     QAccessible::State state() const override;
 
+    /// Returns the widget that shows what the window renders, or null.
+    QWidget *widget() const { return m_widget; }
+
 private:
     QQuickWindow *quickWindow() const;
     QList<QQuickItem *> items() const;
 
     QWidget *const m_widget;
+};
+
+/// What assistive technology is told of an item in a widget with QML: what Qt tells of it, but for
+/// where it is and whether it is seen. Qt never counts the window that renders it as visible, and
+/// does not move it with the widget's.
+class AccessibleQuickItem : public QAccessibleObject
+{
+public:
+    /// Has Qt tell so of the items of \a window and of later ones. To be called once a file has
+    /// loaded: only then is this asked before QtQuick itself, which comes with the first file.
+    static void tellOfItemsIn(const QQuickWindow &window);
+
+    /// Returns what is told of \a item, or null for what Qt tells, if it tells anything.
+    static QAccessibleInterface *make(QQuickItem *item);
+
+    QRect rect() const override;
+    QAccessible::State state() const override;
+    QAccessible::Role role() const override { return m_qts->role(); }
+    QString text(QAccessible::Text kind) const override { return m_qts->text(kind); }
+    void setText(QAccessible::Text kind, const QString &text) override;
+    QVector<QPair<QAccessibleInterface *, QAccessible::Relation>> relations(
+            QAccessible::Relation match = QAccessible::AllRelations) const override;
+    QWindow *window() const override;
+    QAccessibleInterface *parent() const override { return m_qts->parent(); }
+    QAccessibleInterface *child(int index) const override { return m_qts->child(index); }
+    QAccessibleInterface *childAt(int x, int y) const override { return m_qts->childAt(x, y); }
+    int childCount() const override { return m_qts->childCount(); }
+    int indexOfChild(const QAccessibleInterface *child) const override;
+    void *interface_cast(QAccessible::InterfaceType type) override;
+
+private:
+    AccessibleQuickItem(QQuickItem *item, QAccessibleInterface *qts);
+
+    QQuickItem *item() const;
+
+    const QtsInterface m_qts;
 };

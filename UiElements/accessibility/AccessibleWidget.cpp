@@ -99,8 +99,9 @@ QRect AccessibleWidget::rect() const { return m_qts->rect(); }
 
 QAccessibleInterface *AccessibleWidget::focusChild() const
 {
-    // Qt would return a widget itself whose focus proxy has the focus. Its own interface must not be
-    // asked: it would ask this one for a widget that keeps the focus of a window that is not active.
+    // Qt would return a widget itself whose focus proxy has the focus. Its own interface must not
+    // be asked: it would ask this one for a widget that keeps the focus of a window that is not
+    // active.
     QWidget *const proxy = widget()->focusProxy();
     return proxy && proxy->hasFocus() ? QAccessible::queryAccessibleInterface(proxy)->focusChild()
                                       : QAccessibleWidget::focusChild();

@@ -12,7 +12,6 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <private/qwindow_p.h>
 
 namespace {
 
@@ -39,6 +38,8 @@ void OxaQuickWidget::initialise()
 {
     // Now, and by no factory: that of QtQuick, which comes with a file, would be asked first.
     QAccessible::registerAccessibleInterface(new AccessibleQuickWindow(quickWindow(), this));
+    connect(this, &QQuickWidget::statusChanged, this,
+            [this] { AccessibleQuickItem::tellOfItemsIn(*quickWindow()); });
     quickWindow()->setTitle(QString());
     connect(this, &OxaQuickWidget::focusAboutToChange, this, &OxaQuickWidget::onFocusAboutToChange,
             Qt::QueuedConnection);
@@ -66,30 +67,14 @@ bool OxaQuickWidget::event(QEvent *event)
     if (m_customAccessibilityEnabled && event->type() == QEvent::KeyPress
         && leavesQml(static_cast<QKeyEvent *>(event)->key()))
         return false; // The parent widgets move the focus. clazy:exclude=base-class-event
-    const QPointer<OxaQuickWidget> self(this); // Slots and handlers in QML may delete the widget.
     if (m_customAccessibilityEnabled && m_focusRetryPending
         && event->type() == QEvent::FocusAboutToChange) {
+        const QPointer<OxaQuickWidget> self(this); // A slot may delete the widget.
         Q_EMIT focusAboutToChange();
         if (!self)
             return true;
     }
-    const bool showsOrHides = event->type() == QEvent::Show || event->type() == QEvent::Hide;
-    const bool isHandled = QQuickWidget::event(event);
-    if (showsOrHides && self)
-        tellWhetherItemsShow();
-    return isHandled;
-}
-
-/// Qt never counts the window that renders for the widget as visible, nor, to assistive technology,
-/// any of its items. The field of Qt's private class is the only way to say that it is; with a
-/// parent, it does not keep the application running after its last window was closed.
-void OxaQuickWidget::tellWhetherItemsShow()
-{
-    quickWindow()->setTransientParent(window()->windowHandle());
-    QWindowPrivate *const offscreen = QWindowPrivate::get(quickWindow());
-    offscreen->visible = isVisible();
-    // Says nothing new, and has packages depend on this very version of Qt.
-    offscreen->updateVisibility();
+    return QQuickWidget::event(event);
 }
 
 /// True when \a key moves the focus to the border of the QML, which is then kept.

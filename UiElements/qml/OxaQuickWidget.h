@@ -70,7 +70,6 @@ private Q_SLOTS:
 private:
     void initialise();
     void tellFocusOfItem();
-    void tellWhetherItemsShow();
     bool leavesQml(int key);
     void restoreItemFocus(Qt::FocusReason reason);
     std::pair<QString, QQuickItem *> getNextFocusItem(bool forward) const;

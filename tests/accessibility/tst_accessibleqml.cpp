@@ -103,6 +103,10 @@ void tst_AccessibleQml::tellsWhereAnItemIs()
     QCOMPARE(window.quick()->rect(), Told::of(&window.quickWidget)->rect());
     QCOMPARE(Told::states(window.quick()), QString());
     QCOMPARE(Told::states(button), QStringLiteral("focusable"));
+    QCOMPARE(Told::states(window.quick()->child(2)), QStringLiteral("invisible read-only"));
+    window.move(window.pos() + QPoint(30, 20));
+    QTRY_COMPARE(button->rect().topLeft(), window.quickWidget.mapToGlobal(QPoint(7, 10)));
+    QCOMPARE(button->window(), window.windowHandle());
     window.quickWidget.hide();
     QCOMPARE(Told::states(window.quick()), QStringLiteral("invisible"));
     QCOMPARE(Told::states(button), QStringLiteral("invisible focusable"));
