@@ -169,9 +169,9 @@ void tst_AccessibleButtons::showsItsMenu()
 
 void tst_AccessibleButtons::tellsOfAToolTipThatChanges()
 {
+    Told::Events events;
     OxaPushButton button;
     Told::of(&button);
-    Told::Events events;
     button.setToolTip(QStringLiteral("Mute"));
     QCOMPARE(events.take(), QStringLiteral("NameChanged Mute"));
     button.setAccessibleName(QStringLiteral("Microphone"));
