@@ -103,6 +103,8 @@ void tst_AccessibleQml::tellsWhereAnItemIs()
     QCOMPARE(window.quick()->rect(), Told::of(&window.quickWidget)->rect());
     QCOMPARE(Told::states(window.quick()), QString());
     QCOMPARE(Told::states(button), QStringLiteral("focusable"));
+    // Without that, it would keep the application running as a window of its own.
+    QCOMPARE(window.quickWidget.quickWindow()->transientParent(), window.windowHandle());
     window.quickWidget.hide();
     QCOMPARE(Told::states(window.quick()), QStringLiteral("invisible"));
     QCOMPARE(Told::states(button), QStringLiteral("invisible focusable"));
