@@ -76,7 +76,8 @@ OxaLabel *ControlPanel::addValue(const QString &caption, const QString &text)
 {
     OxaLabel *label = Labels::elidedLine(text);
     label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    place(caption, label);
+    // Its accessible name is what it says.
+    place(caption, label)->setBuddy(label);
     return label;
 }
 
@@ -86,7 +87,7 @@ void ControlPanel::add(const QString &caption, QWidget *control)
     place(caption, control);
 }
 
-void ControlPanel::place(const QString &caption, QWidget *control)
+OxaLabel *ControlPanel::place(const QString &caption, QWidget *control)
 {
     auto *row = new OxaWidget(this);
     auto *captioned = new QHBoxLayout(row);
@@ -97,7 +98,9 @@ void ControlPanel::place(const QString &caption, QWidget *control)
     if (control->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed)
         share->addStretch(1);
     // In fixed shares, so that controls are aligned whatever the lengths of captions.
-    captioned->addWidget(Labels::caption(caption, row), captionShare);
+    OxaLabel *label = Labels::caption(caption, row);
+    captioned->addWidget(label, captionShare);
     captioned->addLayout(share, controlShare);
     layout()->addWidget(row);
+    return label;
 }

@@ -39,5 +39,6 @@ public:
     void add(const QString &caption, QWidget *control);
 
 private:
-    void place(const QString &caption, QWidget *control);
+    /// Returns the caption.
+    OxaLabel *place(const QString &caption, QWidget *control);
 };

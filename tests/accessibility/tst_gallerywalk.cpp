@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr int startMs = 20000;
-constexpr int settleMs = 5000;
+constexpr int waitMs = 20000;  ///< The sanitizers on a busy machine take that long.
+constexpr int settleMs = 5000; ///< All pages together must not take the whole time of a test.
 
 QStringList readLines(const QString &path)
 {
@@ -86,9 +86,9 @@ void tst_GalleryWalk::initTestCase()
     QVERIFY(RealInput::parkPointer());
     m_gallery.setProcessChannelMode(QProcess::ForwardedChannels);
     m_gallery.start(QStringLiteral(GALLERY_PROGRAM), { QStringLiteral("--page"), m_pages.first() });
-    QTRY_VERIFY_WITH_TIMEOUT(m_reader.applications().size() == 1, startMs);
+    QTRY_VERIFY_WITH_TIMEOUT(m_reader.applications().size() == 1, waitMs);
     QTRY_VERIFY_WITH_TIMEOUT(!m_reader.childrenOf(m_reader.applications().first()).isEmpty(),
-                             startMs);
+                             waitMs);
     QTRY_VERIFY(m_reader.read(window()).is("active"));
     AccessibleTree tree = AccessibleTree::read(m_reader, window());
     QVERIFY(tree.find("layered pane"));
@@ -124,7 +124,8 @@ bool tst_GalleryWalk::goTo(int page) const
 {
     for (int next = shownPage() + 1; next <= page; ++next) {
         const auto isThere = [this, next] { return shownPage() == next; };
-        if (!RealInput::typeKeys({ QStringLiteral("alt+Down") }) || !QTest::qWaitFor(isThere))
+        if (!RealInput::typeKeys({ QStringLiteral("alt+Down") })
+            || !QTest::qWaitFor(isThere, waitMs))
             return false;
     }
     return true;
@@ -151,6 +152,7 @@ void tst_GalleryWalk::tellsWhatTheTableSays_data()
 void tst_GalleryWalk::tellsWhatTheTableSays()
 {
     QFETCH(int, page);
+    QCOMPARE(m_gallery.state(), QProcess::Running);
     QVERIFY(goTo(page));
     const QString section = QString::fromUtf8(QTest::currentDataTag());
     QStringList problems;

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QLabel>
+
 #include <widgets/Buttons.h>
 #include <widgets/SegmentedControl.h>
 
 /// Finds and uses the controls of a card by their names, as a user does.
 namespace Controls {
 
-/// Returns the child of \a parent with \a name as its accessible name, or null.
+/// Returns the child of \a parent with \a name as its accessible name, or with a label that says
+/// so; or null.
 template <typename Widget>
 Widget *called(const QWidget &parent, const char *name)
 {
@@ -15,6 +18,11 @@ Widget *called(const QWidget &parent, const char *name)
     for (Widget *widget : widgets) {
         if (widget->accessibleName() == QLatin1String(name))
             return widget;
+    }
+    const auto labels = parent.findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label->buddy() && label->text() == QLatin1String(name))
+            return qobject_cast<Widget *>(label->buddy());
     }
     return nullptr;
 }
