@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QVariant>
 
 namespace {
@@ -21,7 +22,9 @@ public:
 
     static ToolTipWatcher *instance()
     {
-        static auto *const watcher = new ToolTipWatcher(qApp);
+        static QPointer<ToolTipWatcher> watcher;
+        if (!watcher)
+            watcher = new ToolTipWatcher(qApp);
         return watcher;
     }
 
