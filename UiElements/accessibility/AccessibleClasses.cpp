@@ -236,6 +236,19 @@ void forgetQts(const Objects &objects)
 /// Switches the factory on when assistive technology begins to listen.
 class Listeners : public QAccessible::ActivationObserver
 {
+    Q_DISABLE_COPY_MOVE(Listeners)
+
+public:
+    static Listeners *instance()
+    {
+        static Listeners listeners;
+        return &listeners;
+    }
+
+private:
+    Listeners() = default;
+    ~Listeners() override = default;
+
     void accessibilityActiveChanged(bool active) override
     {
         isListenedTo = false;
@@ -245,21 +258,21 @@ class Listeners : public QAccessible::ActivationObserver
         }
         isListenedTo = active;
     }
-} listeners;
+};
 
 } // namespace
 
 void AccessibleClasses::install()
 {
     QAccessible::installFactory(makeInterface);
-    QAccessible::installActivationObserver(&listeners);
+    QAccessible::installActivationObserver(Listeners::instance());
     isListenedTo = isListenedTo || QAccessible::isActive();
 }
 
 void AccessibleClasses::remove()
 {
     QAccessible::removeFactory(makeInterface);
-    QAccessible::removeActivationObserver(&listeners);
+    QAccessible::removeActivationObserver(Listeners::instance());
 }
 
 const AccessibleClass *AccessibleClasses::rowOf(const QObject &object)
