@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QVector>
+
+/// Whether somebody is there.
+enum class Presence { Active, Away, Busy, Offline };
+
+/// Somebody who writes.
+struct Person
+{
+    QString id;
+    QString name;
+    QString title;
+    QString about;
+    Presence presence = Presence::Offline;
+};
+
+/// An emoji below a message, and how many have put it there.
+struct Reaction
+{
+    QString emoji;
+    int count = 0;
+    bool isMine = false;
+};
+
+/// A message of a conversation.
+struct Message
+{
+    enum class Kind { Text, Gif, File };
+    enum class State { Sent, Waiting, Failed };
+
+    int seq = -1; ///< Its place in the conversation; -1 until the server has it.
+    QString key;  ///< The client's name of an own message; empty for others.
+    QString author;
+    QDateTime at;
+    Kind kind = Kind::Text;
+    QString text; ///< What was written, or the name of the movie or the file.
+    QVector<Reaction> reactions;
+    State state = State::Sent;
+};

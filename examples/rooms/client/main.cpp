@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: Apache-2.0
+#include <QApplication>
+
+int main(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    return 0;
+}
