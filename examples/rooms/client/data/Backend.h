@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QObject>
 
+#include <memory>
+
 class ConversationModel;
 class History;
 class PagedFiles;
@@ -62,6 +64,9 @@ public:
     /// The files of the server.
     PagedFiles *files() const;
 
+    /// The calls that were, newest first.
+    const QVector<Call> &calls() const;
+
     /// Joins the call \a call, whose levels arrive from then on; an empty name leaves it.
     void join(const QString &call);
 
@@ -70,6 +75,7 @@ Q_SIGNALS:
     void connectedChanged(bool isConnected);
     /// isReady() is true now.
     void ready();
+    void callsChanged();
     void personChanged(const QString &person);
     void typing(const QString &conversation, const QString &person);
     /// How loud each person of the call is, 0 to 100.
@@ -78,4 +84,8 @@ Q_SIGNALS:
     void messageArrived(const QString &conversation, const Message &message);
     /// The server did not want to do something, for \a reason.
     void failed(const QString &reason);
+
+private:
+    struct Data;
+    const std::unique_ptr<Data> m_data;
 };

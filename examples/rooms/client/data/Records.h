@@ -3,6 +3,7 @@
 
 #include <QDateTime>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 /// Whether somebody is there.
@@ -40,4 +41,14 @@ struct Message
     QString text; ///< What was written, or the name of the movie or the file.
     QVector<Reaction> reactions;
     State state = State::Sent;
+};
+
+/// A call that was.
+struct Call
+{
+    QString title;
+    QStringList people;
+    QDateTime at;
+    int minutes = 0;
+    bool isMissed = false;
 };
