@@ -5,8 +5,10 @@
 #include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
+#include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTextInputFactory.h>
+#include <UiElements/widgets/UTContextMenuUtils.h>
 
 namespace {
 
@@ -111,6 +113,14 @@ OxaTextInput *Looks::makeField(const QString &name, QWidget *parent)
                                                 "OxaLineEdit { background: transparent;"
                                                 " border: none; }"));
     return field;
+}
+
+OxaMenu *Looks::makeMenu(QWidget *parent)
+{
+    auto *menu = new OxaMenu(parent);
+    menu->setFontToken(OxaFont::Token::BodySecondary);
+    menu->setCSS(UTContextMenuUtils::getContextMenuStyleSheet());
+    return menu;
 }
 
 QString Looks::scrollBarRules()

@@ -6,6 +6,7 @@
 #include <QString>
 
 class OxaLabel;
+class OxaMenu;
 class OxaSvgPushButton;
 class OxaTextInput;
 class OxaTextInputFactory;
@@ -43,6 +44,9 @@ OxaTextInputFactory fields();
 
 /// A field called \a name, which is also its placeholder.
 OxaTextInput *makeField(const QString &name, QWidget *parent);
+
+/// An empty menu.
+OxaMenu *makeMenu(QWidget *parent);
 
 /// The rules of scroll bars, for the style text of a window.
 QString scrollBarRules();

@@ -8,10 +8,13 @@
 class AlertBanner;
 class Avatar;
 class Backend;
+class CallsPage;
 class ChatsPage;
 class OxaStackedWidget;
 class OxaTabBar;
-class QBoxLayout;
+class OxaPushButton;
+class SettingsDialog;
+struct Call;
 
 /// The window of the client: the chats, the calls and the files, each on a page of its own.
 class MainWindow : public OxaMainWindow
@@ -30,20 +33,32 @@ public:
     /// Shows \a page.
     void showPage(Page page);
 
+    /// Opens the settings, or brings them to the front.
+    void showSettings();
+
+    /// Opens the window of a call as \a call; false if nobody would be in it.
+    bool startCall(const Call &call);
+
 private:
     void setUpLooks();
     QWidget *makeTop();
     void addPage(const QString &title, QWidget *page);
     void connectShortcuts();
     void showConnection();
+    OxaPushButton *makeMe(QWidget *parent);
     void showMe();
     void openMenu();
+    void zoom(int step);
+    void callConversation(const QString &id);
 
     Backend *const m_backend;
     PersonCards m_cards;
     AlertBanner *m_banner = nullptr;
-    Avatar *m_me = nullptr;
+    OxaPushButton *m_me = nullptr;
+    Avatar *m_picture = nullptr;
     OxaTabBar *m_tabs = nullptr;
     OxaStackedWidget *m_pages = nullptr;
     ChatsPage *m_chats = nullptr;
+    CallsPage *m_calls = nullptr;
+    QPointer<SettingsDialog> m_settings;
 };

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "RoomsApplication.h"
 
+#include "RoomsStyle.h"
+
+#include <UiElements/fonts/OxaFont.h>
 #include <UiElements/fonts/OxaFontManager.h>
 #include <UiElements/keyboard/OxaShortcut.h>
 #include <UiElements/qml/OxaQmlEngine.h>
@@ -49,10 +52,14 @@ RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc
     m_isSystemDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
     m_systemDirection = QGuiApplication::layoutDirection();
 
+    // What shows the focus by a border gets no frame.
+    setProperty("useGlobalFocusBorders", true);
+    setStyle(new RoomsStyle);
+    QFont::insertSubstitution(QStringLiteral("Segoe UI"), QStringLiteral("Open Sans"));
+    setFont(OxaFont(OxaFont::Token::BodySecondary));
     setOrganizationName(QStringLiteral("Rooms"));
     setApplicationName(QStringLiteral("Rooms"));
     OxaQmlTypes::registerQmlTypes();
-    apply(Settings::load(), true);
 }
 
 RoomsApplication *RoomsApplication::get()

@@ -13,7 +13,7 @@ class RoomsApplication : public OxaApplication
     Q_PROPERTY(bool animationsDisabled READ animationsDisabled NOTIFY settingsChanged)
 
 public:
-    /// Reads the colours and what the user has chosen.
+    /// Reads the colours. Shows nothing before apply() is called.
     RoomsApplication(int &argc, char **argv);
 
     /// The application object.

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/widgets/OxaWidget.h>
+
+class Backend;
+
+/// The million files of the server. A file can be dragged onto a conversation.
+class FilesPage : public OxaWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FilesPage(Backend *backend, QWidget *parent = nullptr);
+};

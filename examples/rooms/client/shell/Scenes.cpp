@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Scenes.h"
+
+#include "MainWindow.h"
+#include "chats/ChatsPage.h"
+#include "data/Backend.h"
+#include "data/ConversationModel.h"
+
+#include <UiElements/app/OxaAppSignals.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+#include <QQuickWindow>
+#include <QScrollBar>
+
+namespace {
+
+/// Runs the event loop until \a condition is true; false if that takes over ten seconds.
+bool waitFor(const std::function<bool()> &condition)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition() && timer.elapsed() < 10000)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 50);
+    return condition();
+}
+
+/// Lets all settle that is under way: pages that load, popups that open.
+void settle(int milliseconds)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < milliseconds)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+}
+
+/// The window and all others that are open, each at its place over it.
+QPixmap picture(QWidget *window)
+{
+    QPixmap result = window->grab();
+    QPainter painter(&result);
+    const QPoint origin = window->mapToGlobal(QPoint());
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (widget != window && widget->isVisible())
+            painter.drawPixmap(widget->mapToGlobal(QPoint()) - origin, widget->grab());
+    }
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (QWindow *other : windows) {
+        auto *view = qobject_cast<QQuickWindow *>(other);
+        if (view && view->isVisible())
+            painter.drawImage(view->position() - origin, view->grabWindow());
+    }
+    return result;
+}
+
+void closeOthers(const QWidget *window)
+{
+    OxaAppSignals::get()->closeQmlPopups();
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (QWindow *other : windows) {
+        if (other != window->windowHandle() && other->isVisible())
+            other->close();
+    }
+}
+
+} // namespace
+
+Scenes::Scenes(MainWindow *window, Backend *backend, const QString &folder,
+               std::function<void()> stopServer)
+    : m_window(window), m_backend(backend), m_folder(folder), m_stopServer(std::move(stopServer))
+{
+}
+
+bool Scenes::takeAll()
+{
+    if (!QDir().mkpath(m_folder.path()) || !waitFor([this] { return m_backend->isReady(); })) {
+        qWarning("Nothing to take pictures of");
+        return false;
+    }
+    bool isGood = true;
+    const QVector<Scene> all = scenes();
+    for (const Scene &scene : all)
+        isGood = take(scene) && isGood;
+    return isGood;
+}
+
+QVector<Scenes::Scene> Scenes::scenes()
+{
+    return {
+        { "chat", [this] { return showConversation(false); } },
+        { "long-chat", [this] { return showConversation(true) && scrollUp(); } },
+        { "empty-search", [this] { return search(QStringLiteral("qqqqqq")); } },
+        { "emoji-picker",
+          [this] { return search({}) && showConversation(false) && click(QObject::tr("Emoji")); } },
+        { "gif-picker", [this] { return showConversation(false) && click(QObject::tr("GIF")); } },
+        { "profile",
+          [this] {
+              m_window->cards()->showProfile(m_backend->people().value(1).id, m_window);
+              return true;
+          } },
+        { "settings",
+          [this] {
+              m_window->showSettings();
+              return true;
+          } },
+        { "call",
+          [this] {
+              m_window->showPage(MainWindow::Calls);
+              return m_window->startCall(m_backend->calls().value(0));
+          } },
+        { "files",
+          [this] {
+              m_window->showPage(MainWindow::Files);
+              return true;
+          } },
+        { "server-away",
+          [this] {
+              m_window->showPage(MainWindow::Chats);
+              m_stopServer();
+              return waitFor([this] { return !m_backend->isConnected(); });
+          } },
+    };
+}
+
+bool Scenes::take(const Scene &scene)
+{
+    if (!scene.show()) {
+        qWarning("The scene %s cannot be shown", scene.name);
+        return false;
+    }
+    settle(1500);
+    const QString path = m_folder.filePath(QLatin1String(scene.name) + QStringLiteral(".png"));
+    const bool isWritten = picture(m_window).save(path);
+    closeOthers(m_window);
+    settle(50);
+    return isWritten;
+}
+
+/// The server's first conversation is its longest.
+bool Scenes::showConversation(bool isLong)
+{
+    const ConversationModel *model = m_backend->conversations();
+    const QModelIndex index = model->index(isLong ? 0 : qMin(3, model->rowCount() - 1), 0);
+    m_window->showPage(MainWindow::Chats);
+    m_window->chats()->openConversation(index.data(ConversationModel::IdRole).toString());
+    settle(1000);
+    return index.isValid();
+}
+
+bool Scenes::scrollUp()
+{
+    const auto lists = m_window->findChildren<QListWidget *>();
+    for (QListWidget *list : lists) {
+        if (list->isVisible())
+            list->verticalScrollBar()->setValue(list->verticalScrollBar()->maximum() - 2000);
+    }
+    return !lists.isEmpty();
+}
+
+bool Scenes::search(const QString &text)
+{
+    m_window->showPage(MainWindow::Chats);
+    m_window->chats()->focusSearch();
+    auto *field = qobject_cast<QLineEdit *>(m_window->focusWidget());
+    if (field)
+        field->setText(text);
+    settle(300);
+    return field;
+}
+
+bool Scenes::click(const QString &button)
+{
+    const auto buttons = m_window->findChildren<QAbstractButton *>();
+    for (QAbstractButton *candidate : buttons) {
+        if (candidate->isVisible() && candidate->accessibleName() == button) {
+            candidate->click();
+            return true;
+        }
+    }
+    return false;
+}
