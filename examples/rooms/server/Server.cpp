@@ -228,6 +228,7 @@ QJsonObject Server::join(const QJsonObject &request)
     }
     if (m_inCall.isEmpty())
         m_inCall = QStringList { u"p0"_s, u"p1"_s, u"p2"_s, u"p3"_s };
+    m_joined.start();
     m_levels.start(100);
     return {};
 }
@@ -282,6 +283,10 @@ void Server::tellLevels()
 {
     QJsonObject levels;
     for (int i = 0; i < m_inCall.size(); ++i) {
+        // They come one after the other, and the last one is away for a while now and then.
+        const qint64 since = m_joined.elapsed() - i * 300;
+        if (since < 0 || (i > 1 && i == m_inCall.size() - 1 && since % 30000 > 24000))
+            continue;
         const double wave = std::sin(double(m_clock.elapsed()) / (700.0 + 200 * i) + i);
         levels[m_inCall[i]] = qMax(0, int(wave * 70) + m_random.bounded(30));
     }

@@ -69,6 +69,7 @@ private:
     QVector<QPointer<JsonLines>> m_clients;
     QStringList m_failing;
     QStringList m_inCall;
+    QElapsedTimer m_joined;
     QFile m_log;
     QRandomGenerator m_random { 1 };
     QTimer m_arrivals;

@@ -3,6 +3,8 @@
 
 #include <UiElements/widgets/OxaWidget.h>
 
+#include <QVariantMap>
+
 class Backend;
 
 /// The million files of the server. A file can be dragged onto a conversation.
@@ -11,5 +13,9 @@ class FilesPage : public OxaWidget
     Q_OBJECT
 
 public:
+    /// Shows the files of \a backend.
     explicit FilesPage(Backend *backend, QWidget *parent = nullptr);
+
+private:
+    void drag(const QVariantMap &values);
 };

@@ -34,6 +34,7 @@ Q_SIGNALS:
 
 private:
     void showCard(QWidget *anchor, const QString &person);
+    void requestMessage(const QString &person);
 
     Backend *const m_backend;
     PopupContext m_popups;

@@ -67,12 +67,14 @@ OxaSvgPushButton *Looks::makeIconButton(const QString &icon, const QString &name
     return button;
 }
 
-void Looks::makeCheckable(OxaSvgPushButton *button, Button kind)
+void Looks::makeCheckable(OxaSvgPushButton *button, Button kind, int radius)
 {
     button->setCheckable(true);
-    QObject::connect(button, &OxaSvgPushButton::toggled, button, [button, kind](bool isChecked) {
-        button->setCSS(buttonStyle(isChecked ? Button::Chosen : kind));
-    });
+    button->setCSS(buttonStyle(kind, radius));
+    QObject::connect(button, &OxaSvgPushButton::toggled, button,
+                     [button, kind, radius](bool isChecked) {
+                         button->setCSS(buttonStyle(isChecked ? Button::Chosen : kind, radius));
+                     });
 }
 
 OxaLabel *Looks::makeLabel(const QString &text, OxaFont::Token token, const QString &colors,
@@ -135,4 +137,15 @@ QString Looks::scrollBarRules()
             "QScrollBar::handle:hover { background: $(scroll-handle.hovered); }"
             "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
             "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }");
+}
+
+QString Looks::listRules()
+{
+    return QStringLiteral(
+                   "QAbstractItemView { background: transparent; border: none; outline: none; }"
+                   "QAbstractItemView::item { border: 2px solid transparent; border-radius: 8px; }"
+                   "QAbstractItemView::item:selected { background: $(row.checked); }"
+                   "QAbstractItemView::item:hover { background: $(row.hovered); }"
+                   "QAbstractItemView::item:focus { border-color: $(focus); }")
+            + scrollBarRules();
 }

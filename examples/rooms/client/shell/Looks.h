@@ -32,7 +32,7 @@ OxaSvgPushButton *makeIconButton(const QString &icon, const QString &name, QWidg
                                  int size = 32);
 
 /// Makes \a button checkable: while it is checked it looks as Button::Chosen, else as \a kind.
-void makeCheckable(OxaSvgPushButton *button, Button kind);
+void makeCheckable(OxaSvgPushButton *button, Button kind, int radius = 6);
 
 /// A label in the font of \a token and the colours of the set called \a colors. It may become
 /// narrower than its text, which is elided then.
@@ -50,5 +50,8 @@ OxaMenu *makeMenu(QWidget *parent);
 
 /// The rules of scroll bars, for the style text of a window.
 QString scrollBarRules();
+
+/// The rules of lists without a frame, with a hovered and a current row, and of their scroll bars.
+QString listRules();
 
 } // namespace Looks

@@ -182,7 +182,7 @@ void MainWindow::showSettings()
     m_settings->activateWindow();
 }
 
-bool MainWindow::startCall(const Call &call) { return m_calls->start(call); }
+void MainWindow::startCall(const Call &call) { return m_calls->start(call); }
 
 void MainWindow::callConversation(const QString &id)
 {

@@ -36,8 +36,8 @@ public:
     /// Opens the settings, or brings them to the front.
     void showSettings();
 
-    /// Opens the window of a call as \a call; false if nobody would be in it.
-    bool startCall(const Call &call);
+    /// Opens the window of a call as \a call.
+    void startCall(const Call &call);
 
 private:
     void setUpLooks();

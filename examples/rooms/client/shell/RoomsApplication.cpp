@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "RoomsApplication.h"
 
+#include "QmlLooks.h"
 #include "RoomsStyle.h"
 
 #include <UiElements/fonts/OxaFont.h>
@@ -83,6 +84,7 @@ void RoomsApplication::apply(const Settings &settings, bool isTemporary)
 
 void RoomsApplication::onQmlEngineCreated(OxaQmlEngine *engine)
 {
+    new QmlLooks(engine);
     connect(engine, &OxaQmlEngine::qmlViewStatusChanged, this,
             [](OxaQmlEngine::QmlViewStatus status, const QString &view, const QString &message) {
                 if (status == OxaQmlEngine::QmlViewStatus::Error)

@@ -111,7 +111,8 @@ QVector<Scenes::Scene> Scenes::scenes()
         { "call",
           [this] {
               m_window->showPage(MainWindow::Calls);
-              return m_window->startCall(m_backend->calls().value(0));
+              m_window->startCall(m_backend->calls().value(0));
+              return true;
           } },
         { "files",
           [this] {
