@@ -1,15 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Outbox.h"
 #include "Records.h"
 
+#include <UiElements/models/BaseListModel.h>
+
+#include <QElapsedTimer>
 #include <QHash>
 #include <QObject>
+#include <QTimer>
 
-#include <memory>
+#include <vector>
 
 class ConversationModel;
 class History;
+class Link;
 class PagedFiles;
 
 /// All that the client knows of the server, and its way to it. Connects again by itself, at growing
@@ -27,23 +33,24 @@ public:
     bool isConnected() const;
 
     /// Whether the conversations are here.
-    bool isReady() const;
+    bool isReady() const { return m_isReady; }
 
     /// The id of the user.
-    const QString &me() const;
+    const QString &me() const { return m_me; }
 
     /// The person \a id, or one without a name.
     Person person(const QString &id) const;
     QVector<Person> people() const;
 
     /// The conversations, in no order.
-    ConversationModel *conversations() const;
+    ConversationModel *conversations() const { return m_conversations; }
 
     /// The messages of \a conversation. Loads the newest page at the first call. Stays until the
     /// client ends, with the messages that it has then.
     History *open(const QString &conversation);
 
     /// Puts a message at the end of \a conversation, now and when the server is there again.
+    /// Forgets the draft if that was its text.
     void send(const QString &conversation, Message::Kind kind, const QString &text);
 
     /// Sends a message that failed once more.
@@ -54,7 +61,7 @@ public:
     /// All messages of \a conversation are read.
     void markRead(const QString &conversation);
 
-    /// The user is typing.
+    /// The user is typing. May be called at each key.
     void tellTyping(const QString &conversation);
 
     /// What was typed into \a conversation and not sent. Survives the client.
@@ -62,10 +69,10 @@ public:
     void setDraft(const QString &conversation, const QString &text);
 
     /// The files of the server.
-    PagedFiles *files() const;
+    PagedFiles *files() const { return m_files; }
 
     /// The calls that were, newest first.
-    const QVector<Call> &calls() const;
+    const QVector<Call> &calls() const { return m_calls; }
 
     /// Joins the call \a call, whose levels arrive from then on; an empty name leaves it.
     void join(const QString &call);
@@ -86,6 +93,35 @@ Q_SIGNALS:
     void failed(const QString &reason);
 
 private:
-    struct Data;
-    const std::unique_ptr<Data> m_data;
+    void greet();
+    void takePeople(const QJsonObject &answer);
+    void askForConversations();
+    void takeConversations(const QJsonObject &answer);
+    void synchronize();
+    void stop();
+    void receive(const QJsonObject &line);
+    void takeMessage(const QString &conversation, const Message &message);
+    void takeLevels(const QJsonObject &values);
+    void takeCalls(const QJsonObject &answer);
+    void resume(History *history);
+    void transmit(const Outbox::Entry &entry);
+    void setState(const QString &key, Message::State state);
+
+    Link *const m_link;
+    Outbox m_outbox;
+    ConversationModel *const m_conversations;
+    PagedFiles *const m_files;
+    QHash<QString, History *> m_histories;
+    QHash<QString, Person> m_people;
+    QHash<QString, int> m_totals; ///< How many messages the conversations have.
+    QVector<Call> m_calls;
+    QString m_me;
+    QString m_call;
+    std::vector<ModelRow> m_rows; ///< Conversations, while more of them are on their way.
+    QVector<QJsonObject> m_early; ///< What was told meanwhile.
+    bool m_isSynchronized = false;
+    bool m_isReady = false;
+    QTimer m_saving;
+    QTimer m_greeting; ///< Once more, because the server did not want to.
+    QElapsedTimer m_typing;
 };

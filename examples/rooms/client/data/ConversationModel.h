@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Records.h"
+
 #include <UiElements/models/BaseListModel.h>
+
+#include <QTimer>
 
 /// The conversations, in no order: a proxy sorts and filters them. Filled by Backend.
 class ConversationModel : public BaseListModel
@@ -20,10 +24,32 @@ public:
         ActivityRole,   ///< LastAtRole in milliseconds, for sorting.
     };
 
-    using BaseListModel::BaseListModel;
+    explicit ConversationModel(QObject *parent = nullptr);
 
     QHash<int, QByteArray> roleNames() const override;
 
     /// Shows the title in Qt's item views.
     QVariant data(const QModelIndex &index, int role) const override;
+
+    /// The row of a conversation as the protocol has it.
+    static ModelRow row(const QJsonObject &conversation);
+
+    /// The last message of \a conversation is \a message, and unread or not. Shown a fifth of a
+    /// second later, together with all others until then.
+    void arrive(const QString &conversation, const Message &message, bool isUnread);
+
+    /// Nothing in \a conversation is unread. Returns whether something was.
+    bool markRead(const QString &conversation);
+
+private:
+    struct Arrival
+    {
+        Message last;
+        int unread = 0;
+    };
+
+    void showArrivals();
+
+    QHash<QString, Arrival> m_arrivals;
+    QTimer m_showing;
 };

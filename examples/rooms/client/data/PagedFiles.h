@@ -4,6 +4,7 @@
 #include <UiElements/models/LazyLoadedListModel.h>
 
 #include <QSet>
+#include <QTimer>
 
 class Link;
 
@@ -30,6 +31,17 @@ public:
     /// The file's name for Qt's item views, too.
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
 
+    /// The connection is there: asks for the pages that are not here.
+    void resume();
+
     /// No row has rows.
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
+
+private:
+    void askForMissing();
+    void take(int page, const QJsonObject &answer);
+
+    Link &m_link;
+    QSet<int> m_asked; ///< The pages that are on their way.
+    QTimer m_asking;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -17,6 +18,8 @@ struct Person
     QString title;
     QString about;
     Presence presence = Presence::Offline;
+
+    static Person fromJson(const QJsonObject &json);
 };
 
 /// An emoji below a message, and how many have put it there.
@@ -25,6 +28,13 @@ struct Reaction
     QString emoji;
     int count = 0;
     bool isMine = false;
+
+    static QVector<Reaction> fromJson(const QJsonArray &json);
+
+    bool operator==(const Reaction &other) const
+    {
+        return emoji == other.emoji && count == other.count && isMine == other.isMine;
+    }
 };
 
 /// A message of a conversation.
@@ -41,6 +51,11 @@ struct Message
     QString text; ///< What was written, or the name of the movie or the file.
     QVector<Reaction> reactions;
     State state = State::Sent;
+
+    static Message fromJson(const QJsonObject &json);
+
+    /// What the server is told.
+    QJsonObject toJson() const;
 };
 
 /// A call that was.
@@ -51,4 +66,10 @@ struct Call
     QDateTime at;
     int minutes = 0;
     bool isMissed = false;
+
+    static Call fromJson(const QJsonObject &json);
 };
+
+/// The times and presences of the protocol.
+QDateTime timeOf(const QJsonValue &value);
+Presence presenceOf(const QJsonValue &value);
