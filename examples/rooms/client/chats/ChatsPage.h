@@ -4,6 +4,8 @@
 #include <UiElements/widgets/OxaWidget.h>
 
 class Backend;
+class ConversationList;
+class ConversationView;
 class PersonCards;
 
 /// The conversations at one side, and the one that is open at the other.
@@ -21,6 +23,9 @@ public:
     /// Makes the conversation with \a person alone the current one. Does nothing if there is none.
     void openPerson(const QString &person);
 
+    /// The conversation that is open; empty at first.
+    const QString &conversation() const;
+
     /// Gives the focus to the search for conversations.
     void focusSearch();
 
@@ -30,5 +35,6 @@ Q_SIGNALS:
 
 private:
     Backend *const m_backend;
-    PersonCards *const m_cards;
+    ConversationList *const m_list;
+    ConversationView *const m_view;
 };

@@ -29,7 +29,7 @@ void SlowMovies::answer(const QString &source)
     // Names come from strangers: only those of images that there are.
     const QString name = source.section(QLatin1Char('#'), 0, 0);
     if (!names().contains(name)) {
-        Q_EMIT movieFetchFailed(QStringLiteral(":/Resources/chat-gif.svg"), source);
+        Q_EMIT movieFetchFailed(QStringLiteral(":/Resources/picture.svg"), source);
         return;
     }
     const QPointer<OxaMovie> movie(

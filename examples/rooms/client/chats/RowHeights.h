@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QStyledItemDelegate>
+
+#include <deque>
+#include <functional>
+
+/// How high the rows of a list are, known or guessed, and what lies under their widgets. Measuring
+/// takes time: a row is measured when it comes near the screen, or when there is time. What was
+/// measured counts from the next take() on, so that Qt never sees half of it.
+class RowHeights : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using Measure = std::function<int(int row)>;
+
+    RowHeights(Measure measure, QObject *parent);
+
+    int count() const { return int(m_rows.size()); }
+    void clear();
+    void insert(int first, int count);
+    void remove(int first, int count);
+
+    /// The height of \a row is another one, or that of all rows.
+    void forget(int row);
+    void forgetAll();
+
+    /// Measures those of \a count rows from \a first on that are not known. Returns whether any of
+    /// them is not as high as it was laid out.
+    bool measure(int first, int count);
+
+    /// Measures unknown rows, those next to \a row first, for \a ms milliseconds. Returns whether
+    /// there are any left.
+    bool measureFor(int ms, int row);
+
+    /// Makes what was measured count. Rows have to be laid out after that.
+    void take();
+
+    bool hasUnknown() const { return m_unknown > 0; }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+private:
+    struct Row
+    {
+        int height = 40;
+        int measured = -1;
+    };
+
+    bool measureRow(int row);
+
+    const Measure m_measure;
+    std::deque<Row> m_rows;
+    int m_unknown = 0;
+};
