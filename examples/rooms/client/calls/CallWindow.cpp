@@ -74,10 +74,10 @@ QWidget *CallWindow::makeTop()
 QWidget *CallWindow::makeStage()
 {
     m_stage = new QWidget(this);
-    auto *grid = new FixedItemRatioLayoutNotSupportScroll(m_stage, QMargins(16, 8, 16, 8), 8, 8);
+    auto *grid = new FixedItemRatioLayoutNotSupportScroll(m_stage, QMargins(16, 8, 16, 8), 0, 0);
     FixedItemRatioLayoutNotSupportScroll::ItemData tiles;
     tiles.minimumWidth = 140;
-    tiles.spacing = 8;
+    tiles.spacing = 0; // Rows with a spacing may be too wide: the tiles have margins instead.
     grid->setItemData(tiles);
     m_waiting = Looks::makeLabel(tr("Nobody else is here yet."), OxaFont::Token::BodySecondary,
                                  QStringLiteral("text-secondary"), m_stage);

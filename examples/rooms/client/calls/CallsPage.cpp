@@ -7,9 +7,7 @@
 #include "people/PersonCards.h"
 #include "shell/Looks.h"
 
-#include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
-#include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaListWidget.h>
 
@@ -36,7 +34,7 @@ QString summary(const Call &call)
 {
     const QString time = timeText(call.at);
     return call.isMissed ? CallsPage::tr("Missed, %1").arg(time)
-                         : CallsPage::tr("%1, %n minute(s)", nullptr, call.minutes).arg(time);
+                         : CallsPage::tr("%1, %2 min").arg(time).arg(call.minutes);
 }
 
 } // namespace
@@ -75,6 +73,8 @@ void CallsPage::start(const Call &call)
 {
     delete m_window;
     m_window = new CallWindow(m_backend, m_cards, call, window());
+    const QPoint centre = window()->geometry().center();
+    m_window->move(centre - m_window->rect().center());
     m_window->show();
 }
 
@@ -107,9 +107,8 @@ void CallsPage::makeRow(QListWidgetItem *item)
                                        QStringLiteral("row-text"), row);
     const QString colors = call.isMissed ? QStringLiteral("missed")
                                          : QStringLiteral("text-secondary");
-    auto *when = new OxaSvgLabel(summary(call), row);
-    when->setFontToken(OxaFont::Token::RadioButtonLabelSecondary);
-    when->setCSS(QStringLiteral("$textColors: %1;").arg(colors));
+    OxaLabel *when = Looks::makeLabel(summary(call), OxaFont::Token::RadioButtonLabelSecondary,
+                                      colors, row);
     OxaSvgPushButton *again = Looks::makeIconButton(QStringLiteral("calls"),
                                                     tr("Call %1").arg(call.title), row);
     connect(again, &OxaSvgPushButton::clicked, this, [this, call] { start(call); });

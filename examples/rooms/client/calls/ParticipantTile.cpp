@@ -21,7 +21,7 @@ constexpr int quiet = 25; ///< and below here no longer.
 QString tileStyle(bool isSpeaking)
 {
     return QStringLiteral("$backgroundColors: call-tile; $borderColors: %1; $borders: all; "
-                          "$borderWidth: 2; $borderRadius: 12;")
+                          "$borderWidth: 2; $borderRadius: 12; #tile { margin: 4px; }")
             .arg(isSpeaking ? QStringLiteral("call-tile-speaking")
                             : QStringLiteral("call-tile-border"));
 }

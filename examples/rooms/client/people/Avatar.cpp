@@ -4,6 +4,7 @@
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/theme/OxaThemeUtils.h>
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -83,13 +84,18 @@ void Avatar::setPerson(const Person &person, bool isPresenceShown)
     update();
 }
 
-void Avatar::paint(QPainter *painter, const QRect &rect, const QString &id, const QString &name)
+void Avatar::paint(QPainter *painter, const QRect &rect, const QString &id, const QString &name,
+                   bool hasPresence)
 {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
+    QPainterPath picture = circle(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    if (hasPresence)
+        picture -= circle(
+                presenceRect(rect, QGuiApplication::layoutDirection()).adjusted(-2, -2, 2, 2));
     painter->setPen(color("person-border"));
     painter->setBrush(color("person-" + std::to_string(colorNumber(id))));
-    painter->drawEllipse(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter->drawPath(picture);
 
     // The picture does not grow with the text.
     QFont font = OxaFont(tokenFor(rect.width()));
@@ -106,11 +112,8 @@ void Avatar::paintPresence(QPainter *painter, const QRect &rect, Presence presen
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
-    const QRectF place = presenceRect(rect, direction);
-    painter->setBrush(color("panel"));
-    painter->drawEllipse(place.adjusted(-2, -2, 2, 2));
     painter->setBrush(color(colorName(presence)));
-    painter->drawPath(shape(presence, place));
+    painter->drawPath(shape(presence, presenceRect(rect, direction)));
     painter->restore();
 }
 
@@ -138,7 +141,7 @@ void Avatar::paintEvent(QPaintEvent *)
     QPainter painter(this);
     const int margin = m_isPresenceShown ? 2 : 0;
     const QRect picture = rect().adjusted(margin, margin, -margin, -margin);
-    paint(&painter, picture, m_person.id, m_person.name);
+    paint(&painter, picture, m_person.id, m_person.name, m_isPresenceShown);
     if (m_isPresenceShown)
         paintPresence(&painter, picture, m_person.presence, layoutDirection());
 }

@@ -21,11 +21,13 @@ public:
     /// Shows \a person; without presence if \a isPresenceShown is false.
     void setPerson(const Person &person, bool isPresenceShown = true);
 
-    /// Paints the picture of somebody called \a name into the square \a rect, for delegates.
-    static void paint(QPainter *painter, const QRect &rect, const QString &id, const QString &name);
+    /// Paints the picture of somebody called \a name into the square \a rect, for delegates. With
+    /// \a hasPresence it leaves room for that.
+    static void paint(QPainter *painter, const QRect &rect, const QString &id, const QString &name,
+                      bool hasPresence = false);
 
     /// Paints \a presence at the lower trailing corner of the picture in \a rect, as large as fits
-    /// its size. The picture is to be painted first.
+    /// its size.
     static void paintPresence(QPainter *painter, const QRect &rect, Presence presence,
                               Qt::LayoutDirection direction);
 

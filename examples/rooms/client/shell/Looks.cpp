@@ -149,3 +149,14 @@ QString Looks::listRules()
                    "QAbstractItemView::item:focus { border-color: $(focus); }")
             + scrollBarRules();
 }
+
+QString Looks::sliderRules()
+{
+    return QStringLiteral(
+            "QSlider::groove:horizontal { height: 4px; border-radius: 2px;"
+            " background: $(slider-track); }"
+            "QSlider::sub-page:horizontal { border-radius: 2px; background: $(selection); }"
+            "QSlider::handle:horizontal { width: 16px; margin: -6px 0; border-radius: 8px;"
+            " background: $(selection); }"
+            "QSlider::handle:horizontal:hover { background: $(accent-button.hovered); }");
+}

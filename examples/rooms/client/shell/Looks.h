@@ -51,6 +51,9 @@ OxaMenu *makeMenu(QWidget *parent);
 /// The rules of scroll bars, for the style text of a window.
 QString scrollBarRules();
 
+/// The rules of horizontal sliders.
+QString sliderRules();
+
 /// The rules of lists without a frame, with a hovered and a current row, and of their scroll bars.
 QString listRules();
 

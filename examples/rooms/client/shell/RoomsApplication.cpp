@@ -13,6 +13,7 @@
 #include <UiElements/theme/OxaThemeUtils.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 
+#include <QLocale>
 #include <QToolTip>
 #include <QWidget>
 
@@ -50,6 +51,8 @@ RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc
     m_light = read("light", palette);
     m_dark = read("dark", palette);
     m_highContrast = read("high-contrast", palette);
+    if (QLocale().language() == QLocale::C) // Which has times with seconds.
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
     m_isSystemDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
     m_systemDirection = QGuiApplication::layoutDirection();
 

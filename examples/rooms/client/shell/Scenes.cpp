@@ -14,8 +14,9 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
-#include <QQuickWindow>
+#include <QScreen>
 #include <QScrollBar>
+#include <QWindow>
 
 namespace {
 
@@ -38,22 +39,21 @@ void settle(int milliseconds)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
 }
 
-/// The window and all others that are open, each at its place over it.
+/// The window and all others that are open, each at its place over it, with an outline.
 QPixmap picture(QWidget *window)
 {
     QPixmap result = window->grab();
     QPainter painter(&result);
+    painter.setPen(window->palette().color(QPalette::PlaceholderText));
     const QPoint origin = window->mapToGlobal(QPoint());
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (widget != window && widget->isVisible())
-            painter.drawPixmap(widget->mapToGlobal(QPoint()) - origin, widget->grab());
-    }
-    const QWindowList windows = QGuiApplication::topLevelWindows();
-    for (QWindow *other : windows) {
-        auto *view = qobject_cast<QQuickWindow *>(other);
-        if (view && view->isVisible())
-            painter.drawImage(view->position() - origin, view->grabWindow());
+    const QWindowList others = QGuiApplication::topLevelWindows();
+    for (QWindow *other : others) {
+        if (other == window->windowHandle() || !other->isVisible())
+            continue;
+        const QRect place = other->geometry().translated(-origin);
+        painter.drawPixmap(place, other->screen()->grabWindow(other->winId()));
+        if (!(other->flags() & Qt::FramelessWindowHint))
+            painter.drawRect(place.adjusted(-1, -1, 0, 0));
     }
     return result;
 }
@@ -97,7 +97,8 @@ QVector<Scenes::Scene> Scenes::scenes()
         { "empty-search", [this] { return search(QStringLiteral("qqqqqq")); } },
         { "emoji-picker",
           [this] { return search({}) && showConversation(false) && click(QObject::tr("Emoji")); } },
-        { "gif-picker", [this] { return showConversation(false) && click(QObject::tr("GIF")); } },
+        { "gif-picker",
+          [this] { return showConversation(false) && click(QObject::tr("Moving pictures")); } },
         { "profile",
           [this] {
               m_window->cards()->showProfile(m_backend->people().value(1).id, m_window);

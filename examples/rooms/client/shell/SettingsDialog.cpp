@@ -8,6 +8,7 @@
 #include <UiElements/widgets/OxaCheckBox.h>
 #include <UiElements/widgets/OxaComboBox.h>
 #include <UiElements/widgets/OxaLabel.h>
+#include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaSlider.h>
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTextInputFactory.h>
@@ -42,7 +43,7 @@ SettingsDialog::SettingsDialog(QWidget *parent)
 {
     setObjectName(QStringLiteral("settings"));
     setWindowTitle(tr("Settings"));
-    setCSS(QStringLiteral("$backgroundColors: panel;"));
+    setCSS(QStringLiteral("$backgroundColors: panel;") + Looks::sliderRules());
     m_column->setContentsMargins(24, 16, 24, 24);
     m_column->setSpacing(8);
     m_column->setSizeConstraint(QLayout::SetFixedSize);
@@ -90,6 +91,7 @@ void SettingsDialog::addChoice(const QString &objectName, const QString &name,
     box->setFontToken(OxaFont::Token::BodySecondary);
     box->setAccessibleName(name);
     box->setFixedHeight(36);
+    box->updateStyle({ "field-text", "field-background", "field-border", 1, 6 });
     box->addItems(choices);
     box->setCurrentIndex(current);
     connect(box, QOverload<int>::of(&QComboBox::activated), this, [this, choose](int index) {
@@ -146,6 +148,7 @@ void SettingsDialog::addText(const QString &name, const QString &text, const QSt
     Looks::fields().apply(field); // A field that code has filled looks focused.
     field->setInputValidator(isValid, true);
     field->setFixedHeight(36);
+    field->getLineEdit()->setTextMargins(6, 0, 6, 0);
     OxaLabel *error = Looks::makeLabel(errorText, OxaFont::Token::BodyTertiary,
                                        QStringLiteral("field-error"), this);
     error->setAccessibleRole(QAccessible::AlertMessage);
