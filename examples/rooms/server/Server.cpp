@@ -45,7 +45,7 @@ Server::Server(World &world, const SeededArchive &seeded, const Options &options
           { u"read"_s, &Server::read },         { u"files"_s, &Server::files },
           { u"calls"_s, &Server::calls },       { u"join"_s, &Server::join },
           { u"leave"_s, &Server::leave },       { u"fail"_s, &Server::fail },
-          { u"typing"_s, &Server::nothing }
+          { u"typing"_s, &Server::nothing },    { u"presence"_s, &Server::setPresence }
       },
       m_failing(options.failing),
       m_log(options.log)
@@ -132,7 +132,13 @@ void Server::push(const QString &name, QJsonObject line)
 
 QJsonObject Server::hello(const QJsonObject &)
 {
-    return { { u"me"_s, u"p0"_s }, { u"people"_s, m_world.archive().people() } };
+    QJsonArray people = m_world.archive().people();
+    QJsonObject me = people[0].toObject();
+    if (!m_presence.isEmpty() && !me.isEmpty()) {
+        me[u"presence"_s] = m_presence;
+        people[0] = me;
+    }
+    return { { u"me"_s, u"p0"_s }, { u"people"_s, people } };
 }
 
 QJsonObject Server::conversations(const QJsonObject &request)
@@ -242,6 +248,13 @@ QJsonObject Server::leave(const QJsonObject &)
 QJsonObject Server::fail(const QJsonObject &request)
 {
     m_failing.append(request[u"name"_s].toString());
+    return {};
+}
+
+QJsonObject Server::setPresence(const QJsonObject &request)
+{
+    m_presence = request[u"presence"_s].toString();
+    push(u"presence"_s, { { u"person"_s, u"p0"_s }, { u"presence"_s, m_presence } });
     return {};
 }
 

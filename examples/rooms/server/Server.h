@@ -55,6 +55,7 @@ private:
     QJsonObject join(const QJsonObject &request);
     QJsonObject leave(const QJsonObject &request);
     QJsonObject fail(const QJsonObject &request);
+    QJsonObject setPresence(const QJsonObject &request);
     QJsonObject nothing(const QJsonObject &request);
 
     void letMessagesArrive();
@@ -68,6 +69,7 @@ private:
     QLocalServer m_server;
     QVector<QPointer<JsonLines>> m_clients;
     QStringList m_failing;
+    QString m_presence; ///< The user's; empty until they choose one.
     QStringList m_inCall;
     QElapsedTimer m_joined;
     QFile m_log;

@@ -196,6 +196,4 @@ void CallWindow::showConnection()
                          tr("The connection is lost. The call goes on when it is back."), true,
                          true, QSize(400, 48) });
     m_banner->setVisible(!m_backend->isConnected());
-    if (m_backend->isConnected() && !m_tiles.isEmpty())
-        m_backend->join(m_call.title);
 }

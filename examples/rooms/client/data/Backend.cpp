@@ -287,6 +287,11 @@ void Backend::tellTyping(const QString &conversation)
     m_link->tell(u"typing"_s, { { u"conversation"_s, conversation } });
 }
 
+void Backend::setPresence(Presence presence)
+{
+    m_link->tell(u"presence"_s, { { u"presence"_s, nameOf(presence) } });
+}
+
 QString Backend::draft(const QString &conversation) const { return m_outbox.draft(conversation); }
 
 void Backend::setDraft(const QString &conversation, const QString &text)

@@ -64,6 +64,9 @@ public:
     /// The user is typing. May be called at each key.
     void tellTyping(const QString &conversation);
 
+    /// Tells everybody that the user is \a presence.
+    void setPresence(Presence presence);
+
     /// What was typed into \a conversation and not sent. Survives the client.
     QString draft(const QString &conversation) const;
     void setDraft(const QString &conversation, const QString &text);

@@ -40,15 +40,14 @@ PagedFiles::PagedFiles(Link &link, QObject *parent) : LazyLoadedListModel(parent
 
 QHash<int, QByteArray> PagedFiles::roleNames() const
 {
-    return { { NameRole, "name" },
-             { KindRole, "kind" },
-             { SizeRole, "size" },
-             { OwnerRole, "owner" },
-             { AtRole, "at" } };
+    return { { NameRole, "name" },   { KindRole, "kind" }, { SizeRole, "size" },
+             { OwnerRole, "owner" }, { AtRole, "at" },     { FailedRole, "failed" } };
 }
 
 QVariant PagedFiles::data(const QModelIndex &index, int role) const
 {
+    if (role == FailedRole)
+        return m_failed.contains(indexToPage(index.row()));
     const QStandardItem *item = getItemAt(index);
     return item ? item->data(role == Qt::DisplayRole ? int(NameRole) : role) : QVariant();
 }
@@ -79,6 +78,7 @@ void PagedFiles::askForMissing()
 void PagedFiles::take(int page, const QJsonObject &answer)
 {
     m_asked.remove(page);
+    setFailed(page, answer.contains(u"error"_s));
     if (answer.contains(u"error"_s)) {
         m_asking.start(retryMs);
         return;
@@ -93,4 +93,16 @@ void PagedFiles::take(int page, const QJsonObject &answer)
         }
     }
     askForMissing();
+}
+
+void PagedFiles::setFailed(int page, bool isFailed)
+{
+    if (isFailed == m_failed.contains(page))
+        return;
+    if (isFailed)
+        m_failed.insert(page);
+    else
+        m_failed.remove(page);
+    const int last = qMin(pageToIndex(page + 1), size()) - 1;
+    Q_EMIT dataChanged(index(pageToIndex(page)), index(last), { FailedRole });
 }

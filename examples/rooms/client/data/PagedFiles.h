@@ -22,6 +22,7 @@ public:
         SizeRole,                    ///< In bytes.
         OwnerRole,                   ///< The id of a person.
         AtRole,                      ///< The QDateTime of the last change.
+        FailedRole,                  ///< Whether the row could not be loaded. It is tried again.
     };
 
     explicit PagedFiles(Link &link, QObject *parent = nullptr);
@@ -40,8 +41,10 @@ public:
 private:
     void askForMissing();
     void take(int page, const QJsonObject &answer);
+    void setFailed(int page, bool isFailed);
 
     Link &m_link;
-    QSet<int> m_asked; ///< The pages that are on their way.
+    QSet<int> m_asked;  ///< The pages that are on their way.
+    QSet<int> m_failed; ///< Those that could not be loaded.
     QTimer m_asking;
 };

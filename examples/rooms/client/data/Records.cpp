@@ -13,6 +13,12 @@ const QStringList &kinds()
     return names;
 }
 
+const QStringList &presences()
+{
+    static const QStringList names { u"active"_s, u"away"_s, u"busy"_s, u"offline"_s };
+    return names;
+}
+
 } // namespace
 
 QDateTime timeOf(const QJsonValue &value)
@@ -22,10 +28,11 @@ QDateTime timeOf(const QJsonValue &value)
 
 Presence presenceOf(const QJsonValue &value)
 {
-    static const QStringList names { u"active"_s, u"away"_s, u"busy"_s, u"offline"_s };
-    const int index = names.indexOf(value.toString());
+    const int index = presences().indexOf(value.toString());
     return index < 0 ? Presence::Offline : Presence(index);
 }
+
+QString nameOf(Presence presence) { return presences().at(int(presence)); }
 
 Person Person::fromJson(const QJsonObject &json)
 {

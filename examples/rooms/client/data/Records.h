@@ -73,3 +73,6 @@ struct Call
 /// The times and presences of the protocol.
 QDateTime timeOf(const QJsonValue &value);
 Presence presenceOf(const QJsonValue &value);
+
+/// The protocol's name of \a presence.
+QString nameOf(Presence presence);

@@ -63,12 +63,7 @@ QPainterPath shape(Presence presence, const QRectF &rect)
     return circle(rect);
 }
 
-std::string colorName(Presence presence)
-{
-    constexpr const char *names[] = { "presence-active", "presence-away", "presence-busy",
-                                      "presence-offline" };
-    return names[int(presence)];
-}
+std::string colorName(Presence presence) { return "presence-" + nameOf(presence).toStdString(); }
 
 } // namespace
 

@@ -6,26 +6,23 @@
 
 #include <QCoreApplication>
 
-namespace {
-
-struct PresenceTexts
+QString presenceText(Presence presence)
 {
-    const char *name;
-    const char *text;
-};
-
-constexpr PresenceTexts presenceTexts[] = {
-    { "active", QT_TRANSLATE_NOOP("Presence", "Active") },
-    { "away", QT_TRANSLATE_NOOP("Presence", "Away") },
-    { "busy", QT_TRANSLATE_NOOP("Presence", "Busy") },
-    { "offline", QT_TRANSLATE_NOOP("Presence", "Offline") },
-};
-
-} // namespace
+    switch (presence) {
+    case Presence::Active:
+        return QCoreApplication::translate("Presence", "Active");
+    case Presence::Away:
+        return QCoreApplication::translate("Presence", "Away");
+    case Presence::Busy:
+        return QCoreApplication::translate("Presence", "Busy");
+    case Presence::Offline:
+        break;
+    }
+    return QCoreApplication::translate("Presence", "Offline");
+}
 
 QVariantMap toQml(const Person &person)
 {
-    const PresenceTexts &presence = presenceTexts[int(person.presence)];
     return {
         { QStringLiteral("id"), person.id },
         { QStringLiteral("name"), person.name },
@@ -33,8 +30,8 @@ QVariantMap toQml(const Person &person)
         { QStringLiteral("about"), person.about },
         { QStringLiteral("initials"), Avatar::initials(person.name) },
         { QStringLiteral("color"), Avatar::colorNumber(person.id) },
-        { QStringLiteral("presence"), QLatin1String(presence.name) },
-        { QStringLiteral("presenceText"), QCoreApplication::translate("Presence", presence.text) },
+        { QStringLiteral("presence"), nameOf(person.presence) },
+        { QStringLiteral("presenceText"), presenceText(person.presence) },
     };
 }
 

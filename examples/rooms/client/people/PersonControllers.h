@@ -10,6 +10,9 @@
 
 class Backend;
 
+/// \a presence in words.
+QString presenceText(Presence presence);
+
 /// \a person as QML shows it: id, name, title, about, initials, the number of the colour, and the
 /// presence as its name and in words.
 QVariantMap toQml(const Person &person);

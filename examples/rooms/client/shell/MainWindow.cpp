@@ -11,6 +11,7 @@
 #include "data/ConversationModel.h"
 #include "files/FilesPage.h"
 #include "people/Avatar.h"
+#include "people/PersonControllers.h"
 
 #include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
@@ -44,11 +45,16 @@ MainWindow::MainWindow(Backend *backend, QWidget *parent)
     addPage(tr("Calls"), m_calls);
     addPage(tr("Files"), new FilesPage(backend));
     m_tabs->setCurrentIndex(Chats);
+    m_tabs->getTab(Chats)->setAcceptDrops(true); // What is dragged goes onto a conversation.
+    m_tabs->getTab(Chats)->installEventFilter(this);
     connect(m_tabs, &OxaTabBar::currentChanged, m_pages, &QStackedWidget::setCurrentIndex);
 
     connect(backend, &Backend::connectedChanged, this, &MainWindow::showConnection);
     connect(backend, &Backend::ready, this, &MainWindow::showMe);
-    connect(backend, &Backend::personChanged, this, &MainWindow::showMe);
+    connect(backend, &Backend::personChanged, this, [this](const QString &person) {
+        if (person == m_backend->me())
+            showMe();
+    });
     connect(backend, &Backend::failed, this,
             [this](const QString &reason) { Toast::show(reason, this); });
     connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, this, &MainWindow::showMe);
@@ -166,11 +172,26 @@ void MainWindow::openMenu()
 {
     OxaMenu *menu = Looks::makeMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const Presence presence : { Presence::Active, Presence::Away, Presence::Busy }) {
+        QAction *action = menu->addAction(presenceText(presence));
+        action->setCheckable(true);
+        action->setChecked(m_backend->person(m_backend->me()).presence == presence);
+        connect(action, &QAction::triggered, this,
+                [this, presence] { m_backend->setPresence(presence); });
+    }
+    menu->addSeparator();
     connect(menu->addAction(tr("Profile")), &QAction::triggered, this,
             [this] { m_cards.showProfile(m_backend->me(), this); });
     connect(menu->addAction(tr("Settings")), &QAction::triggered, this, &MainWindow::showSettings);
     const int x = isRightToLeft() ? 0 : m_me->width() - menu->sizeHint().width();
     menu->popupAt(m_me->mapToGlobal(QPoint(x, m_me->height() + 4)));
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::DragEnter)
+        showPage(Chats);
+    return OxaMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::showSettings()

@@ -39,6 +39,9 @@ public:
     /// Opens the window of a call as \a call.
     void startCall(const Call &call);
 
+    /// Shows the chats while something is dragged over their tab.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void setUpLooks();
     QWidget *makeTop();

@@ -101,7 +101,7 @@ QVector<Scenes::Scene> Scenes::scenes()
           [this] { return showConversation(false) && click(QObject::tr("Moving pictures")); } },
         { "profile",
           [this] {
-              m_window->cards()->showProfile(m_backend->people().value(1).id, m_window);
+              m_window->cards()->showProfile(m_backend->calls().value(1).people.value(1), m_window);
               return true;
           } },
         { "settings",

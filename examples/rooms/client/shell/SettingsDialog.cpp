@@ -132,6 +132,7 @@ void SettingsDialog::addCheckBox(const QString &text, bool isChecked,
     box->setFontToken(OxaFont::Token::BodySecondary);
     box->setText(text);
     box->setWordWrap(false);
+    box->setCheckboxSize(QSize(18, 18));
     box->setChecked(isChecked);
     connect(box, &OxaCheckBox::toggled, this, [this, choose](bool isOn) {
         change([&](Settings &settings) { choose(settings, isOn); });

@@ -64,7 +64,6 @@ Rectangle {
         }
         Text {
             width: parent.width
-            horizontalAlignment: Text.AlignLeft
             visible: text
             wrapMode: Text.Wrap
             text: profile.person ? profile.person.about : ""
