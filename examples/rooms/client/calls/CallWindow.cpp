@@ -35,7 +35,7 @@ CallWindow::CallWindow(Backend *backend, PersonCards *cards, const Call &call, Q
     column->setSpacing(0);
     column->addWidget(makeTop());
     m_banner = new AlertBanner(content);
-    m_banner->setMinimumHeight(48);
+    m_banner->setMinimumHeight(40);
     column->addWidget(m_banner);
     column->addWidget(makeStage(), 1);
     column->addWidget(makeControls());
@@ -194,6 +194,6 @@ void CallWindow::showConnection()
 {
     m_banner->setAlert({ AlertBanner::AlertType::Error,
                          tr("The connection is lost. The call goes on when it is back."), true,
-                         true, QSize(400, 48) });
+                         true, QSize(400, 40) });
     m_banner->setVisible(!m_backend->isConnected());
 }

@@ -76,7 +76,7 @@ void ConversationDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
     avatar = mirrored(option, avatar);
     const QString person = index.data(Role::PersonRole).toString();
     const QString id = person.isEmpty() ? index.data(Role::IdRole).toString() : person;
-    Avatar::paint(painter, avatar, id, index.data(Role::TitleRole).toString());
+    Avatar::paint(painter, avatar, id, index.data(Role::TitleRole).toString(), !person.isEmpty());
     if (!person.isEmpty())
         Avatar::paintPresence(painter, avatar, m_backend->person(person).presence,
                               option.direction);

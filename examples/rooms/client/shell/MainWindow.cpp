@@ -34,7 +34,7 @@ MainWindow::MainWindow(Backend *backend, QWidget *parent)
     column->setSpacing(0);
     column->addWidget(makeTop());
     m_banner = new AlertBanner(content);
-    m_banner->setMinimumHeight(48);
+    m_banner->setMinimumHeight(40);
     column->addWidget(m_banner);
     m_pages = new OxaStackedWidget(content);
     column->addWidget(m_pages, 1);
@@ -65,7 +65,6 @@ MainWindow::MainWindow(Backend *backend, QWidget *parent)
     });
     connectShortcuts();
     showConnection();
-    showMe();
 }
 
 void MainWindow::showPage(Page page) { m_tabs->setCurrentIndex(page); }
@@ -151,8 +150,9 @@ void MainWindow::showConnection()
 {
     m_banner->setAlert({ AlertBanner::AlertType::Warning,
                          tr("The server is away. What you write is sent when it is back."), true,
-                         true, QSize(400, 48) });
+                         true, QSize(400, 40) });
     m_banner->setVisible(!m_backend->isConnected());
+    showMe();
 }
 
 void MainWindow::showMe()

@@ -18,6 +18,8 @@
 #include <QScrollBar>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace {
 
 /// Runs the event loop until \a condition is true; false if that takes over ten seconds.
@@ -39,6 +41,17 @@ void settle(int milliseconds)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
 }
 
+/// The widget that \a window is of; null if that is a window of QML.
+QWidget *widgetOf(const QWindow *window)
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    const auto found = std::find_if(widgets.begin(), widgets.end(),
+                                    [window](const QWidget *widget) {
+                                        return widget->windowHandle() == window;
+                                    });
+    return found == widgets.end() ? nullptr : *found;
+}
+
 /// The window and all others that are open, each at its place over it, with an outline.
 QPixmap picture(QWidget *window)
 {
@@ -51,7 +64,9 @@ QPixmap picture(QWidget *window)
         if (other == window->windowHandle() || !other->isVisible())
             continue;
         const QRect place = other->geometry().translated(-origin);
-        painter.drawPixmap(place, other->screen()->grabWindow(other->winId()));
+        QWidget *widget = widgetOf(other);
+        painter.drawPixmap(place,
+                           widget ? widget->grab() : other->screen()->grabWindow(other->winId()));
         if (!(other->flags() & Qt::FramelessWindowHint))
             painter.drawRect(place.adjusted(-1, -1, 0, 0));
     }
@@ -97,8 +112,7 @@ QVector<Scenes::Scene> Scenes::scenes()
         { "empty-search", [this] { return search(QStringLiteral("qqqqqq")); } },
         { "emoji-picker",
           [this] { return search({}) && showConversation(false) && click(QObject::tr("Emoji")); } },
-        { "gif-picker",
-          [this] { return showConversation(false) && click(QObject::tr("Moving pictures")); } },
+        { "gif-picker", [this] { return showConversation(false) && click(QObject::tr("GIF")); } },
         { "profile",
           [this] {
               m_window->cards()->showProfile(m_backend->calls().value(1).people.value(1), m_window);
@@ -150,6 +164,7 @@ bool Scenes::showConversation(bool isLong)
     const QModelIndex index = model->index(isLong ? 0 : qMin(3, model->rowCount() - 1), 0);
     m_window->showPage(MainWindow::Chats);
     m_window->chats()->openConversation(index.data(ConversationModel::IdRole).toString());
+    Q_EMIT OxaAppSignals::get()->focusMainInputBox();
     settle(1000);
     return index.isValid();
 }
