@@ -185,7 +185,7 @@ void CallWindow::remove(const QString &id)
 
 void CallWindow::showTime()
 {
-    const qint64 seconds = m_since.elapsed() / 1000;
+    const qint64 seconds = (m_since.elapsed() + 500) / 1000;
     m_time->setText(
             QStringLiteral("%1:%2").arg(seconds / 60).arg(seconds % 60, 2, 10, QLatin1Char('0')));
 }

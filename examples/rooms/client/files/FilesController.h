@@ -4,7 +4,6 @@
 #include <UiElements/qml/OxaQmlController.h>
 
 #include <QPointer>
-#include <QVariantMap>
 
 class Backend;
 class PagedFiles;
@@ -32,8 +31,8 @@ public:
 Q_SIGNALS:
     void backendChanged();
 
-    /// The user drags a file: the values of a DragEvent.
-    void dragRequested(const QVariantMap &values);
+    /// The user drags the file called \a name.
+    void dragRequested(const QString &name);
 
 private:
     QPointer<Backend> m_backend;

@@ -10,6 +10,7 @@
 
 #include <QDrag>
 #include <QMimeData>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <memory>
@@ -40,8 +41,11 @@ FilesPage::FilesPage(Backend *backend, QWidget *parent) : OxaWidget(parent)
     column->addWidget(view);
 }
 
-void FilesPage::drag(const QVariantMap &values)
+void FilesPage::drag(const QString &name)
 {
+    // A list of JavaScript would be one of variants, in which the record finds no URLs.
+    const QList<QUrl> urls { QUrl(QStringLiteral("rooms:/files/") + name) };
+    const QVariantMap values { { QStringLiteral("urls"), QVariant::fromValue(urls) } };
     // The record owns the mime data, and outlives the drag that takes it.
     const auto record = std::make_shared<DragEvent>(values);
     auto *drag = new QDrag(this);

@@ -3,8 +3,6 @@
 
 #include <UiElements/widgets/OxaWidget.h>
 
-#include <QVariantMap>
-
 class Backend;
 
 /// The million files of the server. A file can be dragged onto a conversation.
@@ -17,5 +15,5 @@ public:
     explicit FilesPage(Backend *backend, QWidget *parent = nullptr);
 
 private:
-    void drag(const QVariantMap &values);
+    void drag(const QString &name);
 };

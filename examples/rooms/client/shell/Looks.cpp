@@ -10,6 +10,8 @@
 #include <UiElements/widgets/OxaTextInputFactory.h>
 #include <UiElements/widgets/UTContextMenuUtils.h>
 
+#include <QGuiApplication>
+
 namespace {
 
 constexpr int buttonHeight = 32;
@@ -153,10 +155,11 @@ QString Looks::listRules()
 QString Looks::sliderRules()
 {
     return QStringLiteral(
-            "QSlider::groove:horizontal { height: 4px; border-radius: 2px;"
-            " background: $(slider-track); }"
-            "QSlider::sub-page:horizontal { border-radius: 2px; background: $(selection); }"
-            "QSlider::handle:horizontal { width: 16px; margin: -6px 0; border-radius: 8px;"
-            " background: $(selection); }"
-            "QSlider::handle:horizontal:hover { background: $(accent-button.hovered); }");
+                   "QSlider::groove:horizontal { height: 4px; border-radius: 2px;"
+                   " background: $(slider-track); }"
+                   "QSlider::%1-page:horizontal { border-radius: 2px; background: $(selection); }"
+                   "QSlider::handle:horizontal { width: 16px; margin: -6px 0; border-radius: 8px;"
+                   " background: $(selection); }"
+                   "QSlider::handle:horizontal:hover { background: $(accent-button.hovered); }")
+            .arg(QGuiApplication::isRightToLeft() ? QStringLiteral("add") : QStringLiteral("sub"));
 }

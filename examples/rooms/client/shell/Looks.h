@@ -51,7 +51,8 @@ OxaMenu *makeMenu(QWidget *parent);
 /// The rules of scroll bars, for the style text of a window.
 QString scrollBarRules();
 
-/// The rules of horizontal sliders.
+/// The rules of horizontal sliders. They depend on the direction: Qt mirrors a slider, but not the
+/// parts that rules name.
 QString sliderRules();
 
 /// The rules of lists without a frame, with a hovered and a current row, and of their scroll bars.

@@ -13,8 +13,8 @@
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTextInputFactory.h>
 
-#include <QFormLayout>
 #include <QUrl>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -43,7 +43,9 @@ SettingsDialog::SettingsDialog(QWidget *parent)
 {
     setObjectName(QStringLiteral("settings"));
     setWindowTitle(tr("Settings"));
-    setCSS(QStringLiteral("$backgroundColors: panel;") + Looks::sliderRules());
+    setLooks();
+    connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, this,
+            &SettingsDialog::setLooks);
     m_column->setContentsMargins(24, 16, 24, 24);
     m_column->setSpacing(8);
     m_column->setSizeConstraint(QLayout::SetFixedSize);
@@ -51,6 +53,11 @@ SettingsDialog::SettingsDialog(QWidget *parent)
     addProfile();
     addButtons();
     connect(this, &QDialog::rejected, this, [this] { RoomsApplication::get()->apply(m_before); });
+}
+
+void SettingsDialog::setLooks()
+{
+    setCSS(QStringLiteral("$backgroundColors: panel;") + Looks::sliderRules());
 }
 
 void SettingsDialog::change(const Change &change)
@@ -116,7 +123,7 @@ void SettingsDialog::addSlider(const QString &name, int from, int to, int step, 
     auto *row = new QHBoxLayout(field);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(slider, 1);
-    shown->setFixedWidth(72);
+    shown->setFixedWidth(104);
     row->addWidget(shown);
     connect(slider, &QSlider::valueChanged, this, [this, shown, step, tell, choose](int tick) {
         shown->setText(tell(tick * step));

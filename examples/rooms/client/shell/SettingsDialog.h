@@ -7,9 +7,7 @@
 
 #include <functional>
 
-class OxaComboBox;
 class OxaTextInput;
-class QFormLayout;
 class QVBoxLayout;
 
 /// Lets the user choose how the client looks, and what others see of them. All of it takes effect
@@ -25,6 +23,7 @@ public:
 private:
     using Change = std::function<void(Settings &)>;
 
+    void setLooks();
     void change(const Change &change);
     void addHeading(const QString &text);
     void addRow(const QString &name, QWidget *field);

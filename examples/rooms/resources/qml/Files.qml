@@ -159,8 +159,7 @@ Rectangle {
                     if (!pressed || !row.isHere || way < 10)
                         return
                     start = Qt.point(NaN, NaN)
-                    controller.dragRequested({ x: mouse.x, y: mouse.y,
-                                               urls: ["rooms:/files/" + encodeURIComponent(model.name)] })
+                    controller.dragRequested(model.name)
                 }
             }
         }

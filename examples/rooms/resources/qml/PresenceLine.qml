@@ -20,14 +20,14 @@ Row {
         border.color: line.dot
 
         Rectangle {
-            visible: line.person && line.person.presence === "busy"
+            visible: !!line.person && line.person.presence === "busy"
             anchors.centerIn: parent
             width: 6
             height: 2
             color: looks.colors["panel"]
         }
         Rectangle {
-            visible: line.person && line.person.presence === "away"
+            visible: !!line.person && line.person.presence === "away"
             x: 0
             y: 0
             width: 6

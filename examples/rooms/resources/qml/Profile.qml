@@ -64,7 +64,7 @@ Rectangle {
         }
         Text {
             width: parent.width
-            visible: text
+            visible: text !== ""
             wrapMode: Text.Wrap
             text: profile.person ? profile.person.about : ""
             textFormat: Text.PlainText
