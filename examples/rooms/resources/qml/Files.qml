@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick 2.15
-import QtQuick.Window 2.15
 import Rooms 1.0
 
 Rectangle {
@@ -95,7 +94,7 @@ Rectangle {
                 anchors.verticalCenter: parent.verticalCenter
                 width: 20
                 height: 20
-                sourceSize: Qt.size(20 * Screen.devicePixelRatio, 20 * Screen.devicePixelRatio)
+                sourceSize: Qt.size(40, 40) // Sharp on a screen of 200 %, too.
                 source: row.isHere ? "image://icons/" + page.iconOf(model.kind) + "/"
                                      + looks.colors["text-accent"] : ""
             }
