@@ -51,6 +51,13 @@ void ComposerField::keyPressEvent(QKeyEvent *event)
         OxaTextEdit::keyPressEvent(event);
 }
 
+void ComposerField::changeEvent(QEvent *event)
+{
+    OxaTextEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        colorPlaceholder(); // The style sheet sets it again with each sheet above.
+}
+
 void ComposerField::resizeEvent(QResizeEvent *event)
 {
     OxaTextEdit::resizeEvent(event);
@@ -74,13 +81,16 @@ void ComposerField::fitHeight()
                                                        : Qt::ScrollBarAlwaysOff);
     if (height != this->height())
         setFixedHeight(height);
+    ensureCursorVisible();
 }
 
 void ComposerField::colorPlaceholder()
 {
     QPalette colors = palette();
-    colors.setColor(QPalette::PlaceholderText,
-                    OxaThemeUtils::getColorSet("field-placeholder", this).normal);
+    const QColor color = OxaThemeUtils::getColorSet("field-placeholder", this).normal;
+    if (colors.color(QPalette::PlaceholderText) == color)
+        return;
+    colors.setColor(QPalette::PlaceholderText, color);
     setPalette(colors);
 }
 
@@ -92,7 +102,7 @@ Composer::Composer(Backend *backend, QWidget *parent)
     m_gif = Looks::makeIconButton(QStringLiteral("gif"), tr("GIF"), this);
     m_send = Looks::makeIconButton(QStringLiteral("send"), tr("Send"), this);
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(12, 4, 4, 4);
+    setLayoutContentsMargins(12, 4, 4, 4);
     row->setSpacing(4);
     row->addWidget(m_field, 1);
     for (OxaSvgPushButton *button : { m_emoji, m_gif, m_send })
@@ -151,6 +161,7 @@ void Composer::send()
     m_field->clear();
     m_sinceTyping.invalidate();
     m_backend->send(m_conversation, Message::Kind::Text, text);
+    Q_EMIT sent();
 }
 
 void Composer::pickEmoji()
@@ -170,6 +181,7 @@ void Composer::pickGif()
     PopupWidget *popup = Popups::show(m_gif, picker);
     connect(picker, &GifPicker::picked, this, [this, popup](const QString &name) {
         m_backend->send(m_conversation, Message::Kind::Gif, name);
+        Q_EMIT sent();
         popup->hide();
         m_field->setFocus(Qt::OtherFocusReason);
     });

@@ -24,6 +24,7 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void insertFromMimeData(const QMimeData *source) override;
 
@@ -49,6 +50,7 @@ public:
     ComposerField *field() const { return m_field; }
 
 Q_SIGNALS:
+    void sent();
     void filesDropped(const QStringList &names);
 
 private:

@@ -71,7 +71,7 @@ ConversationHeader::ConversationHeader(Backend *backend, PersonCards *cards, QWi
     });
 }
 
-void ConversationHeader::show(const QString &id, const QString &title, const QString &person)
+void ConversationHeader::setConversation(const QString &id, const QString &title, const QString &person)
 {
     m_person = person;
     m_title->setText(title);

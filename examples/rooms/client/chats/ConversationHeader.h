@@ -19,7 +19,7 @@ public:
     ConversationHeader(Backend *backend, PersonCards *cards, QWidget *parent);
 
     /// Shows the conversation \a id called \a title, with \a person or with several.
-    void show(const QString &id, const QString &title, const QString &person);
+    void setConversation(const QString &id, const QString &title, const QString &person);
 
 Q_SIGNALS:
     void callRequested();

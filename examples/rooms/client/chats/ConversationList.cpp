@@ -33,11 +33,12 @@ ConversationList::ConversationList(Backend *backend, QWidget *parent)
     setObjectName(QStringLiteral("conversationList"));
     setCSS(QStringLiteral("$backgroundColors: sidebar;"));
     setMinimumWidth(200);
+    QWidget *filters = makeFilters(); // Before the list, for Tab.
     makeList();
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(makeFilters());
+    column->addWidget(filters);
     column->addWidget(m_list, 1);
     m_empty = Looks::makeLabel(QString(), OxaFont::Token::BodySecondary,
                                QStringLiteral("text-secondary"), m_list);

@@ -44,6 +44,7 @@ ConversationView::ConversationView(Backend *backend, PersonCards *cards, QWidget
             [this] { m_list->setFocus(Qt::OtherFocusReason); });
     const auto sendHere = [this](const QStringList &names) { sendFiles(m_conversation, names); };
     connect(m_composer, &Composer::filesDropped, this, sendHere);
+    connect(m_composer, &Composer::sent, m_list, &MessageList::goToBottom);
     connect(new FileDrop(m_list->viewport()), &FileDrop::dropped, this, sendHere);
     connect(backend, &Backend::typing, this, &ConversationView::addTyping);
     connect(backend, &Backend::messageArrived, this,
@@ -87,7 +88,7 @@ void ConversationView::open(const QString &id)
     const ConversationModel *model = m_backend->conversations();
     const QModelIndex index = model->index(model->getRowIndex(id.toStdString()));
     const QString title = index.data(Role::TitleRole).toString();
-    m_header->show(id, title, index.data(Role::PersonRole).toString());
+    m_header->setConversation(id, title, index.data(Role::PersonRole).toString());
     m_header->setVisible(true);
     m_composer->setConversation(id, title);
     m_composer->show();
@@ -101,6 +102,8 @@ void ConversationView::sendFiles(const QString &conversation, const QStringList 
 {
     for (const QString &name : names)
         m_backend->send(conversation, Message::Kind::File, name);
+    if (conversation == m_conversation)
+        m_list->goToBottom();
 }
 
 void ConversationView::markRead()
@@ -140,7 +143,8 @@ void ConversationView::showTyping()
             it = m_typists.erase(it);
             continue;
         }
-        names += m_backend->person(it.key()).name;
+        // Isolated: a Hebrew name does not turn the sentence.
+        names += QStringLiteral("\u2068%1\u2069").arg(m_backend->person(it.key()).name);
         ++it;
     }
     QString text;

@@ -19,6 +19,18 @@ Qt::Alignment alignmentFor(const QPainter &painter, bool isCentred)
     return (isRightToLeft ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute;
 }
 
+/// The ellipsis of a text stands where the text ends, whatever the direction of the window.
+void paintText(QPainter *painter, const QString &text, const QRect &rect, const QFont &font,
+               const QColor &color, Qt::Alignment alignment)
+{
+    const Qt::LayoutDirection direction = painter->layoutDirection();
+    painter->setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    painter->setFont(font);
+    painter->setPen(color);
+    painter->drawText(rect, int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, text);
+    painter->setLayoutDirection(direction);
+}
+
 void paintDocument(QPainter *painter, QTextDocument *document, const QRect &rect,
                    const QColor &color)
 {
@@ -47,10 +59,7 @@ void EmojiLine::paint(QPainter *painter, const QRect &rect, const QString &text,
     const QString line = metrics.elidedText(start, isCentred ? Qt::ElideNone : Qt::ElideRight, room);
     const QString body = converter.convert(line.toHtmlEscaped());
     if (converter.svgFiles().isEmpty()) {
-        painter->setFont(font);
-        painter->setPen(color);
-        painter->drawText(rect, int(alignmentFor(*painter, isCentred) | Qt::AlignVCenter)
-                                  | Qt::TextSingleLine, line);
+        paintText(painter, line, rect, font, color, alignmentFor(*painter, isCentred));
         return;
     }
     QTextDocument document;

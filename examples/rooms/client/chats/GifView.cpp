@@ -11,15 +11,15 @@ namespace {
 
 constexpr int radius = 8;
 
-QPixmap rounded(const QPixmap &picture)
+QPixmap rounded(const QPixmap &picture, qreal pixelRatio)
 {
-    QPixmap result(picture.size());
-    result.setDevicePixelRatio(picture.devicePixelRatio());
+    QPixmap result(picture.size() * pixelRatio);
+    result.setDevicePixelRatio(pixelRatio);
     result.fill(Qt::transparent);
     QPainter painter(&result);
-    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     QPainterPath path;
-    path.addRoundedRect(QRectF(result.rect()), radius, radius);
+    path.addRoundedRect(QRectF(QPointF(), picture.size()), radius, radius);
     painter.setClipPath(path);
     painter.drawPixmap(0, 0, picture);
     return result;
@@ -32,6 +32,8 @@ GifView::GifView(const QString &name, QWidget *parent)
 {
     setFixedSize(movieSize());
     setAlignment(Qt::AlignCenter);
+    setFontToken(OxaFont::Token::RadioButtonLabelSecondary);
+    setWordWrap(true);
     setAccessibleName(tr("Moving picture: %1").arg(name));
     setToolTip(name);
     setCSS(QStringLiteral("$backgroundColors: placeholder-bar; $textColors: text-secondary; "
@@ -70,7 +72,7 @@ bool GifView::event(QEvent *event)
 void GifView::showFrame()
 {
     if (const QMovie *movie = m_provider.getMovie())
-        setPixmap(rounded(movie->currentPixmap()));
+        setPixmap(rounded(movie->currentPixmap(), devicePixelRatioF()));
 }
 
 void GifView::play(bool isPlaying)

@@ -12,7 +12,7 @@
 
 MessageBody::MessageBody(QWidget *parent) : QWidget(parent) { setMouseTracking(true); }
 
-void MessageBody::show(const QString &text, int width, const QColor &color)
+void MessageBody::setText(const QString &text, int width, const QColor &color)
 {
     m_color = color;
     const QColor link = OxaThemeUtils::getColorSet("button-hyperlink-text", this).normal;

@@ -13,7 +13,7 @@ public:
     explicit MessageBody(QWidget *parent);
 
     /// Shows \a text in \a color, broken at \a width.
-    void show(const QString &text, int width, const QColor &color);
+    void setText(const QString &text, int width, const QColor &color);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

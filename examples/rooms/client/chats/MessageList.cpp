@@ -183,13 +183,10 @@ void MessageList::appendNew()
         return;
     const int shown = m_heights->count();
     const int count = m_history->count() - m_first - shown;
-    bool isAnyOwn = false;
     for (int row = m_first + shown; row < m_history->count(); ++row) {
         const bool isOwn = m_history->at(row).author == m_backend->me();
-        isAnyOwn |= isOwn;
         m_unseen += isOwn || m_isAtBottom ? 0 : 1;
     }
-    m_isAtBottom |= isAnyOwn;
     changeRows([&] { insertRows(shown, count); });
     if (m_isAtBottom)
         m_unseen = 0;
@@ -327,9 +324,9 @@ void MessageList::fillRow(MessageRow *widget, int row)
 {
     const Message &message = m_history->at(m_first + row);
     const int width = RowLayout::contentWidth(viewport()->width());
-    widget->show(message, m_backend->person(message.author),
-                 RowLook::of(*m_history, m_first + row, m_backend->me()),
-                 contentSize(message, width), m_cards);
+    widget->setMessage(message, m_backend->person(message.author),
+                       RowLook::of(*m_history, m_first + row, m_backend->me()),
+                       contentSize(message, width), m_cards);
 }
 
 void MessageList::refreshRows()

@@ -32,11 +32,19 @@ QIcon pictureOf(const QString &emoji)
     return QIcon(QStringLiteral(":/emojis/%1.svg").arg(stem));
 }
 
+OxaMenu *makeMenu(QWidget *parent)
+{
+    auto *menu = new OxaMenu(parent);
+    menu->setFontToken(OxaFont::Token::BodySecondary);
+    menu->setCSS(UTContextMenuUtils::getContextMenuStyleSheet()
+                 + QStringLiteral("QMenu { border: 1px solid $(panel-border); }"));
+    return menu;
+}
+
 void addReactions(OxaMenu *menu, const MessageMenu::Actions &actions)
 {
-    auto *reactions = new OxaMenu(menu);
+    OxaMenu *reactions = makeMenu(menu);
     reactions->setTitle(tr("React"));
-    reactions->setCSS(UTContextMenuUtils::getContextMenuStyleSheet());
     const QStringList emojis = usualReactions();
     for (const QString &emoji : emojis) {
         QAction *action = reactions->addAction(emoji);
@@ -67,9 +75,8 @@ void addLinks(OxaMenu *menu, const QString &text)
 void MessageMenu::open(QWidget *parent, const Message &message, const QPoint &position,
                        const Actions &actions)
 {
-    auto *menu = new OxaMenu(parent);
+    OxaMenu *menu = makeMenu(parent);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->setCSS(UTContextMenuUtils::getContextMenuStyleSheet());
     QObject::connect(menu->addAction(tr("Copy")), &QAction::triggered, menu,
                      [text = message.text] { QGuiApplication::clipboard()->setText(text); });
     if (message.kind == Message::Kind::Text) {

@@ -9,6 +9,18 @@
 #include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaLabel.h>
 
+namespace {
+
+constexpr int bannerHeight = 36;
+
+QString newText(int count)
+{
+    return count == 1 ? MessagePane::tr("1 new message")
+                      : MessagePane::tr("%1 new messages").arg(QLocale().toString(count));
+}
+
+} // namespace
+
 MessagePane::MessagePane(MessageList *list, QWidget *parent)
     : OxaWidget(parent), m_list(list),
       m_banner(Looks::makeButton(QString(), Looks::Button::Accent, this)),
@@ -24,7 +36,7 @@ MessagePane::MessagePane(MessageList *list, QWidget *parent)
     m_banner->setSvgIcon(OxaSvgRenderer::resourcePath(QStringLiteral("arrow-down")));
     m_banner->setSvgIconPadding(QMargins(12, 0, 0, 0));
     m_banner->setTextLeftPadding(8);
-    m_banner->setCSS(Looks::buttonStyle(Looks::Button::Accent, 16));
+    m_banner->setCSS(Looks::buttonStyle(Looks::Button::Accent, bannerHeight / 2));
     m_loading->setAlignment(Qt::AlignCenter);
     m_loading->setCSS(QStringLiteral("$backgroundColors: toast; $textColors: toast-text; "
                                      "$borderRadius: 12;"));
@@ -78,7 +90,7 @@ void MessagePane::showBanner()
 {
     const int count = m_list->unseen();
     m_banner->setVisible(m_list->history() && !m_list->isAtBottom());
-    m_banner->setText(count > 0 ? tr("%n new message(s)", nullptr, count) : tr("Newest messages"));
+    m_banner->setText(count > 0 ? newText(count) : tr("Newest messages"));
     m_banner->setAccessibleName(m_banner->text());
     place();
 }
@@ -96,8 +108,8 @@ void MessagePane::place()
         const int width = qMin(size.width(), this->width() - 32);
         widget->setGeometry((this->width() - width) / 2, y, width, size.height());
     };
-    const QSize banner = m_banner->sizeHint().expandedTo({ 0, 32 });
-    centre(m_banner, banner, height() - banner.height() - 12);
+    centre(m_banner, { m_banner->sizeHint().width(), bannerHeight },
+           height() - bannerHeight - 12);
     centre(m_retry, m_retry->sizeHint().expandedTo({ 0, 32 }), 12);
     centre(m_loading, m_loading->sizeHint() + QSize(24, 8), 8);
     centre(m_empty, { 320, 80 }, qMax(0, height() / 2 - 40));

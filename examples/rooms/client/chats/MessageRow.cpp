@@ -24,8 +24,8 @@ constexpr int bubbleRadius = 10;
 
 MessageRow::MessageRow(QWidget *parent) : OxaWidget(parent) { }
 
-void MessageRow::show(const Message &message, const Person &author, const RowLook &look,
-                      const QSize &size, PersonCards *cards)
+void MessageRow::setMessage(const Message &message, const Person &author, const RowLook &look,
+                            const QSize &size, PersonCards *cards)
 {
     const bool isOtherContent = message.kind != m_message.kind || message.text != m_message.text;
     m_message = message;
@@ -40,8 +40,10 @@ void MessageRow::show(const Message &message, const Person &author, const RowLoo
         m_reactions = new ReactionBar(this);
         connect(m_reactions, &ReactionBar::toggled, this, &MessageRow::reactionToggled);
     }
-    if (m_reactions)
-        m_reactions->show(message.reactions);
+    if (m_reactions) {
+        m_reactions->setReactions(message.reactions);
+        m_reactions->setVisible(!message.reactions.isEmpty());
+    }
     setToolTip(QLocale().toString(message.at.toLocalTime(), QLocale::LongFormat));
     place();
 }
@@ -52,7 +54,7 @@ void MessageRow::showContent()
         if (!m_body)
             m_body = new MessageBody(this);
         const char *set = m_look.isOwn ? "bubble-own-text" : "bubble-other-text";
-        m_body->show(m_message.text, m_size.width(), OxaThemeUtils::getColorSet(set, this).normal);
+        m_body->setText(m_message.text, m_size.width(), OxaThemeUtils::getColorSet(set, this).normal);
     } else if (!m_content && m_message.kind == Message::Kind::Gif) {
         m_content = new GifView(m_message.text, this);
     } else if (!m_content) {

@@ -23,8 +23,8 @@ public:
     explicit MessageRow(QWidget *parent);
 
     /// Shows \a message by \a author, whose content has \a size.
-    void show(const Message &message, const Person &author, const RowLook &look,
-              const QSize &size, PersonCards *cards);
+    void setMessage(const Message &message, const Person &author, const RowLook &look,
+                    const QSize &size, PersonCards *cards);
 
 Q_SIGNALS:
     void reactionToggled(const QString &emoji);

@@ -29,7 +29,7 @@ QSize ReactionBar::room(int count, int width)
              rows * (chip.height() + gap) - gap };
 }
 
-void ReactionBar::show(const QVector<Reaction> &reactions)
+void ReactionBar::setReactions(const QVector<Reaction> &reactions)
 {
     m_reactions = reactions;
     qDeleteAll(findChildren<OxaEmojiPushButton *>());

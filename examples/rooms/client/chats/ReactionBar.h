@@ -16,7 +16,7 @@ public:
     /// The room that \a count reactions take where there is \a width.
     static QSize room(int count, int width);
 
-    void show(const QVector<Reaction> &reactions);
+    void setReactions(const QVector<Reaction> &reactions);
 
 Q_SIGNALS:
     void toggled(const QString &emoji);

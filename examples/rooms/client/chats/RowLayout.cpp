@@ -12,7 +12,7 @@ constexpr int side = 16;
 constexpr int widest = 640;
 constexpr int indent = side + RowLayout::avatarSize + 12;
 constexpr int groupGap = 12;
-constexpr int rowGap = 2;
+constexpr int rowGap = 3;
 constexpr int groupMinutes = 5;
 
 int lineHeight() { return FontUtils::fontMetrics(OxaFont::Token::BodyTertiary).height(); }

@@ -14,7 +14,9 @@ bool isThisYear(const QDate &day) { return day.year() == QDate::currentDate().ye
 
 QString TimeTexts::time(const QDateTime &at)
 {
-    return QLocale().toString(at.toLocalTime().time(), QLocale::ShortFormat);
+    // Some locales have seconds in their short times.
+    const QString format = QLocale().timeFormat(QLocale::ShortFormat);
+    return QLocale().toString(at.toLocalTime().time(), QString(format).remove(QLatin1String(":ss")));
 }
 
 QString TimeTexts::day(const QDate &day)
