@@ -123,7 +123,8 @@ OxaMenu *Looks::makeMenu(QWidget *parent)
 {
     auto *menu = new OxaMenu(parent);
     menu->setFontToken(OxaFont::Token::BodySecondary);
-    menu->setCSS(UTContextMenuUtils::getContextMenuStyleSheet());
+    menu->setCSS(UTContextMenuUtils::getContextMenuStyleSheet()
+                 + QStringLiteral("QMenu { border: 1px solid $(panel-border); }"));
     return menu;
 }
 

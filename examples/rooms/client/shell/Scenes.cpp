@@ -22,12 +22,12 @@
 
 namespace {
 
-/// Runs the event loop until \a condition is true; false if that takes over ten seconds.
+/// Runs the event loop until \a condition is true; false if that takes over half a minute.
 bool waitFor(const std::function<bool()> &condition)
 {
     QElapsedTimer timer;
     timer.start();
-    while (!condition() && timer.elapsed() < 10000)
+    while (!condition() && timer.elapsed() < 30000)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 50);
     return condition();
 }
