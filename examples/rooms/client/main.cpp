@@ -6,6 +6,8 @@
 #include "shell/ServerProcess.h"
 
 #include <QCommandLineParser>
+#include <QDir>
+#include <QResource>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -29,6 +31,7 @@ void addOptions(QCommandLineParser &parser)
     parser.addOption({ QStringLiteral("right-to-left"), QStringLiteral("Mirror the windows.") });
     add("font-scale", "Show all text at PERCENT, 50 to 150.", "PERCENT");
     add("screenshots", "Take pictures of ten scenes into DIR, and end.", "DIR");
+    add("artwork", "Draw emoji from the file emojis.rcc in DIR, which ./dev artwork fetches.", "DIR");
     add("seed", "Make the conversations from NUMBER.", "NUMBER");
     add("rate", "Let so many messages arrive in a second.", "NUMBER");
     add("mailbox", "Show the mails of the mbox FILE as conversations.", "FILE");
@@ -82,6 +85,11 @@ int main(int argc, char **argv)
     addOptions(parser);
     parser.process(application);
 
+    if (parser.isSet(QStringLiteral("artwork"))) {
+        const QDir artwork(parser.value(QStringLiteral("artwork")));
+        if (!QResource::registerResource(artwork.filePath(QStringLiteral("emojis.rcc"))))
+            qWarning("There is no artwork in %s", qUtf8Printable(artwork.path()));
+    }
     const QString folder = folderOf(parser);
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
     application.apply(settingsOf(parser), true);

@@ -13,7 +13,9 @@
 #include <QVBoxLayout>
 
 ChatsPage::ChatsPage(Backend *backend, PersonCards *cards, QWidget *parent)
-    : OxaWidget(parent), m_backend(backend), m_list(new ConversationList(backend)),
+    : OxaWidget(parent),
+      m_backend(backend),
+      m_list(new ConversationList(backend)),
       m_view(new ConversationView(backend, cards, nullptr))
 {
     RoomsApplication *application = RoomsApplication::get();

@@ -71,7 +71,8 @@ ConversationHeader::ConversationHeader(Backend *backend, PersonCards *cards, QWi
     });
 }
 
-void ConversationHeader::setConversation(const QString &id, const QString &title, const QString &person)
+void ConversationHeader::setConversation(const QString &id, const QString &title,
+                                         const QString &person)
 {
     m_person = person;
     m_title->setText(title);

@@ -27,7 +27,9 @@ constexpr int chooseMs = 120; ///< Arrow keys that are held down open only the l
 } // namespace
 
 ConversationList::ConversationList(Backend *backend, QWidget *parent)
-    : OxaWidget(parent), m_backend(backend), m_proxy(new ConversationProxy(this)),
+    : OxaWidget(parent),
+      m_backend(backend),
+      m_proxy(new ConversationProxy(this)),
       m_delegate(new ConversationDelegate(backend, this))
 {
     setObjectName(QStringLiteral("conversationList"));
@@ -100,11 +102,10 @@ void ConversationList::makeList()
     m_list->viewport()->setAttribute(Qt::WA_Hover);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this] {
-                if (m_list->hasFocus()) // Filters move the current row, too.
-                    m_chooseSoon.start(chooseMs);
-            });
+    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
+        if (m_list->hasFocus()) // Filters move the current row, too.
+            m_chooseSoon.start(chooseMs);
+    });
     connect(m_list, &QListView::clicked, this, &ConversationList::choose);
     connect(m_list, &QListView::activated, this, &ConversationList::choose);
     auto *drop = new FileDrop(m_list->viewport());

@@ -5,10 +5,7 @@
 
 using Role = ConversationModel::Role;
 
-ConversationProxy::ConversationProxy(QObject *parent) : QSortFilterProxyModel(parent)
-{
-    sort(0);
-}
+ConversationProxy::ConversationProxy(QObject *parent) : QSortFilterProxyModel(parent) { sort(0); }
 
 void ConversationProxy::setSearch(const QString &text)
 {

@@ -17,7 +17,8 @@ public:
     /// Shows only conversations with unread messages.
     void setUnreadOnly(bool isUnreadOnly);
 
-    /// Keeps the conversation \a id where it is, although it is read now, until another one is kept.
+    /// Keeps the conversation \a id where it is, although it is read now, until another one is
+    /// kept.
     void keep(const QString &id);
 
     /// The index of the conversation \a id, which is not valid if that is not shown.

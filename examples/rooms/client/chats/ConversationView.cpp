@@ -108,7 +108,8 @@ void ConversationView::sendFiles(const QString &conversation, const QStringList 
 
 void ConversationView::markRead()
 {
-    const bool isSeen = isVisible() && isActiveWindow() && m_list->history() && m_list->isAtBottom();
+    const bool isSeen = isVisible() && isActiveWindow() && m_list->history()
+            && m_list->isAtBottom();
     if (isSeen && m_list->history()->count() > 0)
         m_backend->markRead(m_conversation);
 }

@@ -56,7 +56,8 @@ void EmojiLine::paint(QPainter *painter, const QRect &rect, const QString &text,
     converter.convert(start);
     // The font's emoji may be narrower than the pictures.
     const int room = rect.width() - (isCentred ? 0 : 4 * converter.svgFiles().size());
-    const QString line = metrics.elidedText(start, isCentred ? Qt::ElideNone : Qt::ElideRight, room);
+    const QString line = metrics.elidedText(start, isCentred ? Qt::ElideNone : Qt::ElideRight,
+                                            room);
     const QString body = converter.convert(line.toHtmlEscaped());
     if (converter.svgFiles().isEmpty()) {
         paintText(painter, line, rect, font, color, alignmentFor(*painter, isCentred));

@@ -11,7 +11,8 @@ class QPainter;
 /// One elided line with emoji from artwork, for delegates.
 namespace EmojiLine {
 
-/// Paints \a text into \a rect, from where lines begin in the painter's direction, or in the middle.
+/// Paints \a text into \a rect, from where lines begin in the painter's direction, or in the
+/// middle.
 void paint(QPainter *painter, const QRect &rect, const QString &text, const QFont &font,
            const QColor &color, bool isCentred = false);
 

@@ -56,7 +56,8 @@ public:
 } // namespace
 
 EmojiPicker::EmojiPicker(QWidget *parent)
-    : OxaWidget(parent), m_emojis(new QStandardItemModel(this)),
+    : OxaWidget(parent),
+      m_emojis(new QStandardItemModel(this)),
       m_found(new QSortFilterProxyModel(this))
 {
     setAccessibleName(tr("Emoji"));
@@ -118,9 +119,7 @@ void EmojiPicker::makeGrid()
     m_grid->viewport()->setAttribute(Qt::WA_Hover);
     m_grid->setItemDelegate(new EmojiDelegate(m_grid));
     m_grid->setModel(m_found);
-    const auto pick = [this](const QModelIndex &index) {
-        Q_EMIT picked(index.data().toString());
-    };
+    const auto pick = [this](const QModelIndex &index) { Q_EMIT picked(index.data().toString()); };
     connect(m_grid, &QListView::clicked, this, pick);
     connect(m_grid, &QListView::activated, this, pick);
 }

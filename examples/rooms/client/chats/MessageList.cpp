@@ -16,34 +16,25 @@
 
 namespace {
 
-constexpr int firstRows = 60;
-constexpr int moreRows = 200;
-constexpr int appendMs = 100;
 constexpr int sliceMs = 5;
 constexpr int slicesPerLayout = 60; ///< Laying out 100,000 rows takes as long as a slice or two.
-constexpr int screenMargin = 10;    ///< Rows around those on screen that are measured with them.
-
-/// A row without a value of its own: 100,000 of them take little room.
-class MessageItem : public QListWidgetItem
-{
-public:
-    QVariant data(int role) const override
-    {
-        const auto *list = static_cast<const MessageList *>(listWidget());
-        if (role == Qt::AccessibleTextRole && list)
-            return list->accessibleText(list->row(this));
-        return {};
-    }
-};
 
 } // namespace
 
 MessageList::MessageList(Backend *backend, PersonCards *cards, QWidget *parent)
-    : OxaListWidget(parent), m_backend(backend), m_cards(cards),
-      m_heights(new RowHeights([this](int row) { return heightOf(row); }, this))
+    : OxaListWidget(parent),
+      m_backend(backend),
+      m_cards(cards),
+      m_heights(new RowHeights(
+              [this](int row) {
+                  const QSize content = contentSize(m_history->at(m_first + row));
+                  return RowHeights::Size { layoutOf(row, content).height, content };
+              },
+              this))
 {
     setAccessibleName(tr("Messages"));
-    setCSS(QStringLiteral("OxaListWidget { background: transparent; border: none; outline: none; }"));
+    setCSS(QStringLiteral(
+            "OxaListWidget { background: transparent; border: none; outline: none; }"));
     setItemDelegate(m_heights);
     setSelectionMode(NoSelection);
     setVerticalScrollMode(ScrollPerPixel);
@@ -61,44 +52,14 @@ MessageList::MessageList(Backend *backend, PersonCards *cards, QWidget *parent)
     connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, this,
             &MessageList::measureAll);
 
+    m_measureSoon.setInterval(sliceMs);
     m_appendSoon.setSingleShot(true);
     m_settleSoon.setSingleShot(true);
     m_loadSoon.setSingleShot(true);
     connect(&m_appendSoon, &QTimer::timeout, this, &MessageList::appendNew);
-    connect(&m_settleSoon, &QTimer::timeout, this, [this] { changeRows([] { }); });
+    connect(&m_settleSoon, &QTimer::timeout, this, [this] { changeRows([] {}); });
     connect(&m_loadSoon, &QTimer::timeout, this, &MessageList::loadMore);
     connect(&m_measureSoon, &QTimer::timeout, this, &MessageList::measureRest);
-}
-
-void MessageList::setHistory(History *history)
-{
-    if (m_history)
-        m_history->disconnect(this);
-    m_appendSoon.stop();
-    m_heights->clear();
-    clear();
-    m_history = history;
-    m_first = 0;
-    m_unseen = 0;
-    m_isAtBottom = true;
-    connect(history, &History::inserted, this, &MessageList::insertMessages);
-    connect(history, &History::removed, this, &MessageList::removeMessages);
-    connect(history, &History::changed, this, &MessageList::changeMessage);
-    connect(history, &History::dayReached, this, &MessageList::goTo);
-    showFirst();
-    Q_EMIT placeChanged();
-}
-
-/// Shows the newest messages; or if some are unread, those that begin there.
-void MessageList::showFirst()
-{
-    m_first = m_history->count();
-    const int unread = m_history->rowOf(m_history->firstUnread());
-    showMore(firstRows);
-    if (unread >= 0 && m_history->firstUnread() >= 0) {
-        m_unseen = m_history->count() - unread;
-        goTo(unread);
-    }
 }
 
 void MessageList::goToBottom()
@@ -112,7 +73,7 @@ void MessageList::goToBottom()
 void MessageList::goTo(int row)
 {
     if (row < m_first + screenMargin)
-        showMore(m_first - row + firstRows);
+        showMore(m_first - row + 2 * screenMargin);
     const Place place { model()->index(row - m_first, 0), 0 };
     m_isAtBottom = false;
     beginInsert();
@@ -127,94 +88,8 @@ QString MessageList::accessibleText(int row) const
     if (!m_history || row < 0 || at >= m_history->count())
         return {};
     const Message &message = m_history->at(at);
-    return tr("%1, %2: %3").arg(m_backend->person(message.author).name, TimeTexts::time(message.at),
-                                message.text);
-}
-
-void MessageList::insertMessages(int first, int count)
-{
-    if (m_heights->count() == 0) {
-        showFirst();
-        Q_EMIT placeChanged();
-    } else if (first == 0 || first < m_first) {
-        m_first += count;
-        followScrollBar(); // The user may be waiting for them at the top.
-    } else if (first >= m_first + m_heights->count()) {
-        if (!m_appendSoon.isActive())
-            m_appendSoon.start(appendMs);
-    } else {
-        changeRows([&] { insertRows(first - m_first, count); });
-    }
-}
-
-void MessageList::removeMessages(int first, int count)
-{
-    const int hidden = qBound(0, m_first - first, count);
-    const int row = qMax(0, first - m_first);
-    const int shown = qMin(count - hidden, m_heights->count() - row);
-    m_first -= hidden;
-    if (shown <= 0)
-        return; // Those have not been put in yet.
-    changeRows([&] {
-        m_heights->remove(row, shown);
-        model()->removeRows(row, shown);
-        if (row < m_heights->count())
-            m_heights->forget(row); // It follows another one.
-    });
-    refreshRows();
-}
-
-void MessageList::changeMessage(int row)
-{
-    const int shown = row - m_first;
-    if (shown < 0 || shown >= m_heights->count())
-        return;
-    m_heights->forget(shown);
-    if (auto *widget = qobject_cast<MessageRow *>(itemWidget(item(shown))))
-        fillRow(widget, shown);
-    m_settleSoon.start(0);
-}
-
-/// Puts in what has come at the end, all at once: a layout takes time for all rows.
-void MessageList::appendNew()
-{
-    m_appendSoon.stop();
-    if (!m_history)
-        return;
-    const int shown = m_heights->count();
-    const int count = m_history->count() - m_first - shown;
-    for (int row = m_first + shown; row < m_history->count(); ++row) {
-        const bool isOwn = m_history->at(row).author == m_backend->me();
-        m_unseen += isOwn || m_isAtBottom ? 0 : 1;
-    }
-    changeRows([&] { insertRows(shown, count); });
-    if (m_isAtBottom)
-        m_unseen = 0;
-    Q_EMIT placeChanged();
-}
-
-/// Shows \a count more of the earlier messages that the history has.
-void MessageList::showMore(int count)
-{
-    count = qMin(count, m_first);
-    if (count <= 0)
-        return;
-    changeRows([&] {
-        m_first -= count;
-        insertRows(0, count);
-    });
-    refreshRows();
-    m_measureSoon.start(sliceMs);
-}
-
-void MessageList::loadMore()
-{
-    if (!m_history || verticalScrollBar()->value() > 2 * viewport()->height())
-        return;
-    if (m_first > 0)
-        showMore(moreRows);
-    else
-        m_history->loadEarlier();
+    return tr("%1, %2: %3")
+            .arg(m_backend->person(message.author).name, TimeTexts::time(message.at), message.text);
 }
 
 MessageList::Place MessageList::place() const
@@ -255,15 +130,6 @@ void MessageList::settle(const Place &place)
     m_isChanging = false;
 }
 
-void MessageList::insertRows(int first, int count)
-{
-    m_heights->insert(first, count);
-    for (int row = first; row < first + count; ++row)
-        insertItem(row, new MessageItem);
-    if (first + count < m_heights->count())
-        m_heights->forget(first + count); // It follows another one.
-}
-
 void MessageList::followScrollBar()
 {
     if (m_isChanging)
@@ -285,7 +151,7 @@ void MessageList::measureRest()
     const bool isMore = m_heights->measureFor(sliceMs, rowsOnScreen().first);
     if (isMore && ++m_slices % slicesPerLayout != 0)
         return;
-    changeRows([] { });
+    changeRows([] {});
     if (!isMore)
         m_measureSoon.stop();
 }
@@ -301,7 +167,7 @@ void MessageList::measureAll()
         m_heights->measure(first - screenMargin, last - first + 2 * screenMargin);
     });
     refreshRows();
-    m_measureSoon.start(sliceMs);
+    m_measureSoon.start();
 }
 
 void MessageList::makeRow(QListWidgetItem *item)
@@ -323,32 +189,34 @@ void MessageList::makeRow(QListWidgetItem *item)
 void MessageList::fillRow(MessageRow *widget, int row)
 {
     const Message &message = m_history->at(m_first + row);
-    const int width = RowLayout::contentWidth(viewport()->width());
     widget->setMessage(message, m_backend->person(message.author),
                        RowLook::of(*m_history, m_first + row, m_backend->me()),
-                       contentSize(message, width), m_cards);
+                       m_heights->contentSize(row), m_cards);
+}
+
+void MessageList::refreshRow(int row)
+{
+    if (auto *widget = qobject_cast<MessageRow *>(itemWidget(item(row))))
+        fillRow(widget, row);
 }
 
 void MessageList::refreshRows()
 {
     const auto [first, last] = rowsOnScreen();
-    for (int row = qMax(0, first - screenMargin); row <= last + screenMargin && row < count(); ++row) {
-        if (auto *widget = qobject_cast<MessageRow *>(itemWidget(item(row))))
-            fillRow(widget, row);
-    }
+    const int end = qMin(last + screenMargin, count() - 1);
+    for (int row = qMax(0, first - screenMargin); row <= end; ++row)
+        refreshRow(row);
 }
 
-int MessageList::heightOf(int row)
+RowLayout MessageList::layoutOf(int row, const QSize &content) const
 {
-    const Message &message = m_history->at(m_first + row);
-    const int width = viewport()->width();
-    return RowLayout::of(RowLook::of(*m_history, m_first + row, m_backend->me()), message,
-                         contentSize(message, RowLayout::contentWidth(width)), width)
-            .height;
+    return RowLayout::of(RowLook::of(*m_history, m_first + row, m_backend->me()),
+                         m_history->at(m_first + row), content, viewport()->width());
 }
 
-QSize MessageList::contentSize(const Message &message, int width)
+QSize MessageList::contentSize(const Message &message)
 {
+    const int width = RowLayout::contentWidth(viewport()->width());
     if (message.kind == Message::Kind::Gif)
         return GifView::movieSize();
     if (message.kind == Message::Kind::Text)

@@ -59,6 +59,8 @@ protected Q_SLOTS:
     void onThemeChanged() override;
 
 private:
+    static constexpr int screenMargin = 10; ///< Rows measured before and after those on screen.
+
     struct Place
     {
         QPersistentModelIndex row;
@@ -77,6 +79,7 @@ private:
     void changeRows(const std::function<void()> &change);
     void settle(const Place &place);
     void insertRows(int first, int count);
+    void followAnother(int row);
     void followScrollBar();
     void measureRest();
     void measureAll();
@@ -84,8 +87,9 @@ private:
     void makeRow(QListWidgetItem *item);
     void fillRow(MessageRow *widget, int row);
     void refreshRows();
-    int heightOf(int row);
-    QSize contentSize(const Message &message, int width);
+    void refreshRow(int row);
+    RowLayout layoutOf(int row, const QSize &content) const;
+    QSize contentSize(const Message &message);
     std::pair<int, int> rowsOnScreen() const;
 
     Backend *const m_backend;

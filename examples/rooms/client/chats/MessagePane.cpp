@@ -22,7 +22,8 @@ QString newText(int count)
 } // namespace
 
 MessagePane::MessagePane(MessageList *list, QWidget *parent)
-    : OxaWidget(parent), m_list(list),
+    : OxaWidget(parent),
+      m_list(list),
       m_banner(Looks::makeButton(QString(), Looks::Button::Accent, this)),
       m_retry(Looks::makeButton(tr("Messages could not be loaded. Try again"),
                                 Looks::Button::Outline, this)),
@@ -108,8 +109,7 @@ void MessagePane::place()
         const int width = qMin(size.width(), this->width() - 32);
         widget->setGeometry((this->width() - width) / 2, y, width, size.height());
     };
-    centre(m_banner, { m_banner->sizeHint().width(), bannerHeight },
-           height() - bannerHeight - 12);
+    centre(m_banner, { m_banner->sizeHint().width(), bannerHeight }, height() - bannerHeight - 12);
     centre(m_retry, m_retry->sizeHint().expandedTo({ 0, 32 }), 12);
     centre(m_loading, m_loading->sizeHint() + QSize(24, 8), 8);
     centre(m_empty, { 320, 80 }, qMax(0, height() / 2 - 40));

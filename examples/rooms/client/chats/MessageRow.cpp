@@ -54,7 +54,8 @@ void MessageRow::showContent()
         if (!m_body)
             m_body = new MessageBody(this);
         const char *set = m_look.isOwn ? "bubble-own-text" : "bubble-other-text";
-        m_body->setText(m_message.text, m_size.width(), OxaThemeUtils::getColorSet(set, this).normal);
+        m_body->setText(m_message.text, m_size.width(),
+                        OxaThemeUtils::getColorSet(set, this).normal);
     } else if (!m_content && m_message.kind == Message::Kind::Gif) {
         m_content = new GifView(m_message.text, this);
     } else if (!m_content) {
@@ -97,9 +98,9 @@ void MessageRow::showFailure()
         m_retry = Looks::makeButton(tr("Not sent. Try again"), Looks::Button::Quiet, this);
         m_retry->setFontToken(OxaFont::Token::BodyTertiary);
         m_retry->setMinimumHeight(0);
-        m_retry->setCSS(Looks::buttonStyle(Looks::Button::Quiet)
-                                .replace(QLatin1String("quiet-button-text"),
-                                         QLatin1String("field-error")));
+        m_retry->setCSS(
+                Looks::buttonStyle(Looks::Button::Quiet)
+                        .replace(QLatin1String("quiet-button-text"), QLatin1String("field-error")));
         connect(m_retry, &OxaSvgPushButton::clicked, this, &MessageRow::retryRequested);
     }
     if (m_retry)
@@ -138,8 +139,9 @@ void MessageRow::paintEvent(QPaintEvent *)
         paintLine(&painter, m_layout.unread, tr("New messages"), "unread-line");
     if (m_message.kind == Message::Kind::Text) {
         painter.setPen(OxaThemeUtils::getColorSet("bubble-border", this).normal);
-        painter.setBrush(OxaThemeUtils::getColorSet(m_look.isOwn ? "bubble-own" : "bubble-other",
-                                                    this).normal);
+        painter.setBrush(
+                OxaThemeUtils::getColorSet(m_look.isOwn ? "bubble-own" : "bubble-other", this)
+                        .normal);
         painter.setOpacity(m_message.state == Message::State::Waiting ? 0.6 : 1);
         painter.drawRoundedRect(QRectF(mirrored(m_layout.bubble)).adjusted(0.5, 0.5, -0.5, -0.5),
                                 bubbleRadius, bubbleRadius);

@@ -5,8 +5,8 @@
 #include <QTextDocument>
 #include <QUrl>
 
-/// The text of a message as it is shown: with emoji from artwork and with links. Strangers wrote it:
-/// nothing in it is markup, and its length is bounded.
+/// The text of a message as it is shown: with emoji from artwork and with links. Strangers wrote
+/// it: nothing in it is markup, and its length is bounded.
 namespace MessageText {
 
 /// The font of messages, at the size that the user has chosen.

@@ -23,14 +23,17 @@ ReactionBar::ReactionBar(QWidget *parent) : OxaWidget(parent) { }
 QSize ReactionBar::room(int count, int width)
 {
     const QSize chip = chipSize();
-    const int inRow = qMax(1, (width + gap) / (chip.width() + gap));
+    // The layout wraps an item that just fits, so it gets a pixel more.
+    const int inRow = qMax(1, (width - 1 + gap) / (chip.width() + gap));
     const int rows = (count + inRow - 1) / inRow;
-    return { qMin(count, inRow) * (chip.width() + gap) - gap,
+    return { qMin(count, inRow) * (chip.width() + gap) - gap + 1,
              rows * (chip.height() + gap) - gap };
 }
 
 void ReactionBar::setReactions(const QVector<Reaction> &reactions)
 {
+    if (reactions == m_reactions)
+        return;
     m_reactions = reactions;
     qDeleteAll(findChildren<OxaEmojiPushButton *>());
     delete layout();
@@ -52,8 +55,9 @@ void ReactionBar::addChip(const Reaction &reaction)
                                         : QStringLiteral("reaction");
     chip->setCSS(QStringLiteral("$backgroundColors: %1; $borderColors: %1-border; $textColors: %2; "
                                 "$borders: all; $borderWidth: 1; $borderRadius: %3;")
-                         .arg(set, reaction.isMine ? QStringLiteral("reaction-mine-text")
-                                                   : QStringLiteral("text-primary"))
+                         .arg(set,
+                              reaction.isMine ? QStringLiteral("reaction-mine-text")
+                                              : QStringLiteral("text-primary"))
                          .arg(chipSize().height() / 2));
     chip->setText(QStringLiteral("%1 %2").arg(reaction.emoji, QLocale().toString(reaction.count)));
     chip->setToolTip(reaction.isMine ? tr("Take your reaction back") : tr("React like this"));

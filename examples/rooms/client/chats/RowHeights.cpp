@@ -26,21 +26,21 @@ void RowHeights::insert(int first, int count)
 void RowHeights::remove(int first, int count)
 {
     for (int row = first; row < first + count; ++row)
-        m_unknown -= m_rows[size_t(row)].measured < 0 ? 1 : 0;
+        m_unknown -= m_rows[size_t(row)].measured.height < 0 ? 1 : 0;
     m_rows.erase(m_rows.begin() + first, m_rows.begin() + first + count);
 }
 
 void RowHeights::forget(int row)
 {
-    int &measured = m_rows[size_t(row)].measured;
-    m_unknown += measured < 0 ? 0 : 1;
-    measured = -1;
+    Size &measured = m_rows[size_t(row)].measured;
+    m_unknown += measured.height < 0 ? 0 : 1;
+    measured = {};
 }
 
 void RowHeights::forgetAll()
 {
     for (Row &row : m_rows)
-        row.measured = -1;
+        row.measured = {};
     m_unknown = count();
 }
 
@@ -67,18 +67,24 @@ bool RowHeights::measureFor(int ms, int row)
 bool RowHeights::measureRow(int row)
 {
     Row &entry = m_rows[size_t(row)];
-    if (entry.measured < 0) {
+    if (entry.measured.height < 0) {
         entry.measured = m_measure(row);
         --m_unknown;
     }
-    return entry.measured != entry.height;
+    return entry.measured.height != entry.height;
+}
+
+QSize RowHeights::contentSize(int row)
+{
+    measureRow(row);
+    return m_rows[size_t(row)].measured.content;
 }
 
 void RowHeights::take()
 {
     for (Row &row : m_rows) {
-        if (row.measured >= 0)
-            row.height = row.measured;
+        if (row.measured.height >= 0)
+            row.height = row.measured.height;
     }
 }
 

@@ -14,7 +14,13 @@ class RowHeights : public QStyledItemDelegate
     Q_OBJECT
 
 public:
-    using Measure = std::function<int(int row)>;
+    /// How large a row is, and its content.
+    struct Size
+    {
+        int height = -1;
+        QSize content;
+    };
+    using Measure = std::function<Size(int row)>;
 
     RowHeights(Measure measure, QObject *parent);
 
@@ -38,7 +44,8 @@ public:
     /// Makes what was measured count. Rows have to be laid out after that.
     void take();
 
-    bool hasUnknown() const { return m_unknown > 0; }
+    /// The size of the content of \a row, which is measured for that if it is not known.
+    QSize contentSize(int row);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
@@ -48,7 +55,7 @@ private:
     struct Row
     {
         int height = 40;
-        int measured = -1;
+        Size measured;
     };
 
     bool measureRow(int row);

@@ -70,7 +70,8 @@ RowLayout RowLayout::of(const RowLook &look, const Message &message, const QSize
     if (!message.reactions.isEmpty()) {
         const int most = contentWidth(width) + 2 * padding;
         const QSize room = ReactionBar::room(message.reactions.size(), most);
-        row.reactions = QRect(QPoint(look.isOwn ? width - side - room.width() : indent, y + 4), room);
+        row.reactions = QRect(QPoint(look.isOwn ? width - side - room.width() : indent, y + 4),
+                              room);
         y += 4 + room.height();
     }
     if (message.state == Message::State::Failed) {

@@ -10,7 +10,7 @@ class History;
 /// What a message's row shows beside the message: that depends on its neighbours.
 struct RowLook
 {
-    bool hasDay = false;       ///< It is the first of its day.
+    bool hasDay = false; ///< It is the first of its day.
     bool isFirstUnread = false;
     bool isGroupStart = false; ///< It shows who wrote it and when.
     bool isOwn = false;

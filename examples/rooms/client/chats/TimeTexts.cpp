@@ -16,7 +16,8 @@ QString TimeTexts::time(const QDateTime &at)
 {
     // Some locales have seconds in their short times.
     const QString format = QLocale().timeFormat(QLocale::ShortFormat);
-    return QLocale().toString(at.toLocalTime().time(), QString(format).remove(QLatin1String(":ss")));
+    return QLocale().toString(at.toLocalTime().time(),
+                              QString(format).remove(QLatin1String(":ss")));
 }
 
 QString TimeTexts::day(const QDate &day)
