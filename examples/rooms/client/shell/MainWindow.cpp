@@ -65,6 +65,7 @@ MainWindow::MainWindow(Backend *backend, QWidget *parent)
     });
     connectShortcuts();
     showConnection();
+    m_chats->focusSearch();
 }
 
 void MainWindow::showPage(Page page) { m_tabs->setCurrentIndex(page); }

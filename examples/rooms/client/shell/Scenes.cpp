@@ -157,16 +157,25 @@ bool Scenes::take(const Scene &scene)
     return isWritten;
 }
 
-/// The server's first conversation is its longest.
+/// Opens the newest of those that are unread, or the server's first, which is its longest.
 bool Scenes::showConversation(bool isLong)
 {
     const ConversationModel *model = m_backend->conversations();
-    const QModelIndex index = model->index(isLong ? 0 : qMin(3, model->rowCount() - 1), 0);
+    QModelIndex chosen = model->index(0, 0);
+    qint64 newest = 0;
+    for (int row = 1; row < model->rowCount() && !isLong; ++row) {
+        const QModelIndex index = model->index(row, 0);
+        const qint64 at = index.data(ConversationModel::ActivityRole).toLongLong();
+        if (at <= newest || index.data(ConversationModel::UnreadRole).toInt() == 0)
+            continue;
+        newest = at;
+        chosen = index;
+    }
     m_window->showPage(MainWindow::Chats);
-    m_window->chats()->openConversation(index.data(ConversationModel::IdRole).toString());
+    m_window->chats()->openConversation(chosen.data(ConversationModel::IdRole).toString());
     Q_EMIT OxaAppSignals::get()->focusMainInputBox();
     settle(1000);
-    return index.isValid();
+    return chosen.isValid();
 }
 
 bool Scenes::scrollUp()
