@@ -24,7 +24,7 @@ CallWindow::CallWindow(Backend *backend, PersonCards *cards, const Call &call, Q
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(QStringLiteral("callWindow"));
     setWindowTitle(tr("Call: %1").arg(call.title));
-    setMinimumSize(360, 320);
+    setMinimumSize(400, 360);
     resize(880, 600);
     setCSS(QStringLiteral("#callWindow { background: $(call-window); }"));
 
@@ -76,7 +76,6 @@ QWidget *CallWindow::makeStage()
     m_stage = new QWidget(this);
     auto *grid = new FixedItemRatioLayoutNotSupportScroll(m_stage, QMargins(16, 8, 16, 8), 0, 0);
     FixedItemRatioLayoutNotSupportScroll::ItemData tiles;
-    tiles.minimumWidth = 140;
     tiles.spacing = 0; // Rows with a spacing may be too wide: the tiles have margins instead.
     grid->setItemData(tiles);
     m_waiting = Looks::makeLabel(tr("Nobody else is here yet."), OxaFont::Token::BodySecondary,

@@ -15,8 +15,10 @@ namespace {
 
 constexpr int pictureSize = 72;
 constexpr int bars = 16;
-constexpr int loud = 45;  ///< From here on somebody speaks,
-constexpr int quiet = 25; ///< and below here no longer.
+constexpr int heightWithPicture = 140; ///< Smaller tiles have the name and the level only,
+constexpr int heightWithLevel = 72;    ///< and still smaller ones just the name.
+constexpr int loud = 45;               ///< From here on somebody speaks,
+constexpr int quiet = 25;              ///< and below here no longer.
 
 QString tileStyle(bool isSpeaking)
 {
@@ -43,8 +45,9 @@ ParticipantTile::ParticipantTile(const Person &person, QWidget *parent)
     m_name->setMinimumWidth(1);
     m_state = new OxaSvgLabel(this);
     m_state->setCSS(QStringLiteral("$textColors: text-secondary;"));
+    m_state->setFixedSize(16, 16);
     m_state->hide();
-    m_level->setFixedSize(bars * 5, 12);
+    m_level->setFixedSize(bars * 5, 16);
     m_level->setBarWidth(3);
     m_level->setBarHeight(12);
     m_level->setIdleBarHeight(4);
@@ -59,13 +62,20 @@ ParticipantTile::ParticipantTile(const Person &person, QWidget *parent)
     name->addWidget(m_name);
     name->addStretch(1);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 16, 16, 16);
+    column->setContentsMargins(12, 8, 12, 8);
     column->setSpacing(8);
     column->addStretch(1);
     column->addWidget(m_avatar, 0, Qt::AlignHCenter);
     column->addLayout(name);
     column->addWidget(m_level, 0, Qt::AlignHCenter);
     column->addStretch(1);
+}
+
+void ParticipantTile::resizeEvent(QResizeEvent *event)
+{
+    OxaWidget::resizeEvent(event);
+    m_avatar->setVisible(height() >= heightWithPicture);
+    m_level->setVisible(height() >= heightWithLevel);
 }
 
 void ParticipantTile::setLevel(int level)

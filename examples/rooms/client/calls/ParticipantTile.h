@@ -27,6 +27,10 @@ public:
     /// Shows the icon called \a icon beside the name; none if it is empty.
     void setState(const QString &icon);
 
+protected:
+    /// Shows no more than there is room for.
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void setSpeaking(bool isSpeaking);
 
