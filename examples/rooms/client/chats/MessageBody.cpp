@@ -16,7 +16,15 @@ void MessageBody::setText(const QString &text, int width, const QColor &color)
 {
     m_color = color;
     const QColor link = OxaThemeUtils::getColorSet("button-hyperlink-text", this).normal;
-    MessageText::layOut(&m_document, text, width, link, devicePixelRatioF());
+    MessageText::layOut(m_document.get(), text, width, link, devicePixelRatioF());
+    update();
+}
+
+void MessageBody::swapText(std::unique_ptr<QTextDocument> *document, int width, const QColor &color)
+{
+    m_color = color;
+    m_document.swap(*document);
+    m_document->setTextWidth(width); // Lines at the right end there.
     update();
 }
 
@@ -26,12 +34,12 @@ void MessageBody::paintEvent(QPaintEvent *event)
     QAbstractTextDocumentLayout::PaintContext context;
     context.clip = event->rect();
     context.palette.setColor(QPalette::Text, m_color);
-    m_document.documentLayout()->draw(&painter, context);
+    m_document->documentLayout()->draw(&painter, context);
 }
 
 void MessageBody::mouseMoveEvent(QMouseEvent *event)
 {
-    const QString link = m_document.documentLayout()->anchorAt(event->localPos());
+    const QString link = m_document->documentLayout()->anchorAt(event->localPos());
     setCursor(link.isEmpty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
     setToolTip(link);
     event->ignore();
@@ -40,14 +48,14 @@ void MessageBody::mouseMoveEvent(QMouseEvent *event)
 void MessageBody::mousePressEvent(QMouseEvent *event)
 {
     const bool isLeft = event->button() == Qt::LeftButton;
-    m_pressed = isLeft ? m_document.documentLayout()->anchorAt(event->localPos()) : QString();
+    m_pressed = isLeft ? m_document->documentLayout()->anchorAt(event->localPos()) : QString();
     if (m_pressed.isEmpty())
         event->ignore(); // The list makes the row its current one.
 }
 
 void MessageBody::mouseReleaseEvent(QMouseEvent *event)
 {
-    const QString link = m_document.documentLayout()->anchorAt(event->localPos());
+    const QString link = m_document->documentLayout()->anchorAt(event->localPos());
     if (!link.isEmpty() && link == m_pressed)
         QDesktopServices::openUrl(QUrl(link));
 }

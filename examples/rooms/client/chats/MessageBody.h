@@ -4,6 +4,8 @@
 #include <QTextDocument>
 #include <QWidget>
 
+#include <memory>
+
 /// The text of a message, in which links can be clicked.
 class MessageBody : public QWidget
 {
@@ -15,6 +17,9 @@ public:
     /// Shows \a text in \a color, broken at \a width.
     void setText(const QString &text, int width, const QColor &color);
 
+    /// Shows \a document, in which the text is laid out already, and gives its own in return.
+    void swapText(std::unique_ptr<QTextDocument> *document, int width, const QColor &color);
+
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -22,7 +27,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    QTextDocument m_document;
+    std::unique_ptr<QTextDocument> m_document = std::make_unique<QTextDocument>();
     QColor m_color;
     QString m_pressed; ///< The link on which the button went down.
 };

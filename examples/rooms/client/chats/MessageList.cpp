@@ -189,9 +189,12 @@ void MessageList::makeRow(QListWidgetItem *item)
 void MessageList::fillRow(MessageRow *widget, int row)
 {
     const Message &message = m_history->at(m_first + row);
+    // A row that is measured now has its text in the ruler.
+    const bool isKnown = m_heights->isKnown(row);
+    const QSize size = m_heights->contentSize(row);
     widget->setMessage(message, m_backend->person(message.author),
-                       RowLook::of(*m_history, m_first + row, m_backend->me()),
-                       m_heights->contentSize(row), m_cards);
+                       RowLook::of(*m_history, m_first + row, m_backend->me()), size, m_cards,
+                       isKnown ? nullptr : &m_ruler);
 }
 
 void MessageList::refreshRow(int row)
@@ -219,8 +222,10 @@ QSize MessageList::contentSize(const Message &message)
     const int width = RowLayout::contentWidth(viewport()->width());
     if (message.kind == Message::Kind::Gif)
         return GifView::movieSize();
-    if (message.kind == Message::Kind::Text)
-        return MessageText::layOut(&m_ruler, message.text, width, Qt::black);
+    if (message.kind == Message::Kind::Text) {
+        const QColor link = OxaThemeUtils::getColorSet("button-hyperlink-text", this).normal;
+        return MessageText::layOut(m_ruler.get(), message.text, width, link, devicePixelRatioF());
+    }
     const QFontMetrics metrics = FontUtils::fontMetrics(OxaFont::Token::BodySecondary);
     return { qMin(width, metrics.horizontalAdvance(message.text) + 64), metrics.height() + 24 };
 }

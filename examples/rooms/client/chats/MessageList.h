@@ -96,7 +96,7 @@ private:
     PersonCards *const m_cards;
     RowHeights *const m_heights;
     QPointer<History> m_history;
-    QTextDocument m_ruler;
+    std::unique_ptr<QTextDocument> m_ruler = std::make_unique<QTextDocument>();
     int m_first = 0; ///< The row of the history that is row 0 of the list.
     int m_unseen = 0;
     int m_contentWidth = 0;

@@ -2,11 +2,10 @@
 #include "MessageMenu.h"
 
 #include "MessageText.h"
+#include "shell/Looks.h"
 
 #include <UiElements/emoji/EmojiTextConverter.h>
-#include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaMenu.h>
-#include <UiElements/widgets/UTContextMenuUtils.h>
 
 #include <QClipboard>
 #include <QCoreApplication>
@@ -32,18 +31,9 @@ QIcon pictureOf(const QString &emoji)
     return QIcon(QStringLiteral(":/emojis/%1.svg").arg(stem));
 }
 
-OxaMenu *makeMenu(QWidget *parent)
-{
-    auto *menu = new OxaMenu(parent);
-    menu->setFontToken(OxaFont::Token::BodySecondary);
-    menu->setCSS(UTContextMenuUtils::getContextMenuStyleSheet()
-                 + QStringLiteral("QMenu { border: 1px solid $(panel-border); }"));
-    return menu;
-}
-
 void addReactions(OxaMenu *menu, const MessageMenu::Actions &actions)
 {
-    OxaMenu *reactions = makeMenu(menu);
+    OxaMenu *reactions = Looks::makeMenu(menu);
     reactions->setTitle(tr("React"));
     const QStringList emojis = usualReactions();
     for (const QString &emoji : emojis) {
@@ -75,7 +65,7 @@ void addLinks(OxaMenu *menu, const QString &text)
 void MessageMenu::open(QWidget *parent, const Message &message, const QPoint &position,
                        const Actions &actions)
 {
-    OxaMenu *menu = makeMenu(parent);
+    OxaMenu *menu = Looks::makeMenu(parent);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(menu->addAction(tr("Copy")), &QAction::triggered, menu,
                      [text = message.text] { QGuiApplication::clipboard()->setText(text); });

@@ -25,7 +25,8 @@ constexpr int bubbleRadius = 10;
 MessageRow::MessageRow(QWidget *parent) : OxaWidget(parent) { }
 
 void MessageRow::setMessage(const Message &message, const Person &author, const RowLook &look,
-                            const QSize &size, PersonCards *cards)
+                            const QSize &size, PersonCards *cards,
+                            std::unique_ptr<QTextDocument> *laidOut)
 {
     const bool isOtherContent = message.kind != m_message.kind || message.text != m_message.text;
     m_message = message;
@@ -33,7 +34,10 @@ void MessageRow::setMessage(const Message &message, const Person &author, const 
     m_size = size;
     if (isOtherContent)
         delete m_content;
-    showContent();
+    if (message.kind == Message::Kind::Text)
+        showText(laidOut);
+    else
+        showContent();
     showAuthor(author, cards);
     showFailure();
     if (!m_reactions && !message.reactions.isEmpty()) {
@@ -48,17 +52,25 @@ void MessageRow::setMessage(const Message &message, const Person &author, const 
     place();
 }
 
+void MessageRow::showText(std::unique_ptr<QTextDocument> *laidOut)
+{
+    if (!m_body)
+        m_body = new MessageBody(this);
+    const char *set = m_look.isOwn ? "bubble-own-text" : "bubble-other-text";
+    const QColor color = OxaThemeUtils::getColorSet(set, this).normal;
+    if (laidOut)
+        m_body->swapText(laidOut, m_size.width(), color);
+    else
+        m_body->setText(m_message.text, m_size.width(), color);
+}
+
 void MessageRow::showContent()
 {
-    if (m_message.kind == Message::Kind::Text) {
-        if (!m_body)
-            m_body = new MessageBody(this);
-        const char *set = m_look.isOwn ? "bubble-own-text" : "bubble-other-text";
-        m_body->setText(m_message.text, m_size.width(),
-                        OxaThemeUtils::getColorSet(set, this).normal);
-    } else if (!m_content && m_message.kind == Message::Kind::Gif) {
+    if (m_content)
+        return;
+    if (m_message.kind == Message::Kind::Gif) {
         m_content = new GifView(m_message.text, this);
-    } else if (!m_content) {
+    } else {
         auto *file = new OxaSvgLabel(m_message.text, this);
         file->setFontToken(OxaFont::Token::BodySecondary);
         file->setSvgIcon(OxaSvgRenderer::resourcePath(QStringLiteral("file")));

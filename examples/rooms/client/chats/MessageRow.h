@@ -7,11 +7,14 @@
 
 #include <QPointer>
 
+#include <memory>
+
 class Avatar;
 class MessageBody;
 class OxaLabel;
 class OxaSvgPushButton;
 class PersonCards;
+class QTextDocument;
 class ReactionBar;
 
 /// A message on screen, with who wrote it and what stands before it.
@@ -22,9 +25,11 @@ class MessageRow : public OxaWidget
 public:
     explicit MessageRow(QWidget *parent);
 
-    /// Shows \a message by \a author, whose content has \a size.
+    /// Shows \a message by \a author, whose content has \a size. Takes its text from \a laidOut, if
+    /// that is not null.
     void setMessage(const Message &message, const Person &author, const RowLook &look,
-                    const QSize &size, PersonCards *cards);
+                    const QSize &size, PersonCards *cards,
+                    std::unique_ptr<QTextDocument> *laidOut = nullptr);
 
 Q_SIGNALS:
     void reactionToggled(const QString &emoji);
@@ -35,6 +40,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void showText(std::unique_ptr<QTextDocument> *laidOut);
     void showContent();
     void showAuthor(const Person &author, PersonCards *cards);
     void showFailure();

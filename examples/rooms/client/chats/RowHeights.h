@@ -44,6 +44,8 @@ public:
     /// Makes what was measured count. Rows have to be laid out after that.
     void take();
 
+    bool isKnown(int row) const { return m_rows[size_t(row)].measured.height >= 0; }
+
     /// The size of the content of \a row, which is measured for that if it is not known.
     QSize contentSize(int row);
 

@@ -59,7 +59,9 @@ RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc
     // What shows the focus by a border gets no frame.
     setProperty("useGlobalFocusBorders", true);
     setStyle(new RoomsStyle);
-    QFont::insertSubstitution(QStringLiteral("Segoe UI"), QStringLiteral("Open Sans"));
+    // The second one has emoji in colour, which Qt would take from any font first.
+    QFont::insertSubstitutions(QStringLiteral("Segoe UI"),
+                               { QStringLiteral("Open Sans"), QStringLiteral("Noto Color Emoji") });
     setFont(OxaFont(OxaFont::Token::BodySecondary));
     setOrganizationName(QStringLiteral("Rooms"));
     setApplicationName(QStringLiteral("Rooms"));
