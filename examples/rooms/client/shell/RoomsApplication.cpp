@@ -59,9 +59,10 @@ RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc
     // What shows the focus by a border gets no frame.
     setProperty("useGlobalFocusBorders", true);
     setStyle(new RoomsStyle);
-    // The second one has emoji in colour, which Qt would take from any font first.
+    // Emoji in colour, which Qt would take from any font; but not the spaces of Hindi.
     QFont::insertSubstitutions(QStringLiteral("Segoe UI"),
-                               { QStringLiteral("Open Sans"), QStringLiteral("Noto Color Emoji") });
+                               { QStringLiteral("Open Sans"), QStringLiteral("Noto Sans Devanagari"),
+                                 QStringLiteral("Noto Color Emoji") });
     setFont(OxaFont(OxaFont::Token::BodySecondary));
     setOrganizationName(QStringLiteral("Rooms"));
     setApplicationName(QStringLiteral("Rooms"));
