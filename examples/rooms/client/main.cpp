@@ -31,7 +31,8 @@ void addOptions(QCommandLineParser &parser)
     parser.addOption({ QStringLiteral("right-to-left"), QStringLiteral("Mirror the windows.") });
     add("font-scale", "Show all text at PERCENT, 50 to 150.", "PERCENT");
     add("screenshots", "Take pictures of ten scenes into DIR, and end.", "DIR");
-    add("artwork", "Draw emoji from the file emojis.rcc in DIR, which ./dev artwork fetches.", "DIR");
+    add("artwork", "Draw emoji from the file emojis.rcc in DIR, which ./dev artwork fetches.",
+        "DIR");
     add("seed", "Make the conversations from NUMBER.", "NUMBER");
     add("rate", "Let so many messages arrive in a second.", "NUMBER");
     add("mailbox", "Show the mails of the mbox FILE as conversations.", "FILE");

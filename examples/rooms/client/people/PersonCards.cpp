@@ -40,20 +40,19 @@ void PersonCards::watch(QWidget *anchor, const QString &person)
 
 void PersonCards::showProfile(const QString &person, QWidget *window)
 {
-    m_dialogs.closeAllOxaQuickViews();
-    const auto start = [this, person](OxaQmlController *controller) {
-        auto *profile = qobject_cast<ProfileController *>(controller);
-        profile->setProperty("takesModelOwnership", true);
-        profile->setModel(QVariant::fromValue(new ProfileModel(m_backend, person)));
-        connect(profile, &ProfileController::closed, &m_dialogs,
+    const auto start = [this](OxaQmlController *controller) {
+        m_profile = qobject_cast<ProfileController *>(controller);
+        connect(m_profile, &ProfileController::closed, &m_dialogs,
                 &DialogContext::closeAllOxaQuickViews, Qt::QueuedConnection);
-        connect(profile, &ProfileController::messageRequested, this, &PersonCards::requestMessage,
+        connect(m_profile, &ProfileController::messageRequested, this, &PersonCards::requestMessage,
                 Qt::QueuedConnection);
     };
     const QPointer<OxaQuickView> dialog =
             m_dialogs.createQmlDialog(profileSource, window->window()->windowHandle(), {}, start);
-    if (!dialog)
+    if (!dialog || !m_profile)
         return;
+    auto *model = new ProfileModel(m_backend, person, m_profile);
+    m_profile->setModel(QVariant::fromValue(model));
     dialog->setTitle(m_backend->person(person).name);
     dialog->setModality(Qt::WindowModal);
     const QRect above = window->window()->geometry();
@@ -65,7 +64,7 @@ bool PersonCards::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Enter && m_people.contains(watched))
         showCard(qobject_cast<QWidget *>(watched), m_people.value(watched));
-    return false;
+    return QObject::eventFilter(watched, event);
 }
 
 void PersonCards::showCard(QWidget *anchor, const QString &person)

@@ -9,6 +9,7 @@
 #include <QHash>
 
 class Backend;
+class ProfileController;
 
 /// Shows who somebody is: a card under the pointer, and a profile in a dialog.
 class PersonCards : public QObject
@@ -39,5 +40,6 @@ private:
     Backend *const m_backend;
     PopupContext m_popups;
     DialogContext m_dialogs;
-    QHash<QObject *, QString> m_people; ///< By their anchors.
+    QPointer<ProfileController> m_profile; ///< Of the dialog that is open.
+    QHash<QObject *, QString> m_people;    ///< By their anchors.
 };

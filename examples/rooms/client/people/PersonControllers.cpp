@@ -35,7 +35,8 @@ QVariantMap toQml(const Person &person)
     };
 }
 
-ProfileModel::ProfileModel(Backend *backend, QString id) : m_backend(backend), m_id(std::move(id))
+ProfileModel::ProfileModel(Backend *backend, QString id, QObject *parent)
+    : QObject(parent), m_backend(backend), m_id(std::move(id))
 {
     connect(backend, &Backend::personChanged, this, [this](const QString &changed) {
         if (changed == m_id)

@@ -51,7 +51,7 @@ class ProfileModel : public QObject
 
 public:
     /// Follows the person \a id of \a backend.
-    ProfileModel(Backend *backend, QString id);
+    ProfileModel(Backend *backend, QString id, QObject *parent);
 
     QVariantMap person() const;
 

@@ -61,7 +61,8 @@ RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc
     setStyle(new RoomsStyle);
     // Emoji in colour, which Qt would take from any font; but not the spaces of Hindi.
     QFont::insertSubstitutions(QStringLiteral("Segoe UI"),
-                               { QStringLiteral("Open Sans"), QStringLiteral("Noto Sans Devanagari"),
+                               { QStringLiteral("Open Sans"),
+                                 QStringLiteral("Noto Sans Devanagari"),
                                  QStringLiteral("Noto Color Emoji") });
     setFont(OxaFont(OxaFont::Token::BodySecondary));
     setOrganizationName(QStringLiteral("Rooms"));

@@ -44,11 +44,11 @@ Toast::Toast(const QString &text, QWidget *parent) : OxaNotification(parent)
     parent->installEventFilter(this);
 }
 
-bool Toast::eventFilter(QObject *, QEvent *event)
+bool Toast::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Resize)
         place();
-    return false;
+    return OxaNotification::eventFilter(watched, event);
 }
 
 void Toast::place()
