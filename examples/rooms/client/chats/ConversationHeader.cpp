@@ -106,7 +106,10 @@ void ConversationHeader::askForDay()
     day->setAccessibleName(tr("Date"));
     day->setFontToken(OxaFont::Token::BodySecondary);
     day->setMaximumDate(QDate::currentDate());
-    day->setMinimumHeight(32);
+    day->setButtonSymbols(QAbstractSpinBox::NoButtons); // The arrow keys do that.
+    day->setMinimumSize(day->fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) + 32,
+                        32);
+    day->setAlignment(Qt::AlignCenter);
     day->setCSS(QStringLiteral("$textColors: field-text; $backgroundColors: field-background; "
                                "$borderColors: field-border; $borders: all; $borderWidth: 1; "
                                "$borderRadius: 6;"));
@@ -116,7 +119,7 @@ void ConversationHeader::askForDay()
     row->addWidget(day);
     row->addWidget(go);
     content->setFocusProxy(day);
-    PopupWidget *popup = Popups::show(m_day, content);
+    PopupWidget *popup = Popups::show(m_day, content, false);
     connect(go, &OxaSvgPushButton::clicked, this, [this, popup, day] {
         Q_EMIT dayRequested(day->date());
         popup->hide();

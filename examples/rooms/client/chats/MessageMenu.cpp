@@ -4,7 +4,6 @@
 #include "MessageText.h"
 #include "shell/Looks.h"
 
-#include <UiElements/emoji/EmojiTextConverter.h>
 #include <UiElements/widgets/OxaMenu.h>
 
 #include <QClipboard>
@@ -18,29 +17,31 @@ constexpr int longestQuote = 200;
 
 QString tr(const char *text) { return QCoreApplication::translate("MessageMenu", text); }
 
-QStringList usualReactions()
+struct UsualReaction
 {
-    return { QStringLiteral("\U0001F44D"), QStringLiteral("\u2764\uFE0F"),
-             QStringLiteral("\U0001F602"), QStringLiteral("\U0001F389"),
-             QStringLiteral("\U0001F62E"), QStringLiteral("\U0001F622") };
-}
+    QString emoji;
+    QString name;
+};
 
-QIcon pictureOf(const QString &emoji)
+QVector<UsualReaction> usualReactions()
 {
-    const QString stem = EmojiTextConverter::sequences(emoji).value(0).stem;
-    return QIcon(QStringLiteral(":/emojis/%1.svg").arg(stem));
+    return { { QStringLiteral("\U0001F44D"), tr("Thumbs up") },
+             { QStringLiteral("\u2764\uFE0F"), tr("Heart") },
+             { QStringLiteral("\U0001F602"), tr("Laughter") },
+             { QStringLiteral("\U0001F389"), tr("Party") },
+             { QStringLiteral("\U0001F62E"), tr("Surprise") },
+             { QStringLiteral("\U0001F622"), tr("Tears") } };
 }
 
 void addReactions(OxaMenu *menu, const MessageMenu::Actions &actions)
 {
     OxaMenu *reactions = Looks::makeMenu(menu);
     reactions->setTitle(tr("React"));
-    const QStringList emojis = usualReactions();
-    for (const QString &emoji : emojis) {
-        QAction *action = reactions->addAction(emoji);
-        action->setIcon(pictureOf(emoji));
+    const QVector<UsualReaction> usual = usualReactions();
+    for (const UsualReaction &one : usual) {
+        const QAction *action = reactions->addAction(one.emoji + QStringLiteral("  ") + one.name);
         QObject::connect(action, &QAction::triggered, menu,
-                         [react = actions.react, emoji] { react(emoji); });
+                         [react = actions.react, emoji = one.emoji] { react(emoji); });
     }
     QObject::connect(reactions->addAction(tr("Others\u2026")), &QAction::triggered, menu,
                      actions.chooseReaction);

@@ -7,10 +7,11 @@
 
 namespace {
 
-WidgetData looks()
+WidgetData looks(bool isAbove)
 {
     return WidgetData(OxaThemeUtils::AppThemeType::Global)
-            .arrowPostion(WidgetData::ArrowPostion::Bottom)
+            .arrowPostion(isAbove ? WidgetData::ArrowPostion::Bottom
+                                  : WidgetData::ArrowPostion::Top)
             .cornerRadius(WidgetData::PopupSize::Small)
             .activateOnShow(true);
 }
@@ -23,14 +24,14 @@ PopupWidget *deletedWhenHidden(PopupWidget *popup)
 
 } // namespace
 
-PopupWidget *Popups::show(QPushButton *button, QWidget *content)
+PopupWidget *Popups::show(QPushButton *button, QWidget *content, bool isAbove)
 {
-    return deletedWhenHidden(PopupWidget::createAndShow(button, content, looks()));
+    return deletedWhenHidden(PopupWidget::createAndShow(button, content, looks(isAbove)));
 }
 
 PopupWidget *Popups::show(QWidget *parent, const QRect &rect, QWidget *content)
 {
-    auto *popup = new PopupWidget(parent, looks());
+    auto *popup = new PopupWidget(parent, looks(true));
     popup->registerWidget(content);
     popup->showSmooth(rect);
     content->setFocus();
