@@ -3,20 +3,32 @@
 
 #include <QCoreApplication>
 
+#ifdef Q_OS_LINUX
+#include <sys/prctl.h>
+
+#include <csignal>
+#endif
+
 ServerProcess::ServerProcess(const QString &socket, const QStringList &options)
 {
-    m_process.setProcessChannelMode(QProcess::ForwardedChannels);
-    m_process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/rooms-server"),
-                    QStringList { QStringLiteral("--socket"), socket } + options);
-    if (!m_process.waitForStarted())
-        qWarning("There is no rooms-server beside the client: %s",
-                 qUtf8Printable(m_process.errorString()));
+    setProcessChannelMode(QProcess::ForwardedChannels);
+    start(QCoreApplication::applicationDirPath() + QStringLiteral("/rooms-server"),
+          QStringList { QStringLiteral("--socket"), socket } + options);
+    if (!waitForStarted())
+        qWarning("There is no rooms-server beside the client: %s", qUtf8Printable(errorString()));
 }
 
 ServerProcess::~ServerProcess() { stop(); }
 
 void ServerProcess::stop()
 {
-    m_process.terminate();
-    m_process.waitForFinished(2000);
+    terminate();
+    waitForFinished(2000);
+}
+
+void ServerProcess::setupChildProcess()
+{
+#ifdef Q_OS_LINUX
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+#endif
 }

@@ -4,16 +4,18 @@
 #include <QProcess>
 
 /// The server of a client that was given none: the program "rooms-server" beside the client's. It
-/// ends with this object.
-class ServerProcess
+/// ends with this object, and on Linux also with a client that is killed.
+class ServerProcess : public QProcess
 {
+    Q_OBJECT
+
 public:
     /// Starts it with the socket called \a socket and \a options. Warns if it is not there.
     ServerProcess(const QString &socket, const QStringList &options);
-    ~ServerProcess();
+    ~ServerProcess() override;
 
     void stop();
 
-private:
-    QProcess m_process;
+protected:
+    void setupChildProcess() override;
 };
