@@ -6,6 +6,8 @@
 
 #include <UiElements/fonts/FontUtils.h>
 
+#include <QMargins>
+
 namespace {
 
 constexpr int side = 16;
@@ -54,18 +56,17 @@ RowLayout RowLayout::of(const RowLook &look, const Message &message, const QSize
         row.unread = line(lineHeight() + 16);
     y += look.isGroupStart ? groupGap : rowGap;
 
-    const bool isText = message.kind == Message::Kind::Text;
-    const int horizontal = isText ? padding : 0;
-    const int vertical = isText ? 7 : 0;
-    const int bubbleWidth = size.width() + 2 * horizontal;
-    const int left = look.isOwn ? width - side - bubbleWidth : indent;
+    const QMargins inside = message.kind == Message::Kind::Text ? QMargins(padding, 7, padding, 7)
+                                                                : QMargins();
+    const QSize bubble = size.grownBy(inside);
+    const int left = look.isOwn ? width - side - bubble.width() : indent;
     if (look.isGroupStart) {
         row.avatar = look.isOwn ? QRect() : QRect(side, y, avatarSize, avatarSize);
         row.head = QRect(indent, y, width - indent - side, lineHeight());
         y += lineHeight() + 4;
     }
-    row.bubble = QRect(left, y, bubbleWidth, size.height() + 2 * vertical);
-    row.content = row.bubble.adjusted(horizontal, vertical, -horizontal, -vertical);
+    row.bubble = QRect(QPoint(left, y), bubble);
+    row.content = row.bubble.marginsRemoved(inside);
     y = row.bubble.bottom() + 1;
     if (!message.reactions.isEmpty()) {
         const int most = contentWidth(width) + 2 * padding;
