@@ -9,6 +9,7 @@
 #include "data/Backend.h"
 #include "shell/Looks.h"
 
+#include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/PopupWidget.h>
 
@@ -109,6 +110,13 @@ Composer::Composer(Backend *backend, QWidget *parent)
         row->addWidget(button, 0, Qt::AlignBottom);
     connect(m_emoji, &OxaSvgPushButton::clicked, this, &Composer::pickEmoji);
     connect(m_gif, &OxaSvgPushButton::clicked, this, &Composer::pickGif);
+    const OxaAppSignals *hub = OxaAppSignals::get();
+    connect(hub, &OxaAppSignals::addGif, this, [this] {
+        if (isVisible())
+            pickGif();
+    });
+    connect(hub, &OxaAppSignals::focusMainInputBox, m_field,
+            [this] { m_field->setFocus(Qt::ShortcutFocusReason); });
     connect(m_send, &OxaSvgPushButton::clicked, this, &Composer::send);
     connect(m_field, &ComposerField::submitted, this, &Composer::send);
     connect(m_field, &QTextEdit::textChanged, this, &Composer::follow);

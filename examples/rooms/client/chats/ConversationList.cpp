@@ -9,6 +9,7 @@
 #include "shell/Looks.h"
 #include "shell/RoomsApplication.h"
 
+#include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaLabel.h>
@@ -108,6 +109,9 @@ void ConversationList::makeList()
     });
     connect(m_list, &QListView::clicked, this, &ConversationList::choose);
     connect(m_list, &QListView::activated, this, &ConversationList::choose);
+    const OxaAppSignals *hub = OxaAppSignals::get();
+    connect(hub, &OxaAppSignals::moveUpSpaceList, this, [this] { step(-1); });
+    connect(hub, &OxaAppSignals::moveDownSpaceList, this, [this] { step(1); });
     auto *drop = new FileDrop(m_list->viewport());
     connect(drop, &FileDrop::dropped, this, [this](const QStringList &names, const QPoint &at) {
         const QString id = m_list->indexAt(at).data(Role::IdRole).toString();
@@ -129,6 +133,15 @@ void ConversationList::setCurrent(const QString &id)
 }
 
 void ConversationList::focusSearch() { m_search->getLineEdit()->setFocus(Qt::ShortcutFocusReason); }
+
+void ConversationList::step(int rows)
+{
+    const QModelIndex next = m_proxy->index(m_list->currentIndex().row() + rows, 0);
+    if (!isVisible() || !next.isValid())
+        return;
+    m_list->setCurrentIndex(next);
+    choose();
+}
 
 void ConversationList::choose()
 {

@@ -40,6 +40,7 @@ protected Q_SLOTS:
 private:
     QWidget *makeFilters();
     void makeList();
+    void step(int rows);
     void choose();
     void showMatches();
     void showEmpty();
