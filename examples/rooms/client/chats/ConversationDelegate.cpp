@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ConversationDelegate.h"
+
+#include "EmojiLine.h"
+#include "TimeTexts.h"
+#include "data/Backend.h"
+#include "data/ConversationModel.h"
+#include "people/Avatar.h"
+#include "shell/RoomsApplication.h"
+
+#include <UiElements/theme/OxaThemeUtils.h>
+
+#include <QPainter>
+
+using Role = ConversationModel::Role;
+
+namespace {
+
+constexpr int margin = 8;
+constexpr int avatarSize = 40;
+constexpr int rowMargin = 4; ///< Left and right of a row's ground.
+
+OxaColorSet colors(const char *name)
+{
+    return OxaThemeUtils::getColorSet(name, OxaThemeUtils::AppThemeType::Global);
+}
+
+QColor rowColor(const char *set, QStyle::State state)
+{
+    const OxaColorSet row = colors(set);
+    if (state & QStyle::State_Selected)
+        return row.checked;
+    return state & QStyle::State_MouseOver ? row.hovered : row.normal;
+}
+
+QRect mirrored(const QStyleOptionViewItem &option, const QRect &rect)
+{
+    return QStyle::visualRect(option.direction, option.rect, rect);
+}
+
+} // namespace
+
+ConversationDelegate::ConversationDelegate(Backend *backend, QObject *parent)
+    : QStyledItemDelegate(parent), m_backend(backend)
+{
+    refresh();
+}
+
+void ConversationDelegate::refresh()
+{
+    m_titleFont = OxaFont(OxaFont::Token::BodySecondary);
+    m_unreadFont = OxaFont(OxaFont::Token::SubheaderSecondary);
+    m_textFont = OxaFont(OxaFont::Token::RadioButtonLabelSecondary);
+    m_timeFont = m_textFont;
+    m_isPreviewShown = RoomsApplication::get()->settings().previewsShown;
+}
+
+QSize ConversationDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const
+{
+    const int texts = QFontMetrics(m_unreadFont).height()
+            + (m_isPreviewShown ? QFontMetrics(m_textFont).height() + 2 : 0);
+    return { 1, qMax(avatarSize, texts) + 2 * margin };
+}
+
+void ConversationDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                                 const QModelIndex &index) const
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setLayoutDirection(option.direction);
+    paintGround(painter, option);
+    const QRect inside = option.rect.adjusted(rowMargin + margin, margin, -rowMargin - margin,
+                                              -margin);
+    QRect avatar(inside.topLeft(), QSize(avatarSize, avatarSize));
+    avatar.moveTop(inside.center().y() - avatarSize / 2);
+    avatar = mirrored(option, avatar);
+    const QString person = index.data(Role::PersonRole).toString();
+    const QString id = person.isEmpty() ? index.data(Role::IdRole).toString() : person;
+    Avatar::paint(painter, avatar, id, index.data(Role::TitleRole).toString(), !person.isEmpty());
+    if (!person.isEmpty())
+        Avatar::paintPresence(painter, avatar, m_backend->person(person).presence,
+                              option.direction);
+    paintTexts(painter, inside.adjusted(avatarSize + 12, 0, 0, 0), option, index);
+    painter->restore();
+}
+
+void ConversationDelegate::paintGround(QPainter *painter, const QStyleOptionViewItem &option) const
+{
+    const QRectF ground = QRectF(option.rect).adjusted(rowMargin, 1, -rowMargin, -1);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(rowColor("row", option.state));
+    painter->drawRoundedRect(ground, 6, 6);
+    if (!(option.state & QStyle::State_HasFocus))
+        return;
+    painter->setPen(QPen(colors("focus").normal, 2));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(ground.adjusted(1, 1, -1, -1), 6, 6);
+}
+
+void ConversationDelegate::paintTexts(QPainter *painter, const QRect &rect,
+                                      const QStyleOptionViewItem &option,
+                                      const QModelIndex &index) const
+{
+    const int unread = index.data(Role::UnreadRole).toInt();
+    const QFont &titleFont = unread > 0 ? m_unreadFont : m_titleFont;
+    const int titleHeight = QFontMetrics(m_unreadFont).height();
+    const int textHeight = QFontMetrics(m_textFont).height();
+    QRect upper(rect.left(), 0, rect.width(), titleHeight);
+    upper.moveTop(rect.center().y() - (titleHeight + (m_isPreviewShown ? textHeight + 2 : 0)) / 2);
+    QRect lower(rect.left(), upper.bottom() + 3, rect.width(), textHeight);
+
+    const QString time = TimeTexts::brief(index.data(Role::LastAtRole).toDateTime());
+    const QColor quiet = rowColor("row-text-secondary", option.state);
+    painter->setFont(m_timeFont);
+    painter->setPen(quiet);
+    painter->drawText(mirrored(option, upper), Qt::AlignRight | Qt::AlignVCenter, time);
+    upper.setRight(upper.right() - QFontMetrics(m_timeFont).horizontalAdvance(time) - 8);
+
+    QRect &line = m_isPreviewShown ? lower : upper;
+    if (unread > 0)
+        line.setRight(line.right() - paintBadge(painter, mirrored(option, line), unread) - 8);
+    const QColor ink = rowColor("row-text", option.state);
+    EmojiLine::paint(painter, mirrored(option, upper), index.data(Role::TitleRole).toString(),
+                     titleFont, ink);
+    if (m_isPreviewShown)
+        EmojiLine::paint(painter, mirrored(option, lower), preview(index), m_textFont, quiet);
+}
+
+/// Paints the badge where \a line ends, and returns its width.
+int ConversationDelegate::paintBadge(QPainter *painter, const QRect &line, int count) const
+{
+    const QString text = count > 99 ? tr("99+") : QLocale().toString(count);
+    const QFontMetrics metrics(m_timeFont);
+    const int height = metrics.height() + 2;
+    QRect badge(0, 0, qMax(height, metrics.horizontalAdvance(text) + 10), height);
+    badge.moveCenter(line.center());
+    if (painter->layoutDirection() == Qt::RightToLeft)
+        badge.moveLeft(line.left());
+    else
+        badge.moveRight(line.right());
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(colors("badge").normal);
+    painter->drawRoundedRect(badge, height / 2.0, height / 2.0);
+    painter->setPen(colors("badge-text").normal);
+    painter->setFont(m_timeFont);
+    painter->drawText(badge, Qt::AlignCenter, text);
+    return badge.width();
+}
+
+QString ConversationDelegate::preview(const QModelIndex &index) const
+{
+    const QString author = index.data(Role::LastAuthorRole).toString();
+    const QString text = index.data(Role::PreviewRole).toString();
+    if (author == m_backend->me())
+        return tr("You: %1").arg(text);
+    if (!index.data(Role::PersonRole).toString().isEmpty() || author.isEmpty())
+        return text;
+    return tr("%1: %2").arg(m_backend->person(author).name.section(QLatin1Char(' '), 0, 0), text);
+}

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <UiElements/fonts/OxaFont.h>
+
+#include <QString>
+
+class OxaLabel;
+class OxaMenu;
+class OxaSvgPushButton;
+class OxaTextInput;
+class OxaTextInputFactory;
+class QWidget;
+
+/// How buttons, fields and labels of this client look.
+namespace Looks {
+
+/// What a button is for: the one thing to do, one of several (with or without an outline), one that
+/// is switched on, and one that destroys or ends something.
+enum class Button { Accent, Outline, Quiet, Chosen, Danger };
+
+/// The style text of a button with rounded corners. A checked button changes its kind to
+/// Button::Chosen.
+QString buttonStyle(Button kind, int radius = 6);
+
+/// A button with \a text, 32 high.
+OxaSvgPushButton *makeButton(const QString &text, Button kind, QWidget *parent);
+
+/// A quiet square button with the icon called \a icon. \a name is its tool tip and its name for
+/// assistive technology.
+OxaSvgPushButton *makeIconButton(const QString &icon, const QString &name, QWidget *parent,
+                                 int size = 32);
+
+/// Makes \a button checkable: while it is checked it looks as Button::Chosen, else as \a kind.
+void makeCheckable(OxaSvgPushButton *button, Button kind, int radius = 6);
+
+/// A label in the font of \a token and the colours of the set called \a colors. It may become
+/// narrower than its text, which is elided then.
+OxaLabel *makeLabel(const QString &text, OxaFont::Token token, const QString &colors,
+                    QWidget *parent);
+
+/// The looks of all fields.
+OxaTextInputFactory fields();
+
+/// A field called \a name, which is also its placeholder.
+OxaTextInput *makeField(const QString &name, QWidget *parent);
+
+/// An empty menu.
+OxaMenu *makeMenu(QWidget *parent);
+
+/// The rules of scroll bars, for the style text of a window.
+QString scrollBarRules();
+
+/// The rules of horizontal sliders. They depend on the direction: Qt mirrors a slider, but not the
+/// parts that rules name.
+QString sliderRules();
+
+/// The rules of lists without a frame, with a hovered and a current row, and of their scroll bars.
+QString listRules();
+
+} // namespace Looks

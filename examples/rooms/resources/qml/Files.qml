@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick 2.15
+import Rooms 1.0
+
+Rectangle {
+    id: page
+
+    readonly property int rowHeight: Math.max(44, Math.ceil(looks.fonts.BodySecondary.pixelSize * 2.6))
+    readonly property real unit: looks.fonts.BodySecondary.pixelSize / 14
+    readonly property bool isWide: width > 640 * unit
+
+    color: looks.colors["window"]
+    LayoutMirroring.enabled: looks.isRightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    function iconOf(kind) {
+        return kind === "picture" || kind === "movie" ? "picture"
+             : kind === "table" ? "table" : kind === "archive" ? "files" : "file"
+    }
+
+    FilesController {
+        id: controller
+    }
+    FileColumns {
+        id: header
+
+        x: list.x
+        width: list.width
+        height: 40 * page.unit
+        isWide: page.isWide
+        unit: page.unit
+        fontToken: looks.fonts.BodyTertiary
+        textColor: looks.colors["text-secondary"]
+        name: qsTr("Name")
+        owner: qsTr("Owner")
+        size: qsTr("Size")
+        changed: qsTr("Changed")
+    }
+    Rectangle {
+        anchors.bottom: header.bottom
+        width: parent.width
+        height: 1
+        color: looks.colors["divider"]
+    }
+    ListView {
+        id: list
+
+        x: 16
+        width: parent.width - 32
+        anchors.top: header.bottom
+        anchors.bottom: parent.bottom
+        anchors.topMargin: 4
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        model: controller.files
+        activeFocusOnTab: true
+        focus: true
+        highlightMoveDuration: 0
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Files")
+
+        onContentYChanged: controller.scrollTo(Math.max(0, indexAt(1, contentY + height / 2)))
+        onCountChanged: controller.scrollTo(Math.max(0, indexAt(1, contentY + height / 2)))
+        Keys.onPressed: {
+            const rows = Math.floor(height / page.rowHeight)
+            const steps = { [Qt.Key_PageDown]: rows, [Qt.Key_PageUp]: -rows,
+                            [Qt.Key_Home]: -count, [Qt.Key_End]: count }
+            if (event.key in steps) {
+                currentIndex = Math.max(0, Math.min(count - 1, currentIndex + steps[event.key]))
+                event.accepted = true
+            }
+        }
+
+        delegate: Rectangle {
+            id: row
+
+            readonly property bool isHere: model.name !== undefined
+            readonly property bool isCurrent: ListView.isCurrentItem && list.activeFocus
+
+            width: list.width
+            height: page.rowHeight
+            radius: 8
+            color: area.containsMouse ? looks.colors[area.pressed ? "row.pressed" : "row.hovered"]
+                                      : "transparent"
+            border.width: isCurrent ? 2 : 0
+            border.color: looks.colors["focus"]
+            Accessible.role: Accessible.ListItem
+            Accessible.name: isHere ? model.name : qsTr("Loading")
+
+            Image {
+                visible: row.isHere
+                anchors.left: parent.left
+                anchors.leftMargin: 12
+                anchors.verticalCenter: parent.verticalCenter
+                width: 20
+                height: 20
+                sourceSize: Qt.size(40, 40) // Sharp on a screen of 200 %, too.
+                source: row.isHere ? "image://icons/" + page.iconOf(model.kind) + "/"
+                                     + looks.colors["text-accent"] : ""
+            }
+            FileColumns {
+                visible: row.isHere
+                anchors.fill: parent
+                isWide: page.isWide
+                unit: page.unit
+                fontToken: looks.fonts.BodySecondary
+                textColor: looks.colors["text-primary"]
+                name: row.isHere ? model.name : ""
+                owner: row.isHere ? controller.personName(model.owner) : ""
+                size: row.isHere ? controller.sizeText(model.size) : ""
+                changed: row.isHere ? Qt.formatDate(model.at, Qt.DefaultLocaleShortDate) : ""
+            }
+            Row {
+                visible: !row.isHere && !model.failed
+                anchors.left: parent.left
+                anchors.leftMargin: 12
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 12
+
+                Rectangle {
+                    width: 20
+                    height: 20
+                    radius: 4
+                    color: looks.colors["placeholder-bar"]
+                }
+                Rectangle {
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: 120 + (index * 53) % 160
+                    height: 10
+                    radius: 5
+                    color: looks.colors["placeholder-bar"]
+                }
+            }
+            Text {
+                visible: !row.isHere && !!model.failed
+                anchors.left: parent.left
+                anchors.leftMargin: 44
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("Could not be loaded. Trying again…")
+                font: looks.fonts.BodySecondary
+                color: looks.colors["text-secondary"]
+            }
+            MouseArea {
+                id: area
+
+                property point start
+
+                anchors.fill: parent
+                hoverEnabled: true
+                preventStealing: true
+                onPressed: {
+                    start = Qt.point(mouse.x, mouse.y)
+                    list.currentIndex = index
+                    list.forceActiveFocus(Qt.MouseFocusReason)
+                }
+                onPositionChanged: {
+                    const way = Math.abs(mouse.x - start.x) + Math.abs(mouse.y - start.y)
+                    if (!pressed || !row.isHere || way < 10)
+                        return
+                    start = Qt.point(NaN, NaN)
+                    controller.dragRequested(model.name)
+                }
+            }
+        }
+    }
+    ScrollHandle {
+        anchors.right: parent.right
+        anchors.top: list.top
+        anchors.bottom: parent.bottom
+        view: list
+    }
+    Text {
+        visible: list.count === 0
+        anchors.centerIn: parent
+        text: qsTr("No files yet")
+        font: looks.fonts.BodySecondary
+        color: looks.colors["text-secondary"]
+    }
+    Item {
+        id: breakQmlFocus
+        activeFocusOnTab: true
+    }
+}
