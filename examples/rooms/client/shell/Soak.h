@@ -12,7 +12,8 @@ class MainWindow;
 
 /// Uses the client at random, as many people would in a day: input of all kinds, other looks, sizes
 /// and pages, windows that open and are killed. Prints once a minute what the client holds, and the
-/// longest time in which it did not answer.
+/// longest time in which it did not answer, with how much of it a processor was busy for it: on a
+/// machine with other work, only that is the client's own.
 class Soak : public QObject
 {
     Q_OBJECT
@@ -67,9 +68,11 @@ private:
     QTimer m_actions;
     QTimer m_reports;
     QElapsedTimer m_sinceBeat;
+    qint64 m_busyMs = 0; ///< Of a processor, at the last beat.
     qint64 m_longestMs = 0;
+    qint64 m_longestBusyMs = 0;
     const char *m_action = "nothing"; ///< What was done last.
-    const char *m_longestAction = "";
+    const char *m_longestAction = ""; ///< What was done before the longest of them.
     int m_minute = 0;
     int m_minutes = 0;
     Sample m_first;
