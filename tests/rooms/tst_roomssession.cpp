@@ -51,8 +51,8 @@ template <typename Widget>
 Widget *waitFor(const char *name)
 {
     Widget *found = nullptr;
-    QTest::qWaitFor([&] { return (found = shown<Widget>(name)) != nullptr; }, longMs);
-    return found;
+    const auto isShown = [&] { return (found = shown<Widget>(name)) != nullptr; };
+    return QTest::qWaitFor(isShown, longMs) ? found : nullptr;
 }
 
 /// Clicks \a widget as soon as nothing else is at its place.
@@ -129,24 +129,22 @@ bool press(const char *key) { return RealInput::typeKeys({ QString::fromLatin1(k
 QQuickItem *quickButton(const char *text)
 {
     QQuickItem *found = nullptr;
-    QTest::qWaitFor(
-            [&] {
-                const QWindowList windows = QGuiApplication::topLevelWindows();
-                for (QWindow *window : windows) {
-                    auto *view = qobject_cast<QQuickView *>(window);
-                    if (!view || !view->isVisible() || !view->rootObject())
-                        continue;
-                    const auto items = view->rootObject()->findChildren<QQuickItem *>();
-                    for (QQuickItem *item : items) {
-                        if (item->property("kind").isValid()
-                            && item->property("text") == QLatin1String(text))
-                            found = item;
-                    }
-                }
-                return found != nullptr;
-            },
-            longMs);
-    return found;
+    const auto isShown = [&] {
+        const QWindowList windows = QGuiApplication::topLevelWindows();
+        for (QWindow *window : windows) {
+            auto *view = qobject_cast<QQuickView *>(window);
+            if (!view || !view->isVisible() || !view->rootObject())
+                continue;
+            const auto items = view->rootObject()->findChildren<QQuickItem *>();
+            for (QQuickItem *item : items) {
+                if (item->property("kind").isValid()
+                    && item->property("text") == QLatin1String(text))
+                    found = item;
+            }
+        }
+        return found != nullptr;
+    };
+    return QTest::qWaitFor(isShown, longMs) ? found : nullptr;
 }
 
 bool click(const QQuickItem *item)
