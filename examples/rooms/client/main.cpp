@@ -4,6 +4,7 @@
 #include "shell/RoomsApplication.h"
 #include "shell/Scenes.h"
 #include "shell/ServerProcess.h"
+#include "shell/Soak.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -35,6 +36,7 @@ void addOptions(QCommandLineParser &parser)
         "DIR");
     add("seed", "Make the conversations from NUMBER.", "NUMBER");
     add("rate", "Let so many messages arrive in a second.", "NUMBER");
+    add("soak", "Do anything for MINUTES, and print what grows.", "MINUTES");
     add("mailbox", "Show the mails of the mbox FILE as conversations.", "FILE");
 }
 
@@ -68,6 +70,8 @@ std::unique_ptr<ServerProcess> startServer(const QCommandLineParser &parser, con
         if (parser.isSet(name))
             options << QStringLiteral("--") + name << parser.value(name);
     }
+    if (parser.isSet(QStringLiteral("soak")) && !parser.isSet(QStringLiteral("rate")))
+        options << QStringLiteral("--rate") << QStringLiteral("200");
     return std::make_unique<ServerProcess>(socket, options);
 }
 
@@ -111,5 +115,7 @@ int main(int argc, char **argv)
         });
         return scenes.takeAll() ? 0 : 1;
     }
+    if (parser.isSet(QStringLiteral("soak")))
+        return Soak(&window, &backend).run(parser.value(QStringLiteral("soak")).toInt());
     return QApplication::exec();
 }

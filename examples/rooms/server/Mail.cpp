@@ -56,9 +56,7 @@ QByteArray parameter(const QByteArray &header, const QByteArray &name)
     if (at < 0)
         return {};
     const QByteArray value = header.mid(at + name.size() + 1).trimmed();
-    if (value.startsWith('"'))
-        return value.mid(1, value.indexOf('"', 1) - 1);
-    return value.left(value.indexOf(';')).trimmed();
+    return value.startsWith('"') ? value.split('"')[1] : value.split(';')[0].trimmed();
 }
 
 QString decoded(const QByteArray &bytes, const QByteArray &charset)

@@ -158,7 +158,8 @@ QJsonArray SeededArchive::reactions(int conversation, int seq) const
 
 QJsonObject SeededArchive::message(int conversation, int seq) const
 {
-    static const QStringList movies { u"wave"_s, u"cheer"_s, u"spin"_s, u"bounce"_s };
+    static const QStringList movies { u"wave"_s,   u"confetti"_s, u"heart"_s,
+                                      u"coffee"_s, u"sun"_s,      u"yes"_s };
     const int writer = author(conversation, seq);
     const quint64 random = hash(Says, quint64(conversation), quint64(seq));
     QJsonObject message { { u"seq"_s, seq },

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int conversationsAtOnce = 1000;
+constexpr int mostHistories = 20;
 constexpr int saveMs = 300;
 constexpr int retryMs = 1000;
 constexpr int typingMs = 2000;
@@ -192,6 +193,10 @@ void Backend::takeLevels(const QJsonObject &values)
 
 History *Backend::open(const QString &conversation)
 {
+    m_opened.removeOne(conversation);
+    m_opened.append(conversation);
+    if (m_opened.size() > mostHistories)
+        m_histories.take(m_opened.takeFirst())->deleteLater();
     History *&history = m_histories[conversation];
     if (history)
         return history;

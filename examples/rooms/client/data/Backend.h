@@ -45,8 +45,8 @@ public:
     /// The conversations, in no order.
     ConversationModel *conversations() const { return m_conversations; }
 
-    /// The messages of \a conversation. Loads the newest page at the first call. Stays until the
-    /// client ends, with the messages that it has then.
+    /// The messages of \a conversation. Loads the newest page at the first call. Stays while
+    /// it is among the 20 that were asked for last.
     History *open(const QString &conversation);
 
     /// Puts a message at the end of \a conversation, now and when the server is there again.
@@ -115,6 +115,7 @@ private:
     ConversationModel *const m_conversations;
     PagedFiles *const m_files;
     QHash<QString, History *> m_histories;
+    QStringList m_opened; ///< Their conversations, the latest at the end.
     QHash<QString, Person> m_people;
     QHash<QString, int> m_totals; ///< How many messages the conversations have.
     QVector<Call> m_calls;

@@ -5,13 +5,12 @@
 
 namespace {
 
-constexpr int showMs = 200;
+constexpr int showMs = 500;
 
 } // namespace
 
 ConversationModel::ConversationModel(QObject *parent) : BaseListModel(parent)
 {
-    m_showing.setSingleShot(true);
     m_showing.setInterval(showMs);
     connect(&m_showing, &QTimer::timeout, this, &ConversationModel::showArrivals);
 }
@@ -49,12 +48,16 @@ void ConversationModel::arrive(const QString &conversation, const Message &messa
     Arrival &arrival = m_arrivals[conversation];
     arrival.last = message;
     arrival.unread += isUnread ? 1 : 0;
-    if (!m_showing.isActive())
-        m_showing.start();
+    if (m_showing.isActive())
+        return;
+    showArrivals();
+    m_showing.start();
 }
 
 void ConversationModel::showArrivals()
 {
+    if (m_arrivals.isEmpty())
+        m_showing.stop();
     const QHash<QString, Arrival> arrivals = std::exchange(m_arrivals, {});
     for (auto arrival = arrivals.begin(); arrival != arrivals.end(); ++arrival) {
         const std::string id = arrival.key().toStdString();

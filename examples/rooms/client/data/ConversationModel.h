@@ -34,8 +34,8 @@ public:
     /// The row of a conversation as the protocol has it.
     static ModelRow row(const QJsonObject &conversation);
 
-    /// The last message of \a conversation is \a message, and unread or not. Shown a fifth of a
-    /// second later, together with all others until then.
+    /// The last message of \a conversation is \a message, and unread or not. Shown at
+    /// once, or half a second after others were, together with all until then.
     void arrive(const QString &conversation, const Message &message, bool isUnread);
 
     /// Nothing in \a conversation is unread. Returns whether something was.
