@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Relay.h"
-#include "ServerProcess.h"
+#include "TestServer.h"
 #include "data/Backend.h"
 #include "data/ConversationModel.h"
 #include "data/History.h"
@@ -59,7 +59,7 @@ class tst_RoomsData : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_server = std::make_unique<ServerProcess>(); }
+    void init() { m_server = std::make_unique<TestServer>(); }
     void cleanup() { m_server.reset(); }
 
     void sendsEachMessageOnceAndInOrderAlthoughTheServerIsKilled();
@@ -85,7 +85,7 @@ private:
         return std::make_unique<Backend>(m_server->socket(), m_server->path(name));
     }
 
-    std::unique_ptr<ServerProcess> m_server;
+    std::unique_ptr<TestServer> m_server;
 };
 
 void tst_RoomsData::sendsEachMessageOnceAndInOrderAlthoughTheServerIsKilled()

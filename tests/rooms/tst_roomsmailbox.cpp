@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "ServerProcess.h"
+#include "TestServer.h"
 #include "data/Backend.h"
 #include "data/ConversationModel.h"
 #include "data/History.h"
@@ -26,7 +26,7 @@ private Q_SLOTS:
     void survivesAnyMailbox();
 
 private:
-    static std::unique_ptr<Backend> startWithMailbox(ServerProcess &server, const QByteArray &bytes)
+    static std::unique_ptr<Backend> startWithMailbox(TestServer &server, const QByteArray &bytes)
     {
         QFile file(server.path("mbox"));
         if (file.open(QIODevice::WriteOnly))
@@ -39,7 +39,7 @@ private:
 
 void tst_RoomsMailbox::readsMails()
 {
-    ServerProcess server;
+    TestServer server;
     const std::unique_ptr<Backend> client = startWithMailbox(
             server,
             "From ada Mon Jan  1 10:00:00 2024\n"
@@ -98,7 +98,7 @@ void tst_RoomsMailbox::survivesAnyMailbox_data()
 void tst_RoomsMailbox::survivesAnyMailbox()
 {
     QFETCH(const QByteArray, bytes);
-    ServerProcess server;
+    TestServer server;
     const std::unique_ptr<Backend> client = startWithMailbox(server, bytes);
     QTRY_VERIFY_WITH_TIMEOUT(client->isReady(), longMs);
     QTEST(client->conversations()->getCount(), "conversations");

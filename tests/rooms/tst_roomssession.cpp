@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "ServerProcess.h"
+#include "TestServer.h"
 #include "chats/ChatsPage.h"
 #include "data/Backend.h"
 #include "data/ConversationModel.h"
@@ -194,7 +194,7 @@ private:
                                   : requests.constLast()[QLatin1String(name)].toString();
     }
 
-    ServerProcess m_server;
+    TestServer m_server;
     std::unique_ptr<StoreGuard> m_stores;
     std::unique_ptr<LayoutDirectionGuard> m_direction;
     std::unique_ptr<Backend> m_backend;

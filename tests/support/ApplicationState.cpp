@@ -9,6 +9,8 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace {
 
 template <typename Value>
@@ -81,7 +83,12 @@ void ApplicationState::addWindows()
     m_texts.insert(QStringLiteral("palette"), textOf(QGuiApplication::palette()));
     if (qobject_cast<QApplication *>(QCoreApplication::instance()))
         m_texts.insert(QStringLiteral("widgets"), textOf(QApplication::topLevelWidgets()));
-    m_texts.insert(QStringLiteral("windows"), textOf(QGuiApplication::topLevelWindows()));
+    QWindowList windows = QGuiApplication::topLevelWindows();
+    const auto isOfDrag = [](const QWindow *window) {
+        return window->inherits("QShapedPixmapWindow"); // Qt keeps that of the last drag.
+    };
+    windows.erase(std::remove_if(windows.begin(), windows.end(), isOfDrag), windows.end());
+    m_texts.insert(QStringLiteral("windows"), textOf(windows));
 }
 
 void ApplicationState::addStores()

@@ -7,11 +7,15 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <sys/prctl.h>
+
+#include <csignal>
+
 /// The server of examples/rooms, with a folder for its socket and its files. Killed at the end.
-class ServerProcess
+class TestServer
 {
 public:
-    ~ServerProcess() { kill(); }
+    ~TestServer() { kill(); }
 
     QString path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
     QString socket() const { return path("socket"); }
@@ -19,7 +23,6 @@ public:
     /// Starts it with \a options; what was posted before a kill() is still there.
     void start(const QStringList &options = {})
     {
-        m_process.setProcessChannelMode(QProcess::ForwardedChannels);
         m_process.start(QStringLiteral(ROOMS_SERVER),
                         QStringList { QStringLiteral("--socket"), socket(),
                                       QStringLiteral("--state"), path("state"),
@@ -51,6 +54,12 @@ public:
     }
 
 private:
+    /// Ends with the test, however that ends.
+    class Process : public QProcess
+    {
+        void setupChildProcess() override { prctl(PR_SET_PDEATHSIG, SIGKILL); }
+    };
+
     const QTemporaryDir m_folder;
-    QProcess m_process;
+    Process m_process;
 };
