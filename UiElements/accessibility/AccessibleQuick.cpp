@@ -37,18 +37,6 @@ QAccessibleInterface *makeItem(const QString &className, QObject *object)
             : nullptr;
 }
 
-/// Makes Qt forget what it has made of the items in \a item.
-void forgetQts(const QQuickItem &item)
-{
-    const QList<QQuickItem *> children = item.childItems();
-    for (QQuickItem *child : children) {
-        QAccessibleInterface *told = QAccessible::queryAccessibleInterface(child);
-        if (told && !dynamic_cast<AccessibleQuickItem *>(told))
-            QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(told));
-        forgetQts(*child);
-    }
-}
-
 } // namespace
 
 QAccessibleInterface *AccessibleQuickWidget::quickWindow() const
@@ -118,12 +106,12 @@ QAccessibleInterface *AccessibleQuickWindow::parent() const
 
 QAccessibleInterface *AccessibleQuickWindow::focusChild() const
 {
-    return QAccessible::queryAccessibleInterface(quickWindow()->activeFocusItem());
+    return AccessibleQuickItem::of(quickWindow()->activeFocusItem());
 }
 
 QAccessibleInterface *AccessibleQuickWindow::child(int index) const
 {
-    return QAccessible::queryAccessibleInterface(items().value(index));
+    return AccessibleQuickItem::of(items().value(index));
 }
 
 int AccessibleQuickWindow::childCount() const { return items().size(); }
@@ -162,11 +150,21 @@ AccessibleQuickItem::AccessibleQuickItem(QQuickItem *item, QAccessibleInterface 
 {
 }
 
-void AccessibleQuickItem::tellOfItemsIn(const QQuickWindow &window)
+void AccessibleQuickItem::install()
 {
     QAccessible::removeFactory(makeItem);
     QAccessible::installFactory(makeItem);
-    forgetQts(*window.contentItem());
+}
+
+QAccessibleInterface *AccessibleQuickItem::of(QObject *item)
+{
+    QAccessibleInterface *told = QAccessible::queryAccessibleInterface(item);
+    const bool isQts = told && !dynamic_cast<AccessibleQuickItem *>(told);
+    if (!isQts || !widgetOf(*static_cast<QQuickItem *>(item)))
+        return told;
+    // Made while the file was loading.
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(told));
+    return QAccessible::queryAccessibleInterface(item);
 }
 
 QAccessibleInterface *AccessibleQuickItem::make(QQuickItem *item)
@@ -199,6 +197,18 @@ QAccessible::State AccessibleQuickItem::state() const
                 || qFuzzyIsNull(item()->opacity()) || rect().isNull();
     }
     return state;
+}
+
+QAccessibleInterface *AccessibleQuickItem::child(int index) const
+{
+    QAccessibleInterface *child = m_qts->child(index);
+    return child ? of(child->object()) : nullptr;
+}
+
+QAccessibleInterface *AccessibleQuickItem::childAt(int x, int y) const
+{
+    QAccessibleInterface *child = m_qts->childAt(x, y);
+    return child ? of(child->object()) : nullptr;
 }
 
 void AccessibleQuickItem::setText(QAccessible::Text kind, const QString &text)

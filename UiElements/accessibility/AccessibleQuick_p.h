@@ -62,11 +62,14 @@ private:
 class AccessibleQuickItem : public QAccessibleObject
 {
 public:
-    /// Has Qt tell so of the items of \a window and of later ones. To be called once a file has
-    /// loaded: only then is this asked before QtQuick itself, which comes with the first file.
-    static void tellOfItemsIn(const QQuickWindow &window);
+    /// Has Qt ask this class. To be called once a file has loaded: only then is it asked before
+    /// QtQuick itself, which comes with the first file.
+    static void install();
 
-    /// Returns what is told of \a item, or null for what Qt tells, if it tells anything.
+    /// Returns what is told of \a item, which may be null.
+    static QAccessibleInterface *of(QObject *item);
+
+    /// Makes what is told of \a item; null for what Qt tells, if it tells anything.
     static QAccessibleInterface *make(QQuickItem *item);
 
     QRect rect() const override;
@@ -78,8 +81,8 @@ public:
             QAccessible::Relation match = QAccessible::AllRelations) const override;
     QWindow *window() const override;
     QAccessibleInterface *parent() const override { return m_qts->parent(); }
-    QAccessibleInterface *child(int index) const override { return m_qts->child(index); }
-    QAccessibleInterface *childAt(int x, int y) const override { return m_qts->childAt(x, y); }
+    QAccessibleInterface *child(int index) const override;
+    QAccessibleInterface *childAt(int x, int y) const override;
     int childCount() const override { return m_qts->childCount(); }
     int indexOfChild(const QAccessibleInterface *child) const override;
     void *interface_cast(QAccessible::InterfaceType type) override;

@@ -38,8 +38,7 @@ void OxaQuickWidget::initialise()
 {
     // Now, and by no factory: that of QtQuick, which comes with a file, would be asked first.
     QAccessible::registerAccessibleInterface(new AccessibleQuickWindow(quickWindow(), this));
-    connect(this, &QQuickWidget::statusChanged, this,
-            [this] { AccessibleQuickItem::tellOfItemsIn(*quickWindow()); });
+    connect(this, &QQuickWidget::statusChanged, this, [] { AccessibleQuickItem::install(); });
     quickWindow()->setTitle(QString());
     connect(this, &OxaQuickWidget::focusAboutToChange, this, &OxaQuickWidget::onFocusAboutToChange,
             Qt::QueuedConnection);
