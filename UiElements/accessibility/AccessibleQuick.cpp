@@ -205,21 +205,9 @@ QAccessibleInterface *AccessibleQuickItem::child(int index) const
     return child ? of(child->object()) : nullptr;
 }
 
-QAccessibleInterface *AccessibleQuickItem::childAt(int x, int y) const
-{
-    QAccessibleInterface *child = m_qts->childAt(x, y);
-    return child ? of(child->object()) : nullptr;
-}
-
 void AccessibleQuickItem::setText(QAccessible::Text kind, const QString &text)
 {
     m_qts->setText(kind, text);
-}
-
-QVector<QPair<QAccessibleInterface *, QAccessible::Relation>> AccessibleQuickItem::relations(
-        QAccessible::Relation match) const
-{
-    return m_qts->relations(match);
 }
 
 QWindow *AccessibleQuickItem::window() const

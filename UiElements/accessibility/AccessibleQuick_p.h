@@ -77,12 +77,10 @@ public:
     QAccessible::Role role() const override { return m_qts->role(); }
     QString text(QAccessible::Text kind) const override { return m_qts->text(kind); }
     void setText(QAccessible::Text kind, const QString &text) override;
-    QVector<QPair<QAccessibleInterface *, QAccessible::Relation>> relations(
-            QAccessible::Relation match = QAccessible::AllRelations) const override;
     QWindow *window() const override;
     QAccessibleInterface *parent() const override { return m_qts->parent(); }
     QAccessibleInterface *child(int index) const override;
-    QAccessibleInterface *childAt(int x, int y) const override;
+    QAccessibleInterface *childAt(int x, int y) const override { return m_qts->childAt(x, y); }
     int childCount() const override { return m_qts->childCount(); }
     int indexOfChild(const QAccessibleInterface *child) const override;
     void *interface_cast(QAccessible::InterfaceType type) override;
