@@ -191,10 +191,11 @@ QAccessible::State AccessibleQuickItem::state() const
 {
     QAccessible::State state = m_qts->state();
     if (const QWidget *widget = widgetOf(*item())) {
+        const QRect place = rect();
         const QRect pane(widget->mapToGlobal(QPoint()), widget->size());
-        state.offscreen = !pane.intersects(rect());
-        state.invisible = !widget->isVisible() || !item()->isVisible()
-                || qFuzzyIsNull(item()->opacity()) || rect().isNull();
+        state.offscreen = !pane.intersects(place);
+        state.invisible = place.isNull() || !widget->isVisible() || !item()->isVisible()
+                || qFuzzyIsNull(item()->opacity());
     }
     return state;
 }

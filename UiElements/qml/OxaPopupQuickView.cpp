@@ -249,20 +249,17 @@ Qt::ArrowType OxaPopupQuickView::flipArrow(Qt::ArrowType arrow)
     return OxaQmlBalloon::arrowTypeFromArrowAnchor(OxaQmlBalloon::flipAnchor(anchor));
 }
 
+// The base class comes last: a slot or handler in QML may delete the popup.
 void OxaPopupQuickView::showEvent(QShowEvent *event)
 {
-    const QPointer<OxaPopupQuickView> self(this); // A handler in QML may delete the popup.
+    tellAccessibility(this, QAccessible::ObjectShow);
     OxaQuickView::showEvent(event);
-    if (self)
-        tellAccessibility(this, QAccessible::ObjectShow);
 }
 
 void OxaPopupQuickView::hideEvent(QHideEvent *event)
 {
-    const QPointer<OxaPopupQuickView> self(this); // A handler in QML may delete the popup.
+    tellAccessibility(this, QAccessible::ObjectHide);
     OxaQuickView::hideEvent(event);
-    if (self)
-        tellAccessibility(this, QAccessible::ObjectHide);
 }
 
 void OxaPopupQuickView::keyPressEvent(QKeyEvent *event)
