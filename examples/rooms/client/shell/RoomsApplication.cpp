@@ -70,6 +70,8 @@ RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc
     OxaQmlTypes::registerQmlTypes();
 }
 
+RoomsApplication::~RoomsApplication() { delete m_engine; }
+
 RoomsApplication *RoomsApplication::get()
 {
     return qobject_cast<RoomsApplication *>(QCoreApplication::instance());
@@ -91,6 +93,7 @@ void RoomsApplication::apply(const Settings &settings, bool isTemporary)
 
 void RoomsApplication::onQmlEngineCreated(OxaQmlEngine *engine)
 {
+    m_engine = engine;
     new QmlLooks(engine);
     connect(engine, &OxaQmlEngine::qmlViewStatusChanged, this,
             [](OxaQmlEngine::QmlViewStatus status, const QString &view, const QString &message) {

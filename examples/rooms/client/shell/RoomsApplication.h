@@ -5,6 +5,8 @@
 
 #include <UiElements/app/OxaApplication.h>
 
+#include <QPointer>
+
 /// The application object of the client: it holds what the user has chosen, and makes all windows
 /// show it.
 class RoomsApplication : public OxaApplication
@@ -15,6 +17,9 @@ class RoomsApplication : public OxaApplication
 public:
     /// Reads the colours. Shows nothing before apply() is called.
     RoomsApplication(int &argc, char **argv);
+
+    /// Deletes the QML engine, which the library would only do in a later turn of the event loop.
+    ~RoomsApplication() override;
 
     /// The application object.
     static RoomsApplication *get();
@@ -49,4 +54,5 @@ private:
     bool m_isSystemDark = false;
     Qt::LayoutDirection m_systemDirection = Qt::LeftToRight;
     IOxaMovieProviderSource *m_movies = nullptr;
+    QPointer<OxaQmlEngine> m_engine;
 };
