@@ -19,6 +19,7 @@
 #include <QQuickItem>
 #include <QQuickView>
 #include <QQuickWidget>
+#include <QQuickWindow>
 #include <QSettings>
 #include <QSlider>
 #include <QTest>
@@ -158,6 +159,18 @@ bool click(const QQuickItem *item)
                              QStringLiteral("1") });
 }
 
+/// Qt's software scene graph frees the texture of a picture in the frame after the picture went,
+/// and leaks those that it has when its window goes.
+void releasePictures(const QWidget &window)
+{
+    const auto views = window.findChildren<QQuickWidget *>();
+    for (QQuickWidget *view : views) {
+        view->setSource({});
+        view->quickWindow()->releaseResources();
+        view->grabFramebuffer();
+    }
+}
+
 } // namespace
 
 /// A user's session with the whole client, by keys and pointer, and what the server received. Each
@@ -221,6 +234,7 @@ void tst_RoomsSession::initTestCase()
 void tst_RoomsSession::cleanupTestCase()
 {
     qInstallMessageHandler(handlerOfTests);
+    releasePictures(*m_window);
     m_window.reset();
     m_backend.reset();
     RoomsApplication::get()->apply({});
