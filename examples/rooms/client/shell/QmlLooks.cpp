@@ -42,7 +42,6 @@ QmlLooks::QmlLooks(QQmlEngine *engine) : QObject(engine)
 void QmlLooks::read()
 {
     const RoomsApplication *application = RoomsApplication::get();
-    m_colors.clear();
     for (const auto &[name, set] : application->getColorSets()) {
         const QString key = QString::fromStdString(name);
         m_colors.insert(key, set.normal);

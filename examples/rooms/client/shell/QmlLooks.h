@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QObject>
-#include <QVariantMap>
+#include <QQmlPropertyMap>
 
 class QQmlEngine;
 
@@ -12,9 +12,9 @@ class QmlLooks : public QObject
 {
     Q_OBJECT
     /// The colours of all sets, by the set's name, and with ".hovered" and the like behind it.
-    Q_PROPERTY(QVariantMap colors MEMBER m_colors NOTIFY changed)
+    Q_PROPERTY(QObject *colors READ colors CONSTANT)
     /// The fonts of all tokens, by the token's name.
-    Q_PROPERTY(QVariantMap fonts MEMBER m_fonts NOTIFY changed)
+    Q_PROPERTY(QObject *fonts READ fonts CONSTANT)
     Q_PROPERTY(bool isRightToLeft MEMBER m_isRightToLeft NOTIFY changed)
     Q_PROPERTY(bool animationsDisabled MEMBER m_animationsDisabled NOTIFY changed)
 
@@ -22,14 +22,18 @@ public:
     /// Makes those of \a engine, which owns them.
     explicit QmlLooks(QQmlEngine *engine);
 
+    QObject *colors() { return &m_colors; }
+    QObject *fonts() { return &m_fonts; }
+
 Q_SIGNALS:
     void changed();
 
 private:
     void read();
 
-    QVariantMap m_colors;
-    QVariantMap m_fonts;
+    // Not a QVariantMap: each use of one makes all of it anew for JavaScript.
+    QQmlPropertyMap m_colors;
+    QQmlPropertyMap m_fonts;
     bool m_isRightToLeft = false;
     bool m_animationsDisabled = false;
 };
