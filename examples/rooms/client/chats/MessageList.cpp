@@ -16,6 +16,7 @@
 
 namespace {
 
+constexpr int goalRows = 3000;
 constexpr int sliceMs = 5;
 constexpr int slicesPerLayout = 60; ///< Laying out 100,000 rows takes as long as a slice or two.
 
@@ -64,6 +65,7 @@ MessageList::MessageList(Backend *backend, PersonCards *cards, QWidget *parent)
 
 void MessageList::goToBottom()
 {
+    m_goal = -1;
     m_isAtBottom = true;
     m_unseen = 0;
     appendNew();
@@ -72,14 +74,29 @@ void MessageList::goToBottom()
 
 void MessageList::goTo(int row)
 {
-    if (row < m_first + screenMargin)
-        showMore(m_first - row + 2 * screenMargin);
-    const Place place { model()->index(row - m_first, 0), 0 };
-    m_isAtBottom = false;
+    m_goal = row;
+    reachGoal();
+}
+
+/// Goes to the row that goTo() was called for, or puts in some of the rows that are missing until
+/// there: all of 100,000 would keep the user waiting.
+void MessageList::reachGoal()
+{
+    Place place = this->place();
     beginInsert();
+    if (m_goal < m_first + screenMargin)
+        insertEarlier(qMin(goalRows, m_first - m_goal + 2 * screenMargin));
+    const bool isThere = m_goal >= m_first;
+    if (isThere) {
+        place = { model()->index(std::exchange(m_goal, -1) - m_first, 0), 0 };
+        m_isAtBottom = false;
+    }
     settle(place);
     endInsert();
-    followScrollBar();
+    if (isThere)
+        followScrollBar();
+    else
+        m_loadSoon.start(0);
 }
 
 QString MessageList::accessibleText(int row) const

@@ -37,7 +37,8 @@ public:
 
     void goToBottom();
 
-    /// Puts the message at \a row of the history on the top.
+    /// Puts the message at \a row of the history on the top, as soon as all rows from it on are in
+    /// the list.
     void goTo(int row);
 
     /// What assistive technology reads of the message in \a row of the list.
@@ -73,7 +74,9 @@ private:
     void appendNew();
     void showFirst();
     void showMore(int count);
+    int insertEarlier(int count);
     void loadMore();
+    void reachGoal();
 
     Place place() const;
     void changeRows(const std::function<void()> &change);
@@ -98,6 +101,7 @@ private:
     QPointer<History> m_history;
     std::unique_ptr<QTextDocument> m_ruler = std::make_unique<QTextDocument>();
     int m_first = 0; ///< The row of the history that is row 0 of the list.
+    int m_goal = -1; ///< The row of the history that goTo() is on its way to.
     int m_unseen = 0;
     int m_contentWidth = 0;
     int m_slices = 0;

@@ -37,6 +37,7 @@ void MessageList::setHistory(History *history)
     clear();
     m_history = history;
     m_first = 0;
+    m_goal = -1;
     m_unseen = 0;
     m_isAtBottom = true;
     connect(history, &History::inserted, this, &MessageList::insertMessages);
@@ -52,15 +53,17 @@ void MessageList::showFirst()
 {
     m_first = m_history->count();
     const int unread = m_history->rowOf(m_history->firstUnread());
-    showMore(firstRows);
-    if (unread >= 0 && m_history->firstUnread() >= 0) {
-        m_unseen = m_history->count() - unread;
-        goTo(unread);
+    if (unread < 0 || m_history->firstUnread() < 0) {
+        showMore(firstRows);
+        return;
     }
+    m_unseen = m_history->count() - unread;
+    goTo(unread);
 }
 
 void MessageList::insertMessages(int first, int count)
 {
+    m_goal += m_goal >= first ? count : 0;
     if (m_heights->count() == 0) {
         showFirst();
         Q_EMIT placeChanged();
@@ -77,6 +80,8 @@ void MessageList::insertMessages(int first, int count)
 
 void MessageList::removeMessages(int first, int count)
 {
+    if (m_goal >= first)
+        m_goal = qMax(first, m_goal - count);
     const int hidden = qBound(0, m_first - first, count);
     const int row = qMax(0, first - m_first);
     const int shown = qMin(count - hidden, m_heights->count() - row);
@@ -121,8 +126,8 @@ void MessageList::appendNew()
 void MessageList::insertRows(int first, int count)
 {
     m_heights->insert(first, count);
-    for (int row = first; row < first + count; ++row)
-        insertItem(row, new MessageItem);
+    for (int row = 0; row < count; ++row)
+        insertItem(first, new MessageItem); // At the front, where Qt moves no other.
     followAnother(first + count);
 }
 
@@ -138,19 +143,29 @@ void MessageList::followAnother(int row)
 /// Shows \a count more of the earlier messages that the history has.
 void MessageList::showMore(int count)
 {
-    count = qMin(count, m_first);
-    if (count <= 0)
-        return;
     changeRows([&] {
-        m_first -= count;
-        insertRows(0, count);
-        m_heights->measure(count - screenMargin, screenMargin); // They come on screen first.
+        const int inserted = insertEarlier(count);
+        m_heights->measure(inserted - screenMargin, screenMargin); // They come on screen first.
     });
+}
+
+/// Puts in the last \a count of the messages before the first row, or as many as there are. Returns
+/// how many.
+int MessageList::insertEarlier(int count)
+{
+    count = qMin(count, m_first);
+    m_first -= count;
+    insertRows(0, count);
     m_measureSoon.start();
+    return count;
 }
 
 void MessageList::loadMore()
 {
+    if (m_history && m_goal >= 0) {
+        reachGoal();
+        return;
+    }
     if (!m_history || verticalScrollBar()->value() > 2 * viewport()->height())
         return;
     if (m_first > 0)
