@@ -153,7 +153,19 @@ bool OxaListWidget::event(QEvent *event)
         return QListWidget::event(event);
 
     bool isHandled = false;
-    holdPasses([&] { isHandled = QListWidget::event(event); });
+    holdPasses([&] {
+        // Qt lays out all rows at each change of style, and a theme switch sends one for each sheet
+        // on the way to the list: once is enough, when the rows are asked for.
+        const bool isStyleChange = event->type() == QEvent::StyleChange;
+        if (isStyleChange)
+            m_isTakingRequest = true;
+        isHandled = QListWidget::event(event);
+        if (!isStyleChange) // The list may be gone.
+            return;
+        m_isTakingRequest = false;
+        if (std::exchange(m_isRequestTaken, false))
+            scheduleDelayedItemsLayout();
+    });
     return isHandled;
 }
 

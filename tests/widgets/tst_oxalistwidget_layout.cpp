@@ -152,6 +152,7 @@ class tst_OxaListWidgetLayout : public QObject
 private Q_SLOTS:
     void laysOutNoRowsToScroll();
     void laysOutNoRowsWhileRowsAreInserted();
+    void laysOutOnceForManyStyles();
     void obeysOtherRequests_data();
     void obeysOtherRequests();
     void looksLikeAQListWidget_data();
@@ -189,6 +190,28 @@ void tst_OxaListWidgetLayout::laysOutNoRowsWhileRowsAreInserted()
     list.fill(1000);
     QVERIFY2(delegate.sizes < 3 * 2000, qPrintable(QString::number(delegate.sizes)));
     QCOMPARE(list.verticalScrollBar()->maximum(), 2000 * 20 - 100);
+}
+
+void tst_OxaListWidgetLayout::laysOutOnceForManyStyles()
+{
+    QWidget window;
+    window.setAttribute(Qt::WA_DontShowOnScreen);
+    auto *list = new LoadedList(1000);
+    list->setParent(&window);
+    CountingDelegate delegate;
+    list->setItemDelegate(&delegate);
+    window.show();
+    QCoreApplication::processEvents();
+    delegate.sizes = 0;
+    for (const char *color : { "red", "green", "blue" }) {
+        const QString sheet = QStringLiteral("* { color: %1 }").arg(QLatin1String(color));
+        window.setStyleSheet(sheet);
+        list->setStyleSheet(sheet);
+    }
+    QCOMPARE(delegate.sizes, 0);
+    QCOMPARE(list->visualItemRect(list->item(4)).top(), 80);
+    QVERIFY2(delegate.sizes < 2 * 1000, qPrintable(QString::number(delegate.sizes)));
+    QCOMPARE(list->rowsWithWidgets(), QStringLiteral("0 1 2 3 4"));
 }
 
 void tst_OxaListWidgetLayout::obeysOtherRequests_data()
