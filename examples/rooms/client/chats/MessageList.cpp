@@ -51,7 +51,8 @@ MessageList::MessageList(Backend *backend, PersonCards *cards, QWidget *parent)
             verticalScrollBar()->setValue(verticalScrollBar()->maximum());
     });
     connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, this,
-            &MessageList::measureAll);
+            &MessageList::followSettings);
+    followSettings();
 
     m_measureSoon.setInterval(sliceMs);
     m_appendSoon.setSingleShot(true);
@@ -171,6 +172,16 @@ void MessageList::measureRest()
     changeRows([] {});
     if (!isMore)
         m_measureSoon.stop();
+}
+
+void MessageList::followSettings()
+{
+    const Settings &settings = RoomsApplication::get()->settings();
+    const std::pair scales(settings.fontScale, settings.messagingSize);
+    if (std::exchange(m_scales, scales) != scales)
+        measureAll();
+    else
+        refreshRows();
 }
 
 /// Measures all rows again, those on screen at once.

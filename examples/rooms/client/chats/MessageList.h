@@ -85,6 +85,7 @@ private:
     void followAnother(int row);
     void followScrollBar();
     void measureRest();
+    void followSettings();
     void measureAll();
 
     void makeRow(QListWidgetItem *item);
@@ -104,6 +105,7 @@ private:
     int m_goal = -1; ///< The row of the history that goTo() is on its way to.
     int m_unseen = 0;
     int m_contentWidth = 0;
+    std::pair<int, int> m_scales; ///< Of all text, and of messages.
     int m_slices = 0;
     bool m_isAtBottom = true;
     bool m_isChanging = false;
