@@ -174,6 +174,7 @@ void MessageList::measureRest()
         m_measureSoon.stop();
 }
 
+/// Also runs after each change of the theme.
 void MessageList::followSettings()
 {
     const Settings &settings = RoomsApplication::get()->settings();
@@ -201,7 +202,6 @@ void MessageList::measureAll()
 void MessageList::makeRow(QListWidgetItem *item)
 {
     auto *widget = new MessageRow(viewport());
-    widget->setThemeType(OxaThemeUtils::themeTypeToString(getThemeType()));
     connect(widget, &MessageRow::reactionToggled, this, [this, item](const QString &emoji) {
         m_backend->react(m_history->conversation(), m_history->at(m_first + row(item)).seq, emoji);
     });
@@ -308,14 +308,4 @@ void MessageList::contextMenuEvent(QContextMenuEvent *event)
             visualRect(index).intersected(viewport()->rect()).center());
     Q_EMIT menuRequested(m_history->at(m_first + index.row()),
                          isByMouse ? event->globalPos() : middle);
-}
-
-void MessageList::onThemeChanged()
-{
-    if (!m_history)
-        return;
-    const auto rows = viewport()->findChildren<MessageRow *>(QString(), Qt::FindDirectChildrenOnly);
-    for (MessageRow *row : rows)
-        row->setThemeType(OxaThemeUtils::themeTypeToString(getThemeType()));
-    refreshRows();
 }

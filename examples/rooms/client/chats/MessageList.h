@@ -56,9 +56,6 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
-protected Q_SLOTS:
-    void onThemeChanged() override;
-
 private:
     static constexpr int screenMargin = 10; ///< Rows measured before and after those on screen.
 
