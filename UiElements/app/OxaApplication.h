@@ -101,7 +101,8 @@ public:
     /// Stores \a factor, 0.5 to 1.5, and emits fontScaleFactorChanged(), also when it is the same.
     /// A factor out of range logs a warning and changes nothing. A NaN does not count as out of
     /// range: it is stored, and fonts then have their unscaled size. Existing fonts keep their
-    /// size.
+    /// size, those of widgets too: to change what is on screen, set each widget's `fontToken`
+    /// property to its own value again.
     void setFontScaleFactor(float factor);
 
     /// Returns what the outer application says about itself, if it says anything.

@@ -4,7 +4,8 @@
 #include <UiElements/layouts/FlowLayout.h>
 
 /// A layout whose items flow and wrap. It limits or fixes the number of items per row, and aligns
-/// each row by itself.
+/// each row by itself. An item that would just fit wraps: a row is at least a pixel wider than what
+/// it holds.
 class UIELEMENTS_EXPORT SmartLayout : public FlowLayout
 {
     Q_OBJECT

@@ -15,7 +15,9 @@
 /// frame under the text. Fusion fills it while the focus came by keyboard: see docs/focus.md.
 ///
 /// The placeholder has no colour set. It takes the text colours of a style text: to have others,
-/// set QPalette::PlaceholderText in a slot of cssChanged(). Links: see OxaTextBrowser.
+/// set QPalette::PlaceholderText in a slot of cssChanged(), and where style sheets of parents
+/// change, too, at QEvent::PaletteChange: Qt sets it again with each of them. Links: see
+/// OxaTextBrowser.
 class UIELEMENTS_EXPORT OxaTextEdit : public QTextEdit
 {
     Q_OBJECT
