@@ -38,7 +38,4 @@ protected Q_SLOTS:
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
-
-private:
-    void initialise();
 };

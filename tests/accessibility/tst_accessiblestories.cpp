@@ -135,6 +135,10 @@ void tst_AccessibleStories::stepsThroughAComboBox()
     Told::Events events;
     QTest::keyClick(&box, Qt::Key_Down);
     QCOMPARE(events.take(), QStringLiteral("ValueChanged b"));
+    box.setAccessibleName(QStringLiteral("box"));
+    QTest::keyClick(&box, Qt::Key_Up);
+    QCOMPARE(events.take(),
+             QStringLiteral("NameChanged box | DescriptionChanged box | ValueChanged box"));
 }
 
 void tst_AccessibleStories::showsABannerAndChangesIt()
