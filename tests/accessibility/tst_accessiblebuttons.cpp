@@ -4,7 +4,6 @@
 
 #include <UiElements/accessibility/AccessibleClasses_p.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
-#include <UiElements/widgets/OxaRadioButton.h>
 #include <UiElements/widgets/OxaTabBar.h>
 
 #include <QAccessibleWidget>
@@ -142,16 +141,12 @@ void tst_AccessibleButtons::togglesLikeAClick()
 {
     OxaPushButton button;
     button.setCheckable(true);
-    OxaRadioButton radioButton(QStringLiteral("text"));
-    for (QAbstractButton *each : { static_cast<QAbstractButton *>(&button),
-                                   static_cast<QAbstractButton *>(&radioButton) }) {
-        SignalLog log;
-        log.record(each, &QAbstractButton::toggled, QStringLiteral("toggled"));
-        log.record(each, &QAbstractButton::clicked, QStringLiteral("clicked"));
-        Told::of(each)->actionInterface()->doAction(toggle);
-        QTRY_VERIFY(each->isChecked());
-        QCOMPARE(log.take(), QStringLiteral("toggled | clicked"));
-    }
+    SignalLog log;
+    log.record(&button, &QPushButton::toggled, QStringLiteral("toggled"));
+    log.record(&button, &QPushButton::clicked, QStringLiteral("clicked"));
+    Told::of(&button)->actionInterface()->doAction(toggle);
+    QTRY_VERIFY(button.isChecked());
+    QCOMPARE(log.take(), QStringLiteral("toggled | clicked"));
 }
 
 void tst_AccessibleButtons::showsItsMenu()
