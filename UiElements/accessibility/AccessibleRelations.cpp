@@ -50,10 +50,12 @@ QVector<PopupWidget *> popupsOf(const QWidget &widget)
     return popups;
 }
 
+/// Adds \a relation to \a other, unless Qt knows it: of a popup that listens to its button, say.
 void add(Relations &relations, QWidget *other, QAccessible::Relation relation)
 {
-    if (QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(other))
-        relations += qMakePair(interface, relation);
+    const auto added = qMakePair(QAccessible::queryAccessibleInterface(other), relation);
+    if (added.first && !relations.contains(added))
+        relations += added;
 }
 
 /// Adds the captions of a field to the part that has its focus, and that part to them.

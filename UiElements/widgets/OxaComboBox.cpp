@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaComboBox.h"
 
+#include "WidgetParts_p.h"
+
 #include <QAbstractItemView>
 #include <QPointer>
 
@@ -51,6 +53,11 @@ OxaComboBox::OxaComboBox(QWidget *parent)
     takeList();
     connect(this, QOverload<int>::of(&QComboBox::highlighted), this,
             &OxaComboBox::highLightedIndex);
+    // With a name of its own, the box tells its choice as its description.
+    connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this] {
+        if (!accessibleName().isEmpty())
+            WidgetParts::tellAccessibility(this, QAccessible::DescriptionChanged);
+    });
     m_themeBlock.followTheme();
     OxaComboBox::applyCustomCSS();
 }

@@ -8,8 +8,10 @@
 
 OxaRadioButton::OxaRadioButton(QWidget *parent) : OxaRadioButton(QString(), parent) { }
 
-OxaRadioButton::OxaRadioButton(const QString &text, QWidget *parent) : QRadioButton(text, parent)
+OxaRadioButton::OxaRadioButton(const QString &text, QWidget *parent) : QRadioButton(parent)
 {
+    // Not by QRadioButton's constructor: Qt would take this for one of its own from then on.
+    setText(text);
     m_themeBlock.followTheme();
 }
 

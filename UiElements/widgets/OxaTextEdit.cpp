@@ -10,11 +10,17 @@
 #include <QMenu>
 #include <QPainter>
 
-OxaTextEdit::OxaTextEdit(QWidget *parent) : QTextEdit(parent) { initialise(); }
-
-OxaTextEdit::OxaTextEdit(const QString &text, QWidget *parent) : QTextEdit(text, parent)
+OxaTextEdit::OxaTextEdit(QWidget *parent) : QTextEdit(parent)
 {
-    initialise();
+    m_themeBlock.followTheme();
+    setTabChangesFocus(true);
+    VisualUtils::EventFilter::overrideShortcutOverride(this);
+}
+
+OxaTextEdit::OxaTextEdit(const QString &text, QWidget *parent) : OxaTextEdit(parent)
+{
+    // Not by QTextEdit's constructor: Qt would take this for one of its own from then on.
+    setHtml(text);
 }
 
 void OxaTextEdit::onThemeChanged() { }
@@ -33,12 +39,4 @@ void OxaTextEdit::paintEvent(QPaintEvent *e)
 void OxaTextEdit::contextMenuEvent(QContextMenuEvent *event)
 {
     ContextMenu::popUp(createStandardContextMenu(), this, event->globalPos());
-}
-
-/// What both constructors share.
-void OxaTextEdit::initialise()
-{
-    m_themeBlock.followTheme();
-    setTabChangesFocus(true);
-    VisualUtils::EventFilter::overrideShortcutOverride(this);
 }

@@ -40,7 +40,4 @@ protected Q_SLOTS:
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
-
-private:
-    void initialise();
 };

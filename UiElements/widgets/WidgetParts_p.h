@@ -53,12 +53,6 @@ inline QPixmap fitted(const QPixmap &pixmap, const QSize &size, qreal devicePixe
 }
 
 /// Tells assistive technology of \a event in \a widget, for what Qt does not know of.
-inline void tellAccessibility(QWidget *widget, QAccessible::Event event)
-{
-    if (!QAccessible::isActive())
-        return; // Qt would make an interface for it all the same.
-    QAccessibleEvent told(widget, event);
-    QAccessible::updateAccessibility(&told);
-}
+void tellAccessibility(QWidget *widget, QAccessible::Event event);
 
 } // namespace WidgetParts

@@ -248,7 +248,7 @@ const Row rows[] = {
       "EditableText", "", "focusable editable password", "SetFocus" },
     { "a text edit",
       [](QWidget *parent) -> QWidget * {
-          auto *edit = new OxaTextEdit(parent);
+          auto *edit = new OxaTextEdit(QStringLiteral("text"), parent);
           edit->setPlaceholderText(QStringLiteral("placeholder"));
           edit->setToolTip(QStringLiteral("tip"));
           return edit;

@@ -58,7 +58,7 @@ private Q_SLOTS:
     void showsAPasswordAndMasksIt();
     void goesIntoQmlAndOut();
     void hasAHoverCardComeAndGo();
-    void checksABox();
+    void checksABoxAndARadioButton();
     void replacesAListByRuns();
     void findsEachOfManyRows();
 
@@ -135,6 +135,10 @@ void tst_AccessibleStories::stepsThroughAComboBox()
     Told::Events events;
     QTest::keyClick(&box, Qt::Key_Down);
     QCOMPARE(events.take(), QStringLiteral("ValueChanged b"));
+    box.setAccessibleName(QStringLiteral("box"));
+    QTest::keyClick(&box, Qt::Key_Up);
+    QCOMPARE(events.take(),
+             QStringLiteral("NameChanged box | DescriptionChanged box | ValueChanged box"));
 }
 
 void tst_AccessibleStories::showsABannerAndChangesIt()
@@ -202,7 +206,7 @@ void tst_AccessibleStories::movesASlider()
     QCOMPARE(slider.value(), 1);
 }
 
-void tst_AccessibleStories::checksABox()
+void tst_AccessibleStories::checksABoxAndARadioButton()
 {
     OxaCheckBox box;
     box.setText(QStringLiteral("box"));
@@ -218,6 +222,10 @@ void tst_AccessibleStories::checksABox()
     QTRY_VERIFY(!box.isChecked());
     QCOMPARE(log.take(), byKey);
     QCOMPARE(events.take(), QStringLiteral("StateChanged box"));
+    OxaRadioButton button(QStringLiteral("button"));
+    const QSignalSpy clicked(&button, &QRadioButton::clicked);
+    Told::of(&button)->actionInterface()->doAction(QStringLiteral("Toggle"));
+    QTRY_COMPARE(clicked.size(), 1);
 }
 
 void tst_AccessibleStories::replacesAListByRuns()
