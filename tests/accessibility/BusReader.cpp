@@ -34,11 +34,12 @@ QVariant variantIn(const QVariantList &reply)
     return reply.value(0).value<QDBusVariant>().variant();
 }
 
-/// Says what sets a node apart: that it can be used and seen goes without saying.
+/// Says what sets a node apart: that it can be used and seen goes without saying. What is gone is
+/// hidden.
 QStringList statesIn(const QVariantList &reply)
 {
     if (reply.isEmpty())
-        return {};
+        return { QStringLiteral("hidden") };
     const auto words = qdbus_cast<QList<uint>>(reply.value(0));
     const quint64 bits = words.value(0) | quint64(words.value(1)) << 32;
     const struct

@@ -6,8 +6,6 @@
 #include <QFile>
 #include <QProcess>
 
-#include <functional>
-
 namespace {
 
 constexpr int waitMs = 20000;  ///< The sanitizers on a busy machine take that long.
@@ -72,7 +70,7 @@ private:
     int shownPage() const;
     bool goTo(int page) const;
     AccessibleTree read(int page) const;
-    BusReader::Node opened(const QVector<BusReader::Node> &before);
+    bool hasOpened(const QVector<BusReader::Node> &before);
     bool open(const QString &by, const QString &name);
     bool close(const QString &by);
 
@@ -149,19 +147,21 @@ AccessibleTree tst_GalleryWalk::read(int page) const
     return tree;
 }
 
-/// Returns what has opened since there were the windows \a before only, if anything has.
-BusReader::Node tst_GalleryWalk::opened(const QVector<BusReader::Node> &before)
+/// Takes note of what has opened since there were the windows \a before only. Returns whether
+/// something has.
+bool tst_GalleryWalk::hasOpened(const QVector<BusReader::Node> &before)
 {
-    static const QSet<QString> roles { QStringLiteral("frame"), QStringLiteral("dialog"),
-                                       QStringLiteral("popup menu"), QStringLiteral("list"),
-                                       QStringLiteral("alert message") };
+    static const QStringList roles = QStringLiteral("frame,dialog,popup menu,list,alert message")
+                                             .split(QLatin1Char(','));
     const QVector<BusReader::Node> nodes = m_reader.takeShown() + windows();
     for (const BusReader::Node &node : nodes) {
         const BusReader::Told told = m_reader.read(node);
-        if (!before.contains(node) && roles.contains(told.role) && !told.is("hidden"))
-            return node;
+        if (!before.contains(node) && roles.contains(told.role) && !told.is("hidden")) {
+            m_open += node;
+            return true;
+        }
     }
-    return {};
+    return false;
 }
 
 bool tst_GalleryWalk::open(const QString &by, const QString &name)
@@ -177,13 +177,7 @@ bool tst_GalleryWalk::open(const QString &by, const QString &name)
     const bool isStarted = m_reader.act(opener->node, by)
             || (by == QLatin1String("pointer") ? m_reader.moveTo(opener->node)
                                                : RealInput::typeKeys({ by }));
-    const auto isOpen = [&] {
-        const BusReader::Node node = opened(before);
-        if (!node.path.isEmpty())
-            m_open += node;
-        return !node.path.isEmpty();
-    };
-    return isStarted && QTest::qWaitFor(isOpen, waitMs);
+    return isStarted && QTest::qWaitFor([&] { return hasOpened(before); }, waitMs);
 }
 
 /// Closes all that is open, and waits until it has left the tree and the window is active again.
@@ -197,17 +191,14 @@ bool tst_GalleryWalk::close(const QString &by)
     else if (!RealInput::parkPointer()
              || (by != QLatin1String("itself") && !RealInput::typeKeys(by.split(QLatin1Char(' ')))))
         return false;
-    const auto isOpen = [this](const BusReader::Node &node) {
-        const BusReader::Told told = m_reader.read(node);
-        return !told.role.isEmpty() && !told.is("hidden");
+    const auto isGone = [this](const auto &node) { return m_reader.read(node).is("hidden"); };
+    const auto isClosed = [&] {
+        return std::all_of(m_open.cbegin(), m_open.cend(), isGone)
+                && m_reader.read(window()).is("active");
     };
-    return QTest::qWaitFor(
-            [&] {
-                m_open.erase(std::remove_if(m_open.begin(), m_open.end(), std::not_fn(isOpen)),
-                             m_open.end());
-                return m_open.isEmpty() && m_reader.read(window()).is("active");
-            },
-            waitMs);
+    const bool isRight = QTest::qWaitFor(isClosed, waitMs);
+    m_open.clear();
+    return isRight;
 }
 
 void tst_GalleryWalk::tellsWhatTheTableSays_data()
