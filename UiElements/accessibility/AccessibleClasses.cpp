@@ -7,7 +7,7 @@
 
 #include <UiElements/emoji/OxaEmojiPushButton.h>
 #include <UiElements/movies/OxaGifLabel.h>
-#include <UiElements/qml/OxaPopupQuickView.h>
+#include <UiElements/qml/OxaQuickView.h>
 #include <UiElements/qml/OxaQuickWidget.h>
 #include <UiElements/svg/OxaSvgLabel.h>
 #include <UiElements/widgets/AlertBanner.h>
@@ -40,6 +40,7 @@
 
 #include <QKeyEvent>
 #include <QLayout>
+#include <QListView>
 #include <QScrollArea>
 
 namespace {
@@ -188,9 +189,10 @@ constexpr AccessibleClass classes[] = {
     row<OxaDialog>(),
     popup(),
     qml(),
-    row<OxaPopupQuickView>(QAccessible::Dialog), // The one that is no widget.
+    row<OxaQuickView>(), // The one that is no widget.
 
     // What clients derive from. Qt tells of fillers, which are passed over even with the focus.
+    row<QListView>(), // That of a combo box, too, which is hidden until it opens.
     row<QScrollArea>(QAccessible::Pane),
     row<QAbstractScrollArea>(QAccessible::Pane),
     row<QWidget>(),
@@ -207,7 +209,7 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object)
     if (!row || className != QLatin1String(row->metaObject->className()))
         return nullptr;
     if (!object->isWidgetType())
-        return new AccessibleQuickWindow(static_cast<OxaPopupQuickView *>(object));
+        return new AccessibleQuickWindow(static_cast<OxaQuickView *>(object));
     QAccessibleInterface *qts = QtsInterface::make(object);
     if (!qts)
         return nullptr;

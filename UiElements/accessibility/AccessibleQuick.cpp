@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "AccessibleQuick_p.h"
 
+#include <UiElements/qml/OxaPopupQuickView.h>
 #include <UiElements/qml/OxaQuickWidget.h>
 
 #include <QCoreApplication>
@@ -128,12 +129,20 @@ QWindow *AccessibleQuickWindow::window() const
 
 QString AccessibleQuickWindow::text(QAccessible::Text kind) const
 {
-    return kind == QAccessible::Name ? quickWindow()->title() : QString();
+    if (kind != QAccessible::Name)
+        return {};
+    const QString title = quickWindow()->title();
+    const QAccessibleInterface *item = title.isEmpty() && !m_widget ? child(0) : nullptr;
+    return item ? item->text(kind) : title;
 }
 
 QAccessible::Role AccessibleQuickWindow::role() const
 {
-    return m_widget ? QAccessible::Pane : QAccessible::Dialog;
+    if (m_widget)
+        return QAccessible::Pane;
+    const bool isDialog = quickWindow()->type() != Qt::Window
+            || qobject_cast<OxaPopupQuickView *>(object());
+    return isDialog ? QAccessible::Dialog : QAccessible::Window;
 }
 
 QAccessible::State AccessibleQuickWindow::state() const

@@ -27,8 +27,8 @@ private:
 };
 
 /// What assistive technology is told of a window with QML, whose children are the items that have
-/// an `Accessible.role`: a pane in the widget that shows what it renders, or else a dialog. Qt
-/// would take the former for a window of the application.
+/// an `Accessible.role`: a pane in the widget that shows what it renders, or else a window or a
+/// dialog. Qt would take the former for a window of the application, and dialogs for windows.
 class AccessibleQuickWindow : public QAccessibleObject
 {
 public:

@@ -33,8 +33,10 @@ QVector<QLabel *> labelsOf(const QWidget &field)
         return labels;
     const auto siblings = field.parentWidget()->findChildren<QLabel *>(QString(),
                                                                        Qt::FindDirectChildrenOnly);
-    std::copy_if(siblings.begin(), siblings.end(), std::back_inserter(labels),
-                 [&field](const QLabel *label) { return label->buddy() == &field; });
+    for (QLabel *label : siblings) {
+        if (label->buddy() == &field)
+            labels += label;
+    }
     return labels;
 }
 
@@ -43,10 +45,10 @@ QVector<PopupWidget *> popupsOf(const QWidget &widget)
     QVector<PopupWidget *> popups;
     const auto all = widget.window()->findChildren<PopupWidget *>(QString(),
                                                                   Qt::FindDirectChildrenOnly);
-    std::copy_if(all.begin(), all.end(), std::back_inserter(popups),
-                 [&widget](const PopupWidget *popup) {
-                     return popup->getSourceButton() == &widget;
-                 });
+    for (PopupWidget *popup : all) {
+        if (popup->getSourceButton() == &widget)
+            popups += popup;
+    }
     return popups;
 }
 
@@ -125,9 +127,12 @@ bool AccessibleRelations::isClickable(QAccessible::Role role)
 
 QVector<QLabel *> AccessibleRelations::errorsOf(const QWidget &widget)
 {
-    QVector<QLabel *> errors = labelsOf(*fieldOf(widget));
-    const auto isOther = [](const QLabel *label) { return !isError(*label) || label->isHidden(); };
-    errors.erase(std::remove_if(errors.begin(), errors.end(), isOther), errors.end());
+    QVector<QLabel *> errors;
+    const QVector<QLabel *> labels = labelsOf(*fieldOf(widget));
+    for (QLabel *label : labels) {
+        if (isError(*label) && !label->isHidden())
+            errors += label;
+    }
     return errors;
 }
 

@@ -1,6 +1,27 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "OxaMenu.h"
 
+#include <QAccessible>
+
+namespace {
+
+/// Lets Qt make the interfaces of actions that are in other menus, too, for \a menu: it keeps those
+/// for the menu that was told of first, which may be closed or gone.
+void takeInterfaces(const QMenu &menu)
+{
+    const auto actions = menu.actions();
+    for (QAction *action : actions) {
+        QAccessibleInterface *item = QAccessible::queryAccessibleInterface(action);
+        if (!item)
+            continue;
+        const QAccessibleInterface *owner = item->parent();
+        if (!owner || owner->object() != &menu)
+            QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(item));
+    }
+}
+
+} // namespace
+
 OxaMenu::OxaMenu(QWidget *parent, bool) : QMenu(parent) { m_themeBlock.followTheme(); }
 
 OxaMenu::OxaMenu(QMenu *other, QWidget *parent) : OxaMenu(parent) { copyActions(other); }
@@ -33,6 +54,7 @@ void OxaMenu::setFirstAction(QAction *action) { m_firstAction = action; }
 
 void OxaMenu::showEvent(QShowEvent *event)
 {
+    takeInterfaces(*this);
     const QSize before = size();
     QWidget::showEvent(event);
     adjustSize();

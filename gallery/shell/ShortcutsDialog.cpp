@@ -67,6 +67,10 @@ ShortcutsDialog::ShortcutsDialog(QWidget *parent) : Dialog(tr("Keyboard shortcut
 {
     setWindowModality(Qt::WindowModal);
     resize(firstSize * GalleryApplication::get()->getFontScaleFactor());
+    body()->addWidget(Labels::paragraph(
+            tr("Each emits a signal, which the page Signals shows. F6 goes from one part of the "
+               "window to the next."),
+            this));
     OxaTextInput *search = Fields::search(tr("Search the shortcuts"), this);
     search->setMinimumWidth(0);
     search->setMaximumWidth(QWIDGETSIZE_MAX);
@@ -74,10 +78,6 @@ ShortcutsDialog::ShortcutsDialog(QWidget *parent) : Dialog(tr("Keyboard shortcut
     const auto showList = [list, search] { list->setHtml(listOf(search->text().trimmed())); };
     connect(search, &OxaTextInput::textChanged, list, showList);
     showList();
-    body()->addWidget(Labels::paragraph(
-            tr("Each emits a signal, which the page Signals shows. F6 goes from one part of the "
-               "window to the next."),
-            this));
     body()->addWidget(search);
     body()->addWidget(list, 1);
     addButton(tr("Close"), &QDialog::reject);

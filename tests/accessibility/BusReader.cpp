@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "BusReader.h"
 
+#include "support/RealInput.h"
+
+#include <QCoreApplication>
 #include <QDBusArgument>
-#include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
 #include <QMap>
+#include <QRect>
+
+#include <utility>
 
 namespace {
 
@@ -21,7 +26,7 @@ const QString connectionName = QStringLiteral("reader");
 QVariantList finish(QDBusPendingCall call)
 {
     call.waitForFinished();
-    return call.reply().arguments();
+    return call.isError() ? QVariantList() : call.reply().arguments();
 }
 
 QVariant variantIn(const QVariantList &reply)
@@ -29,9 +34,12 @@ QVariant variantIn(const QVariantList &reply)
     return reply.value(0).value<QDBusVariant>().variant();
 }
 
-/// Says what sets a node apart: that it can be used and seen goes without saying.
+/// Says what sets a node apart: that it can be used and seen goes without saying. What is gone is
+/// hidden.
 QStringList statesIn(const QVariantList &reply)
 {
+    if (reply.isEmpty())
+        return { QStringLiteral("hidden") };
     const auto words = qdbus_cast<QList<uint>>(reply.value(0));
     const quint64 bits = words.value(0) | quint64(words.value(1)) << 32;
     const struct
@@ -55,6 +63,8 @@ QStringList statesIn(const QVariantList &reply)
 
 QStringList actionsIn(const QVariantList &reply)
 {
+    if (reply.isEmpty())
+        return {};
     QStringList names;
     const auto argument = reply.value(0).value<QDBusArgument>();
     for (argument.beginArray(); !argument.atEnd();) {
@@ -110,6 +120,12 @@ BusReader::BusReader()
     : m_bus(QDBusConnection::connectToBus(qEnvironmentVariable("AT_SPI_BUS_ADDRESS"),
                                           connectionName))
 {
+    const Node registry { QStringLiteral("org.a11y.atspi.Registry"),
+                          QStringLiteral("/org/a11y/atspi/registry") };
+    finish(start(registry, "org.a11y.atspi.Registry", "RegisterEvent",
+                 { QStringLiteral("object:state-changed:showing") }));
+    m_bus.connect({}, {}, QStringLiteral("org.a11y.atspi.Event.Object"),
+                  QStringLiteral("StateChanged"), this, SLOT(noteShown(QDBusMessage)));
 }
 
 BusReader::~BusReader() { QDBusConnection::disconnectFromBus(connectionName); }
@@ -152,8 +168,40 @@ BusReader::Told BusReader::read(const Node &node) const
     return told;
 }
 
+bool BusReader::moveTo(const Node &node) const
+{
+    const quint32 screen = 0;
+    const auto call = start(node, "org.a11y.atspi.Component", "GetExtents", { screen });
+    const QPoint center = qdbus_cast<QRect>(finish(call).value(0)).center();
+    return RealInput::send({ QStringLiteral("mousemove"), QString::number(center.x()),
+                             QString::number(center.y()) });
+}
+
+bool BusReader::act(const Node &node, const QString &name) const
+{
+    const int index = read(node).actions.indexOf(name);
+    if (index >= 0)
+        finish(start(node, action, "DoAction", { index }));
+    return index >= 0;
+}
+
+QVector<BusReader::Node> BusReader::takeShown()
+{
+    QCoreApplication::sendPostedEvents(this);
+    return std::exchange(m_shown, {});
+}
+
+void BusReader::noteShown(const QDBusMessage &event)
+{
+    const QVariantList arguments = event.arguments();
+    if (arguments.value(0) == QLatin1String("showing") && arguments.value(1).toInt() == 1)
+        m_shown += Node { event.service(), event.path() };
+}
+
 QStringList BusReader::relationsIn(const QVariantList &reply) const
 {
+    if (reply.isEmpty())
+        return {};
     static const QMap<uint, QString> names { { 1, QStringLiteral("label for") },
                                              { 2, QStringLiteral("labelled by") },
                                              { 3, QStringLiteral("controller for") },

@@ -2,19 +2,24 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QStringList>
 #include <QVector>
 
 /// Reads on the accessibility bus what other processes tell there, as a screen reader does.
-class BusReader
+class BusReader : public QObject
 {
+    Q_OBJECT
+
 public:
     /// A thing that is told of: the name of its process on the bus, and its path.
     struct Node
     {
         QString service;
         QString path;
+
+        bool operator==(const Node &other) const { return path == other.path; }
     };
 
     /// What is told of a node.
@@ -39,7 +44,7 @@ public:
 
     BusReader();
     Q_DISABLE_COPY_MOVE(BusReader)
-    ~BusReader();
+    ~BusReader() override;
 
     /// Returns the applications that assistive technology knows.
     QVector<Node> applications() const;
@@ -51,6 +56,18 @@ public:
 
     Told read(const Node &node) const;
 
+    /// Moves the pointer to the middle of \a node. Returns whether it has been sent there.
+    bool moveTo(const Node &node) const;
+
+    /// Does the action \a name of \a node. Returns whether it has it.
+    bool act(const Node &node, const QString &name) const;
+
+    /// Returns what was told to have appeared, up to the last answer, and forgets it.
+    QVector<Node> takeShown();
+
+private Q_SLOTS:
+    void noteShown(const QDBusMessage &event);
+
 private:
     QStringList relationsIn(const QVariantList &reply) const;
     QDBusPendingCall startGet(const Node &node, const char *property) const;
@@ -58,4 +75,5 @@ private:
                            const QVariantList &arguments = {}) const;
 
     QDBusConnection m_bus;
+    QVector<Node> m_shown;
 };

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void survivesTheDeletionOfAMenuWhoseItemIsPressed();
     void forgetsItemsThatAreCleared();
     void tellsOfAContextMenuAndItsActions();
+    void tellsOfSharedActionsInTheMenuThatIsOpen();
     void triggersAnActionThatIsPressed();
 
 private:
@@ -162,6 +163,24 @@ void tst_AccessibleMenus::tellsOfAContextMenuAndItsActions()
     menu.setActiveAction(pin);
     QCOMPARE(Told::states(told->child(0)), QStringLiteral("disabled"));
     QCOMPARE(Told::states(told->child(2)), QStringLiteral("focused checkable checked"));
+}
+
+void tst_AccessibleMenus::tellsOfSharedActionsInTheMenuThatIsOpen()
+{
+    OxaMenu menu;
+    menu.addAction(QStringLiteral("Copy"));
+    auto copy = std::make_unique<OxaMenu>(&menu);
+    const auto isTold = [](OxaMenu *each) {
+        each->popupAt(QPoint(10, 10));
+        const QAccessibleInterface *item = Told::of(each)->child(0);
+        const bool isRight = item->isValid() && !item->state().invisible;
+        each->hide();
+        return isRight;
+    };
+    for (OxaMenu *each : { &menu, copy.get(), &menu, copy.get() })
+        QVERIFY(isTold(each));
+    copy.reset();
+    QVERIFY(isTold(&menu));
 }
 
 void tst_AccessibleMenus::triggersAnActionThatIsPressed()

@@ -68,7 +68,7 @@ private Q_SLOTS:
     void tellsWhereAnItemIs();
     void tellsOfTheFocusInAWidget();
     void forgetsTheTreeOfAWidgetThatIsDeleted();
-    void tellsThatAPopupIsADialog();
+    void tellsWhichWindowsAreDialogs();
     void givesShapesTheirRoles();
 };
 
@@ -137,12 +137,21 @@ void tst_AccessibleQml::forgetsTheTreeOfAWidgetThatIsDeleted()
     QVERIFY(!QAccessible::accessibleInterface(quick));
 }
 
-void tst_AccessibleQml::tellsThatAPopupIsADialog()
+void tst_AccessibleQml::tellsWhichWindowsAreDialogs()
 {
     OxaPopupQuickView popup;
     popup.setTitle(QStringLiteral("card"));
     QCOMPARE(Told::describe(Told::of(&popup)), QStringLiteral("Dialog card"));
     QCOMPARE(Told::of(&popup)->parent(), Told::of(qApp));
+    popup.setTitle(QString());
+    const std::unique_ptr<QObject> items = QmlScript::create(*popup.engine(),
+                                                             QString::fromLatin1(form));
+    static_cast<QQuickItem *>(items.get())->setParentItem(popup.contentItem());
+    QCOMPARE(Told::describe(Told::of(&popup)), QStringLiteral("Dialog ok"));
+    OxaQuickView view;
+    QCOMPARE(Told::of(&view)->role(), QAccessible::Window);
+    view.setFlag(Qt::Dialog);
+    QCOMPARE(Told::of(&view)->role(), QAccessible::Dialog);
     QQuickWindow plain;
     QCOMPARE(Told::of(&plain)->role(), QAccessible::Window);
 }

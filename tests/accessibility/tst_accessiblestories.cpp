@@ -114,14 +114,18 @@ void tst_AccessibleStories::opensAComboBoxAndCancels()
     box.addItems({ QStringLiteral("a"), QStringLiteral("b") });
     QVERIFY(Windows::activate(window));
     box.setFocus();
+    const QAccessibleInterface *list = Told::of(box.view());
+    QVERIFY(list->state().invisible);
     Told::Events events;
     QTest::keyClick(&box, Qt::Key_F4);
     QTRY_VERIFY(box.view()->isVisible());
+    QVERIFY(!list->state().invisible);
     QCOMPARE(events.take(),
              QStringLiteral("NameChanged box | SelectionAdd a | Focus a | ObjectShow  | ObjectShow "
                             "box | ObjectShow  | Focus box"));
     QTest::keyClick(box.view(), Qt::Key_Escape);
     QTRY_VERIFY(!box.view()->isVisible());
+    QVERIFY(list->state().invisible);
     QCOMPARE(events.take(),
              QStringLiteral("Focus box | ObjectHide  | ObjectHide box | ObjectHide "));
 }

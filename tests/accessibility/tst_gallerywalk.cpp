@@ -45,9 +45,15 @@ QString difference(const QStringList &told, const QStringList &expected)
 } // namespace
 
 /// What the whole gallery tells assistive technology, page by page, over the accessibility bus. The
-/// table gallery-tree.txt has a section for each page, and one for what is around them.
+/// table gallery-tree.txt has a section for each page, for what is around them, and for what they
+/// open. The headings of the latter tell
+/// - the page,
+/// - how it is opened: by an action, the key Menu, or the pointer,
+/// - by what: a button, a field or a label there, or in what is still open,
+/// - what closes it: keys, or a button; or "itself". Without that it stays open for the next ones.
 ///
-/// With UIELEMENTS_UPDATE_TABLES=1 in the environment the table is written anew, into the sources.
+/// With UIELEMENTS_UPDATE_TABLES=1 in the environment all below the headings is written anew, into
+/// the sources.
 class tst_GalleryWalk : public QObject
 {
     Q_OBJECT
@@ -60,29 +66,29 @@ private Q_SLOTS:
 
 private:
     BusReader::Node window() const;
+    QVector<BusReader::Node> windows() const;
     int shownPage() const;
     bool goTo(int page) const;
     AccessibleTree read(int page) const;
+    bool hasOpened(const QVector<BusReader::Node> &before);
+    bool open(const QString &by, const QString &name);
+    bool close(const QString &by);
 
     const QString m_path = QStringLiteral(GALLERY_TREE);
     const QStringList m_pages = pageNames();
+    QStringList m_sections; ///< All headings.
     const bool m_writes = qEnvironmentVariableIsSet("UIELEMENTS_UPDATE_TABLES");
     QMap<QString, QStringList> m_table; ///< The lines by their section.
     BusReader m_reader;
-    BusReader::Node m_stack; ///< Of the pages.
+    BusReader::Node m_stack;         ///< Of the pages.
+    QVector<BusReader::Node> m_open; ///< What was opened, and in what.
+    AccessibleTree m_page;
+    AccessibleTree m_top; ///< The last of what is open.
     QProcess m_gallery;
 };
 
 void tst_GalleryWalk::initTestCase()
 {
-    QString section;
-    const QStringList lines = m_writes ? QStringList() : readLines(m_path);
-    for (const QString &line : lines) {
-        if (line.startsWith(QLatin1Char('[')))
-            section = line.mid(1).chopped(1);
-        else if (!section.isEmpty() && !line.isEmpty())
-            m_table[section] += line;
-    }
     QVERIFY(RealInput::parkPointer());
     m_gallery.setProcessChannelMode(QProcess::ForwardedChannels);
     m_gallery.start(QStringLiteral(GALLERY_PROGRAM), { QStringLiteral("--page"), m_pages.first() });
@@ -103,18 +109,18 @@ void tst_GalleryWalk::cleanupTestCase()
         return;
     QFile file(m_path);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    QStringList sections = m_pages;
-    sections.prepend(QStringLiteral("window"));
-    for (const QString &section : qAsConst(sections)) {
+    for (const QString &section : qAsConst(m_sections)) {
         const QString text = m_table[section].join(QLatin1Char('\n'));
         file.write(QStringLiteral("[%1]\n%2\n\n").arg(section, text).toUtf8());
     }
 }
 
-BusReader::Node tst_GalleryWalk::window() const
+QVector<BusReader::Node> tst_GalleryWalk::windows() const
 {
-    return m_reader.childAt(m_reader.applications().value(0), 0);
+    return m_reader.childrenOf(m_reader.applications().value(0));
 }
+
+BusReader::Node tst_GalleryWalk::window() const { return windows().value(0); }
 
 /// Pages are made one after the other: the last one is shown.
 int tst_GalleryWalk::shownPage() const { return m_reader.read(m_stack).childCount - 1; }
@@ -141,24 +147,90 @@ AccessibleTree tst_GalleryWalk::read(int page) const
     return tree;
 }
 
+/// Takes note of what has opened since there were the windows \a before only. Returns whether
+/// something has.
+bool tst_GalleryWalk::hasOpened(const QVector<BusReader::Node> &before)
+{
+    static const QStringList roles = QStringLiteral("frame,dialog,popup menu,list,alert message")
+                                             .split(QLatin1Char(','));
+    const QVector<BusReader::Node> nodes = m_reader.takeShown() + windows();
+    for (const BusReader::Node &node : nodes) {
+        const BusReader::Told told = m_reader.read(node);
+        if (!before.contains(node) && roles.contains(told.role) && !told.is("hidden")) {
+            m_open += node;
+            return true;
+        }
+    }
+    return false;
+}
+
+bool tst_GalleryWalk::open(const QString &by, const QString &name)
+{
+    const AccessibleTree *opener = nullptr;
+    for (const QString &action : { by, QStringLiteral("SetFocus"), QString() })
+        opener = opener ? opener : (m_open.isEmpty() ? m_page : m_top).find(name, action);
+    if (!opener)
+        return false;
+    const QVector<BusReader::Node> before = windows();
+    m_reader.takeShown();
+    m_reader.act(opener->node, QStringLiteral("SetFocus"));
+    const bool isStarted = m_reader.act(opener->node, by)
+            || (by == QLatin1String("pointer") ? m_reader.moveTo(opener->node)
+                                               : RealInput::typeKeys({ by }));
+    return isStarted && QTest::qWaitFor([&] { return hasOpened(before); }, waitMs);
+}
+
+/// Closes all that is open, and waits until it has left the tree and the window is active again.
+bool tst_GalleryWalk::close(const QString &by)
+{
+    const QString press = QStringLiteral("Press");
+    const AccessibleTree *button = m_top.find(by, press);
+    button = button ? button : m_page.find(by, press);
+    if (button)
+        m_reader.act(button->node, press);
+    else if (!RealInput::parkPointer()
+             || (by != QLatin1String("itself") && !RealInput::typeKeys(by.split(QLatin1Char(' ')))))
+        return false;
+    const auto isGone = [this](const auto &node) { return m_reader.read(node).is("hidden"); };
+    const auto isClosed = [&] {
+        return std::all_of(m_open.cbegin(), m_open.cend(), isGone)
+                && m_reader.read(window()).is("active");
+    };
+    const bool isRight = QTest::qWaitFor(isClosed, waitMs);
+    m_open.clear();
+    return isRight;
+}
+
 void tst_GalleryWalk::tellsWhatTheTableSays_data()
 {
-    QTest::addColumn<int>("page");
-    QTest::newRow("window") << -1;
-    for (int page = 0; page < m_pages.size(); ++page)
-        QTest::newRow(qPrintable(m_pages[page])) << page;
+    QTest::addColumn<QStringList>("how");
+    const QStringList lines = readLines(m_path);
+    for (const QString &line : lines) {
+        if (line.startsWith(QLatin1Char('['))) {
+            m_sections += line.mid(1).chopped(1);
+            QTest::newRow(qPrintable(m_sections.last()))
+                    << m_sections.last().split(QStringLiteral(" / "));
+        } else if (!m_sections.isEmpty() && !line.isEmpty() && !m_writes) {
+            m_table[m_sections.last()] += line;
+        }
+    }
+    for (const QString &page : m_pages)
+        QVERIFY2(m_sections.contains(page), qPrintable(page));
 }
 
 void tst_GalleryWalk::tellsWhatTheTableSays()
 {
-    QFETCH(int, page);
+    QFETCH(const QStringList, how);
     QCOMPARE(m_gallery.state(), QProcess::Running);
+    const int page = m_pages.indexOf(how.first());
     QVERIFY(goTo(page));
-    const QString section = QString::fromUtf8(QTest::currentDataTag());
+    QVERIFY(how.size() == 1 || open(how.value(1), how.value(2)));
+    const QString section = how.join(QStringLiteral(" / "));
     QStringList problems;
     QString found;
     const auto isAsExpected = [&] {
-        const AccessibleTree tree = read(page);
+        AccessibleTree &tree = m_open.isEmpty() ? m_page : m_top;
+        tree = m_open.isEmpty() ? read(page) : AccessibleTree::read(m_reader, m_open.last());
         problems = tree.problems();
         const QStringList lines = tree.lines();
         found = difference(lines, m_table[section]);
@@ -168,6 +240,7 @@ void tst_GalleryWalk::tellsWhatTheTableSays()
     };
     // A page may still be filling.
     const bool isRight = QTest::qWaitFor(isAsExpected, settleMs);
+    QVERIFY(how.size() < 4 || close(how.last()));
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
     QVERIFY2(isRight, qPrintable(QStringLiteral("[%1] %2").arg(section, found)));
 }

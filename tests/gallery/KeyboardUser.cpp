@@ -18,6 +18,7 @@ namespace {
 
 constexpr int mostParts = 10;
 constexpr int mostBeside = 1000;
+constexpr int waitMs = 20000; ///< The sanitizers on a busy machine take that long.
 
 const QByteArray tab = "Tab";
 const QByteArray backtab = "shift+Tab";
@@ -151,7 +152,7 @@ void KeyboardUser::work(const QWidget &part)
         if (worked != stop && !m_reached.contains(worked))
             continue; // A button that was disabled or hidden by its click has handed the focus on.
         next = left(tab);
-        if (next == worked) {
+        if (next == worked && m_stops.size() > 1) {
             note(worked, "does not let go of the focus");
             return;
         }
@@ -174,7 +175,9 @@ void KeyboardUser::workStop(const Stop &stop)
 {
     if (auto *button = qobject_cast<QAbstractButton *>(stop)) {
         exploreBeside(stop);
-        if (!button->autoExclusive() || !button->isChecked())
+        if (m_isInDialog && !button->isCheckable())
+            m_unpressed += button->text();
+        else if (!button->autoExclusive() || !button->isChecked())
             press(button);
     } else {
         workValue(stop);
@@ -256,7 +259,7 @@ void KeyboardUser::press(QAbstractButton *button)
     if (guard && qobject_cast<QCheckBox *>(guard) && guard->isChecked() == wasChecked)
         note(guard, "is not toggled by Space");
     if (QWindow *opened = openedSince(before))
-        leave(opened, guard);
+        leave(opened, guard.data());
     if (guard && guard->isCheckable() && !guard->autoExclusive())
         typed("space");
 }
@@ -281,23 +284,48 @@ void KeyboardUser::openContextMenu(QWidget *field)
         note(field, "opens no menu");
 }
 
-/// Leaves the window \a opened, which \a opener has opened. A dialog is walked before.
-void KeyboardUser::leave(QWindow *opened, QWidget *opener)
+/// Walks and works a dialog, or goes to its \a button and presses that.
+void KeyboardUser::workDialog(const QString &button)
 {
-    const QPointer<QWidget> guard(opener);
-    const QPointer<QWindow> window(opened);
-    const auto isClosed = [&window] { return !window || !window->isVisible(); };
-    const auto isActive = [opened] { return QGuiApplication::focusWindow() == opened; };
-    if (opened->type() != Qt::Popup && !QTest::qWaitFor(isActive, 1000))
-        note(guard, "opens a window that does not get the focus");
+    walk();
+    if (button.isEmpty()) {
+        work(m_window);
+        return;
+    }
+    for (int i = 0; i < m_stops.size(); ++i, left(tab)) {
+        auto *stop = qobject_cast<QAbstractButton *>(m_stops[i]);
+        if (stop && stop->text() == button) {
+            press(stop);
+            return;
+        }
+    }
+}
+
+/// Leaves the window \a opened, which \a opener has opened, by a key. A dialog is worked before,
+/// and opened again for each \a button that may close it.
+void KeyboardUser::leave(const QPointer<QWindow> &opened, const Stop &opener, const QString &button)
+{
+    const auto isClosed = [&] { return !opened || !opened->isVisible(); };
+    const auto isActive = [&] { return QGuiApplication::focusWindow() == opened; };
+    if (isClosed() || (opened->type() != Qt::Popup && !QTest::qWaitFor(isActive, waitMs)))
+        note(opener, "opens a window that does not get the focus");
+    QStringList buttons;
     if (QApplication::activeWindow() && QApplication::activeWindow() != &m_window) {
         KeyboardUser inside(m_keyboard, *QApplication::activeWindow());
-        inside.walk();
+        inside.m_isInDialog = true;
+        inside.workDialog(button);
         m_problems += inside.m_problems;
+        buttons = inside.m_unpressed;
     }
-    typed(window && window->type() == Qt::Window ? QByteArray("alt+F4") : escape);
-    if (!QTest::qWaitFor(isClosed, 1000))
-        note(guard, "opens a window that stays");
-    if (!guard || !QTest::qWaitFor([&] { return guard->hasFocus(); }, 1000))
-        note(guard, "does not get the focus back");
+    if (!isClosed())
+        typed(opened->type() == Qt::Window ? QByteArray("alt+F4") : escape);
+    if (!QTest::qWaitFor(isClosed, waitMs))
+        note(opener, "opens a window that stays");
+    if (!QTest::qWaitFor([&] { return opener && opener->hasFocus(); }, waitMs))
+        note(opener, "does not get the focus back");
+    for (const QString &each : qAsConst(buttons)) {
+        const auto before = visibleWindows();
+        typed("space");
+        leave(openedSince(before), opener, each);
+    }
 }

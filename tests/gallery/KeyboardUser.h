@@ -47,7 +47,8 @@ private:
     void press(QAbstractButton *button);
     void openAndClose(QComboBox *combo);
     void openContextMenu(QWidget *field);
-    void leave(QWindow *opened, QWidget *opener);
+    void workDialog(const QString &button);
+    void leave(const QPointer<QWindow> &opened, const Stop &opener, const QString &button = {});
     void noteUnreached(const QWidget &part);
 
     Keyboard &m_keyboard;
@@ -55,5 +56,7 @@ private:
     QVector<Stop> m_controls; ///< What takes the focus, before anything was worked.
     QVector<Stop> m_stops;
     QSet<const QWidget *> m_reached;
+    QStringList m_unpressed; ///< Buttons of a dialog, which may close it.
     QStringList m_problems;
+    bool m_isInDialog = false;
 };

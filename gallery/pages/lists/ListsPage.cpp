@@ -48,6 +48,7 @@ Card *makeOverflow()
     auto *card = new Card(tr("Overflow"),
                           tr("OverflowListProxyModel has the rows for which the bar has no room."));
     auto *bar = new OverflowBar(makePeople(card), card);
+    bar->setAccessibleName(tr("People"));
     bar->setFixedWidth(firstWidth);
     OxaLabel *hidden = Labels::paragraph(QString());
     const OverflowListProxyModel *people = bar->hiddenPeople();

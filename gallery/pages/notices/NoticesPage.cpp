@@ -112,6 +112,7 @@ void addNotifications(Page &page)
                              "fadeOutCompleted() calls."));
     auto *notify = Buttons::make(tr("Notify"));
     auto *stack = new OxaWidget;
+    stack->setAccessibleName(tr("Notifications"));
     stack->setMinimumHeight(stackHeight);
     auto *row = new WrapLayout(Metrics::small, stack);
     auto *log = new EmissionLog;

@@ -177,7 +177,7 @@ QWidget *PopupsPage::makeContent()
     column->setSpacing(Metrics::small);
     column->addWidget(Labels::line(tr("Any widget can be in here."), content));
     OxaPushButton *hide = Buttons::make(tr("Hide"), content);
-    connect(hide, &OxaPushButton::clicked, this, [this] {
+    connect(hide, &OxaPushButton::clicked, content, [this] {
         if (m_popup)
             m_popup->hide();
     });

@@ -148,6 +148,7 @@ void TabbedPages::openMenu(OxaPushButton *tab, const QPoint &position)
     const int index = m_bar->layout()->indexOf(tab);
     m_bar->createAndShowTabMenu(index, [this, index, position](QPushButton *) {
         OxaMenu *menu = Menus::make(this);
+        menu->setAccessibleName(m_bar->tabText(index));
         menu->setAttribute(Qt::WA_DeleteOnClose);
         connect(menu->addAction(tr("Hide")), &QAction::triggered, this,
                 [this, index] { m_bar->setTabVisible(index, false); });

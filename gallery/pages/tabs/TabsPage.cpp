@@ -135,6 +135,7 @@ OxaMenu *makeNotifyMenu(QWidget *parent)
 {
     OxaMenu *menu = Menus::make(parent);
     menu->setTitle(tr("Notify me of"));
+    menu->setAccessibleName(menu->title());
     auto *group = new QActionGroup(menu);
     for (const QString &text : { tr("All messages"), tr("Mentions"), tr("Nothing") }) {
         QAction *action = group->addAction(text);
@@ -177,6 +178,7 @@ void addContextMenu(QWidget *button, OxaMenu *menu)
     QObject::connect(button, &QWidget::customContextMenuRequested, menu,
                      [button, menu](const QPoint &position) {
                          OxaMenu *copy = Menus::makeCopy(menu, button);
+                         copy->setAccessibleName(menu->accessibleName());
                          copy->setAttribute(Qt::WA_DeleteOnClose);
                          copy->popupAt(button->mapToGlobal(position));
                      });
@@ -187,6 +189,7 @@ void addMenu(Page &page)
     auto *stage = new OxaWidget;
     auto *button = Buttons::make(tr("Options"), stage);
     OxaMenu *menu = makeMenu(stage);
+    menu->setAccessibleName(button->text());
     QObject::connect(button, &OxaPushButton::clicked, menu,
                      [menu, button] { Menus::openBelow(menu, button); });
     addContextMenu(button, menu);

@@ -30,6 +30,9 @@ SecondWindow::SecondWindow(QWidget *parent) : OxaMainWindow(parent)
     resize(firstSize);
 
     auto *contents = new OxaWidget(this);
+    OxaLabel *text = Labels::paragraph(
+            tr("Type a shortcut, such as Ctrl+M: it works in all windows of the application."),
+            contents);
     auto *log = new EmissionLog(contents);
     log->setMaximumHeight(QWIDGETSIZE_MAX);
     log->follow(OxaAppSignals::get(), QObject::staticMetaObject);
@@ -38,9 +41,7 @@ SecondWindow::SecondWindow(QWidget *parent) : OxaMainWindow(parent)
     auto *column = new QVBoxLayout(contents);
     column->setContentsMargins(Metrics::gap, Metrics::gap, Metrics::gap, Metrics::gap);
     column->setSpacing(Metrics::spacing);
-    column->addWidget(Labels::paragraph(
-            tr("Type a shortcut, such as Ctrl+M: it works in all windows of the application."),
-            contents));
+    column->addWidget(text);
     column->addWidget(log, 1);
     column->addWidget(closeButton, 0, Qt::AlignRight);
     setCentralWidget(contents);

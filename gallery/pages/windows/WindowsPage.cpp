@@ -67,12 +67,12 @@ Card *makeMainWindow()
 void rename(OxaLabel *name, EmissionLog *log)
 {
     auto *dialog = new Dialog(tr("Rename the space"), name->window());
+    dialog->body()->addWidget(Labels::caption(tr("Name"), dialog));
     OxaLineEdit *field = Fields::line(dialog);
     field->setAccessibleName(tr("Name"));
     field->setText(name->text());
     field->selectAll();
     field->setMinimumWidth(fieldWidth);
-    dialog->body()->addWidget(Labels::caption(tr("Name"), dialog));
     dialog->body()->addWidget(field);
     OxaPushButton *accept = dialog->addButton(tr("Rename"), &QDialog::accept);
     accept->setCSS(Buttons::accent());
