@@ -3,6 +3,8 @@
 #include "chats/ChatsPage.h"
 #include "data/Backend.h"
 #include "data/ConversationModel.h"
+#include "people/PersonCards.h"
+#include "people/PersonControllers.h"
 #include "shell/MainWindow.h"
 #include "shell/RoomsApplication.h"
 #include "support/Guards.h"
@@ -321,7 +323,13 @@ void tst_RoomsSession::showsWhoSomebodyIs()
     const auto *header = m_window->findChild<QWidget *>(QStringLiteral("conversationHeader"));
     QVERIFY(RealInput::moveTo(*header, QPoint(36, header->height() / 2)));
     QVERIFY(click(quickButton("Profile")));
-    QVERIFY(click(quickButton("Message")));
+    QQuickItem *message = quickButton("Message");
+    QVERIFY(message);
+    m_window->cards()->showProfile(QStringLiteral("p2"), m_window.get());
+    const auto *profile = qobject_cast<QQuickView *>(message->window())->rootObject();
+    QCOMPARE(profile->findChildren<ProfileModel *>().size(), 1); // The one before is gone.
+    m_window->cards()->showProfile(QStringLiteral("p1"), m_window.get());
+    QVERIFY(click(message));
     QTRY_COMPARE(QGuiApplication::focusWindow(), m_window->windowHandle());
 }
 
