@@ -53,6 +53,8 @@ void PersonCards::showProfile(const QString &person, QWidget *window)
         return;
     auto *model = new ProfileModel(m_backend, person, m_profile);
     m_profile->setModel(QVariant::fromValue(model));
+    delete m_model; // Of a dialog that was open already.
+    m_model = model;
     dialog->setTitle(m_backend->person(person).name);
     dialog->setModality(Qt::WindowModal);
     const QRect above = window->window()->geometry();

@@ -10,6 +10,7 @@
 
 class Backend;
 class ProfileController;
+class ProfileModel;
 
 /// Shows who somebody is: a card under the pointer, and a profile in a dialog.
 class PersonCards : public QObject
@@ -41,5 +42,6 @@ private:
     PopupContext m_popups;
     DialogContext m_dialogs;
     QPointer<ProfileController> m_profile; ///< Of the dialog that is open.
+    QPointer<ProfileModel> m_model;        ///< Whose profile that is.
     QHash<QObject *, QString> m_people;    ///< By their anchors.
 };

@@ -59,10 +59,10 @@ RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc
     // What shows the focus by a border gets no frame.
     setProperty("useGlobalFocusBorders", true);
     setStyle(new RoomsStyle);
-    // Emoji in colour, which Qt would take from any font; but not the spaces of Hindi.
+    // Qt warns of Hindi text unless the first font has glyph tables for any script, which Open Sans
+    // has not. Emoji in colour, which it would take from any font.
     QFont::insertSubstitutions(QStringLiteral("Segoe UI"),
-                               { QStringLiteral("Open Sans"),
-                                 QStringLiteral("Noto Sans Devanagari"),
+                               { QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"),
                                  QStringLiteral("Noto Color Emoji") });
     setFont(OxaFont(OxaFont::Token::BodySecondary));
     setOrganizationName(QStringLiteral("Rooms"));

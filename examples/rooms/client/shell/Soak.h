@@ -3,17 +3,19 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QPoint>
 #include <QRandomGenerator>
 #include <QTimer>
 #include <QUrl>
 
 class Backend;
 class MainWindow;
+class QWindow;
 
 /// Uses the client at random, as many people would in a day: input of all kinds, other looks, sizes
-/// and pages, windows that open and are killed. Prints once a minute what the client holds, and the
-/// longest time in which it did not answer, with how much of it a processor was busy for it: on a
-/// machine with other work, only that is the client's own.
+/// and pages, windows that open and are killed. Prints once a minute what the client holds at rest,
+/// and the longest time in which it did not answer, with how much of it a processor was busy for
+/// it: on a machine with other work, only that is the client's own.
 class Soak : public QObject
 {
     Q_OBJECT
@@ -31,9 +33,17 @@ private:
     struct Sample
     {
         qint64 residentKb = 0;
+        qint64 heapKb = 0; ///< What is allocated, without what is free between it.
         int handles = 0;
         int widgets = 0;
         int timers = 0;
+    };
+
+    struct Target
+    {
+        QObject *receiver;
+        QPoint position; ///< In that.
+        QPoint global;
     };
 
     struct Action
@@ -45,8 +55,10 @@ private:
     static Sample sample();
     void beat();
     void act();
+    void rest();
     void report();
 
+    void point();
     void click();
     void type();
     void turnWheel();
@@ -58,8 +70,9 @@ private:
     void openLongest();
     void jump();
 
-    QWidget *target(QPoint *position);
-    void press(QWidget *widget, const QPoint &position, Qt::MouseButton button);
+    QWindow *otherWindow() const;
+    Target target();
+    QPoint placeIn(const QSize &size);
 
     MainWindow *const m_window;
     Backend *const m_backend;
