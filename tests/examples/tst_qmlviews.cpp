@@ -8,6 +8,7 @@
 #include <UiElements/qml/OxaPopupQuickView.h>
 #include <UiElements/qml/OxaQuickWidget.h>
 
+#include <QAccessible>
 #include <QQuickItem>
 
 namespace {
@@ -31,6 +32,14 @@ QString textIn(const QQuickView *view)
             return item->property("text").toString();
     }
     return {};
+}
+
+/// Returns what a screen reader says of \a view.
+QString toldOf(const QQuickView *view)
+{
+    const QAccessibleInterface *told = QAccessible::queryAccessibleInterface(view->rootObject());
+    return QLatin1String(qAccessibleRoleString(told->role())) + QLatin1Char(' ')
+            + told->text(QAccessible::Name);
 }
 
 } // namespace
@@ -98,6 +107,7 @@ void tst_QmlViews::opensACardUnderThePointer()
     QVERIFY(RealInput::moveTo(*ada, ada->rect().center()));
     QTRY_VERIFY(findView<OxaPopupQuickView>("Card"));
     QCOMPARE(textIn(findView<OxaPopupQuickView>("Card")), QStringLiteral("Ada is here"));
+    QCOMPARE(toldOf(findView<OxaPopupQuickView>("Card")), QStringLiteral("ToolTip Ada is here"));
     const auto *const grace = find<QLabel>(QStringLiteral("Grace"));
     QVERIFY(RealInput::moveTo(*grace, QPoint(2, 2)));
     QTRY_VERIFY(findView<OxaPopupQuickView>("Card")
@@ -114,6 +124,8 @@ void tst_QmlViews::opensAPopupAtAButton()
     QCOMPARE(findView<OxaPopupQuickView>("Actions")->x(),
              button->mapToGlobal(QPoint(button->width(), 0)).x());
     QTRY_VERIFY(findView<OxaPopupQuickView>("Actions")->isActive());
+    QCOMPARE(toldOf(findView<OxaPopupQuickView>("Actions")),
+             QStringLiteral("Dialog Nothing to do"));
     QVERIFY(RealInput::typeKeys({ QStringLiteral("Escape") }));
     QTRY_VERIFY(!findView<OxaPopupQuickView>("Actions"));
 }

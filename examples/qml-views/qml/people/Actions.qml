@@ -10,11 +10,14 @@ OxaBalloon {
     borderColor: "#757575"
     arrowAnchor: controller.arrowAnchor
     arrowOffset: controller.arrowOffset
+    Accessible.role: Accessible.Dialog
+    Accessible.name: label.text
 
     OxaQmlPopupController {
         id: controller
     }
     Text {
+        id: label
         anchors.centerIn: parent
         text: qsTr("Nothing to do")
     }

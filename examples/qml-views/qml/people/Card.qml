@@ -11,11 +11,13 @@ OxaBalloon {
     borderColor: "#757575"
     arrowAnchor: controller.arrowAnchor
     arrowOffset: controller.arrowOffset
+    Accessible.name: label.text
 
     OxaQmlPopupController {
         id: controller
     }
     Text {
+        id: label
         anchors.centerIn: parent
         text: qsTr("%1 is here").arg(controller.model)
     }

@@ -14,6 +14,8 @@ Rectangle {
         anchors.margins: 16
         focus: true
         text: controller.name
+        Accessible.role: Accessible.EditableText
+        Accessible.name: qsTr("Name")
         onAccepted: controller.accepted(text)
     }
 }

@@ -9,5 +9,7 @@ Rectangle {
     Text {
         anchors.centerIn: parent
         text: qsTr("Two people")
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 }
