@@ -48,18 +48,6 @@ void addOptions(QCommandLineParser &parser)
     });
 }
 
-Server::Options optionsOf(const QCommandLineParser &parser)
-{
-    Server::Options options;
-    options.socket = parser.value(u"socket"_s);
-    options.rate = parser.value(u"rate"_s).toInt();
-    options.isLate = parser.isSet(u"late"_s);
-    options.isTyping = parser.isSet(u"typing"_s);
-    options.failing = parser.value(u"fail"_s);
-    options.log = parser.value(u"log"_s);
-    return options;
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -79,7 +67,10 @@ int main(int argc, char **argv)
     if (parser.isSet(u"mailbox"_s))
         archive = std::make_unique<MailArchive>(parser.value(u"mailbox"_s));
     World world(std::move(archive), parser.value(u"state"_s));
-    Server server(world, seeded, optionsOf(parser));
+    Server server(world, seeded,
+                  { parser.value(u"socket"_s), parser.value(u"rate"_s).toInt(),
+                    parser.isSet(u"late"_s), parser.isSet(u"typing"_s), parser.values(u"fail"_s),
+                    parser.value(u"log"_s) });
     if (!server.listen())
         qFatal("Cannot listen at %s", qPrintable(parser.value(u"socket"_s)));
     return QCoreApplication::exec();
