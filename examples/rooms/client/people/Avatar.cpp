@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Avatar.h"
 
+#include "protocol/Literal.h"
+
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/theme/OxaThemeUtils.h>
 
@@ -122,7 +124,7 @@ int Avatar::colorNumber(const QString &id)
 
 QString Avatar::initials(const QString &name)
 {
-    const QStringList words = name.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList words = name.split(u' ', Qt::SkipEmptyParts);
     if (words.isEmpty())
         return {};
     const auto first = [](const QString &word) {

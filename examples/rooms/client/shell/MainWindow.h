@@ -5,7 +5,6 @@
 
 #include <UiElements/widgets/OxaMainWindow.h>
 
-class AlertBanner;
 class Avatar;
 class Backend;
 class CallsPage;
@@ -47,7 +46,6 @@ private:
     QWidget *makeTop();
     void addPage(const QString &title, QWidget *page);
     void connectShortcuts();
-    void showConnection();
     OxaPushButton *makeMe(QWidget *parent);
     void showMe();
     void openMenu();
@@ -56,7 +54,6 @@ private:
 
     Backend *const m_backend;
     PersonCards m_cards;
-    AlertBanner *m_banner = nullptr;
     OxaPushButton *m_me = nullptr;
     Avatar *m_picture = nullptr;
     OxaTabBar *m_tabs = nullptr;

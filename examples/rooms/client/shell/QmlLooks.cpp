@@ -2,6 +2,7 @@
 #include "QmlLooks.h"
 
 #include "RoomsApplication.h"
+#include "protocol/Literal.h"
 
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/svg/OxaSvgRenderer.h>
@@ -21,9 +22,9 @@ public:
 
     QPixmap requestPixmap(const QString &id, QSize *size, const QSize &requested) override
     {
-        const OxaSvgRenderer icon(OxaSvgRenderer::resourcePath(id.section(QLatin1Char('/'), 0, 0)));
+        const OxaSvgRenderer icon(OxaSvgRenderer::resourcePath(id.section(u'/', 0, 0)));
         const QPixmap pixmap = icon.renderPixmap(requested.isValid() ? requested : QSize(16, 16), 1,
-                                                 QColor(id.section(QLatin1Char('/'), 1)));
+                                                 QColor(id.section(u'/', 1)));
         *size = pixmap.size();
         return pixmap;
     }
@@ -33,8 +34,8 @@ public:
 
 QmlLooks::QmlLooks(QQmlEngine *engine) : QObject(engine)
 {
-    engine->addImageProvider(QStringLiteral("icons"), new Icons);
-    engine->rootContext()->setContextProperty(QStringLiteral("looks"), this);
+    engine->addImageProvider(u"icons"_s, new Icons);
+    engine->rootContext()->setContextProperty(u"looks"_s, this);
     connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, this, &QmlLooks::read);
     read();
 }
@@ -45,9 +46,9 @@ void QmlLooks::read()
     for (const auto &[name, set] : application->getColorSets()) {
         const QString key = QString::fromStdString(name);
         m_colors.insert(key, set.normal);
-        m_colors.insert(key + QStringLiteral(".hovered"), set.hovered);
-        m_colors.insert(key + QStringLiteral(".pressed"), set.pressed);
-        m_colors.insert(key + QStringLiteral(".focused"), set.focused);
+        m_colors.insert(key + u".hovered"_s, set.hovered);
+        m_colors.insert(key + u".pressed"_s, set.pressed);
+        m_colors.insert(key + u".focused"_s, set.focused);
     }
     const auto tokens = QMetaEnum::fromType<OxaFont::Token>();
     for (int index = 0; index < tokens.keyCount(); ++index) {
