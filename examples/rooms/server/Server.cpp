@@ -4,7 +4,6 @@
 #include "protocol/JsonLines.h"
 #include "protocol/Literal.h"
 
-#include <QDateTime>
 #include <QJsonDocument>
 #include <QLocalSocket>
 

@@ -5,7 +5,6 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QRegularExpression>
 
 namespace {
 
@@ -18,13 +17,8 @@ QStringList emojiIn(const QString &name)
         return emoji;
     while (!file.atEnd()) {
         const QString line = QString::fromUtf8(file.readLine(1000));
-        if (line.startsWith(u'#') || !line.contains(u';'))
-            continue;
-        QVector<uint> codes;
-        const QStringList numbers = line.section(u';', 0, 0).split(u' ', Qt::SkipEmptyParts);
-        for (const QString &number : numbers)
-            codes.append(number.toUInt(nullptr, 16));
-        emoji.append(QString::fromUcs4(codes.constData(), codes.size()));
+        if (line.contains(u';') && !line.startsWith(u'#'))
+            emoji.append(line.section(u"# "_s, 1).section(u' ', 0, 0));
     }
     return emoji;
 }

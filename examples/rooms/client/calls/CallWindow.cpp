@@ -142,13 +142,13 @@ void CallWindow::connectShortcuts()
     connect(m_hand, &OxaSvgPushButton::toggled, this, showMyState);
 }
 
-void CallWindow::showLevels(const QHash<QString, int> &levels)
+void CallWindow::showLevels(const QVariantHash &levels)
 {
     for (auto level = levels.begin(); level != levels.end(); ++level) {
         if (!m_tiles.contains(level.key()))
             add(level.key());
         const bool isMuted = level.key() == m_backend->me() && m_microphone->isChecked();
-        m_tiles.value(level.key())->setLevel(isMuted ? 0 : level.value());
+        m_tiles.value(level.key())->setLevel(isMuted ? 0 : level->toInt());
     }
     const QStringList there = m_tiles.keys();
     for (const QString &person : there) {

@@ -30,7 +30,7 @@ private:
     OxaSvgPushButton *addToggle(QLayout *row, const QString &icon, const QString &checkedIcon,
                                 const QString &name, const QString &checkedName);
     void connectShortcuts();
-    void showLevels(const QHash<QString, int> &levels);
+    void showLevels(const QVariantHash &levels);
     void add(const QString &person);
     void remove(const QString &person);
     void showTime();

@@ -12,6 +12,8 @@
 
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 constexpr int pictureSize = 72;
@@ -81,7 +83,9 @@ void ParticipantTile::resizeEvent(QResizeEvent *event)
 void ParticipantTile::setLevel(int level)
 {
     m_level->setValue(level);
-    setSpeaking(level > (m_isSpeaking ? quiet : loud));
+    const bool isSpeaking = level > (m_isSpeaking ? quiet : loud);
+    if (std::exchange(m_isSpeaking, isSpeaking) != isSpeaking)
+        setCSS(tileStyle(isSpeaking));
 }
 
 void ParticipantTile::setState(const QString &icon)
@@ -89,12 +93,4 @@ void ParticipantTile::setState(const QString &icon)
     m_state->setVisible(!icon.isEmpty());
     if (!icon.isEmpty())
         m_state->setSvgIcon(OxaSvgRenderer::resourcePath(icon));
-}
-
-void ParticipantTile::setSpeaking(bool isSpeaking)
-{
-    if (isSpeaking == m_isSpeaking)
-        return;
-    m_isSpeaking = isSpeaking;
-    setCSS(tileStyle(isSpeaking));
 }

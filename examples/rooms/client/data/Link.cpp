@@ -36,11 +36,6 @@ void Link::ask(const QString &name, QJsonObject values, QObject *context, const 
     m_lines->send(values);
 }
 
-void Link::tell(const QString &name, const QJsonObject &values)
-{
-    ask(name, values, this, [](const QJsonObject &) {});
-}
-
 void Link::connectToServer()
 {
     m_retry.setInterval(qBound(shortestRetryMs, m_retry.interval() * 2, longestRetryMs));

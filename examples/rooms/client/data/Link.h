@@ -28,10 +28,8 @@ public:
 
     /// Asks the request \a name with \a values. The answer goes to \a answer, unless \a context is
     /// gone by then. There is none if the connection is lost: ask again after opened().
-    void ask(const QString &name, QJsonObject values, QObject *context, const Answer &answer);
-
-    /// The same for a request whose answer nobody needs.
-    void tell(const QString &name, const QJsonObject &values = {});
+    void ask(const QString &name, QJsonObject values = {}, QObject *context = nullptr,
+             const Answer &answer = {});
 
 Q_SIGNALS:
     void opened();

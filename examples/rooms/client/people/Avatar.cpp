@@ -65,8 +65,6 @@ QPainterPath shape(Presence presence, const QRectF &rect)
     return circle(rect);
 }
 
-std::string colorName(Presence presence) { return "presence-" + nameOf(presence).toStdString(); }
-
 } // namespace
 
 Avatar::Avatar(int size, QWidget *parent) : OxaWidget(parent), m_size(size)
@@ -109,7 +107,7 @@ void Avatar::paintPresence(QPainter *painter, const QRect &rect, Presence presen
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
-    painter->setBrush(color(colorName(presence)));
+    painter->setBrush(color("presence-" + nameOf(presence).toStdString()));
     painter->drawPath(shape(presence, presenceRect(rect, direction)));
     painter->restore();
 }

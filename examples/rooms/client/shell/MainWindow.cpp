@@ -26,7 +26,12 @@
 MainWindow::MainWindow(Backend *backend, QWidget *parent)
     : OxaMainWindow(parent), m_backend(backend), m_cards(backend)
 {
-    setUpLooks();
+    setObjectName(u"mainWindow"_s);
+    setWindowTitle(tr("Rooms"));
+    setMinimumSize(560, 400);
+    resize(1120, 760);
+    setCSS(u"#mainWindow { background: $(window); }"_s + Looks::scrollBarRules());
+
     auto *content = new OxaWidget(this);
     setCentralWidget(content);
     AlertBanner *banner =
@@ -50,36 +55,13 @@ MainWindow::MainWindow(Backend *backend, QWidget *parent)
     m_tabs->getTab(Chats)->installEventFilter(this);
     connect(m_tabs, &OxaTabBar::currentChanged, m_pages, &QStackedWidget::setCurrentIndex);
 
+    connectAll();
     connect(backend, &Backend::connectedChanged, banner, &QWidget::setHidden);
-    connect(backend, &Backend::connectedChanged, this, &MainWindow::showMe);
-    connect(backend, &Backend::personChanged, this, [this](const QString &person) {
-        if (person == m_backend->me())
-            showMe();
-    });
-    connect(backend, &Backend::failed, this,
-            [this](const QString &reason) { Toast::show(reason, this); });
-    connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, this, &MainWindow::showMe);
-    connect(m_chats, &ChatsPage::callRequested, this, &MainWindow::callConversation);
-    const auto openPerson = [this](const QString &person) {
-        showPage(Chats);
-        m_chats->openPerson(person);
-    };
-    connect(&m_cards, &PersonCards::messageRequested, this, openPerson, Qt::QueuedConnection);
-    connectShortcuts();
     showMe();
     m_chats->focusSearch();
 }
 
 void MainWindow::showPage(Page page) { m_tabs->setCurrentIndex(page); }
-
-void MainWindow::setUpLooks()
-{
-    setObjectName(u"mainWindow"_s);
-    setWindowTitle(tr("Rooms"));
-    setMinimumSize(560, 400);
-    resize(1120, 760);
-    setCSS(u"#mainWindow { background: $(window); }"_s + Looks::scrollBarRules());
-}
 
 QWidget *MainWindow::makeTop()
 {
@@ -127,8 +109,26 @@ void MainWindow::addPage(const QString &title, QWidget *page)
                 "$borderRadius: 6;"_s);
 }
 
-void MainWindow::connectShortcuts()
+void MainWindow::connectAll()
 {
+    connect(m_backend, &Backend::connectedChanged, this, &MainWindow::showMe);
+    connect(m_backend, &Backend::personChanged, this, [this](const QString &person) {
+        if (person == m_backend->me())
+            showMe();
+    });
+    connect(m_backend, &Backend::failed, this,
+            [this](const QString &reason) { Toast::show(reason, this); });
+    connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, this, &MainWindow::showMe);
+    connect(m_chats, &ChatsPage::callRequested, this, [this](const QString &id) {
+        const ConversationModel *model = m_backend->conversations();
+        m_calls->start(model->index(model->getRowIndex(id.toStdString())).data().toString());
+    });
+    const auto openPerson = [this](const QString &person) {
+        showPage(Chats);
+        m_chats->openPerson(person);
+    };
+    connect(&m_cards, &PersonCards::messageRequested, this, openPerson, Qt::QueuedConnection);
+
     const OxaAppSignals *hub = OxaAppSignals::get();
     const auto shows = [this](Page page) { return [this, page] { showPage(page); }; };
     connect(hub, &OxaAppSignals::selectMessagingTab, this, shows(Chats));
@@ -198,9 +198,3 @@ void MainWindow::showSettings()
 }
 
 void MainWindow::startCall(const Call &call) { m_calls->start(call.title); }
-
-void MainWindow::callConversation(const QString &id)
-{
-    const ConversationModel *model = m_backend->conversations();
-    m_calls->start(model->index(model->getRowIndex(id.toStdString())).data().toString());
-}

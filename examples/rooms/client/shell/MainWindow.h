@@ -42,15 +42,13 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void setUpLooks();
     QWidget *makeTop();
     void addPage(const QString &title, QWidget *page);
-    void connectShortcuts();
+    void connectAll();
     OxaPushButton *makeMe(QWidget *parent);
     void showMe();
     void openMenu();
     void zoom(int step);
-    void callConversation(const QString &id);
 
     Backend *const m_backend;
     PersonCards m_cards;

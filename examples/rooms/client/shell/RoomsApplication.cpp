@@ -130,7 +130,7 @@ void RoomsApplication::apply(const Settings &settings, bool isTemporary)
 void RoomsApplication::onQmlEngineCreated(OxaQmlEngine *engine)
 {
     m_engine = engine;
-    new QmlLooks(engine);
+    provideLooks(engine);
     connect(engine, &OxaQmlEngine::qmlViewStatusChanged, this,
             [](OxaQmlEngine::QmlViewStatus status, const QString &view, const QString &message) {
                 if (status == OxaQmlEngine::QmlViewStatus::Error)
