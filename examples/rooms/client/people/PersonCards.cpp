@@ -108,13 +108,13 @@ bool PersonCards::eventFilter(QObject *watched, QEvent *event)
 void PersonCards::showCard(QWidget *anchor, const QString &person)
 {
     m_window = anchor->window();
-    m_popups.createQmlPopup(cardSource, m_window->windowHandle(), OxaQmlBalloon::Top, {}, {});
+    const auto fill = [this, person](OxaQmlController *controller) {
+        auto *card = qobject_cast<OxaQmlPopupController *>(controller);
+        card->setModel(toQml(m_backend->person(person)));
+    };
+    m_popups.createQmlPopup(cardSource, m_window->windowHandle(), OxaQmlBalloon::Top, {}, fill);
     const QRectF place(anchor->mapToGlobal(QPoint()), QSizeF(anchor->size()));
-    m_popups.showQmlPopup(cardSource, place, true, OxaQmlBalloon::Top,
-                          [this, person](OxaQmlController *controller) {
-                              auto *card = qobject_cast<OxaQmlPopupController *>(controller);
-                              card->setModel(toQml(m_backend->person(person)));
-                          });
+    m_popups.showQmlPopup(cardSource, place, true, OxaQmlBalloon::Top, fill);
 }
 
 void PersonCards::closeAll()
