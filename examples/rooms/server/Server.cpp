@@ -185,12 +185,12 @@ QJsonObject Server::post(int conversation, const QJsonObject &request)
         || !kinds.contains(request[u"kind"_s].toString()))
         return error(u"This is no message."_s);
     const int total = m_world.total(conversation);
-    const QJsonObject answer = m_world.post(conversation,
-                                            { { u"author"_s, u"p0"_s },
-                                              { u"kind"_s, request[u"kind"_s] },
-                                              { u"text"_s, text },
-                                              { u"key"_s, key },
-                                              { u"reactions"_s, QJsonArray() } });
+    QJsonObject answer = m_world.post(conversation,
+                                      { { u"author"_s, u"p0"_s },
+                                        { u"kind"_s, request[u"kind"_s] },
+                                        { u"text"_s, text },
+                                        { u"key"_s, key },
+                                        { u"reactions"_s, QJsonArray() } });
     if (m_world.total(conversation) > total)
         pushMessage(conversation, m_world.message(conversation, total));
     return answer;

@@ -24,15 +24,15 @@ public:
     ~CallWindow() override;
 
 private:
-    QWidget *makeTop(const QString &title);
+    QWidget *makeTop(const QString &text);
     QWidget *makeStage();
     QWidget *makeControls();
     OxaSvgPushButton *addToggle(QLayout *row, const QString &icon, const QString &checkedIcon,
                                 const QString &name, const QString &checkedName);
     void connectShortcuts();
     void showLevels(const QVariantHash &levels);
-    void add(const QString &person);
-    void remove(const QString &person);
+    void add(const QString &id);
+    void remove(const QString &id);
     void showTime();
 
     Backend *const m_backend;
