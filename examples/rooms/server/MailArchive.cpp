@@ -69,8 +69,6 @@ QJsonArray MailArchive::people() const
     for (int i = 0; i < m_people.size(); ++i)
         people.append(QJsonObject { { u"id"_s, idOf(i) },
                                     { u"name"_s, m_people[i] },
-                                    { u"title"_s, QString() },
-                                    { u"about"_s, QString() },
                                     { u"presence"_s, i == 0 ? u"active"_s : u"offline"_s } });
     return people;
 }

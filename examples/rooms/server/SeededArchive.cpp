@@ -11,19 +11,7 @@ namespace {
 constexpr int personCount = 200;
 constexpr qint64 minute = 60'000;
 
-enum What : quint64 {
-    Name,
-    Profession,
-    Total,
-    Unread,
-    Member,
-    Writes,
-    Says,
-    Likes,
-    File,
-    Talks,
-    There
-};
+enum What : quint64 { Name, Title, Total, Unread, Member, Writes, Says, Likes, File, Talks, There };
 
 QString personId(int index) { return u"p%1"_s.arg(index); }
 
@@ -65,10 +53,10 @@ QJsonArray SeededArchive::makePeople() const
         people.append(QJsonObject {
                 { u"id"_s, personId(i) },
                 { u"name"_s,
-                  pick(Words::firstNames(script), quint64(i / 8 + i * 5)) + QLatin1Char(' ')
-                          + pick(Words::lastNames(script), hash(Name, quint64(i))) },
-                { u"title"_s, pick(Words::professions(), hash(Profession, quint64(i))) },
-                { u"about"_s, pick(Words::sentences(script), hash(Says, quint64(i))) },
+                  pick(Words::firstNames[script], quint64(i / 8 + i * 5)) + QLatin1Char(' ')
+                          + pick(Words::lastNames[script], hash(Name, quint64(i))) },
+                { u"title"_s, pick(Words::professions, hash(Title, quint64(i))) },
+                { u"about"_s, pick(Words::sentences[script], hash(Says, quint64(i))) },
                 { u"presence"_s, i == 0 ? presences[0] : pick(presences, hash(There, quint64(i))) },
         });
     }
@@ -89,7 +77,7 @@ QJsonObject SeededArchive::conversation(int index) const
                         unread % 9 ? 0 : std::min(total(index), 1 + int(unread % 12)) } };
     const int person = personOf(index);
     if (person < 0) {
-        const QString topic = pick(Words::topics(), quint64(index));
+        const QString topic = pick(Words::topics, quint64(index));
         row[u"title"_s] = index < 24 ? topic : topic + u" %1"_s.arg(index / 24 + 1);
     } else {
         row[u"title"_s] = m_people[person].toObject()[u"name"_s];
@@ -136,9 +124,9 @@ QString SeededArchive::text(int conversation, int seq, int script) const
                                             : pick(m_emoji, quint64(seq / 3 + conversation * 17));
     if (seq % 29 == 0 && !emoji.isEmpty())
         return emoji.repeated(1 + int(random % 3));
-    QString text = pick(Words::sentences(script), random);
+    QString text = pick(Words::sentences[script], random);
     for (quint64 i = random / 64 % 4; i > 1; --i)
-        text += QLatin1Char(' ') + pick(Words::sentences(script), random + i);
+        text += QLatin1Char(' ') + pick(Words::sentences[script], random + i);
     if (seq % 41 == 0)
         text += u" https://rooms.example/notes/%1"_s.arg(random % 1000);
     return seq % 3 == 0 ? text + QLatin1Char(' ') + emoji : text;
@@ -187,14 +175,12 @@ QJsonObject SeededArchive::file(int index) const
     };
     const quint64 random = hash(File, quint64(index));
     const QPair<QString, QString> kind = pick(kinds, random);
-    return {
-        { u"name"_s,
-          u"%1 %2.%3"_s.arg(pick(Words::topics(), random / 8)).arg(index + 1).arg(kind.second) },
-        { u"kind"_s, kind.first },
-        { u"size"_s, qint64(1000 + random / 64 % 50'000'000) },
-        { u"owner"_s, personId(int(random / 128 % personCount)) },
-        { u"at"_s, m_now - qint64(index) * 3 * minute }
-    };
+    return { { u"name"_s,
+               u"%1 %2.%3"_s.arg(pick(Words::topics, random / 8)).arg(index + 1).arg(kind.second) },
+             { u"kind"_s, kind.first },
+             { u"size"_s, qint64(1000 + random / 64 % 50'000'000) },
+             { u"owner"_s, personId(int(random / 128 % personCount)) },
+             { u"at"_s, m_now - qint64(index) * 3 * minute } };
 }
 
 QJsonArray SeededArchive::calls() const
@@ -205,7 +191,7 @@ QJsonArray SeededArchive::calls() const
         QJsonArray members { personId(0) };
         for (quint64 member = 0; member <= random % 7; ++member)
             members.append(personId(1 + int((random / 8 + member * 13) % (personCount - 1))));
-        calls.append(QJsonObject { { u"title"_s, pick(Words::topics(), random / 16) },
+        calls.append(QJsonObject { { u"title"_s, pick(Words::topics, random / 16) },
                                    { u"people"_s, members },
                                    { u"at"_s, m_now - i * 300 * minute },
                                    { u"minutes"_s, int(random / 32 % 90) + 1 },

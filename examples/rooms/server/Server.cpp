@@ -4,10 +4,10 @@
 #include "protocol/JsonLines.h"
 #include "protocol/Literal.h"
 
-#include <QDateTime>
 #include <QJsonDocument>
 #include <QLocalSocket>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -38,15 +38,6 @@ Server::Server(World &world, const SeededArchive &seeded, const Options &options
     : m_world(world),
       m_seeded(seeded),
       m_options(options),
-      m_handlers {
-          { u"hello"_s, &Server::hello },       { u"conversations"_s, &Server::conversations },
-          { u"messages"_s, &Server::messages }, { u"find"_s, &Server::find },
-          { u"send"_s, &Server::post },         { u"react"_s, &Server::react },
-          { u"read"_s, &Server::read },         { u"files"_s, &Server::files },
-          { u"calls"_s, &Server::calls },       { u"join"_s, &Server::join },
-          { u"leave"_s, &Server::leave },       { u"fail"_s, &Server::fail },
-          { u"typing"_s, &Server::nothing },    { u"presence"_s, &Server::setPresence }
-      },
       m_failing(options.failing),
       m_log(options.log)
 {
@@ -84,29 +75,61 @@ void Server::receive(JsonLines *client, const QJsonObject &request)
 {
     if (m_log.isOpen())
         m_log.write(QJsonDocument(request).toJson(QJsonDocument::Compact) + '\n');
-    QJsonObject line = answer(request);
+    const QString name = request[u"ask"_s].toString();
+    QJsonObject line = m_failing.removeOne(name) ? error(u"This failed because it was asked to."_s)
+                                                 : answer(name, request);
     line[u"answer"_s] = request[u"id"_s];
     if (!m_options.isLate) {
         send(client, line);
         return;
     }
-    const int longest = request[u"ask"_s] == u"files"_s ? 1500 : 300;
+    const int longest = name == u"files"_s ? 1500 : 300;
     QTimer::singleShot(m_random.bounded(longest), client,
                        [this, client, line] { send(client, line); });
 }
 
-QJsonObject Server::answer(const QJsonObject &request)
+QJsonObject Server::answer(const QString &name, const QJsonObject &request)
 {
-    const QString name = request[u"ask"_s].toString();
-    if (m_failing.removeOne(name))
-        return error(u"This failed because it was asked to."_s);
-    const Handler handler = m_handlers.value(name);
-    if (!handler)
-        return error(u"Nobody knows how to do this."_s);
-    const QString conversation = request[u"conversation"_s].toString();
-    if (request.contains(u"conversation"_s) && m_world.indexOf(conversation) < 0)
+    if (name == u"hello"_s)
+        return hello();
+    if (name == u"conversations"_s)
+        return rows(request, m_world.conversationCount(),
+                    [this](int index) { return m_world.conversation(index); });
+    if (name == u"files"_s)
+        return rows(request, SeededArchive::fileCount,
+                    [this](int index) { return m_seeded.file(index); });
+    if (name == u"calls"_s)
+        return { { u"rows"_s, m_seeded.calls() } };
+    if (name == u"join"_s)
+        join(request[u"call"_s]);
+    else if (name == u"leave"_s)
+        m_levels.stop();
+    else if (name == u"fail"_s)
+        m_failing.append(request[u"name"_s].toString());
+    else if (name == u"presence"_s)
+        setPresence(request[u"presence"_s].toString());
+    else
+        return answer(name, m_world.indexOf(request[u"conversation"_s].toString()), request);
+    return {};
+}
+
+QJsonObject Server::answer(const QString &name, int conversation, const QJsonObject &request)
+{
+    if (conversation < 0)
         return error(u"There is no such conversation."_s);
-    return (this->*handler)(request);
+    if (name == u"messages"_s)
+        return messages(conversation, request);
+    if (name == u"find"_s)
+        return { { u"seq"_s, m_world.find(conversation, qint64(request[u"at"_s].toDouble())) } };
+    if (name == u"send"_s)
+        return post(conversation, request);
+    if (name == u"react"_s)
+        return react(conversation, request);
+    if (name == u"read"_s)
+        m_world.read(conversation, request[u"seq"_s].toInt());
+    else if (name != u"typing"_s)
+        return error(u"Nobody knows how to do this."_s);
+    return {};
 }
 
 /// Writes \a line, unless the client does not read.
@@ -130,7 +153,7 @@ void Server::push(const QString &name, QJsonObject line)
     }
 }
 
-QJsonObject Server::hello(const QJsonObject &)
+QJsonObject Server::hello() const
 {
     QJsonArray people = m_world.archive().people();
     QJsonObject me = people[0].toObject();
@@ -141,64 +164,43 @@ QJsonObject Server::hello(const QJsonObject &)
     return { { u"me"_s, u"p0"_s }, { u"people"_s, people } };
 }
 
-QJsonObject Server::conversations(const QJsonObject &request)
+QJsonObject Server::messages(int conversation, const QJsonObject &request) const
 {
-    return rows(request, m_world.conversationCount(),
-                [this](int index) { return m_world.conversation(index); });
-}
-
-QJsonObject Server::messages(const QJsonObject &request)
-{
-    const int conversation = m_world.indexOf(request[u"conversation"_s].toString());
-    if (conversation < 0)
-        return error(u"Which conversation?"_s);
     const int total = m_world.total(conversation);
     const int before = request[u"before"_s].toInt(-1);
     const int end = before < 0 ? total : qMin(before, total);
+    const int count = qBound(0, request[u"count"_s].toInt(), messagesAtOnce);
     QJsonArray rows;
-    for (int seq = qMax(0, end - qBound(0, request[u"count"_s].toInt(), messagesAtOnce)); seq < end;
-         ++seq)
+    for (int seq = qMax(0, end - count); seq < end; ++seq)
         rows.append(m_world.message(conversation, seq));
     return { { u"rows"_s, rows }, { u"total"_s, total } };
 }
 
-QJsonObject Server::find(const QJsonObject &request)
-{
-    const int conversation = m_world.indexOf(request[u"conversation"_s].toString());
-    if (conversation < 0)
-        return error(u"Which conversation?"_s);
-    return { { u"seq"_s, m_world.find(conversation, qint64(request[u"at"_s].toDouble())) } };
-}
-
-QJsonObject Server::post(const QJsonObject &request)
+QJsonObject Server::post(int conversation, const QJsonObject &request)
 {
     static const QStringList kinds { u"text"_s, u"gif"_s, u"file"_s };
-    const int conversation = m_world.indexOf(request[u"conversation"_s].toString());
     const QString key = request[u"key"_s].toString();
     const QString text = request[u"text"_s].toString();
-    if (conversation < 0 || key.isEmpty() || key.size() > longestKey || text.isEmpty()
-        || text.size() > longestText || !kinds.contains(request[u"kind"_s].toString()))
+    if (key.isEmpty() || key.size() > longestKey || text.isEmpty() || text.size() > longestText
+        || !kinds.contains(request[u"kind"_s].toString()))
         return error(u"This is no message."_s);
     const int total = m_world.total(conversation);
-    const QJsonObject answer = m_world.post(conversation,
-                                            { { u"author"_s, u"p0"_s },
-                                              { u"kind"_s, request[u"kind"_s] },
-                                              { u"text"_s, text },
-                                              { u"key"_s, key },
-                                              { u"reactions"_s, QJsonArray() } });
+    QJsonObject answer = m_world.post(conversation,
+                                      { { u"author"_s, u"p0"_s },
+                                        { u"kind"_s, request[u"kind"_s] },
+                                        { u"text"_s, text },
+                                        { u"key"_s, key },
+                                        { u"reactions"_s, QJsonArray() } });
     if (m_world.total(conversation) > total)
-        push(u"message"_s,
-             { { u"conversation"_s, World::idOf(conversation) },
-               { u"message"_s, m_world.message(conversation, total) } });
+        pushMessage(conversation, m_world.message(conversation, total));
     return answer;
 }
 
-QJsonObject Server::react(const QJsonObject &request)
+QJsonObject Server::react(int conversation, const QJsonObject &request)
 {
-    const int conversation = m_world.indexOf(request[u"conversation"_s].toString());
     const int seq = request[u"seq"_s].toInt(-1);
     const QString emoji = request[u"emoji"_s].toString();
-    if (conversation < 0 || seq < 0 || seq >= m_world.total(conversation) || emoji.isEmpty()
+    if (seq < 0 || seq >= m_world.total(conversation) || emoji.isEmpty()
         || emoji.size() > longestKey)
         return error(u"There is no such message."_s);
     push(u"reactions"_s,
@@ -208,57 +210,31 @@ QJsonObject Server::react(const QJsonObject &request)
     return {};
 }
 
-QJsonObject Server::read(const QJsonObject &request)
+void Server::join(const QJsonValue &title)
 {
-    const int conversation = m_world.indexOf(request[u"conversation"_s].toString());
-    if (conversation >= 0)
-        m_world.read(conversation, request[u"seq"_s].toInt());
-    return {};
-}
-
-QJsonObject Server::files(const QJsonObject &request)
-{
-    return rows(request, SeededArchive::fileCount,
-                [this](int index) { return m_seeded.file(index); });
-}
-
-QJsonObject Server::calls(const QJsonObject &) { return { { u"rows"_s, m_seeded.calls() } }; }
-
-QJsonObject Server::join(const QJsonObject &request)
-{
+    m_inCall = QStringList { u"p0"_s, u"p1"_s, u"p2"_s, u"p3"_s };
     const QJsonArray calls = m_seeded.calls();
-    m_inCall.clear();
-    for (const QJsonValue &call : calls) {
-        if (m_inCall.isEmpty() && call[u"title"_s] == request[u"call"_s])
-            m_inCall = call[u"people"_s].toVariant().toStringList();
-    }
-    if (m_inCall.isEmpty())
-        m_inCall = QStringList { u"p0"_s, u"p1"_s, u"p2"_s, u"p3"_s };
+    const auto call = std::find_if(calls.begin(), calls.end(),
+                                   [&title](const QJsonValue &candidate) {
+                                       return candidate[u"title"_s] == title;
+                                   });
+    if (call != calls.end())
+        m_inCall = (*call)[u"people"_s].toVariant().toStringList();
     m_joined.start();
     m_levels.start(100);
-    return {};
 }
 
-QJsonObject Server::leave(const QJsonObject &)
+void Server::setPresence(const QString &presence)
 {
-    m_levels.stop();
-    return {};
+    m_presence = presence;
+    push(u"presence"_s, { { u"person"_s, u"p0"_s }, { u"presence"_s, presence } });
 }
 
-QJsonObject Server::fail(const QJsonObject &request)
+void Server::pushMessage(int conversation, const QJsonObject &message)
 {
-    m_failing.append(request[u"name"_s].toString());
-    return {};
+    push(u"message"_s,
+         { { u"conversation"_s, World::idOf(conversation) }, { u"message"_s, message } });
 }
-
-QJsonObject Server::setPresence(const QJsonObject &request)
-{
-    m_presence = request[u"presence"_s].toString();
-    push(u"presence"_s, { { u"person"_s, u"p0"_s }, { u"presence"_s, m_presence } });
-    return {};
-}
-
-QJsonObject Server::nothing(const QJsonObject &) { return {}; }
 
 /// The first conversations are the busiest: at random, a quarter of the messages goes to the first
 /// one.
@@ -271,9 +247,7 @@ void Server::letMessagesArrive()
                 - 1;
         if (conversation < 0)
             return;
-        push(u"message"_s,
-             { { u"conversation"_s, World::idOf(conversation) },
-               { u"message"_s, m_world.arrive(conversation) } });
+        pushMessage(conversation, m_world.arrive(conversation));
     }
 }
 

@@ -25,7 +25,7 @@ public:
         int rate = 0;          ///< Messages that arrive in a second.
         bool isLate = false;   ///< Answers come late and in any order, files above all.
         bool isTyping = false; ///< Somebody types; presences change.
-        QString failing;       ///< The next request of this name fails.
+        QStringList failing;   ///< The next requests of these names fail.
         QString log;           ///< A file for the requests, one JSON line each.
     };
 
@@ -35,29 +35,21 @@ public:
     bool listen();
 
 private:
-    using Handler = QJsonObject (Server::*)(const QJsonObject &);
-
     void accept();
     void receive(JsonLines *client, const QJsonObject &request);
-    QJsonObject answer(const QJsonObject &request);
+    QJsonObject answer(const QString &name, const QJsonObject &request);
+    QJsonObject answer(const QString &name, int conversation, const QJsonObject &request);
     void send(JsonLines *client, const QJsonObject &line);
     void push(const QString &name, QJsonObject line);
 
-    QJsonObject hello(const QJsonObject &request);
-    QJsonObject conversations(const QJsonObject &request);
-    QJsonObject messages(const QJsonObject &request);
-    QJsonObject find(const QJsonObject &request);
-    QJsonObject post(const QJsonObject &request);
-    QJsonObject react(const QJsonObject &request);
-    QJsonObject read(const QJsonObject &request);
-    QJsonObject files(const QJsonObject &request);
-    QJsonObject calls(const QJsonObject &request);
-    QJsonObject join(const QJsonObject &request);
-    QJsonObject leave(const QJsonObject &request);
-    QJsonObject fail(const QJsonObject &request);
-    QJsonObject setPresence(const QJsonObject &request);
-    QJsonObject nothing(const QJsonObject &request);
+    QJsonObject hello() const;
+    QJsonObject messages(int conversation, const QJsonObject &request) const;
+    QJsonObject post(int conversation, const QJsonObject &request);
+    QJsonObject react(int conversation, const QJsonObject &request);
+    void join(const QJsonValue &title);
+    void setPresence(const QString &presence);
 
+    void pushMessage(int conversation, const QJsonObject &message);
     void letMessagesArrive();
     void letSomebodyType();
     void tellLevels();
@@ -65,7 +57,6 @@ private:
     World &m_world;
     const SeededArchive &m_seeded;
     const Options m_options;
-    const QHash<QString, Handler> m_handlers;
     QLocalServer m_server;
     QVector<QPointer<JsonLines>> m_clients;
     QStringList m_failing;

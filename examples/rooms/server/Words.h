@@ -8,10 +8,10 @@ namespace Words {
 
 constexpr int scripts = 5;
 
-QStringList firstNames(int script);
-QStringList lastNames(int script);
-QStringList sentences(int script);
-QStringList topics();
-QStringList professions();
+extern const QStringList firstNames[scripts];
+extern const QStringList lastNames[scripts];
+extern const QStringList sentences[scripts];
+extern const QStringList topics;
+extern const QStringList professions;
 
 } // namespace Words

@@ -5,7 +5,6 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QRegularExpression>
 
 namespace {
 
@@ -18,13 +17,8 @@ QStringList emojiIn(const QString &name)
         return emoji;
     while (!file.atEnd()) {
         const QString line = QString::fromUtf8(file.readLine(1000));
-        if (line.startsWith(u'#') || !line.contains(u';'))
-            continue;
-        QVector<uint> codes;
-        const QStringList numbers = line.section(u';', 0, 0).split(u' ', Qt::SkipEmptyParts);
-        for (const QString &number : numbers)
-            codes.append(number.toUInt(nullptr, 16));
-        emoji.append(QString::fromUcs4(codes.constData(), codes.size()));
+        if (line.contains(u';') && !line.startsWith(u'#'))
+            emoji.append(line.section(u"# "_s, 1).section(u' ', 0, 0));
     }
     return emoji;
 }
@@ -48,18 +42,6 @@ void addOptions(QCommandLineParser &parser)
     });
 }
 
-Server::Options optionsOf(const QCommandLineParser &parser)
-{
-    Server::Options options;
-    options.socket = parser.value(u"socket"_s);
-    options.rate = parser.value(u"rate"_s).toInt();
-    options.isLate = parser.isSet(u"late"_s);
-    options.isTyping = parser.isSet(u"typing"_s);
-    options.failing = parser.value(u"fail"_s);
-    options.log = parser.value(u"log"_s);
-    return options;
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -79,7 +61,10 @@ int main(int argc, char **argv)
     if (parser.isSet(u"mailbox"_s))
         archive = std::make_unique<MailArchive>(parser.value(u"mailbox"_s));
     World world(std::move(archive), parser.value(u"state"_s));
-    Server server(world, seeded, optionsOf(parser));
+    Server server(world, seeded,
+                  { parser.value(u"socket"_s), parser.value(u"rate"_s).toInt(),
+                    parser.isSet(u"late"_s), parser.isSet(u"typing"_s), parser.values(u"fail"_s),
+                    parser.value(u"log"_s) });
     if (!server.listen())
         qFatal("Cannot listen at %s", qPrintable(parser.value(u"socket"_s)));
     return QCoreApplication::exec();

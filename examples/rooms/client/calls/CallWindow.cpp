@@ -5,6 +5,7 @@
 #include "data/Backend.h"
 #include "people/Avatar.h"
 #include "people/PersonCards.h"
+#include "protocol/Literal.h"
 #include "shell/Looks.h"
 #include "shell/Toast.h"
 
@@ -18,48 +19,46 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-CallWindow::CallWindow(Backend *backend, PersonCards *cards, const Call &call, QWidget *parent)
-    : OxaMainWindow(parent, Qt::Window), m_backend(backend), m_cards(cards), m_call(call)
+CallWindow::CallWindow(Backend *backend, PersonCards *cards, const QString &title, QWidget *parent)
+    : OxaMainWindow(parent, Qt::Window), m_backend(backend), m_cards(cards)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setObjectName(QStringLiteral("callWindow"));
-    setWindowTitle(tr("Call: %1").arg(call.title));
+    setObjectName(u"callWindow"_s);
+    setWindowTitle(tr("Call: %1").arg(title));
     setMinimumSize(400, 360);
     resize(880, 600);
-    setCSS(QStringLiteral("#callWindow { background: $(call-window); }"));
+    setCSS(u"#callWindow { background: $(call-window); }"_s);
 
     auto *content = new OxaWidget(this);
     setCentralWidget(content);
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(makeTop());
-    m_banner = new AlertBanner(content);
-    m_banner->setMinimumHeight(40);
-    column->addWidget(m_banner);
+    AlertBanner *banner =
+            Looks::makeBanner(AlertBanner::AlertType::Error,
+                              tr("The connection is lost. The call goes on when it is back."),
+                              content);
+    banner->setHidden(backend->isConnected());
+    auto *column = Looks::makeColumn(content);
+    column->addWidget(makeTop(title));
+    column->addWidget(banner);
     column->addWidget(makeStage(), 1);
     column->addWidget(makeControls());
 
     connect(backend, &Backend::levels, this, &CallWindow::showLevels);
-    connect(backend, &Backend::connectedChanged, this, &CallWindow::showConnection);
+    connect(backend, &Backend::connectedChanged, banner, &QWidget::setHidden);
     connectShortcuts();
-    showConnection();
-    backend->join(call.title);
+    backend->join(title);
 }
 
 CallWindow::~CallWindow() { m_backend->join(QString()); }
 
-QWidget *CallWindow::makeTop()
+QWidget *CallWindow::makeTop(const QString &text)
 {
     auto *top = new OxaWidget(this);
     auto *row = new QHBoxLayout(top);
     row->setContentsMargins(24, 16, 24, 8);
-    OxaLabel *title = Looks::makeLabel(m_call.title, OxaFont::Token::Header,
-                                       QStringLiteral("text-primary"), top);
+    OxaLabel *title = Looks::makeLabel(text, OxaFont::Token::Header, u"text-primary"_s, top);
     title->setAccessibleRole(QAccessible::Heading);
     title->setMinimumWidth(1);
-    m_time = Looks::makeLabel(QString(), OxaFont::Token::BodySecondary,
-                              QStringLiteral("text-secondary"), top);
+    m_time = Looks::makeLabel(QString(), OxaFont::Token::BodySecondary, u"text-secondary"_s, top);
     row->addWidget(title, 1);
     row->addWidget(m_time);
 
@@ -79,7 +78,7 @@ QWidget *CallWindow::makeStage()
     tiles.spacing = 0; // Rows with a spacing may be too wide: the tiles have margins instead.
     grid->setItemData(tiles);
     m_waiting = Looks::makeLabel(tr("Nobody else is here yet."), OxaFont::Token::BodySecondary,
-                                 QStringLiteral("text-secondary"), m_stage);
+                                 u"text-secondary"_s, m_stage);
     m_waiting->setAlignment(Qt::AlignCenter);
     grid->addWidget(m_waiting);
     return m_stage;
@@ -92,14 +91,11 @@ QWidget *CallWindow::makeControls()
     row->setContentsMargins(16, 8, 16, 24);
     row->setSpacing(8);
     row->addStretch(1);
-    m_microphone = addToggle(row, QStringLiteral("mic"), QStringLiteral("mic-off"), tr("Mute"),
-                             tr("Unmute"));
-    m_camera = addToggle(row, QStringLiteral("camera"), QStringLiteral("camera-off"),
-                         tr("Camera off"), tr("Camera on"));
-    m_hand = addToggle(row, QStringLiteral("hand"), QString(), tr("Raise your hand"),
-                       tr("Lower your hand"));
+    m_microphone = addToggle(row, u"mic"_s, u"mic-off"_s, tr("Mute"), tr("Unmute"));
+    m_camera = addToggle(row, u"camera"_s, u"camera-off"_s, tr("Camera off"), tr("Camera on"));
+    m_hand = addToggle(row, u"hand"_s, QString(), tr("Raise your hand"), tr("Lower your hand"));
     OxaSvgPushButton *leave = Looks::makeButton(tr("Leave"), Looks::Button::Danger, controls);
-    leave->setSvgIcon(OxaSvgRenderer::resourcePath(QStringLiteral("leave")));
+    leave->setSvgIcon(OxaSvgRenderer::resourcePath(u"leave"_s));
     leave->setSvgIconPadding(QMargins(16, 0, 8, 0));
     leave->setTextLeftPadding(0);
     leave->setMinimumHeight(44);
@@ -117,9 +113,8 @@ OxaSvgPushButton *CallWindow::addToggle(QLayout *row, const QString &icon,
 {
     OxaSvgPushButton *button = Looks::makeIconButton(icon, name, this, 44);
     button->setSvgIconSize(QSize(20, 20));
-    if (!checkedIcon.isEmpty()) {
+    if (!checkedIcon.isEmpty())
         button->setSvgIconChecked(OxaSvgRenderer::resourcePath(checkedIcon));
-    }
     Looks::makeCheckable(button, Looks::Button::Outline, 22);
     connect(button, &OxaSvgPushButton::toggled, button,
             [button, name, checkedName](bool isChecked) {
@@ -140,20 +135,20 @@ void CallWindow::connectShortcuts()
         ParticipantTile *tile = m_tiles.value(m_backend->me());
         if (!tile)
             return;
-        const QString muted = m_microphone->isChecked() ? QStringLiteral("mic-off") : QString();
-        tile->setState(m_hand->isChecked() ? QStringLiteral("hand") : muted);
+        const QString muted = m_microphone->isChecked() ? u"mic-off"_s : QString();
+        tile->setState(m_hand->isChecked() ? u"hand"_s : muted);
     };
     connect(m_microphone, &OxaSvgPushButton::toggled, this, showMyState);
     connect(m_hand, &OxaSvgPushButton::toggled, this, showMyState);
 }
 
-void CallWindow::showLevels(const QHash<QString, int> &levels)
+void CallWindow::showLevels(const QVariantHash &levels)
 {
     for (auto level = levels.begin(); level != levels.end(); ++level) {
         if (!m_tiles.contains(level.key()))
             add(level.key());
         const bool isMuted = level.key() == m_backend->me() && m_microphone->isChecked();
-        m_tiles.value(level.key())->setLevel(isMuted ? 0 : level.value());
+        m_tiles.value(level.key())->setLevel(isMuted ? 0 : level->toInt());
     }
     const QStringList there = m_tiles.keys();
     for (const QString &person : there) {
@@ -185,14 +180,5 @@ void CallWindow::remove(const QString &id)
 void CallWindow::showTime()
 {
     const qint64 seconds = (m_since.elapsed() + 500) / 1000;
-    m_time->setText(
-            QStringLiteral("%1:%2").arg(seconds / 60).arg(seconds % 60, 2, 10, QLatin1Char('0')));
-}
-
-void CallWindow::showConnection()
-{
-    m_banner->setAlert({ AlertBanner::AlertType::Error,
-                         tr("The connection is lost. The call goes on when it is back."), true,
-                         true, QSize(400, 40) });
-    m_banner->setVisible(!m_backend->isConnected());
+    m_time->setText(u"%1:%2"_s.arg(seconds / 60).arg(seconds % 60, 2, 10, QLatin1Char('0')));
 }

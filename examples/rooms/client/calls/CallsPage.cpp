@@ -5,6 +5,7 @@
 #include "data/Backend.h"
 #include "people/Avatar.h"
 #include "people/PersonCards.h"
+#include "protocol/Literal.h"
 #include "shell/Looks.h"
 
 #include <UiElements/svg/OxaSvgPushButton.h>
@@ -27,7 +28,7 @@ QString timeText(const QDateTime &at)
         return time;
     if (days == 1)
         return CallsPage::tr("Yesterday, %1").arg(time);
-    return CallsPage::tr("%1, %2").arg(locale.toString(at.date(), QStringLiteral("d MMM")), time);
+    return CallsPage::tr("%1, %2").arg(locale.toString(at.date(), u"d MMM"_s), time);
 }
 
 QString summary(const Call &call)
@@ -45,10 +46,10 @@ CallsPage::CallsPage(Backend *backend, PersonCards *cards, QWidget *parent)
       m_cards(cards),
       m_list(new OxaListWidget(this)),
       m_empty(Looks::makeLabel(tr("No calls yet"), OxaFont::Token::BodySecondary,
-                               QStringLiteral("text-secondary"), this))
+                               u"text-secondary"_s, this))
 {
-    setObjectName(QStringLiteral("calls"));
-    setCSS(QStringLiteral("$backgroundColors: window;") + Looks::listRules());
+    setObjectName(u"calls"_s);
+    setCSS(u"$backgroundColors: window;"_s + Looks::listRules());
     m_list->setAccessibleName(tr("Calls"));
     m_list->setMaximumWidth(widest);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -63,18 +64,17 @@ CallsPage::CallsPage(Backend *backend, PersonCards *cards, QWidget *parent)
     column->addWidget(m_empty);
     connect(m_list, &OxaListWidget::updateItemWidget, this, &CallsPage::makeRow);
     connect(m_list, &QListWidget::itemActivated, this, [this](QListWidgetItem *item) {
-        start(m_backend->calls().value(item->data(Qt::UserRole).toInt()));
+        start(m_backend->calls().value(m_list->row(item)).title);
     });
     connect(backend, &Backend::callsChanged, this, &CallsPage::fill);
     fill();
 }
 
-void CallsPage::start(const Call &call)
+void CallsPage::start(const QString &title)
 {
     delete m_window;
-    m_window = new CallWindow(m_backend, m_cards, call, window());
-    const QPoint centre = window()->geometry().center();
-    m_window->move(centre - m_window->rect().center());
+    m_window = new CallWindow(m_backend, m_cards, title, window());
+    m_window->move(window()->geometry().center() - m_window->rect().center());
     m_window->show();
 }
 
@@ -86,7 +86,6 @@ void CallsPage::fill()
     m_list->beginInsert();
     for (int index = 0; index < calls.size(); ++index) {
         auto *item = new QListWidgetItem;
-        item->setData(Qt::UserRole, index);
         item->setData(Qt::AccessibleTextRole,
                       tr("%1: %2").arg(calls[index].title, summary(calls[index])));
         item->setSizeHint(QSize(1, 64));
@@ -99,19 +98,17 @@ void CallsPage::fill()
 
 void CallsPage::makeRow(QListWidgetItem *item)
 {
-    const Call call = m_backend->calls().value(item->data(Qt::UserRole).toInt());
+    const Call call = m_backend->calls().value(m_list->row(item));
     auto *row = new OxaWidget(m_list->viewport());
     auto *picture = new Avatar(40, row);
     picture->setPerson({ call.title, call.title, {}, {}, Presence::Offline }, false);
     OxaLabel *title = Looks::makeLabel(call.title, OxaFont::Token::SubheaderSecondary,
-                                       QStringLiteral("row-text"), row);
-    const QString colors = call.isMissed ? QStringLiteral("missed")
-                                         : QStringLiteral("text-secondary");
+                                       u"row-text"_s, row);
+    const QString colors = call.isMissed ? u"missed"_s : u"text-secondary"_s;
     OxaLabel *when = Looks::makeLabel(summary(call), OxaFont::Token::RadioButtonLabelSecondary,
                                       colors, row);
-    OxaSvgPushButton *again = Looks::makeIconButton(QStringLiteral("calls"),
-                                                    tr("Call %1").arg(call.title), row);
-    connect(again, &OxaSvgPushButton::clicked, this, [this, call] { start(call); });
+    OxaSvgPushButton *again = Looks::makeIconButton(u"calls"_s, tr("Call %1").arg(call.title), row);
+    connect(again, &OxaSvgPushButton::clicked, this, [this, title = call.title] { start(title); });
 
     auto *texts = new QVBoxLayout;
     texts->setSpacing(0);

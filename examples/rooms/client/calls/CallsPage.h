@@ -11,7 +11,6 @@ class OxaLabel;
 class OxaListWidget;
 class PersonCards;
 class QListWidgetItem;
-struct Call;
 
 /// The calls that were, newest first. Activating one calls the same people again.
 class CallsPage : public OxaWidget
@@ -22,8 +21,8 @@ public:
     /// Shows the calls of \a backend.
     CallsPage(Backend *backend, PersonCards *cards, QWidget *parent = nullptr);
 
-    /// Opens the window of a call as \a call, instead of the one that is open.
-    void start(const Call &call);
+    /// Opens the window of the call \a title, instead of the one that is open.
+    void start(const QString &title);
 
 private:
     void fill();

@@ -2,6 +2,7 @@
 #include "ParticipantTile.h"
 
 #include "people/Avatar.h"
+#include "protocol/Literal.h"
 #include "shell/Looks.h"
 
 #include <UiElements/svg/OxaSvgLabel.h>
@@ -10,6 +11,8 @@
 #include <UiElements/widgets/OxaProgressBar.h>
 
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace {
 
@@ -22,10 +25,9 @@ constexpr int quiet = 25;              ///< and below here no longer.
 
 QString tileStyle(bool isSpeaking)
 {
-    return QStringLiteral("$backgroundColors: call-tile; $borderColors: %1; $borders: all; "
-                          "$borderWidth: 2; $borderRadius: 12; #tile { margin: 4px; }")
-            .arg(isSpeaking ? QStringLiteral("call-tile-speaking")
-                            : QStringLiteral("call-tile-border"));
+    return u"$backgroundColors: call-tile; $borderColors: %1; $borders: all; "
+           "$borderWidth: 2; $borderRadius: 12; #tile { margin: 4px; }"_s.arg(
+                   isSpeaking ? u"call-tile-speaking"_s : u"call-tile-border"_s);
 }
 
 } // namespace
@@ -35,16 +37,16 @@ ParticipantTile::ParticipantTile(const Person &person, QWidget *parent)
       m_avatar(new Avatar(pictureSize, this)),
       m_level(new OxaProgressBar(this, bars))
 {
-    setObjectName(QStringLiteral("tile"));
+    setObjectName(u"tile"_s);
     setCSS(tileStyle(false));
     setAccessibleName(person.name);
     m_avatar->setPerson(person, false);
-    m_name = Looks::makeLabel(person.name, OxaFont::Token::SubheaderSecondary,
-                              QStringLiteral("text-primary"), this);
+    m_name = Looks::makeLabel(person.name, OxaFont::Token::SubheaderSecondary, u"text-primary"_s,
+                              this);
     m_name->setAlignment(Qt::AlignCenter);
     m_name->setMinimumWidth(1);
     m_state = new OxaSvgLabel(this);
-    m_state->setCSS(QStringLiteral("$textColors: text-secondary;"));
+    m_state->setCSS(u"$textColors: text-secondary;"_s);
     m_state->setFixedSize(16, 16);
     m_state->hide();
     m_level->setFixedSize(bars * 5, 16);
@@ -81,7 +83,9 @@ void ParticipantTile::resizeEvent(QResizeEvent *event)
 void ParticipantTile::setLevel(int level)
 {
     m_level->setValue(level);
-    setSpeaking(level > (m_isSpeaking ? quiet : loud));
+    const bool isSpeaking = level > (m_isSpeaking ? quiet : loud);
+    if (std::exchange(m_isSpeaking, isSpeaking) != isSpeaking)
+        setCSS(tileStyle(isSpeaking));
 }
 
 void ParticipantTile::setState(const QString &icon)
@@ -89,12 +93,4 @@ void ParticipantTile::setState(const QString &icon)
     m_state->setVisible(!icon.isEmpty());
     if (!icon.isEmpty())
         m_state->setSvgIcon(OxaSvgRenderer::resourcePath(icon));
-}
-
-void ParticipantTile::setSpeaking(bool isSpeaking)
-{
-    if (isSpeaking == m_isSpeaking)
-        return;
-    m_isSpeaking = isSpeaking;
-    setCSS(tileStyle(isSpeaking));
 }

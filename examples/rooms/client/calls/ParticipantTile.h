@@ -32,8 +32,6 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void setSpeaking(bool isSpeaking);
-
     Avatar *const m_avatar;
     OxaLabel *m_name;
     OxaSvgLabel *m_state;

@@ -52,11 +52,8 @@ bool Backend::isConnected() const { return m_link->isOpen(); }
 
 Person Backend::person(const QString &id) const
 {
-    const auto found = m_people.constFind(id);
-    return found == m_people.constEnd() ? Person { id, {}, {}, {}, {} } : *found;
+    return m_people.value(id, { id, {}, {}, {}, {} });
 }
-
-QVector<Person> Backend::people() const { return m_people.values().toVector(); }
 
 void Backend::greet()
 {
@@ -164,7 +161,7 @@ void Backend::receive(const QJsonObject &line)
         m_people[line[u"person"_s].toString()].presence = presenceOf(line[u"presence"_s]);
         Q_EMIT personChanged(line[u"person"_s].toString());
     } else if (name == u"levels"_s) {
-        takeLevels(line[u"levels"_s].toObject());
+        Q_EMIT levels(line[u"levels"_s].toObject().toVariantHash());
     }
 }
 
@@ -181,14 +178,6 @@ void Backend::takeMessage(const QString &conversation, const Message &message)
         history->arrive(message);
     if (isNew && !isOwn)
         Q_EMIT messageArrived(conversation, message);
-}
-
-void Backend::takeLevels(const QJsonObject &values)
-{
-    QHash<QString, int> all;
-    for (auto value = values.begin(); value != values.end(); ++value)
-        all[value.key()] = value.value().toInt();
-    Q_EMIT levels(all);
 }
 
 History *Backend::open(const QString &conversation)
@@ -279,9 +268,9 @@ void Backend::react(const QString &conversation, int seq, const QString &emoji)
 void Backend::markRead(const QString &conversation)
 {
     if (m_conversations->markRead(conversation))
-        m_link->tell(u"read"_s,
-                     { { u"conversation"_s, conversation },
-                       { u"seq"_s, m_totals.value(conversation) - 1 } });
+        m_link->ask(u"read"_s,
+                    { { u"conversation"_s, conversation },
+                      { u"seq"_s, m_totals.value(conversation) - 1 } });
 }
 
 void Backend::tellTyping(const QString &conversation)
@@ -289,12 +278,12 @@ void Backend::tellTyping(const QString &conversation)
     if (m_typing.isValid() && m_typing.elapsed() < typingMs)
         return;
     m_typing.start();
-    m_link->tell(u"typing"_s, { { u"conversation"_s, conversation } });
+    m_link->ask(u"typing"_s, { { u"conversation"_s, conversation } });
 }
 
 void Backend::setPresence(Presence presence)
 {
-    m_link->tell(u"presence"_s, { { u"presence"_s, nameOf(presence) } });
+    m_link->ask(u"presence"_s, { { u"presence"_s, nameOf(presence) } });
 }
 
 QString Backend::draft(const QString &conversation) const { return m_outbox.draft(conversation); }
@@ -310,7 +299,7 @@ void Backend::join(const QString &call)
 {
     m_call = call;
     if (call.isEmpty())
-        m_link->tell(u"leave"_s);
+        m_link->ask(u"leave"_s);
     else
-        m_link->tell(u"join"_s, { { u"call"_s, call } });
+        m_link->ask(u"join"_s, { { u"call"_s, call } });
 }

@@ -40,7 +40,6 @@ public:
 
     /// The person \a id, or one without a name.
     Person person(const QString &id) const;
-    QVector<Person> people() const;
 
     /// The conversations, in no order.
     ConversationModel *conversations() const { return m_conversations; }
@@ -89,7 +88,7 @@ Q_SIGNALS:
     void personChanged(const QString &person);
     void typing(const QString &conversation, const QString &person);
     /// How loud each person of the call is, 0 to 100.
-    void levels(const QHash<QString, int> &levels);
+    void levels(const QVariantHash &levels);
     /// A message of somebody else has arrived in a conversation.
     void messageArrived(const QString &conversation, const Message &message);
     /// The server did not want to do something, for \a reason.
@@ -104,7 +103,6 @@ private:
     void stop();
     void receive(const QJsonObject &line);
     void takeMessage(const QString &conversation, const Message &message);
-    void takeLevels(const QJsonObject &values);
     void takeCalls(const QJsonObject &answer);
     void resume(History *history);
     void transmit(const Outbox::Entry &entry);

@@ -4,8 +4,6 @@
 #include "protocol/JsonLines.h"
 #include "protocol/Literal.h"
 
-#include <QLocalSocket>
-
 namespace {
 
 constexpr int shortestRetryMs = 100;
@@ -13,22 +11,28 @@ constexpr int longestRetryMs = 5000;
 
 } // namespace
 
-Link::Link(const QString &server, QObject *parent) : QObject(parent), m_server(server)
+Link::Link(const QString &server, QObject *parent)
+    : QObject(parent), m_server(server), m_lines(new JsonLines(&m_socket))
 {
     m_retry.setSingleShot(true);
-    connect(&m_retry, &QTimer::timeout, this, &Link::connectToServer);
     m_retry.start(0);
+    connect(&m_retry, &QTimer::timeout, this, &Link::connectToServer);
+    connect(&m_socket, &QLocalSocket::connected, this, &Link::opened);
+    connect(&m_socket, &QLocalSocket::disconnected, this, &Link::lose);
+    connect(&m_socket, &QLocalSocket::stateChanged, this, [this] {
+        if (m_socket.state() == QLocalSocket::UnconnectedState)
+            m_retry.start();
+    });
+    connect(m_lines, &JsonLines::received, this, &Link::receive);
 }
 
-Link::~Link()
-{
-    if (m_socket)
-        m_socket->disconnect(this);
-}
+Link::~Link() { m_socket.disconnect(this); } // It tells of its end.
+
+bool Link::isOpen() const { return m_socket.state() == QLocalSocket::ConnectedState; }
 
 void Link::ask(const QString &name, QJsonObject values, QObject *context, const Answer &answer)
 {
-    if (!m_isOpen)
+    if (!isOpen())
         return;
     values[u"ask"_s] = name;
     values[u"id"_s] = ++m_lastId;
@@ -36,41 +40,16 @@ void Link::ask(const QString &name, QJsonObject values, QObject *context, const 
     m_lines->send(values);
 }
 
-void Link::tell(const QString &name, const QJsonObject &values)
-{
-    ask(name, values, this, [](const QJsonObject &) {});
-}
-
 void Link::connectToServer()
 {
     m_retry.setInterval(qBound(shortestRetryMs, m_retry.interval() * 2, longestRetryMs));
-    m_socket = new QLocalSocket(this);
-    m_lines = new JsonLines(m_socket);
-    connect(m_lines, &JsonLines::received, this, &Link::receive);
-    connect(m_socket, &QLocalSocket::connected, this, &Link::open);
-    connect(m_socket, &QLocalSocket::disconnected, this, &Link::lose);
-    connect(m_socket, &QLocalSocket::errorOccurred, this, &Link::lose);
-    m_socket->connectToServer(m_server);
-}
-
-void Link::open()
-{
-    m_isOpen = true;
-    Q_EMIT opened();
+    m_socket.connectToServer(m_server);
 }
 
 void Link::lose()
 {
-    if (!m_socket)
-        return;
-    m_socket->disconnect(this);
-    m_lines->disconnect(this);
-    m_socket->deleteLater();
-    m_socket = nullptr;
     m_questions.clear();
-    m_retry.start();
-    if (std::exchange(m_isOpen, false))
-        Q_EMIT closed();
+    Q_EMIT closed();
 }
 
 void Link::receive(const QJsonObject &line)

@@ -3,6 +3,7 @@
 
 #include <QHash>
 #include <QJsonObject>
+#include <QLocalSocket>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
@@ -10,7 +11,6 @@
 #include <functional>
 
 class JsonLines;
-class QLocalSocket;
 
 /// The connection to the server. Connects again by itself after it was lost, at growing intervals.
 class Link : public QObject
@@ -24,14 +24,12 @@ public:
     explicit Link(const QString &server, QObject *parent = nullptr);
     ~Link() override;
 
-    bool isOpen() const { return m_isOpen; }
+    bool isOpen() const;
 
     /// Asks the request \a name with \a values. The answer goes to \a answer, unless \a context is
     /// gone by then. There is none if the connection is lost: ask again after opened().
-    void ask(const QString &name, QJsonObject values, QObject *context, const Answer &answer);
-
-    /// The same for a request whose answer nobody needs.
-    void tell(const QString &name, const QJsonObject &values = {});
+    void ask(const QString &name, QJsonObject values = {}, QObject *context = nullptr,
+             const Answer &answer = {});
 
 Q_SIGNALS:
     void opened();
@@ -47,14 +45,12 @@ private:
     };
 
     void connectToServer();
-    void open();
     void lose();
     void receive(const QJsonObject &line);
 
     const QString m_server;
-    QLocalSocket *m_socket = nullptr;
-    JsonLines *m_lines = nullptr;
-    bool m_isOpen = false;
+    QLocalSocket m_socket;
+    JsonLines *const m_lines;
     int m_lastId = 0;
     QHash<int, Question> m_questions;
     QTimer m_retry;

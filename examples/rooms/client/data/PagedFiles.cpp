@@ -52,8 +52,6 @@ QVariant PagedFiles::data(const QModelIndex &index, int role) const
     return item ? item->data(role == Qt::DisplayRole ? int(NameRole) : role) : QVariant();
 }
 
-int PagedFiles::rowCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : size(); }
-
 void PagedFiles::resume()
 {
     m_asked.clear();

@@ -35,9 +35,6 @@ public:
     /// The connection is there: asks for the pages that are not here.
     void resume();
 
-    /// No row has rows.
-    int rowCount(const QModelIndex &parent = QModelIndex()) const override;
-
 private:
     void askForMissing();
     void take(int page, const QJsonObject &answer);

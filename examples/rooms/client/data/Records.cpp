@@ -7,17 +7,8 @@
 
 namespace {
 
-const QStringList &kinds()
-{
-    static const QStringList names { u"text"_s, u"gif"_s, u"file"_s };
-    return names;
-}
-
-const QStringList &presences()
-{
-    static const QStringList names { u"active"_s, u"away"_s, u"busy"_s, u"offline"_s };
-    return names;
-}
+const QStringList kinds { u"text"_s, u"gif"_s, u"file"_s };
+const QStringList presences { u"active"_s, u"away"_s, u"busy"_s, u"offline"_s };
 
 } // namespace
 
@@ -28,11 +19,11 @@ QDateTime timeOf(const QJsonValue &value)
 
 Presence presenceOf(const QJsonValue &value)
 {
-    const int index = presences().indexOf(value.toString());
+    const int index = presences.indexOf(value.toString());
     return index < 0 ? Presence::Offline : Presence(index);
 }
 
-QString nameOf(Presence presence) { return presences().at(int(presence)); }
+QString nameOf(Presence presence) { return presences.at(int(presence)); }
 
 Person Person::fromJson(const QJsonObject &json)
 {
@@ -56,7 +47,7 @@ Message Message::fromJson(const QJsonObject &json)
     message.key = json[u"key"_s].toString();
     message.author = json[u"author"_s].toString();
     message.at = timeOf(json[u"at"_s]);
-    message.kind = Kind(qMax(0, kinds().indexOf(json[u"kind"_s].toString())));
+    message.kind = Kind(qMax(0, kinds.indexOf(json[u"kind"_s].toString())));
     message.text = json[u"text"_s].toString();
     message.reactions = Reaction::fromJson(json[u"reactions"_s].toArray());
     return message;
@@ -67,7 +58,7 @@ QJsonObject Message::toJson() const
     return { { u"key"_s, key },
              { u"author"_s, author },
              { u"at"_s, at.toMSecsSinceEpoch() },
-             { u"kind"_s, kinds()[int(kind)] },
+             { u"kind"_s, kinds[int(kind)] },
              { u"text"_s, text } };
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Avatar.h"
 
+#include "protocol/Literal.h"
+
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/theme/OxaThemeUtils.h>
 
@@ -63,8 +65,6 @@ QPainterPath shape(Presence presence, const QRectF &rect)
     return circle(rect);
 }
 
-std::string colorName(Presence presence) { return "presence-" + nameOf(presence).toStdString(); }
-
 } // namespace
 
 Avatar::Avatar(int size, QWidget *parent) : OxaWidget(parent), m_size(size)
@@ -107,7 +107,7 @@ void Avatar::paintPresence(QPainter *painter, const QRect &rect, Presence presen
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
-    painter->setBrush(color(colorName(presence)));
+    painter->setBrush(color("presence-" + nameOf(presence).toStdString()));
     painter->drawPath(shape(presence, presenceRect(rect, direction)));
     painter->restore();
 }
@@ -122,7 +122,7 @@ int Avatar::colorNumber(const QString &id)
 
 QString Avatar::initials(const QString &name)
 {
-    const QStringList words = name.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList words = name.split(u' ', Qt::SkipEmptyParts);
     if (words.isEmpty())
         return {};
     const auto first = [](const QString &word) {

@@ -1,28 +1,70 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "PersonCards.h"
 
-#include "PersonControllers.h"
+#include "Avatar.h"
 #include "data/Backend.h"
+#include "protocol/Literal.h"
+#include "shell/RoomsApplication.h"
 
 #include <UiElements/qml/OxaPopupQuickView.h>
+#include <UiElements/qml/OxaQmlDialogController.h>
+#include <UiElements/qml/OxaQmlEngine.h>
+#include <UiElements/qml/OxaQmlPopupController.h>
 #include <UiElements/qml/OxaQuickView.h>
 
 #include <QEvent>
-#include <QQmlEngine>
+#include <QQmlContext>
 #include <QWidget>
 
 namespace {
 
-const QString cardSource = QStringLiteral("rooms/Card.qml");
-const QString profileSource = QStringLiteral("rooms/Profile.qml");
+const QString cardSource = u"rooms/Card.qml"_s;
+const QString profileSource = u"rooms/Profile.qml"_s;
+
+/// \a person as QML shows it. The colour is a number.
+QVariantMap toQml(const Person &person)
+{
+    return {
+        { u"id"_s, person.id },
+        { u"name"_s, person.name },
+        { u"title"_s, person.title },
+        { u"about"_s, person.about },
+        { u"initials"_s, Avatar::initials(person.name) },
+        { u"color"_s, Avatar::colorNumber(person.id) },
+        { u"presence"_s, nameOf(person.presence) },
+        { u"presenceText"_s, presenceText(person.presence) },
+    };
+}
 
 } // namespace
 
+QString presenceText(Presence presence)
+{
+    const QString texts[] = { PersonCards::tr("Active"), PersonCards::tr("Away"),
+                              PersonCards::tr("Busy"), PersonCards::tr("Offline") };
+    return texts[int(presence)];
+}
+
 PersonCards::PersonCards(Backend *backend, QObject *parent) : QObject(parent), m_backend(backend)
 {
-    qmlRegisterType<CardController>("Rooms", 1, 0, "CardController");
-    qmlRegisterType<ProfileController>("Rooms", 1, 0, "ProfileController");
+    RoomsApplication::get()->getQmlEngine()->rootContext()->setContextProperty(u"cards"_s, this);
+    // What QML calls may not close a view: all is queued.
+    connect(this, &PersonCards::messageRequested, this, &PersonCards::closeAll,
+            Qt::QueuedConnection);
+    connect(this, &PersonCards::profileClosed, this, &PersonCards::closeAll, Qt::QueuedConnection);
+    const auto showChosen = [this](const QString &person) {
+        m_popups.closeAllOxaQuickViews();
+        if (m_window)
+            showProfile(person, m_window);
+    };
+    connect(this, &PersonCards::profileRequested, this, showChosen, Qt::QueuedConnection);
+    connect(backend, &Backend::personChanged, this, [this](const QString &person) {
+        if (m_profile && person == m_person)
+            m_profile->setModel(toQml(m_backend->person(person)));
+    });
 }
+
+QVariantMap PersonCards::nobody() { return toQml({}); }
 
 void PersonCards::watch(QWidget *anchor, const QString &person)
 {
@@ -41,20 +83,14 @@ void PersonCards::watch(QWidget *anchor, const QString &person)
 void PersonCards::showProfile(const QString &person, QWidget *window)
 {
     const auto start = [this](OxaQmlController *controller) {
-        m_profile = qobject_cast<ProfileController *>(controller);
-        connect(m_profile, &ProfileController::closed, &m_dialogs,
-                &DialogContext::closeAllOxaQuickViews, Qt::QueuedConnection);
-        connect(m_profile, &ProfileController::messageRequested, this, &PersonCards::requestMessage,
-                Qt::QueuedConnection);
+        m_profile = qobject_cast<OxaQmlDialogController *>(controller);
     };
     const QPointer<OxaQuickView> dialog =
             m_dialogs.createQmlDialog(profileSource, window->window()->windowHandle(), {}, start);
     if (!dialog || !m_profile)
         return;
-    auto *model = new ProfileModel(m_backend, person, m_profile);
-    m_profile->setModel(QVariant::fromValue(model));
-    delete m_model; // Of a dialog that was open already.
-    m_model = model;
+    m_person = person;
+    m_profile->setModel(toQml(m_backend->person(person)));
     dialog->setTitle(m_backend->person(person).name);
     dialog->setModality(Qt::WindowModal);
     const QRect above = window->window()->geometry();
@@ -71,33 +107,18 @@ bool PersonCards::eventFilter(QObject *watched, QEvent *event)
 
 void PersonCards::showCard(QWidget *anchor, const QString &person)
 {
-    const auto connectCard =
-            [this, window = QPointer<QWidget>(anchor->window())](OxaQmlController *controller) {
-                auto *card = qobject_cast<CardController *>(controller);
-                connect(card, &CardController::messageRequested, this, &PersonCards::requestMessage,
-                        Qt::QueuedConnection);
-                connect(
-                        card, &CardController::profileRequested, this,
-                        [this, window](const QString &chosen) {
-                            m_popups.closeAllOxaQuickViews();
-                            if (window)
-                                showProfile(chosen, window);
-                        },
-                        Qt::QueuedConnection);
-            };
-    m_popups.createQmlPopup(cardSource, anchor->window()->windowHandle(), OxaQmlBalloon::Top, {},
-                            connectCard);
+    m_window = anchor->window();
+    const auto fill = [this, person](OxaQmlController *controller) {
+        auto *card = qobject_cast<OxaQmlPopupController *>(controller);
+        card->setModel(toQml(m_backend->person(person)));
+    };
+    m_popups.createQmlPopup(cardSource, m_window->windowHandle(), OxaQmlBalloon::Top, {}, fill);
     const QRectF place(anchor->mapToGlobal(QPoint()), QSizeF(anchor->size()));
-    m_popups.showQmlPopup(cardSource, place, true, OxaQmlBalloon::Top,
-                          [this, person](OxaQmlController *controller) {
-                              auto *card = qobject_cast<CardController *>(controller);
-                              card->setModel(toQml(m_backend->person(person)));
-                          });
+    m_popups.showQmlPopup(cardSource, place, true, OxaQmlBalloon::Top, fill);
 }
 
-void PersonCards::requestMessage(const QString &person)
+void PersonCards::closeAll()
 {
     m_popups.closeAllOxaQuickViews();
     m_dialogs.closeAllOxaQuickViews();
-    Q_EMIT messageRequested(person);
 }

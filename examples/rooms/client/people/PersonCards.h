@@ -7,15 +7,21 @@
 #include <UiElements/qml/PopupContext.h>
 
 #include <QHash>
+#include <QVariantMap>
 
 class Backend;
-class ProfileController;
-class ProfileModel;
+class OxaQmlDialogController;
 
-/// Shows who somebody is: a card under the pointer, and a profile in a dialog.
+/// \a presence in words.
+QString presenceText(Presence presence);
+
+/// Shows who somebody is: a card under the pointer, and a profile in a dialog. Their QML knows it
+/// as "cards", and emits its signals.
 class PersonCards : public QObject
 {
     Q_OBJECT
+    /// Somebody without a name, as QML shows people.
+    Q_PROPERTY(QVariantMap nobody READ nobody CONSTANT)
 
 public:
     /// Takes the people from \a backend.
@@ -33,15 +39,21 @@ public:
 Q_SIGNALS:
     /// The user wants to write to \a person.
     void messageRequested(const QString &person);
+    /// The user wants to see the profile of \a person.
+    void profileRequested(const QString &person);
+    /// The user has enough of the profile.
+    void profileClosed();
 
 private:
+    static QVariantMap nobody();
     void showCard(QWidget *anchor, const QString &person);
-    void requestMessage(const QString &person);
+    void closeAll();
 
     Backend *const m_backend;
     PopupContext m_popups;
     DialogContext m_dialogs;
-    QPointer<ProfileController> m_profile; ///< Of the dialog that is open.
-    QPointer<ProfileModel> m_model;        ///< Whose profile that is.
-    QHash<QObject *, QString> m_people;    ///< By their anchors.
+    QPointer<QWidget> m_window;                 ///< Where the card is.
+    QString m_person;                           ///< Whose profile is open,
+    QPointer<OxaQmlDialogController> m_profile; ///< and its controller.
+    QHash<QObject *, QString> m_people;         ///< By their anchors.
 };

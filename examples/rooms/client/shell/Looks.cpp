@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Looks.h"
 
+#include "protocol/Literal.h"
+
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/svg/OxaSvgRenderer.h>
+#include <UiElements/widgets/AlertBanner.h>
 #include <UiElements/widgets/OxaLabel.h>
 #include <UiElements/widgets/OxaLineEdit.h>
 #include <UiElements/widgets/OxaMenu.h>
@@ -11,37 +14,22 @@
 #include <UiElements/widgets/UTContextMenuUtils.h>
 
 #include <QGuiApplication>
+#include <QVBoxLayout>
 
 namespace {
 
 constexpr int buttonHeight = 32;
 
-QString buttonName(Looks::Button kind)
-{
-    switch (kind) {
-    case Looks::Button::Accent:
-        return QStringLiteral("accent");
-    case Looks::Button::Outline:
-        return QStringLiteral("outline");
-    case Looks::Button::Quiet:
-        return QStringLiteral("quiet");
-    case Looks::Button::Chosen:
-        return QStringLiteral("chosen");
-    case Looks::Button::Danger:
-        return QStringLiteral("danger");
-    }
-    return {};
-}
+const char *const buttonNames[] = { "accent", "outline", "quiet", "chosen", "danger" };
 
 } // namespace
 
 QString Looks::buttonStyle(Button kind, int radius)
 {
-    return QStringLiteral("$backgroundColors: %1-button; $borderColors: %1-button-border; "
-                          "$textColors: %1-button-text; $borders: all; $borderWidth: 2; "
-                          "$borderRadius: %2;")
-            .arg(buttonName(kind))
-            .arg(radius);
+    return u"$backgroundColors: %1-button; $borderColors: %1-button-border; "
+           "$textColors: %1-button-text; $borders: all; $borderWidth: 2; "
+           "$borderRadius: %2;"_s.arg(QLatin1String(buttonNames[int(kind)]))
+                   .arg(radius);
 }
 
 OxaSvgPushButton *Looks::makeButton(const QString &text, Button kind, QWidget *parent)
@@ -84,22 +72,22 @@ OxaLabel *Looks::makeLabel(const QString &text, OxaFont::Token token, const QStr
 {
     auto *label = new OxaLabel(text, parent);
     label->setFontToken(token);
-    label->setCSS(QStringLiteral("$textColors: %1;").arg(colors));
+    label->setCSS(u"$textColors: %1;"_s.arg(colors));
     return label;
 }
 
 OxaTextInputFactory Looks::fields()
 {
     OxaCSSData normal;
-    normal.backgroundColorSetName = QStringLiteral("field-background");
-    normal.borderColorSetName = QStringLiteral("field-border");
-    normal.textColorSetName = QStringLiteral("field-text"); // For its icons.
+    normal.backgroundColorSetName = u"field-background"_s;
+    normal.borderColorSetName = u"field-border"_s;
+    normal.textColorSetName = u"field-text"_s; // For its icons.
     normal.borderTop = normal.borderRight = normal.borderBottom = normal.borderLeft = true;
     normal.borderRadius = 6;
     OxaCSSData focused = normal;
-    focused.borderColorSetName = QStringLiteral("field-focus-border");
+    focused.borderColorSetName = u"field-focus-border"_s;
     OxaCSSData error = normal;
-    error.borderColorSetName = QStringLiteral("field-error");
+    error.borderColorSetName = u"field-error"_s;
     return OxaTextInputFactory({ normal, focused, error });
 }
 
@@ -107,15 +95,15 @@ OxaTextInput *Looks::makeField(const QString &name, QWidget *parent)
 {
     OxaTextInput *field = fields().make(parent);
     field->setPlaceholderText(name);
-    field->setPlaceholderColorSetName(QStringLiteral("field-placeholder"));
+    field->setPlaceholderColorSetName(u"field-placeholder"_s);
     field->setTextInputAccessibleText(name);
-    field->setIcon(OxaSvgRenderer::resourcePath(QStringLiteral("clear_14")));
+    field->setIcon(OxaSvgRenderer::resourcePath(u"clear_14"_s));
     field->toggleClearButtonFocus(false);
     field->updateFontToken(OxaFont::Token::BodySecondary);
     // The line edit inside has a background and a frame of its own.
-    field->getLineEdit()->setCSS(QStringLiteral("$textColors: field-text;"
-                                                "OxaLineEdit { background: transparent;"
-                                                " border: none; }"));
+    field->getLineEdit()->setCSS(u"$textColors: field-text;"
+                                 "OxaLineEdit { background: transparent;"
+                                 " border: none; }"_s);
     return field;
 }
 
@@ -124,43 +112,56 @@ OxaMenu *Looks::makeMenu(QWidget *parent)
     auto *menu = new OxaMenu(parent);
     menu->setFontToken(OxaFont::Token::BodySecondary);
     menu->setCSS(UTContextMenuUtils::getContextMenuStyleSheet()
-                 + QStringLiteral("QMenu { border: 1px solid $(panel-border); }"));
+                 + u"QMenu { border: 1px solid $(panel-border); }"_s);
     return menu;
+}
+
+AlertBanner *Looks::makeBanner(AlertBanner::AlertType type, const QString &text, QWidget *parent)
+{
+    auto *banner = new AlertBanner(parent);
+    banner->setMinimumHeight(40);
+    banner->setAlert({ type, text, true, true, QSize(400, 40) });
+    return banner;
+}
+
+QVBoxLayout *Looks::makeColumn(QWidget *widget)
+{
+    auto *column = new QVBoxLayout(widget);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    return column;
 }
 
 QString Looks::scrollBarRules()
 {
-    return QStringLiteral(
-            "QScrollBar:vertical { width: 12px; background: transparent; }"
-            "QScrollBar:horizontal { height: 12px; background: transparent; }"
-            "QScrollBar::handle { border-radius: 4px; margin: 2px;"
-            " background: $(scroll-handle); }"
-            "QScrollBar::handle:vertical { min-height: 32px; }"
-            "QScrollBar::handle:horizontal { min-width: 32px; }"
-            "QScrollBar::handle:hover { background: $(scroll-handle.hovered); }"
-            "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
-            "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }");
+    return u"QScrollBar:vertical { width: 12px; background: transparent; }"
+           "QScrollBar:horizontal { height: 12px; background: transparent; }"
+           "QScrollBar::handle { border-radius: 4px; margin: 2px;"
+           " background: $(scroll-handle); }"
+           "QScrollBar::handle:vertical { min-height: 32px; }"
+           "QScrollBar::handle:horizontal { min-width: 32px; }"
+           "QScrollBar::handle:hover { background: $(scroll-handle.hovered); }"
+           "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }"
+           "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }"_s;
 }
 
 QString Looks::listRules()
 {
-    return QStringLiteral(
-                   "QAbstractItemView { background: transparent; border: none; outline: none; }"
-                   "QAbstractItemView::item { border: 2px solid transparent; border-radius: 8px; }"
-                   "QAbstractItemView::item:selected { background: $(row.checked); }"
-                   "QAbstractItemView::item:hover { background: $(row.hovered); }"
-                   "QAbstractItemView::item:focus { border-color: $(focus); }")
+    return u"QAbstractItemView { background: transparent; border: none; outline: none; }"
+           "QAbstractItemView::item { border: 2px solid transparent; border-radius: 8px; }"
+           "QAbstractItemView::item:selected { background: $(row.checked); }"
+           "QAbstractItemView::item:hover { background: $(row.hovered); }"
+           "QAbstractItemView::item:focus { border-color: $(focus); }"_s
             + scrollBarRules();
 }
 
 QString Looks::sliderRules()
 {
-    return QStringLiteral(
-                   "QSlider::groove:horizontal { height: 4px; border-radius: 2px;"
-                   " background: $(slider-track); }"
-                   "QSlider::%1-page:horizontal { border-radius: 2px; background: $(selection); }"
-                   "QSlider::handle:horizontal { width: 16px; margin: -6px 0; border-radius: 8px;"
-                   " background: $(selection); }"
-                   "QSlider::handle:horizontal:hover { background: $(accent-button.hovered); }")
-            .arg(QGuiApplication::isRightToLeft() ? QStringLiteral("add") : QStringLiteral("sub"));
+    return u"QSlider::groove:horizontal { height: 4px; border-radius: 2px;"
+           " background: $(slider-track); }"
+           "QSlider::%1-page:horizontal { border-radius: 2px; background: $(selection); }"
+           "QSlider::handle:horizontal { width: 16px; margin: -6px 0; border-radius: 8px;"
+           " background: $(selection); }"
+           "QSlider::handle:horizontal:hover { background: $(accent-button.hovered); }"_s.arg(
+                   QGuiApplication::isRightToLeft() ? u"add"_s : u"sub"_s);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <UiElements/fonts/OxaFont.h>
+#include <UiElements/widgets/AlertBanner.h>
 
 #include <QString>
 
@@ -10,6 +11,7 @@ class OxaMenu;
 class OxaSvgPushButton;
 class OxaTextInput;
 class OxaTextInputFactory;
+class QVBoxLayout;
 class QWidget;
 
 /// How buttons, fields and labels of this client look.
@@ -47,6 +49,12 @@ OxaTextInput *makeField(const QString &name, QWidget *parent);
 
 /// An empty menu.
 OxaMenu *makeMenu(QWidget *parent);
+
+/// A banner with \a text, which is rich.
+AlertBanner *makeBanner(AlertBanner::AlertType type, const QString &text, QWidget *parent);
+
+/// The layout of \a widget: one thing below the other, without gaps.
+QVBoxLayout *makeColumn(QWidget *widget);
 
 /// The rules of scroll bars, for the style text of a window.
 QString scrollBarRules();

@@ -11,7 +11,7 @@
 #include "data/ConversationModel.h"
 #include "files/FilesPage.h"
 #include "people/Avatar.h"
-#include "people/PersonControllers.h"
+#include "protocol/Literal.h"
 
 #include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
@@ -26,16 +26,22 @@
 MainWindow::MainWindow(Backend *backend, QWidget *parent)
     : OxaMainWindow(parent), m_backend(backend), m_cards(backend)
 {
-    setUpLooks();
+    setObjectName(u"mainWindow"_s);
+    setWindowTitle(tr("Rooms"));
+    setMinimumSize(560, 400);
+    resize(1120, 760);
+    setCSS(u"#mainWindow { background: $(window); }"_s + Looks::scrollBarRules());
+
     auto *content = new OxaWidget(this);
     setCentralWidget(content);
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    AlertBanner *banner =
+            Looks::makeBanner(AlertBanner::AlertType::Warning,
+                              tr("The server is away. What you write is sent when it is back."),
+                              content);
+    banner->setHidden(backend->isConnected());
+    auto *column = Looks::makeColumn(content);
     column->addWidget(makeTop());
-    m_banner = new AlertBanner(content);
-    m_banner->setMinimumHeight(40);
-    column->addWidget(m_banner);
+    column->addWidget(banner);
     m_pages = new OxaStackedWidget(content);
     column->addWidget(m_pages, 1);
 
@@ -49,43 +55,21 @@ MainWindow::MainWindow(Backend *backend, QWidget *parent)
     m_tabs->getTab(Chats)->installEventFilter(this);
     connect(m_tabs, &OxaTabBar::currentChanged, m_pages, &QStackedWidget::setCurrentIndex);
 
-    connect(backend, &Backend::connectedChanged, this, &MainWindow::showConnection);
-    connect(backend, &Backend::ready, this, &MainWindow::showMe);
-    connect(backend, &Backend::personChanged, this, [this](const QString &person) {
-        if (person == m_backend->me())
-            showMe();
-    });
-    connect(backend, &Backend::failed, this,
-            [this](const QString &reason) { Toast::show(reason, this); });
-    connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, this, &MainWindow::showMe);
-    connect(m_chats, &ChatsPage::callRequested, this, &MainWindow::callConversation);
-    connect(&m_cards, &PersonCards::messageRequested, this, [this](const QString &person) {
-        showPage(Chats);
-        m_chats->openPerson(person);
-    });
-    connectShortcuts();
-    showConnection();
+    connectAll();
+    connect(backend, &Backend::connectedChanged, banner, &QWidget::setHidden);
+    showMe();
     m_chats->focusSearch();
 }
 
 void MainWindow::showPage(Page page) { m_tabs->setCurrentIndex(page); }
 
-void MainWindow::setUpLooks()
-{
-    setObjectName(QStringLiteral("mainWindow"));
-    setWindowTitle(tr("Rooms"));
-    setMinimumSize(560, 400);
-    resize(1120, 760);
-    setCSS(QStringLiteral("#mainWindow { background: $(window); }") + Looks::scrollBarRules());
-}
-
 QWidget *MainWindow::makeTop()
 {
     auto *top = new OxaWidget(this);
-    top->setObjectName(QStringLiteral("top"));
+    top->setObjectName(u"top"_s);
     top->setFixedHeight(56);
-    top->setCSS(QStringLiteral("$backgroundColors: sidebar; $borderColors: divider; "
-                               "$borders: bottom; $borderWidth: 1;"));
+    top->setCSS(u"$backgroundColors: sidebar; $borderColors: divider; "
+                "$borders: bottom; $borderWidth: 1;"_s);
     m_tabs = new OxaTabBar(top);
     m_tabs->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     m_tabs->setFixedHeight(36);
@@ -120,13 +104,31 @@ void MainWindow::addPage(const QString &title, QWidget *page)
     const int index = m_tabs->addTab(title, title);
     OxaPushButton *tab = m_tabs->getTab(index);
     tab->setFontToken(OxaFont::Token::SubheaderSecondary);
-    tab->setCSS(QStringLiteral("$textColors: tab-text; $backgroundColors: tab; "
-                               "$borderColors: tab-border; $borders: all; $borderWidth: 2; "
-                               "$borderRadius: 6;"));
+    tab->setCSS(u"$textColors: tab-text; $backgroundColors: tab; "
+                "$borderColors: tab-border; $borders: all; $borderWidth: 2; "
+                "$borderRadius: 6;"_s);
 }
 
-void MainWindow::connectShortcuts()
+void MainWindow::connectAll()
 {
+    connect(m_backend, &Backend::connectedChanged, this, &MainWindow::showMe);
+    connect(m_backend, &Backend::personChanged, this, [this](const QString &person) {
+        if (person == m_backend->me())
+            showMe();
+    });
+    connect(m_backend, &Backend::failed, this,
+            [this](const QString &reason) { Toast::show(reason, this); });
+    connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, this, &MainWindow::showMe);
+    connect(m_chats, &ChatsPage::callRequested, this, [this](const QString &id) {
+        const ConversationModel *model = m_backend->conversations();
+        m_calls->start(model->index(model->getRowIndex(id.toStdString())).data().toString());
+    });
+    const auto openPerson = [this](const QString &person) {
+        showPage(Chats);
+        m_chats->openPerson(person);
+    };
+    connect(&m_cards, &PersonCards::messageRequested, this, openPerson, Qt::QueuedConnection);
+
     const OxaAppSignals *hub = OxaAppSignals::get();
     const auto shows = [this](Page page) { return [this, page] { showPage(page); }; };
     connect(hub, &OxaAppSignals::selectMessagingTab, this, shows(Chats));
@@ -145,15 +147,6 @@ void MainWindow::zoom(int step)
     Settings settings = RoomsApplication::get()->settings();
     settings.messagingSize = qBound(-1, settings.messagingSize + step, 2);
     RoomsApplication::get()->apply(settings);
-}
-
-void MainWindow::showConnection()
-{
-    m_banner->setAlert({ AlertBanner::AlertType::Warning,
-                         tr("The server is away. What you write is sent when it is back."), true,
-                         true, QSize(400, 40) });
-    m_banner->setVisible(!m_backend->isConnected());
-    showMe();
 }
 
 void MainWindow::showMe()
@@ -204,19 +197,4 @@ void MainWindow::showSettings()
     m_settings->activateWindow();
 }
 
-void MainWindow::startCall(const Call &call) { return m_calls->start(call); }
-
-void MainWindow::callConversation(const QString &id)
-{
-    const ConversationModel *model = m_backend->conversations();
-    const QModelIndexList found = model->match(model->index(0, 0), ConversationModel::IdRole, id, 1,
-                                               Qt::MatchExactly);
-    if (found.isEmpty())
-        return;
-    Call call;
-    call.title = found.first().data(ConversationModel::TitleRole).toString();
-    const QString person = found.first().data(ConversationModel::PersonRole).toString();
-    if (!person.isEmpty())
-        call.people.append(person);
-    startCall(call);
-}
+void MainWindow::startCall(const Call &call) { m_calls->start(call.title); }

@@ -5,7 +5,6 @@
 
 #include <UiElements/widgets/OxaMainWindow.h>
 
-class AlertBanner;
 class Avatar;
 class Backend;
 class CallsPage;
@@ -43,20 +42,16 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void setUpLooks();
     QWidget *makeTop();
     void addPage(const QString &title, QWidget *page);
-    void connectShortcuts();
-    void showConnection();
+    void connectAll();
     OxaPushButton *makeMe(QWidget *parent);
     void showMe();
     void openMenu();
     void zoom(int step);
-    void callConversation(const QString &id);
 
     Backend *const m_backend;
     PersonCards m_cards;
-    AlertBanner *m_banner = nullptr;
     OxaPushButton *m_me = nullptr;
     Avatar *m_picture = nullptr;
     OxaTabBar *m_tabs = nullptr;

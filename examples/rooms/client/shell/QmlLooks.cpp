@@ -2,6 +2,7 @@
 #include "QmlLooks.h"
 
 #include "RoomsApplication.h"
+#include "protocol/Literal.h"
 
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/svg/OxaSvgRenderer.h>
@@ -9,6 +10,7 @@
 #include <QMetaEnum>
 #include <QQmlContext>
 #include <QQmlEngine>
+#include <QQmlPropertyMap>
 #include <QQuickImageProvider>
 
 namespace {
@@ -21,9 +23,9 @@ public:
 
     QPixmap requestPixmap(const QString &id, QSize *size, const QSize &requested) override
     {
-        const OxaSvgRenderer icon(OxaSvgRenderer::resourcePath(id.section(QLatin1Char('/'), 0, 0)));
+        const OxaSvgRenderer icon(OxaSvgRenderer::resourcePath(id.section(u'/', 0, 0)));
         const QPixmap pixmap = icon.renderPixmap(requested.isValid() ? requested : QSize(16, 16), 1,
-                                                 QColor(id.section(QLatin1Char('/'), 1)));
+                                                 QColor(id.section(u'/', 1)));
         *size = pixmap.size();
         return pixmap;
     }
@@ -31,30 +33,30 @@ public:
 
 } // namespace
 
-QmlLooks::QmlLooks(QQmlEngine *engine) : QObject(engine)
+void provideLooks(QQmlEngine *engine)
 {
-    engine->addImageProvider(QStringLiteral("icons"), new Icons);
-    engine->rootContext()->setContextProperty(QStringLiteral("looks"), this);
-    connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, this, &QmlLooks::read);
+    // Not QVariantMaps: each use of one makes all of it anew for JavaScript.
+    auto *looks = new QQmlPropertyMap(engine);
+    auto *colors = new QQmlPropertyMap(looks);
+    auto *fonts = new QQmlPropertyMap(looks);
+    looks->insert(u"colors"_s, QVariant::fromValue<QObject *>(colors));
+    looks->insert(u"fonts"_s, QVariant::fromValue<QObject *>(fonts));
+    const auto read = [looks, colors, fonts] {
+        for (const auto &[name, set] : RoomsApplication::get()->getColorSets()) {
+            const QString key = QString::fromStdString(name);
+            colors->insert(key, set.normal);
+            colors->insert(key + u".hovered"_s, set.hovered);
+            colors->insert(key + u".pressed"_s, set.pressed);
+            colors->insert(key + u".focused"_s, set.focused);
+        }
+        const auto tokens = QMetaEnum::fromType<OxaFont::Token>();
+        for (int index = 0; index < tokens.keyCount(); ++index)
+            fonts->insert(QString::fromLatin1(tokens.key(index)),
+                          QFont(OxaFont(OxaFont::Token(tokens.value(index)))));
+        looks->insert(u"isRightToLeft"_s, QGuiApplication::isRightToLeft());
+    };
     read();
-}
-
-void QmlLooks::read()
-{
-    const RoomsApplication *application = RoomsApplication::get();
-    for (const auto &[name, set] : application->getColorSets()) {
-        const QString key = QString::fromStdString(name);
-        m_colors.insert(key, set.normal);
-        m_colors.insert(key + QStringLiteral(".hovered"), set.hovered);
-        m_colors.insert(key + QStringLiteral(".pressed"), set.pressed);
-        m_colors.insert(key + QStringLiteral(".focused"), set.focused);
-    }
-    const auto tokens = QMetaEnum::fromType<OxaFont::Token>();
-    for (int index = 0; index < tokens.keyCount(); ++index) {
-        const QFont font = OxaFont(OxaFont::Token(tokens.value(index)));
-        m_fonts.insert(QString::fromLatin1(tokens.key(index)), font);
-    }
-    m_isRightToLeft = QGuiApplication::isRightToLeft();
-    m_animationsDisabled = application->animationsDisabled();
-    Q_EMIT changed();
+    QObject::connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, looks, read);
+    engine->addImageProvider(u"icons"_s, new Icons);
+    engine->rootContext()->setContextProperty(u"looks"_s, looks);
 }

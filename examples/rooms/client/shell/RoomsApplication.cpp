@@ -2,7 +2,7 @@
 #include "RoomsApplication.h"
 
 #include "QmlLooks.h"
-#include "RoomsStyle.h"
+#include "protocol/Literal.h"
 
 #include <UiElements/fonts/OxaFont.h>
 #include <UiElements/fonts/OxaFontManager.h>
@@ -13,9 +13,13 @@
 #include <UiElements/theme/OxaThemeUtils.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 
+#include <QCheckBox>
 #include <QLocale>
+#include <QPainter>
+#include <QProxyStyle>
+#include <QSlider>
+#include <QStyleOption>
 #include <QToolTip>
-#include <QWidget>
 
 namespace {
 
@@ -36,9 +40,43 @@ const std::vector<OxaPaletteUtils::RoleSource> paletteSources = {
     { QPalette::ToolTipText, "toast-text" },
 };
 
+/// Fusion without animations while the user wants none, and with focus frames in the client's
+/// colour around what has no border of its own to show the focus with.
+class RoomsStyle : public QProxyStyle
+{
+public:
+    RoomsStyle() : QProxyStyle(u"Fusion"_s) { }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override
+    {
+        if (element != PE_FrameFocusRect) {
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+        } else if (qobject_cast<const QCheckBox *>(widget)
+                   || qobject_cast<const QSlider *>(widget)) {
+            painter->save();
+            painter->setRenderHint(QPainter::Antialiasing);
+            painter->setBrush(Qt::NoBrush);
+            painter->setPen(QPen(OxaThemeUtils::getColorSet("focus", widget).normal, 2));
+            painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), 4, 4);
+            painter->restore();
+        }
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *data) const override
+    {
+        const RoomsApplication *application = RoomsApplication::get();
+        if (hint == SH_Widget_Animation_Duration && application
+            && application->animationsDisabled())
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
 OxaColorSetMap read(const char *name, const OxaColorPalette &palette)
 {
-    const QString path = QStringLiteral(":/documents/%1.json").arg(QLatin1String(name));
+    const QString path = u":/documents/%1.json"_s.arg(QLatin1String(name));
     return OxaThemeUtils::parseOxaColorSetsFromJson(path, palette);
 }
 
@@ -47,7 +85,7 @@ OxaColorSetMap read(const char *name, const OxaColorPalette &palette)
 RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc, argv)
 {
     const OxaColorPalette palette = OxaThemeUtils::parseOxaColorsFromJson(
-            QStringLiteral(":/documents/palette.json"));
+            u":/documents/palette.json"_s);
     m_light = read("light", palette);
     m_dark = read("dark", palette);
     m_highContrast = read("high-contrast", palette);
@@ -61,12 +99,11 @@ RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc
     setStyle(new RoomsStyle);
     // Qt warns of Hindi text unless the first font has glyph tables for any script, which Open Sans
     // has not. Emoji in colour, which it would take from any font.
-    QFont::insertSubstitutions(QStringLiteral("Segoe UI"),
-                               { QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"),
-                                 QStringLiteral("Noto Color Emoji") });
+    QFont::insertSubstitutions(u"Segoe UI"_s,
+                               { u"Noto Sans"_s, u"DejaVu Sans"_s, u"Noto Color Emoji"_s });
     setFont(OxaFont(OxaFont::Token::BodySecondary));
-    setOrganizationName(QStringLiteral("Rooms"));
-    setApplicationName(QStringLiteral("Rooms"));
+    setOrganizationName(u"Rooms"_s);
+    setApplicationName(u"Rooms"_s);
     OxaQmlTypes::registerQmlTypes();
 }
 
@@ -80,10 +117,9 @@ RoomsApplication *RoomsApplication::get()
 void RoomsApplication::apply(const Settings &settings, bool isTemporary)
 {
     m_settings = settings;
-    const bool isForced = settings.direction != Settings::Direction::System;
-    const bool isRightToLeft = settings.direction == Settings::Direction::RightToLeft;
-    setLayoutDirection(!isForced ? m_systemDirection
-                                 : (isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight));
+    const Qt::LayoutDirection directions[] = { m_systemDirection, Qt::LeftToRight,
+                                               Qt::RightToLeft };
+    setLayoutDirection(directions[int(settings.direction)]);
     showFonts();
     showColors();
     if (!isTemporary)
@@ -94,7 +130,7 @@ void RoomsApplication::apply(const Settings &settings, bool isTemporary)
 void RoomsApplication::onQmlEngineCreated(OxaQmlEngine *engine)
 {
     m_engine = engine;
-    new QmlLooks(engine);
+    provideLooks(engine);
     connect(engine, &OxaQmlEngine::qmlViewStatusChanged, this,
             [](OxaQmlEngine::QmlViewStatus status, const QString &view, const QString &message) {
                 if (status == OxaQmlEngine::QmlViewStatus::Error)

@@ -12,7 +12,6 @@
 class RoomsApplication : public OxaApplication
 {
     Q_OBJECT
-    Q_PROPERTY(bool animationsDisabled READ animationsDisabled NOTIFY settingsChanged)
 
 public:
     /// Reads the colours. Shows nothing before apply() is called.

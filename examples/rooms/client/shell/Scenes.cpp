@@ -5,11 +5,13 @@
 #include "chats/ChatsPage.h"
 #include "data/Backend.h"
 #include "data/ConversationModel.h"
+#include "protocol/Literal.h"
 
 #include <UiElements/app/OxaAppSignals.h>
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListWidget>
@@ -18,38 +20,33 @@
 #include <QScrollBar>
 #include <QWindow>
 
-#include <algorithm>
-
 namespace {
 
-/// Runs the event loop until \a condition is true; false if that takes over half a minute.
-bool waitFor(const std::function<bool()> &condition)
+/// Runs the event loop until \a condition is true; false if that takes over \a milliseconds.
+bool waitFor(const std::function<bool()> &condition, int milliseconds = 30'000)
 {
     QElapsedTimer timer;
     timer.start();
-    while (!condition() && timer.elapsed() < 30000)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 50);
+    while (!condition() && timer.elapsed() < milliseconds)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
     return condition();
 }
 
 /// Lets all settle that is under way: pages that load, popups that open.
 void settle(int milliseconds)
 {
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < milliseconds)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    waitFor([] { return false; }, milliseconds);
 }
 
-/// The widget that \a window is of; null if that is a window of QML.
-QWidget *widgetOf(const QWindow *window)
+/// The windows that are shown beside \a window.
+QWindowList othersThan(const QWidget *window)
 {
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    const auto found = std::find_if(widgets.begin(), widgets.end(),
-                                    [window](const QWidget *widget) {
-                                        return widget->windowHandle() == window;
-                                    });
-    return found == widgets.end() ? nullptr : *found;
+    QWindowList others = QGuiApplication::topLevelWindows();
+    const auto isNone = [window](const QWindow *other) {
+        return other == window->windowHandle() || !other->isVisible();
+    };
+    others.erase(std::remove_if(others.begin(), others.end(), isNone), others.end());
+    return others;
 }
 
 /// The window and all others that are open, each at its place over it, with an outline.
@@ -58,13 +55,10 @@ QPixmap picture(QWidget *window)
     QPixmap result = window->grab();
     QPainter painter(&result);
     painter.setPen(window->palette().color(QPalette::PlaceholderText));
-    const QPoint origin = window->mapToGlobal(QPoint());
-    const QWindowList others = QGuiApplication::topLevelWindows();
+    const QWindowList others = othersThan(window);
     for (QWindow *other : others) {
-        if (other == window->windowHandle() || !other->isVisible())
-            continue;
-        const QRect place = other->geometry().translated(-origin);
-        QWidget *widget = widgetOf(other);
+        const QRect place = other->geometry().translated(-window->mapToGlobal(QPoint()));
+        QWidget *widget = QWidget::find(other->winId()); // None, if it is of QML.
         painter.drawPixmap(place,
                            widget ? widget->grab() : other->screen()->grabWindow(other->winId()));
         if (!(other->flags() & Qt::FramelessWindowHint))
@@ -73,94 +67,15 @@ QPixmap picture(QWidget *window)
     return result;
 }
 
-void closeOthers(const QWidget *window)
+bool showPage(MainWindow *window, MainWindow::Page page)
 {
-    OxaAppSignals::get()->closeQmlPopups();
-    const QWindowList windows = QGuiApplication::topLevelWindows();
-    for (QWindow *other : windows) {
-        if (other != window->windowHandle() && other->isVisible())
-            other->close();
-    }
-}
-
-} // namespace
-
-Scenes::Scenes(MainWindow *window, Backend *backend, const QString &folder,
-               std::function<void()> stopServer)
-    : m_window(window), m_backend(backend), m_folder(folder), m_stopServer(std::move(stopServer))
-{
-}
-
-bool Scenes::takeAll()
-{
-    if (!QDir().mkpath(m_folder.path()) || !waitFor([this] { return m_backend->isReady(); })) {
-        qWarning("Nothing to take pictures of");
-        return false;
-    }
-    bool isGood = true;
-    const QVector<Scene> all = scenes();
-    for (const Scene &scene : all)
-        isGood = take(scene) && isGood;
-    return isGood;
-}
-
-QVector<Scenes::Scene> Scenes::scenes()
-{
-    return {
-        { "chat", [this] { return showConversation(false); } },
-        { "long-chat", [this] { return showConversation(true) && scrollUp(); } },
-        { "empty-search", [this] { return search(QStringLiteral("qqqqqq")); } },
-        { "emoji-picker",
-          [this] { return search({}) && showConversation(false) && click(QObject::tr("Emoji")); } },
-        { "gif-picker", [this] { return showConversation(false) && click(QObject::tr("GIF")); } },
-        { "profile",
-          [this] {
-              m_window->cards()->showProfile(m_backend->calls().value(1).people.value(1), m_window);
-              return true;
-          } },
-        { "settings",
-          [this] {
-              m_window->showSettings();
-              return true;
-          } },
-        { "call",
-          [this] {
-              m_window->showPage(MainWindow::Calls);
-              m_window->startCall(m_backend->calls().value(0));
-              return true;
-          } },
-        { "files",
-          [this] {
-              m_window->showPage(MainWindow::Files);
-              return true;
-          } },
-        { "server-away",
-          [this] {
-              m_window->showPage(MainWindow::Chats);
-              m_stopServer();
-              return waitFor([this] { return !m_backend->isConnected(); });
-          } },
-    };
-}
-
-bool Scenes::take(const Scene &scene)
-{
-    if (!scene.show()) {
-        qWarning("The scene %s cannot be shown", scene.name);
-        return false;
-    }
-    settle(1500);
-    const QString path = m_folder.filePath(QLatin1String(scene.name) + QStringLiteral(".png"));
-    const bool isWritten = picture(m_window).save(path);
-    closeOthers(m_window);
-    settle(50);
-    return isWritten;
+    window->showPage(page);
+    return true;
 }
 
 /// Opens the newest of those that are unread, or the server's first, which is its longest.
-bool Scenes::showConversation(bool isLong)
+bool showConversation(MainWindow *window, const ConversationModel *model, bool isLong)
 {
-    const ConversationModel *model = m_backend->conversations();
     QModelIndex chosen = model->index(0, 0);
     qint64 newest = 0;
     for (int row = 1; row < model->rowCount() && !isLong; ++row) {
@@ -171,16 +86,16 @@ bool Scenes::showConversation(bool isLong)
         newest = at;
         chosen = index;
     }
-    m_window->showPage(MainWindow::Chats);
-    m_window->chats()->openConversation(chosen.data(ConversationModel::IdRole).toString());
+    showPage(window, MainWindow::Chats);
+    window->chats()->openConversation(chosen.data(ConversationModel::IdRole).toString());
     Q_EMIT OxaAppSignals::get()->focusMainInputBox();
     settle(1000);
     return chosen.isValid();
 }
 
-bool Scenes::scrollUp()
+bool scrollUp(const MainWindow *window)
 {
-    const auto lists = m_window->findChildren<QListWidget *>();
+    const auto lists = window->findChildren<QListWidget *>();
     for (QListWidget *list : lists) {
         if (list->isVisible())
             list->verticalScrollBar()->setValue(list->verticalScrollBar()->maximum() - 2000);
@@ -188,25 +103,70 @@ bool Scenes::scrollUp()
     return !lists.isEmpty();
 }
 
-bool Scenes::search(const QString &text)
+bool search(MainWindow *window, const QString &text)
 {
-    m_window->showPage(MainWindow::Chats);
-    m_window->chats()->focusSearch();
-    auto *field = qobject_cast<QLineEdit *>(m_window->focusWidget());
+    showPage(window, MainWindow::Chats);
+    window->chats()->focusSearch();
+    auto *field = qobject_cast<QLineEdit *>(window->focusWidget());
     if (field)
         field->setText(text);
     settle(300);
     return field;
 }
 
-bool Scenes::click(const QString &button)
+bool click(const MainWindow *window, const QString &name)
 {
-    const auto buttons = m_window->findChildren<QAbstractButton *>();
-    for (QAbstractButton *candidate : buttons) {
-        if (candidate->isVisible() && candidate->accessibleName() == button) {
-            candidate->click();
+    const auto buttons = window->findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : buttons) {
+        if (button->isVisible() && button->accessibleName() == name) {
+            button->click();
             return true;
         }
     }
     return false;
+}
+
+} // namespace
+
+bool takeScenes(MainWindow *window, Backend *backend, const QString &folder,
+                const std::function<void()> &stopServer)
+{
+    const auto take = [window, &folder](const char *name, bool isShown) {
+        settle(1500);
+        const QString path = u"%1/%2.png"_s.arg(folder, QLatin1String(name));
+        const bool isTaken = isShown && picture(window).save(path);
+        if (!isTaken)
+            qWarning("The scene %s cannot be shown or written", name);
+        Q_EMIT OxaAppSignals::get()->closeQmlPopups();
+        const QWindowList others = othersThan(window);
+        for (QWindow *other : others)
+            other->close();
+        settle(50);
+        return isTaken;
+    };
+    const auto chat = [window, backend](bool isLong) {
+        return showConversation(window, backend->conversations(), isLong);
+    };
+    if (!QDir().mkpath(folder) || !waitFor([backend] { return backend->isReady(); })) {
+        qWarning("Nothing to take pictures of");
+        return false;
+    }
+    bool isGood = take("chat", chat(false));
+    isGood &= take("long-chat", chat(true) && scrollUp(window));
+    isGood &= take("empty-search", search(window, u"qqqqqq"_s));
+    isGood &= take("emoji-picker",
+                   search(window, {}) && chat(false) && click(window, QObject::tr("Emoji")));
+    isGood &= take("gif-picker", chat(false) && click(window, QObject::tr("GIF")));
+    window->cards()->showProfile(backend->calls().value(1).people.value(1), window);
+    isGood &= take("profile", true);
+    window->showSettings();
+    isGood &= take("settings", true);
+    showPage(window, MainWindow::Calls);
+    window->startCall(backend->calls().value(0));
+    isGood &= take("call", true);
+    showPage(window, MainWindow::Files);
+    isGood &= take("files", true);
+    showPage(window, MainWindow::Chats);
+    stopServer();
+    return take("server-away", waitFor([backend] { return !backend->isConnected(); })) && isGood;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Settings.h"
 
+#include "protocol/Literal.h"
+
 #include <QSettings>
 
 #include <tuple>
@@ -21,30 +23,25 @@ bool operator==(const Settings &a, const Settings &b) { return values(a) == valu
 Settings Settings::load()
 {
     const QSettings stored;
-    const auto number = [&stored](const char *key, int least, int most, int otherwise) {
-        return qBound(least, stored.value(QLatin1String(key), otherwise).toInt(), most);
-    };
-    Settings result;
-    result.theme = Theme(number("theme", 0, 3, 0));
-    result.direction = Direction(number("direction", 0, 2, 0));
-    result.fontScale = number("fontScale", 50, 150, 100);
-    result.messagingSize = number("messagingSize", -1, 2, 0);
-    result.animationsDisabled = stored.value(QStringLiteral("animationsDisabled")).toBool();
-    result.previewsShown = stored.value(QStringLiteral("previewsShown"), true).toBool();
-    result.displayName = stored.value(QStringLiteral("displayName")).toString();
-    result.webAddress = stored.value(QStringLiteral("webAddress")).toString();
-    return result;
+    return { Theme(qBound(0, stored.value(u"theme"_s).toInt(), 3)),
+             Direction(qBound(0, stored.value(u"direction"_s).toInt(), 2)),
+             qBound(50, stored.value(u"fontScale"_s, 100).toInt(), 150),
+             qBound(-1, stored.value(u"messagingSize"_s).toInt(), 2),
+             stored.value(u"animationsDisabled"_s).toBool(),
+             stored.value(u"previewsShown"_s, true).toBool(),
+             stored.value(u"displayName"_s).toString(),
+             stored.value(u"webAddress"_s).toString() };
 }
 
 void Settings::save() const
 {
     QSettings stored;
-    stored.setValue(QStringLiteral("theme"), int(theme));
-    stored.setValue(QStringLiteral("direction"), int(direction));
-    stored.setValue(QStringLiteral("fontScale"), fontScale);
-    stored.setValue(QStringLiteral("messagingSize"), messagingSize);
-    stored.setValue(QStringLiteral("animationsDisabled"), animationsDisabled);
-    stored.setValue(QStringLiteral("previewsShown"), previewsShown);
-    stored.setValue(QStringLiteral("displayName"), displayName);
-    stored.setValue(QStringLiteral("webAddress"), webAddress);
+    stored.setValue(u"theme"_s, int(theme));
+    stored.setValue(u"direction"_s, int(direction));
+    stored.setValue(u"fontScale"_s, fontScale);
+    stored.setValue(u"messagingSize"_s, messagingSize);
+    stored.setValue(u"animationsDisabled"_s, animationsDisabled);
+    stored.setValue(u"previewsShown"_s, previewsShown);
+    stored.setValue(u"displayName"_s, displayName);
+    stored.setValue(u"webAddress"_s, webAddress);
 }

@@ -25,4 +25,3 @@ struct Settings
 };
 
 bool operator==(const Settings &a, const Settings &b);
-inline bool operator!=(const Settings &a, const Settings &b) { return !(a == b); }

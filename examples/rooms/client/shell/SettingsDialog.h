@@ -5,8 +5,6 @@
 
 #include <UiElements/widgets/OxaDialog.h>
 
-#include <functional>
-
 class OxaTextInput;
 class QVBoxLayout;
 
@@ -21,25 +19,20 @@ public:
     explicit SettingsDialog(QWidget *parent = nullptr);
 
 private:
-    using Change = std::function<void(Settings &)>;
-
     void setLooks();
-    void change(const Change &change);
     void addHeading(const QString &text);
     void addRow(const QString &name, QWidget *field);
+    template <typename Choice>
     void addChoice(const QString &objectName, const QString &name, const QStringList &choices,
-                   int current, const std::function<void(Settings &, int)> &choose);
-    void addSlider(const QString &name, int from, int to, int step, int value,
-                   const std::function<QString(int)> &tell,
-                   const std::function<void(Settings &, int)> &choose);
-    void addCheckBox(const QString &text, bool isChecked,
-                     const std::function<void(Settings &, bool)> &choose);
-    void addText(const QString &name, const QString &text, const QString &errorText,
-                 const std::function<bool(const QString &)> &isValid,
-                 const std::function<void(Settings &, const QString &)> &choose);
-    void addLooks();
-    void addProfile();
+                   Choice Settings::*setting);
+    template <typename Tell>
+    void addSlider(const QString &name, int from, int to, int step, int Settings::*setting,
+                   const Tell &tell);
+    void addCheckBox(const QString &text, bool Settings::*setting);
+    void addText(const QString &name, const QString &errorText, bool (*isValid)(const QString &),
+                 QString Settings::*setting);
     void addButtons();
+    void finish();
 
     const Settings m_before;
     QVBoxLayout *const m_column;

@@ -3,20 +3,12 @@
 
 #include "Looks.h"
 #include "RoomsApplication.h"
+#include "protocol/Literal.h"
 
 #include <UiElements/widgets/OxaLabel.h>
 
 #include <QEvent>
 #include <QHBoxLayout>
-
-namespace {
-
-constexpr int shownMs = 4000;
-constexpr int fadeMs = 300;
-constexpr int withoutFadeMs = 1;
-constexpr int distance = 24;
-
-} // namespace
 
 void Toast::show(const QString &text, QWidget *parent)
 {
@@ -30,17 +22,16 @@ void Toast::show(const QString &text, QWidget *parent)
 
 Toast::Toast(const QString &text, QWidget *parent) : OxaNotification(parent)
 {
-    setObjectName(QStringLiteral("toast"));
-    setCSS(QStringLiteral("$backgroundColors: toast; $borderRadius: 8;"));
+    setObjectName(u"toast"_s);
+    setCSS(u"$backgroundColors: toast; $borderRadius: 8;"_s);
     setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_DeleteOnClose);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(16, 8, 16, 8);
-    row->addWidget(Looks::makeLabel(text, OxaFont::Token::BodySecondary,
-                                    QStringLiteral("toast-text"), this));
-    setShowTimeout(shownMs);
-    setFadeOutDuration(RoomsApplication::get()->animationsDisabled() ? withoutFadeMs : fadeMs);
-    connect(this, &OxaNotification::fadeOutCompleted, this, &QObject::deleteLater);
-    connect(this, &OxaNotification::fadeOutCompleted, this, &QWidget::hide);
+    row->addWidget(Looks::makeLabel(text, OxaFont::Token::BodySecondary, u"toast-text"_s, this));
+    setShowTimeout(4000);
+    setFadeOutDuration(RoomsApplication::get()->animationsDisabled() ? 1 : 300);
+    connect(this, &OxaNotification::fadeOutCompleted, this, &QWidget::close);
     parent->installEventFilter(this);
 }
 
@@ -53,8 +44,8 @@ bool Toast::eventFilter(QObject *watched, QEvent *event)
 
 void Toast::place()
 {
-    const QSize size = sizeHint().boundedTo(parentWidget()->size());
-    resize(size);
-    move((parentWidget()->width() - size.width()) / 2,
-         parentWidget()->height() - size.height() - distance);
+    const QSize around = parentWidget()->size();
+    const QSize size = sizeHint().boundedTo(around);
+    setGeometry({ { (around.width() - size.width()) / 2, around.height() - size.height() - 24 },
+                  size });
 }

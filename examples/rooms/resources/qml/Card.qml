@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick 2.15
-import Rooms 1.0
 import UiElements 1.0
 
 OxaBalloon {
     id: card
 
-    readonly property var person: controller.model
+    readonly property var person: controller.model || cards.nobody
 
     width: Math.max(288, actions.implicitWidth + 32)
     height: content.implicitHeight + 32 + arrowSize
@@ -20,9 +19,9 @@ OxaBalloon {
     LayoutMirroring.enabled: looks.isRightToLeft
     LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.Dialog
-    Accessible.name: person ? person.name : ""
+    Accessible.name: person.name
 
-    CardController {
+    OxaQmlPopupController {
         id: controller
     }
     Column {
@@ -41,28 +40,23 @@ OxaBalloon {
             Picture {
                 id: picture
                 width: 48
-                height: 48
                 person: card.person
             }
             Column {
                 width: parent.width - picture.width - parent.spacing
                 spacing: 2
 
-                Text {
+                Label {
                     width: parent.width
-                    text: card.person ? card.person.name : ""
-                    elide: Text.ElideRight
                     horizontalAlignment: Text.AlignLeft
-                    font: looks.fonts.SubheaderPrimary
-                    color: looks.colors["text-primary"]
+                    text: card.person.name
+                    token: "SubheaderPrimary"
+                    colors: "text-primary"
                 }
-                Text {
+                Label {
                     width: parent.width
-                    text: card.person ? card.person.title : ""
-                    elide: Text.ElideRight
                     horizontalAlignment: Text.AlignLeft
-                    font: looks.fonts.BodySecondary
-                    color: looks.colors["text-secondary"]
+                    text: card.person.title
                 }
                 PresenceLine {
                     person: card.person
@@ -77,11 +71,11 @@ OxaBalloon {
             TextButton {
                 kind: "accent"
                 text: qsTr("Message")
-                onClicked: controller.messageRequested(card.person.id)
+                onClicked: cards.messageRequested(card.person.id)
             }
             TextButton {
                 text: qsTr("Profile")
-                onClicked: controller.profileRequested(card.person.id)
+                onClicked: cards.profileRequested(card.person.id)
             }
         }
     }

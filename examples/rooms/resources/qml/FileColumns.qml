@@ -9,13 +9,11 @@ Item {
     property string owner
     property string size
     property string changed
-    property bool isWide
-    property real unit
-    property font fontToken
-    property color textColor
+    property string token
+    property string nameColors: "text-secondary"
+    readonly property real unit: looks.fonts.BodySecondary.pixelSize / 14
 
-    Text {
-        id: nameText
+    Label {
         anchors.left: parent.left
         anchors.leftMargin: 44
         anchors.right: others.left
@@ -24,9 +22,8 @@ Item {
         horizontalAlignment: Text.AlignLeft
         text: columns.name
         elide: Text.ElideMiddle
-        textFormat: Text.PlainText
-        font: columns.fontToken
-        color: columns.textColor
+        token: columns.token
+        colors: columns.nameColors
     }
     Row {
         id: others
@@ -38,19 +35,16 @@ Item {
 
         Repeater {
             model: [
-                { text: columns.owner, width: 160, isShown: columns.isWide },
+                { text: columns.owner, width: 160, isShown: columns.width > 640 * columns.unit - 32 },
                 { text: columns.size, width: 80, isShown: true },
                 { text: columns.changed, width: 96, isShown: true }
             ]
-            Text {
+            Label {
                 visible: modelData.isShown
                 width: modelData.width * columns.unit
                 horizontalAlignment: index === 0 ? Text.AlignLeft : Text.AlignRight
                 text: modelData.text
-                elide: Text.ElideRight
-                textFormat: Text.PlainText
-                font: columns.fontToken
-                color: looks.colors["text-secondary"]
+                token: columns.token
             }
         }
     }

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick 2.15
-import Rooms 1.0
 
 Rectangle {
     id: page
 
-    readonly property int rowHeight: Math.max(44, Math.ceil(looks.fonts.BodySecondary.pixelSize * 2.6))
-    readonly property real unit: looks.fonts.BodySecondary.pixelSize / 14
-    readonly property bool isWide: width > 640 * unit
+    readonly property int textSize: looks.fonts.BodySecondary.pixelSize
+    readonly property int rowHeight: Math.max(44, Math.ceil(textSize * 2.6))
 
     color: looks.colors["window"]
     LayoutMirroring.enabled: looks.isRightToLeft
@@ -18,19 +16,13 @@ Rectangle {
              : kind === "table" ? "table" : kind === "archive" ? "files" : "file"
     }
 
-    FilesController {
-        id: controller
-    }
     FileColumns {
         id: header
 
         x: list.x
         width: list.width
-        height: 40 * page.unit
-        isWide: page.isWide
-        unit: page.unit
-        fontToken: looks.fonts.BodyTertiary
-        textColor: looks.colors["text-secondary"]
+        height: 40 * page.textSize / 14
+        token: "BodyTertiary"
         name: qsTr("Name")
         owner: qsTr("Owner")
         size: qsTr("Size")
@@ -52,15 +44,15 @@ Rectangle {
         anchors.topMargin: 4
         clip: true
         boundsBehavior: Flickable.StopAtBounds
-        model: controller.files
+        model: files.model
         activeFocusOnTab: true
         focus: true
         highlightMoveDuration: 0
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Files")
 
-        onContentYChanged: controller.scrollTo(Math.max(0, indexAt(1, contentY + height / 2)))
-        onCountChanged: controller.scrollTo(Math.max(0, indexAt(1, contentY + height / 2)))
+        onContentYChanged: files.scrollTo(Math.max(0, indexAt(1, contentY + height / 2)))
+        onCountChanged: contentYChanged()
         Keys.onPressed: {
             const rows = Math.floor(height / page.rowHeight)
             const steps = { [Qt.Key_PageDown]: rows, [Qt.Key_PageUp]: -rows,
@@ -101,13 +93,11 @@ Rectangle {
             FileColumns {
                 visible: row.isHere
                 anchors.fill: parent
-                isWide: page.isWide
-                unit: page.unit
-                fontToken: looks.fonts.BodySecondary
-                textColor: looks.colors["text-primary"]
+                token: "BodySecondary"
+                nameColors: "text-primary"
                 name: row.isHere ? model.name : ""
-                owner: row.isHere ? controller.personName(model.owner) : ""
-                size: row.isHere ? controller.sizeText(model.size) : ""
+                owner: row.isHere ? files.personName(model.owner) : ""
+                size: row.isHere ? files.sizeText(model.size) : ""
                 changed: row.isHere ? Qt.formatDate(model.at, Qt.DefaultLocaleShortDate) : ""
             }
             Row {
@@ -131,14 +121,12 @@ Rectangle {
                     color: looks.colors["placeholder-bar"]
                 }
             }
-            Text {
+            Label {
                 visible: !row.isHere && !!model.failed
                 anchors.left: parent.left
                 anchors.leftMargin: 44
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Could not be loaded. Trying again…")
-                font: looks.fonts.BodySecondary
-                color: looks.colors["text-secondary"]
             }
             MouseArea {
                 id: area
@@ -158,7 +146,7 @@ Rectangle {
                     if (!pressed || !row.isHere || way < 10)
                         return
                     start = Qt.point(NaN, NaN)
-                    controller.dragRequested(model.name)
+                    files.dragRequested(model.name)
                 }
             }
         }
@@ -169,12 +157,10 @@ Rectangle {
         anchors.bottom: parent.bottom
         view: list
     }
-    Text {
+    Label {
         visible: list.count === 0
         anchors.centerIn: parent
         text: qsTr("No files yet")
-        font: looks.fonts.BodySecondary
-        color: looks.colors["text-secondary"]
     }
     Item {
         id: breakQmlFocus

@@ -7,14 +7,15 @@ Rectangle {
 
     property var person
 
+    height: width
     radius: width / 2
-    color: person ? looks.colors["person-" + person.color] : "transparent"
+    color: looks.colors["person-" + person.color]
     border.width: 1
     border.color: looks.colors["person-border"]
 
     Text {
         anchors.centerIn: parent
-        text: picture.person ? picture.person.initials : ""
+        text: picture.person.initials
         color: looks.colors["person-text"]
         font.family: looks.fonts.Title.family
         font.weight: Font.DemiBold

@@ -6,7 +6,6 @@ Row {
     id: line
 
     property var person
-    readonly property color dot: person ? looks.colors["presence-" + person.presence] : "transparent"
 
     spacing: 6
 
@@ -15,30 +14,26 @@ Row {
         width: 10
         height: 10
         radius: 5
-        color: line.person && line.person.presence === "offline" ? "transparent" : line.dot
+        color: line.person.presence === "offline" ? "transparent" : border.color
         border.width: 2
-        border.color: line.dot
+        border.color: looks.colors["presence-" + line.person.presence]
 
         Rectangle {
-            visible: !!line.person && line.person.presence === "busy"
+            visible: line.person.presence === "busy"
             anchors.centerIn: parent
             width: 6
             height: 2
             color: looks.colors["panel"]
         }
         Rectangle {
-            visible: !!line.person && line.person.presence === "away"
-            x: 0
-            y: 0
+            visible: line.person.presence === "away"
             width: 6
             height: 6
             radius: 3
             color: looks.colors["panel"]
         }
     }
-    Text {
-        text: line.person ? line.person.presenceText : ""
-        font: looks.fonts.BodySecondary
-        color: looks.colors["text-secondary"]
+    Label {
+        text: line.person.presenceText
     }
 }

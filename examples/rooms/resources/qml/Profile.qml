@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick 2.15
-import Rooms 1.0
+import UiElements 1.0
 
 Rectangle {
     id: profile
 
-    readonly property var person: controller.model ? controller.model.person : null
+    readonly property var person: controller.model || cards.nobody
 
     width: Math.max(400, actions.implicitWidth + 48)
     height: content.implicitHeight + 48
@@ -16,10 +16,10 @@ Rectangle {
     LayoutMirroring.enabled: looks.isRightToLeft
     LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.Dialog
-    Accessible.name: person ? person.name : ""
-    Keys.onEscapePressed: controller.closed()
+    Accessible.name: person.name
+    Keys.onEscapePressed: cards.profileClosed()
 
-    ProfileController {
+    OxaQmlDialogController {
         id: controller
     }
     Column {
@@ -32,44 +32,38 @@ Rectangle {
         Picture {
             anchors.horizontalCenter: parent.horizontalCenter
             width: 96
-            height: 96
             person: profile.person
         }
         Column {
             width: parent.width
             spacing: 4
 
-            Text {
+            Label {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                text: profile.person ? profile.person.name : ""
-                elide: Text.ElideRight
-                font: looks.fonts.Title
-                color: looks.colors["text-primary"]
+                text: profile.person.name
+                token: "Title"
+                colors: "text-primary"
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
             }
-            Text {
+            Label {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
-                text: profile.person ? profile.person.title : ""
-                elide: Text.ElideRight
-                font: looks.fonts.BodySecondary
-                color: looks.colors["text-secondary"]
+                text: profile.person.title
             }
             PresenceLine {
                 anchors.horizontalCenter: parent.horizontalCenter
                 person: profile.person
             }
         }
-        Text {
+        Label {
             width: parent.width
             visible: text !== ""
+            elide: Text.ElideNone
             wrapMode: Text.Wrap
-            text: profile.person ? profile.person.about : ""
-            textFormat: Text.PlainText
-            font: looks.fonts.BodySecondary
-            color: looks.colors["text-primary"]
+            text: profile.person.about
+            colors: "text-primary"
         }
         Row {
             id: actions
@@ -79,13 +73,13 @@ Rectangle {
 
             TextButton {
                 text: qsTr("Close")
-                onClicked: controller.closed()
+                onClicked: cards.profileClosed()
             }
             TextButton {
                 focus: true
                 kind: "accent"
                 text: qsTr("Message")
-                onClicked: controller.messageRequested(profile.person.id)
+                onClicked: cards.messageRequested(profile.person.id)
             }
         }
     }
