@@ -36,6 +36,7 @@ CallWindow::CallWindow(Backend *backend, PersonCards *cards, const Call &call, Q
     column->addWidget(makeTop());
     m_banner = new AlertBanner(content);
     m_banner->setMinimumHeight(40);
+    m_banner->layout()->setContentsMargins({}); // Its text stands in the middle.
     column->addWidget(m_banner);
     column->addWidget(makeStage(), 1);
     column->addWidget(makeControls());
@@ -60,7 +61,8 @@ QWidget *CallWindow::makeTop()
     title->setMinimumWidth(1);
     m_time = Looks::makeLabel(QString(), OxaFont::Token::BodySecondary,
                               QStringLiteral("text-secondary"), top);
-    row->addWidget(title, 1);
+    row->addWidget(title); // No wider than its text: a Hebrew one would stand at its other end.
+    row->addStretch(1);
     row->addWidget(m_time);
 
     m_since.start();
@@ -80,7 +82,7 @@ QWidget *CallWindow::makeStage()
     grid->setItemData(tiles);
     m_waiting = Looks::makeLabel(tr("Nobody else is here yet."), OxaFont::Token::BodySecondary,
                                  QStringLiteral("text-secondary"), m_stage);
-    m_waiting->setAlignment(Qt::AlignCenter);
+    Looks::centre(m_waiting);
     grid->addWidget(m_waiting);
     return m_stage;
 }

@@ -35,6 +35,7 @@ MainWindow::MainWindow(Backend *backend, QWidget *parent)
     column->addWidget(makeTop());
     m_banner = new AlertBanner(content);
     m_banner->setMinimumHeight(40);
+    m_banner->layout()->setContentsMargins({}); // Its text stands in the middle.
     column->addWidget(m_banner);
     m_pages = new OxaStackedWidget(content);
     column->addWidget(m_pages, 1);
