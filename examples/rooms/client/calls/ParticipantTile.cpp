@@ -41,7 +41,7 @@ ParticipantTile::ParticipantTile(const Person &person, QWidget *parent)
     m_avatar->setPerson(person, false);
     m_name = Looks::makeLabel(person.name, OxaFont::Token::SubheaderSecondary,
                               QStringLiteral("text-primary"), this);
-    m_name->setAlignment(Qt::AlignCenter);
+    Looks::centre(m_name);
     m_name->setMinimumWidth(1);
     m_state = new OxaSvgLabel(this);
     m_state->setCSS(QStringLiteral("$textColors: text-secondary;"));

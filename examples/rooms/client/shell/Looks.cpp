@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Looks.h"
 
+#include "RoomsApplication.h"
+
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/svg/OxaSvgRenderer.h>
 #include <UiElements/widgets/OxaLabel.h>
@@ -86,6 +88,14 @@ OxaLabel *Looks::makeLabel(const QString &text, OxaFont::Token token, const QStr
     label->setFontToken(token);
     label->setCSS(QStringLiteral("$textColors: %1;").arg(colors));
     return label;
+}
+
+void Looks::centre(OxaLabel *label)
+{
+    const auto centre = [label] { label->setAlignment(Qt::AlignCenter); };
+    centre();
+    // With another direction a label's text goes to the side where lines begin.
+    QObject::connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, label, centre);
 }
 
 OxaTextInputFactory Looks::fields()
