@@ -59,7 +59,8 @@ QWidget *CallWindow::makeTop(const QString &text)
     title->setAccessibleRole(QAccessible::Heading);
     title->setMinimumWidth(1);
     m_time = Looks::makeLabel(QString(), OxaFont::Token::BodySecondary, u"text-secondary"_s, top);
-    row->addWidget(title, 1);
+    row->addWidget(title); // No wider than its text: a Hebrew one would stand at its other end.
+    row->addStretch(1);
     row->addWidget(m_time);
 
     m_since.start();
@@ -79,7 +80,7 @@ QWidget *CallWindow::makeStage()
     grid->setItemData(tiles);
     m_waiting = Looks::makeLabel(tr("Nobody else is here yet."), OxaFont::Token::BodySecondary,
                                  u"text-secondary"_s, m_stage);
-    m_waiting->setAlignment(Qt::AlignCenter);
+    Looks::centre(m_waiting);
     grid->addWidget(m_waiting);
     return m_stage;
 }

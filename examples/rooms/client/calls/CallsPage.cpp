@@ -54,7 +54,7 @@ CallsPage::CallsPage(Backend *backend, PersonCards *cards, QWidget *parent)
     m_list->setMaximumWidth(widest);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_empty->setAlignment(Qt::AlignCenter);
+    Looks::centre(m_empty);
 
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(16, 16, 16, 0);
@@ -80,6 +80,8 @@ void CallsPage::start(const QString &title)
 
 void CallsPage::fill()
 {
+    const bool hadFocus = hasFocus(); // While the list was hidden, and could not take it.
+    const int current = m_list->currentRow();
     m_list->clear();
     m_list->setItemWidgetsDynamicLoadingEnabled(true);
     const QVector<Call> &calls = m_backend->calls();
@@ -94,6 +96,9 @@ void CallsPage::fill()
     m_list->endInsert();
     m_list->setVisible(!calls.isEmpty());
     m_empty->setVisible(calls.isEmpty());
+    m_list->setCurrentRow(current);
+    if (hadFocus)
+        m_list->setFocus(Qt::OtherFocusReason);
 }
 
 void CallsPage::makeRow(QListWidgetItem *item)

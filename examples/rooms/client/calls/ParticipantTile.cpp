@@ -43,7 +43,7 @@ ParticipantTile::ParticipantTile(const Person &person, QWidget *parent)
     m_avatar->setPerson(person, false);
     m_name = Looks::makeLabel(person.name, OxaFont::Token::SubheaderSecondary, u"text-primary"_s,
                               this);
-    m_name->setAlignment(Qt::AlignCenter);
+    Looks::centre(m_name);
     m_name->setMinimumWidth(1);
     m_state = new OxaSvgLabel(this);
     m_state->setCSS(u"$textColors: text-secondary;"_s);

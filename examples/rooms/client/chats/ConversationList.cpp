@@ -45,7 +45,7 @@ ConversationList::ConversationList(Backend *backend, QWidget *parent)
     column->addWidget(m_list, 1);
     m_empty = Looks::makeLabel(QString(), OxaFont::Token::BodySecondary,
                                QStringLiteral("text-secondary"), m_list);
-    m_empty->setAlignment(Qt::AlignCenter);
+    Looks::centre(m_empty);
     m_empty->setWordWrap(true);
 
     m_proxy->setSourceModel(backend->conversations());

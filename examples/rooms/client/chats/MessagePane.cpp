@@ -38,10 +38,10 @@ MessagePane::MessagePane(MessageList *list, QWidget *parent)
     m_banner->setSvgIconPadding(QMargins(12, 0, 0, 0));
     m_banner->setTextLeftPadding(8);
     m_banner->setCSS(Looks::buttonStyle(Looks::Button::Accent, bannerHeight / 2));
-    m_loading->setAlignment(Qt::AlignCenter);
+    Looks::centre(m_loading);
     m_loading->setCSS(QStringLiteral("$backgroundColors: toast; $textColors: toast-text; "
                                      "$borderRadius: 12;"));
-    m_empty->setAlignment(Qt::AlignCenter);
+    Looks::centre(m_empty);
     m_empty->setWordWrap(true);
     connect(m_banner, &OxaSvgPushButton::clicked, list, &MessageList::goToBottom);
     connect(list, &MessageList::placeChanged, this, &MessagePane::showBanner);

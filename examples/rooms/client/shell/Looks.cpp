@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Looks.h"
 
+#include "RoomsApplication.h"
 #include "protocol/Literal.h"
 
 #include <UiElements/svg/OxaSvgPushButton.h>
@@ -76,6 +77,14 @@ OxaLabel *Looks::makeLabel(const QString &text, OxaFont::Token token, const QStr
     return label;
 }
 
+void Looks::centre(OxaLabel *label)
+{
+    const auto centre = [label] { label->setAlignment(Qt::AlignCenter); };
+    centre();
+    // With another direction a label's text goes to the side where lines begin.
+    QObject::connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, label, centre);
+}
+
 OxaTextInputFactory Looks::fields()
 {
     OxaCSSData normal;
@@ -120,6 +129,7 @@ AlertBanner *Looks::makeBanner(AlertBanner::AlertType type, const QString &text,
 {
     auto *banner = new AlertBanner(parent);
     banner->setMinimumHeight(40);
+    banner->layout()->setContentsMargins({}); // Its text stands in the middle.
     banner->setAlert({ type, text, true, true, QSize(400, 40) });
     return banner;
 }

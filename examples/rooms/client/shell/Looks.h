@@ -41,6 +41,9 @@ void makeCheckable(OxaSvgPushButton *button, Button kind, int radius = 6);
 OxaLabel *makeLabel(const QString &text, OxaFont::Token token, const QString &colors,
                     QWidget *parent);
 
+/// Shows the text of \a label in its middle, also when the direction changes.
+void centre(OxaLabel *label);
+
 /// The looks of all fields.
 OxaTextInputFactory fields();
 
