@@ -99,8 +99,7 @@ RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc
     setStyle(new RoomsStyle);
     // Qt warns of Hindi text unless the first font has glyph tables for any script, which Open Sans
     // has not. Emoji in colour, which it would take from any font.
-    QFont::insertSubstitutions(u"Segoe UI"_s,
-                               { u"Noto Sans"_s, u"DejaVu Sans"_s, u"Noto Color Emoji"_s });
+    QFont::insertSubstitutions(u"Segoe UI"_s, { u"Noto Sans"_s, u"Noto Color Emoji"_s });
     setFont(OxaFont(OxaFont::Token::BodySecondary));
     setOrganizationName(u"Rooms"_s);
     setApplicationName(u"Rooms"_s);
