@@ -190,6 +190,8 @@ private Q_SLOTS:
     void jumpsToADate();
     void findsAConversation();
     void showsWhoSomebodyIs();
+    void keepsOneModelForTheProfile();
+    void followsEachAnchorOfACardOnce();
     void changesTheLooks();
     void callsAndLeaves();
     void sendsAFileThatIsDragged();
@@ -323,14 +325,32 @@ void tst_RoomsSession::showsWhoSomebodyIs()
     const auto *header = m_window->findChild<QWidget *>(QStringLiteral("conversationHeader"));
     QVERIFY(RealInput::moveTo(*header, QPoint(36, header->height() / 2)));
     QVERIFY(click(quickButton("Profile")));
-    QQuickItem *message = quickButton("Message");
-    QVERIFY(message);
-    m_window->cards()->showProfile(QStringLiteral("p2"), m_window.get());
-    const auto *profile = qobject_cast<QQuickView *>(message->window())->rootObject();
-    QCOMPARE(profile->findChildren<ProfileModel *>().size(), 1); // The one before is gone.
-    m_window->cards()->showProfile(QStringLiteral("p1"), m_window.get());
-    QVERIFY(click(message));
+    QVERIFY(click(quickButton("Message")));
     QTRY_COMPARE(QGuiApplication::focusWindow(), m_window->windowHandle());
+}
+
+void tst_RoomsSession::keepsOneModelForTheProfile()
+{
+    for (const char *person : { "p1", "p2" })
+        m_window->cards()->showProfile(QLatin1String(person), m_window.get());
+    const QQuickItem *close = quickButton("Close");
+    QVERIFY(close);
+    const QPointer<QQuickView> profile = qobject_cast<QQuickView *>(close->window());
+    QCOMPARE(profile->rootObject()->findChildren<ProfileModel *>().size(), 1);
+    profile->close();
+    QTRY_VERIFY(!profile);
+    QVERIFY(Windows::showActive(*m_window));
+}
+
+void tst_RoomsSession::followsEachAnchorOfACardOnce()
+{
+    struct Anchor : QWidget
+    {
+        using QObject::receivers;
+    } anchor;
+    for (const char *person : { "p1", "", "p2", "p3" })
+        m_window->cards()->watch(&anchor, QLatin1String(person));
+    QCOMPARE(anchor.receivers(SIGNAL(destroyed(QObject *))), 1);
 }
 
 void tst_RoomsSession::changesTheLooks()

@@ -27,7 +27,8 @@ PersonCards::PersonCards(Backend *backend, QObject *parent) : QObject(parent), m
 void PersonCards::watch(QWidget *anchor, const QString &person)
 {
     if (person.isEmpty()) {
-        m_people.remove(anchor);
+        if (m_people.remove(anchor) > 0)
+            anchor->disconnect(this);
         return;
     }
     if (!m_people.contains(anchor)) {
