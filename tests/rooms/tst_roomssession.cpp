@@ -27,6 +27,8 @@
 #include <QTest>
 #include <QTextEdit>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int longMs = 20'000;
@@ -194,6 +196,7 @@ private Q_SLOTS:
     void followsEachAnchorOfACardOnce();
     void changesTheLooks();
     void callsAndLeaves();
+    void keepsThePlaceInTheFilesForAnotherDirection();
     void sendsAFileThatIsDragged();
     void sendsWhatWasTypedWhileTheServerWasAway();
 
@@ -389,6 +392,27 @@ void tst_RoomsSession::callsAndLeaves()
     QCOMPARE(requests("leave").size(), 0);
     QVERIFY(clickButton("Leave"));
     QTRY_COMPARE(requests("leave").size(), 1);
+}
+
+void tst_RoomsSession::keepsThePlaceInTheFilesForAnotherDirection()
+{
+    m_window->showPage(MainWindow::Files);
+    const auto *files = waitFor<QQuickWidget>("Files");
+    QVERIFY(files);
+    const auto items = files->rootObject()->findChildren<QQuickItem *>();
+    const auto list = std::find_if(items.begin(), items.end(), [](const QQuickItem *item) {
+        return item->inherits("QQuickListView");
+    });
+    QVERIFY(list != items.end());
+    QTRY_VERIFY((*list)->property("count").toInt() > 1000);
+    (*list)->setProperty("contentY", 20000);
+    const Settings before = RoomsApplication::get()->settings();
+    Settings settings = before;
+    settings.direction = Settings::Direction::RightToLeft;
+    RoomsApplication::get()->apply(settings, true);
+    QCOMPARE((*list)->property("contentY").toInt(), 20000);
+    RoomsApplication::get()->apply(before, true);
+    (*list)->setProperty("contentY", 0);
 }
 
 void tst_RoomsSession::sendsAFileThatIsDragged()
