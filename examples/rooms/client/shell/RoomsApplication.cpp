@@ -13,6 +13,7 @@
 #include <UiElements/theme/OxaThemeUtils.h>
 #include <UiElements/widgets/OxaMainWindow.h>
 
+#include <QFontDatabase>
 #include <QLocale>
 #include <QToolTip>
 #include <QWidget>
@@ -60,9 +61,11 @@ RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc
     setProperty("useGlobalFocusBorders", true);
     setStyle(new RoomsStyle);
     // Qt warns of Hindi text unless the first font has glyph tables for any script, which Open Sans
-    // has not. Emoji in colour, which it would take from any font.
+    // has not. Emoji in colour come next: others have some of their parts.
+    const QString noto = QStringLiteral("Noto Sans");
     QFont::insertSubstitutions(QStringLiteral("Segoe UI"),
-                               { QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans"),
+                               { QFontDatabase().hasFamily(noto) ? noto
+                                                                 : QStringLiteral("DejaVu Sans"),
                                  QStringLiteral("Noto Color Emoji") });
     setFont(OxaFont(OxaFont::Token::BodySecondary));
     setOrganizationName(QStringLiteral("Rooms"));
