@@ -69,7 +69,8 @@ QVariantMap PersonCards::nobody() { return toQml({}); }
 void PersonCards::watch(QWidget *anchor, const QString &person)
 {
     if (person.isEmpty()) {
-        m_people.remove(anchor);
+        if (m_people.remove(anchor) > 0)
+            anchor->disconnect(this);
         return;
     }
     if (!m_people.contains(anchor)) {

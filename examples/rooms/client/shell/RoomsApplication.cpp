@@ -14,6 +14,7 @@
 #include <UiElements/widgets/OxaMainWindow.h>
 
 #include <QCheckBox>
+#include <QFontDatabase>
 #include <QLocale>
 #include <QPainter>
 #include <QProxyStyle>
@@ -98,8 +99,11 @@ RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc
     setProperty("useGlobalFocusBorders", true);
     setStyle(new RoomsStyle);
     // Qt warns of Hindi text unless the first font has glyph tables for any script, which Open Sans
-    // has not. Emoji in colour, which it would take from any font.
-    QFont::insertSubstitutions(u"Segoe UI"_s, { u"Noto Sans"_s, u"Noto Color Emoji"_s });
+    // has not. Emoji in colour come next: others have some of their parts.
+    const QString noto = u"Noto Sans"_s;
+    QFont::insertSubstitutions(u"Segoe UI"_s,
+                               { QFontDatabase().hasFamily(noto) ? noto : u"DejaVu Sans"_s,
+                                 u"Noto Color Emoji"_s });
     setFont(OxaFont(OxaFont::Token::BodySecondary));
     setOrganizationName(u"Rooms"_s);
     setApplicationName(u"Rooms"_s);

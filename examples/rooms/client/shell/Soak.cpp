@@ -138,8 +138,11 @@ Soak::Sample Soak::sample()
     return sample;
 }
 
+/// One that can be closed: what a modal window blocks cannot.
 QWindow *Soak::otherWindow() const
 {
+    if (QWindow *modal = QGuiApplication::modalWindow())
+        return modal;
     return shownWindow([this](QWindow *window) { return window != m_window->windowHandle(); });
 }
 

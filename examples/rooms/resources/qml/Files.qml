@@ -43,6 +43,9 @@ Rectangle {
         anchors.bottom: parent.bottom
         anchors.topMargin: 4
         clip: true
+        // Its rows are mirrored by the page. It would begin again at the top itself; and if it moves
+        // just then, Qt first makes all rows above the old place, which can be a million.
+        LayoutMirroring.enabled: false
         boundsBehavior: Flickable.StopAtBounds
         model: files.model
         activeFocusOnTab: true
