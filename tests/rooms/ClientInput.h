@@ -1,17 +1,24 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "data/ConversationModel.h"
 #include "support/RealInput.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QApplication>
+#include <QLabel>
+#include <QListWidget>
 #include <QMenu>
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickView>
+#include <QQuickWidget>
+#include <QQuickWindow>
 #include <QRegExp>
+#include <QScrollBar>
+#include <QTextEdit>
 
 /// QTRY_VERIFY() and QTRY_COMPARE() with time enough for a busy machine.
 #define AWAIT(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, ClientInput::longMs)
@@ -21,6 +28,8 @@
 /// What a user does with the client's widgets, which are found by the names that assistive
 /// technology tells. Each function that returns a bool returns whether the input was sent.
 namespace ClientInput {
+
+using Role = ConversationModel::Role;
 
 constexpr int longMs = 20'000;
 
@@ -114,30 +123,31 @@ inline QStringList moves(const QVector<QPoint> &places)
     QStringList arguments;
     for (const QPoint &place : places)
         arguments << words("mousemove") << QString::number(place.x()) << QString::number(place.y())
-                  << words("sleep 0.3");
+                  << words("sleep 0.5");
     return arguments;
 }
 
-/// The button called \a text of a window of QML that is shown.
+/// The button called \a text of a window of QML that is shown; null if there is none.
+inline QQuickItem *shownQuickButton(const char *text)
+{
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (QWindow *window : windows) {
+        auto *view = qobject_cast<QQuickView *>(window);
+        if (!view || !view->isVisible() || !view->rootObject())
+            continue;
+        const auto items = view->rootObject()->findChildren<QQuickItem *>();
+        for (QQuickItem *item : items) {
+            if (item->property("kind").isValid() && item->property("text") == QLatin1String(text))
+                return item;
+        }
+    }
+    return nullptr;
+}
+
 inline QQuickItem *quickButton(const char *text)
 {
-    QQuickItem *found = nullptr;
-    const auto isShown = [&] {
-        const QWindowList windows = QGuiApplication::topLevelWindows();
-        for (QWindow *window : windows) {
-            auto *view = qobject_cast<QQuickView *>(window);
-            if (!view || !view->isVisible() || !view->rootObject())
-                continue;
-            const auto items = view->rootObject()->findChildren<QQuickItem *>();
-            for (QQuickItem *item : items) {
-                if (item->property("kind").isValid()
-                    && item->property("text") == QLatin1String(text))
-                    found = item;
-            }
-        }
-        return found != nullptr;
-    };
-    return QTest::qWaitFor(isShown, longMs) ? found : nullptr;
+    const auto isShown = [text] { return shownQuickButton(text); };
+    return QTest::qWaitFor(isShown, longMs) ? shownQuickButton(text) : nullptr;
 }
 
 inline bool click(const QQuickItem *item)
@@ -147,6 +157,54 @@ inline bool click(const QQuickItem *item)
     const QPoint place = item->mapToGlobal(QPointF(item->width() / 2, item->height() / 2))
                                  .toPoint();
     return RealInput::send(moves({ place }) + words("click 1"));
+}
+
+inline QAbstractItemView *list() { return waitFor<QAbstractItemView>("Conversations"); }
+inline QListWidget *messages() { return waitFor<QListWidget>("Messages"); }
+inline QTextEdit *field() { return waitFor<QTextEdit>("Write to *"); }
+inline QModelIndex row(int number) { return list()->model()->index(number, 0); }
+
+/// The row of the conversation \a title.
+inline QModelIndex find(const char *title)
+{
+    return list()
+            ->model()
+            ->match(row(0), Role::TitleRole, QLatin1String(title), 1, Qt::MatchExactly)
+            .value(0);
+}
+
+/// What the moving picture that was sent shows; 0 until it is there.
+inline qint64 frame()
+{
+    return waitFor<QLabel>("Moving picture: sun")->pixmap(Qt::ReturnByValue).cacheKey();
+}
+
+inline bool isAtBottom()
+{
+    const QScrollBar *bar = messages()->verticalScrollBar();
+    return bar->value() == bar->maximum();
+}
+
+/// Searches for \a title, and opens the conversation that is found.
+inline bool open(const char *title)
+{
+    const auto isFound = [&] {
+        return list()->model()->rowCount() < 1000 && find(title).isValid();
+    };
+    return press("ctrl+f ctrl+a") && type(title) && QTest::qWaitFor(isFound, longMs)
+            && clickRow(list(), find(title).row()) && press("ctrl+f ctrl+a BackSpace");
+}
+
+/// Qt's software scene graph frees the texture of a picture in the frame after the picture went,
+/// and leaks those that it has when its window goes.
+inline void releasePictures(const QWidget &window)
+{
+    const auto views = window.findChildren<QQuickWidget *>();
+    for (QQuickWidget *view : views) {
+        view->setSource({});
+        view->quickWindow()->releaseResources();
+        view->grabFramebuffer();
+    }
 }
 
 } // namespace ClientInput

@@ -5,7 +5,6 @@
 #include "chats/ChatsPage.h"
 #include "chats/MessageBody.h"
 #include "data/Backend.h"
-#include "data/ConversationModel.h"
 #include "people/Avatar.h"
 #include "shell/MainWindow.h"
 #include "shell/RoomsApplication.h"
@@ -17,32 +16,26 @@
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QProgressBar>
-#include <QQuickWidget>
-#include <QQuickWindow>
-#include <QScrollBar>
 #include <QSettings>
 #include <QSlider>
 #include <QSplitterHandle>
-#include <QTextEdit>
 #include <QToolTip>
 
-using Role = ConversationModel::Role;
+#include <algorithm>
+
 using namespace ClientInput;
 
 namespace {
 
-/// Qt's software scene graph frees the texture of a picture in the frame after the picture went,
-/// and leaks those that it has when its window goes.
-void releasePictures(const QWidget &window)
+QtMessageHandler handlerOfTests = nullptr;
+
+/// A mouse event whose window is gone goes to the one under the pointer, for which Qt 5.15 asks the
+/// X server frame by frame, and warns if the window manager removes a frame meanwhile.
+void passMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    const auto views = window.findChildren<QQuickWidget *>();
-    for (QQuickWidget *view : views) {
-        view->setSource({});
-        view->quickWindow()->releaseResources();
-        view->grabFramebuffer();
-    }
+    if (!text.contains(QStringLiteral("(TranslateCoords)")))
+        handlerOfTests(type, context, text);
 }
 
 Settings settings() { return RoomsApplication::get()->settings(); }
@@ -61,6 +54,7 @@ public Q_SLOTS:
 private Q_SLOTS:
     void initTestCase()
     {
+        handlerOfTests = qInstallMessageHandler(passMessage);
         QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "openUrl");
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
                            m_server.path("settings"));
@@ -80,6 +74,7 @@ private Q_SLOTS:
 
     void cleanupTestCase()
     {
+        qInstallMessageHandler(handlerOfTests);
         releasePictures(*m_window);
         m_window.reset();
         m_backend.reset();
@@ -178,6 +173,7 @@ private Q_SLOTS:
                                  static_cast<QWidget *>(header->findChild<Avatar *>()) }) {
             QVERIFY(pointAt(anchor) && quickButton("Profile"));
             QVERIFY(RealInput::parkPointer());
+            AWAIT(!shownQuickButton("Profile"));
         }
         QVERIFY(pointAt(header->findChild<QLabel *>()) && click(quickButton("Profile")));
         QVERIFY(quickButton("Close") && click(quickButton("Message")));
@@ -344,6 +340,40 @@ private Q_SLOTS:
         AWAIT(!window);
     }
 
+    /// As all conversations of one person do in the picture of the header.
+    void followsEachAnchorOfACardOnce()
+    {
+        struct Anchor : QWidget
+        {
+            using QObject::receivers;
+        } anchor;
+        for (const char *person : { "p1", "", "p2", "p3" })
+            m_window->cards()->watch(&anchor, QLatin1String(person));
+        QCOMPARE(anchor.receivers(SIGNAL(destroyed(QObject *))), 1);
+    }
+
+    void keepsThePlaceInTheFilesForAnotherDirection()
+    {
+        QVERIFY(press("ctrl+2"));
+        const auto *files = waitFor<QQuickWidget>("Files");
+        QVERIFY(files);
+        const auto items = files->rootObject()->findChildren<QQuickItem *>();
+        const auto found = std::find_if(items.begin(), items.end(), [](const QQuickItem *item) {
+            return item->inherits("QQuickListView");
+        });
+        QVERIFY(found != items.end());
+        QQuickItem *list = *found;
+        AWAIT(list->property("count").toInt() > 1000);
+        list->setProperty("contentY", 20000);
+        const Settings before = settings();
+        Settings mirrored = before;
+        mirrored.direction = Settings::Direction::RightToLeft;
+        RoomsApplication::get()->apply(mirrored, true);
+        QCOMPARE(list->property("contentY").toInt(), 20000);
+        RoomsApplication::get()->apply(before, true);
+        list->setProperty("contentY", 0);
+    }
+
     void sendsAFileThatIsDragged()
     {
         QVERIFY(press("ctrl+1"));
@@ -356,7 +386,7 @@ private Q_SLOTS:
         const auto *files = waitFor<QQuickWidget>("Files");
         QVERIFY(files && RealInput::click(*files, QPoint(100, 80)) && press("End"));
         AWAIT(requests("files").constLast()[QStringLiteral("first")].toInt() > 900'000);
-        QVERIFY(press("Home"));
+        QVERIFY(press("Home") && restart()); // The rows are there soon: it is not late any more.
         const int before = requests("send").size();
         const QPoint from = files->mapToGlobal(QPoint(100, 80));
         const QPoint tab = chats->mapToGlobal(chats->rect().center());
@@ -368,15 +398,14 @@ private Q_SLOTS:
         AWAIT_EQUAL(requests("send").size(), before + 1);
         QCOMPARE(sent("send", "kind"), QStringLiteral("file"));
         QCOMPARE(sent("send", "conversation"), target);
-        QVERIFY(restart()); // By then the server has answered.
     }
 
     void sendsWhatWasTypedWhileTheServerWasAway()
     {
         const int before = requests("send").size();
+        QVERIFY(press("ctrl+shift+i") && type("While you were away"));
         m_server.kill();
-        QVERIFY(waitFor<QLabel>("The server is away*"));
-        QVERIFY(press("ctrl+shift+i") && type("While you were away") && press("Return"));
+        QVERIFY(waitFor<QLabel>("The server is away*") && press("Return"));
         QVERIFY(restart("--fail send"));
         AWAIT(!shown<QLabel>("The server is away*"));
         QVERIFY(waitFor<QLabel>("This failed because it was asked to."));
@@ -410,42 +439,7 @@ private:
         return QTest::qWaitFor([&] { return requests("calls").size() > before; }, longMs);
     }
 
-    QAbstractItemView *list() const { return waitFor<QAbstractItemView>("Conversations"); }
-    QListWidget *messages() const { return waitFor<QListWidget>("Messages"); }
-    QTextEdit *field() const { return waitFor<QTextEdit>("Write to *"); }
     QString opened() const { return m_window->chats()->conversation(); }
-    QModelIndex row(int number) const { return list()->model()->index(number, 0); }
-
-    /// The row of the conversation \a title.
-    QModelIndex find(const char *title) const
-    {
-        return list()
-                ->model()
-                ->match(row(0), Role::TitleRole, QLatin1String(title), 1, Qt::MatchExactly)
-                .value(0);
-    }
-
-    /// What the moving picture that was sent shows; 0 until it is there.
-    static qint64 frame()
-    {
-        return waitFor<QLabel>("Moving picture: sun")->pixmap(Qt::ReturnByValue).cacheKey();
-    }
-
-    bool isAtBottom() const
-    {
-        const QScrollBar *bar = messages()->verticalScrollBar();
-        return bar->value() == bar->maximum();
-    }
-
-    /// Searches for \a title, and opens the conversation that is found.
-    bool open(const char *title)
-    {
-        const auto isFound = [&] {
-            return list()->model()->rowCount() < 1000 && find(title).isValid();
-        };
-        return press("ctrl+f ctrl+a") && type(title) && QTest::qWaitFor(isFound, longMs)
-                && clickRow(list(), find(title).row()) && press("ctrl+f ctrl+a BackSpace");
-    }
 
     TestServer m_server;
     std::unique_ptr<StoreGuard> m_stores;
