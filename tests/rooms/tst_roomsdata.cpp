@@ -83,6 +83,7 @@ private Q_SLOTS:
     void tellsAPageThatFailed();
     void showsArrivalsInBatches();
     void remembersWhatIsRead();
+    void loadsWhatIsUnreadAtOnce();
     void endsAConnectionThatSendsNoLines_data();
     void endsAConnectionThatSendsNoLines();
     void servesOthersAfterALineThatIsTooLong();
@@ -348,6 +349,21 @@ void tst_RoomsData::remembersWhatIsRead()
     QTRY_VERIFY_WITH_TIMEOUT(other->isReady(), longMs);
     QCOMPARE(other->conversations()->index(row.row()).data(ConversationModel::UnreadRole).toInt(),
              0);
+}
+
+void tst_RoomsData::loadsWhatIsUnreadAtOnce()
+{
+    m_server->start({ QStringLiteral("--rate"), QStringLiteral("400") });
+    const std::unique_ptr<Backend> client = makeClient();
+    const ConversationModel *model = client->conversations();
+    const auto unread = [model] {
+        const QModelIndex row = model->index(model->getRowIndex(biggest.toStdString()));
+        return row.data(ConversationModel::UnreadRole).toInt();
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(unread() > History::page, longMs);
+    const History *history = client->open(biggest);
+    QTRY_VERIFY_WITH_TIMEOUT(history->count() > 0, longMs);
+    QVERIFY(history->rowOf(history->firstUnread()) >= 0);
 }
 
 void tst_RoomsData::endsAConnectionThatSendsNoLines_data()

@@ -45,7 +45,11 @@ void History::loadEarlier()
     if (m_isLoading || isComplete() || !m_link.isOpen())
         return;
     setLoading(true);
-    const int most = std::min(m_daySeq < 0 ? page : largestPage, longest - sentCount());
+    // The first page reaches back to what is unread, as far as a page can.
+    const bool isFarUnread = m_firstSeq < 0 && m_firstUnread >= 0
+            && m_total - m_firstUnread > page / 2;
+    const int most = std::min(m_daySeq < 0 && !isFarUnread ? page : largestPage,
+                              longest - sentCount());
     m_link.ask(u"messages"_s,
                { { u"conversation"_s, m_conversation },
                  { u"before"_s, m_firstSeq },
