@@ -48,6 +48,16 @@ bool showActive(Window &window)
     return waitForActive(window);
 }
 
+/// Waits until the window manager has handled what this program did to its windows so far, and
+/// returns whether it has. It may otherwise take a window away that is shown again right after it
+/// was hidden.
+inline bool waitForWindowManager()
+{
+    QWidget probe;
+    probe.show();
+    return QTest::qWaitForWindowExposed(&probe); // It maps windows in the order of the requests.
+}
+
 /// Returns what the screen shows of \a widget.
 inline QImage onScreen(const QWidget &widget)
 {

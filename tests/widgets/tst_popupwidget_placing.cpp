@@ -2,6 +2,7 @@
 #include "PopupParts.h"
 #include "PopupRules.h"
 #include "support/TestApplication.h"
+#include "support/Windows.h"
 
 using PopupParts::bodyMargins;
 using PopupParts::data;
@@ -133,6 +134,7 @@ void tst_PopupWidgetPlacing::isPaintedOncePerShow()
             QCoreApplication::processEvents();
         QCOMPARE(content->paints, once);
         popup.hide();
+        QVERIFY(Windows::waitForWindowManager());
     }
 }
 
