@@ -55,10 +55,8 @@ MessageList::MessageList(Backend *backend, PersonCards *cards, QWidget *parent)
     followSettings();
 
     m_measureSoon.setInterval(sliceMs);
-    m_appendSoon.setSingleShot(true);
     m_settleSoon.setSingleShot(true);
     m_loadSoon.setSingleShot(true);
-    connect(&m_appendSoon, &QTimer::timeout, this, &MessageList::appendNew);
     connect(&m_settleSoon, &QTimer::timeout, this, [this] { changeRows([] {}); });
     connect(&m_loadSoon, &QTimer::timeout, this, &MessageList::loadMore);
     connect(&m_measureSoon, &QTimer::timeout, this, &MessageList::measureRest);

@@ -106,7 +106,6 @@ private:
     int m_slices = 0;
     bool m_isAtBottom = true;
     bool m_isChanging = false;
-    QTimer m_appendSoon;
     QTimer m_settleSoon;
     QTimer m_loadSoon;
     QTimer m_measureSoon;

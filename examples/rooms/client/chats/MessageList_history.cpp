@@ -11,7 +11,6 @@ namespace {
 
 constexpr int firstRows = 60;
 constexpr int moreRows = 200;
-constexpr int appendMs = 100;
 
 /// A row without a value of its own: 100,000 of them take little room.
 class MessageItem : public QListWidgetItem
@@ -32,7 +31,6 @@ void MessageList::setHistory(History *history)
 {
     if (m_history)
         m_history->disconnect(this);
-    m_appendSoon.stop();
     m_heights->clear();
     clear();
     m_history = history;
@@ -71,8 +69,7 @@ void MessageList::insertMessages(int first, int count)
         m_first += count;
         followScrollBar(); // The user may be waiting for them at the top.
     } else if (first >= m_first + m_heights->count()) {
-        if (!m_appendSoon.isActive())
-            m_appendSoon.start(appendMs);
+        appendNew();
     } else {
         changeRows([&] { insertRows(first - m_first, count); });
     }
@@ -105,10 +102,9 @@ void MessageList::changeMessage(int row)
     m_settleSoon.start(0);
 }
 
-/// Puts in what has come at the end, all at once: a layout takes time for all rows.
+/// Puts in what has come at the end.
 void MessageList::appendNew()
 {
-    m_appendSoon.stop();
     if (!m_history)
         return;
     const int shown = m_heights->count();

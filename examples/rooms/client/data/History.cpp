@@ -5,7 +5,6 @@
 #include "protocol/Literal.h"
 
 #include <QJsonArray>
-#include <QTimer>
 
 #include <algorithm>
 #include <iterator>
@@ -15,6 +14,7 @@ namespace {
 constexpr int largestPage = 500;
 constexpr int largestGap = 5000; ///< Of more messages that are missing, the newest page is loaded.
 constexpr int retryMs = 1000;
+constexpr int arrivalsMs = 100;
 
 QVector<Message> messagesOf(const QJsonObject &answer)
 {
@@ -31,6 +31,8 @@ QVector<Message> messagesOf(const QJsonObject &answer)
 History::History(Link &link, const QString &conversation, QObject *parent)
     : QObject(parent), m_link(link), m_conversation(conversation)
 {
+    m_appendSoon.setSingleShot(true);
+    connect(&m_appendSoon, &QTimer::timeout, this, [this] { takeNewer({}); });
 }
 
 int History::rowOf(int seq) const
@@ -150,22 +152,29 @@ void History::prepend(const QVector<Message> &messages)
     Q_EMIT inserted(0, messages.size());
 }
 
+/// Those of a while are appended at once: what shows them lays out all of its rows.
 void History::arrive(const Message &message)
 {
     m_total = std::max(m_total, message.seq + 1);
-    takeNewer({ message });
+    keep(message);
+    if (!m_appendSoon.isActive())
+        m_appendSoon.start(arrivalsMs);
 }
 
-/// Appends what follows without a gap of \a messages, keeps the others, and asks for what is
-/// missing.
+void History::keep(const Message &message)
+{
+    if (m_firstSeq < 0 || message.seq >= nextSeq())
+        m_ahead.insert(message.seq, message);
+    else if (rowOf(message.seq) >= 0)
+        setReactions(message.seq, message.reactions);
+}
+
+/// Appends what follows without a gap of \a messages and those that are kept, keeps the others, and
+/// asks for what is missing.
 void History::takeNewer(const QVector<Message> &messages)
 {
-    for (const Message &message : messages) {
-        if (m_firstSeq < 0 || message.seq >= nextSeq())
-            m_ahead.insert(message.seq, message);
-        else if (rowOf(message.seq) >= 0)
-            setReactions(message.seq, message.reactions);
-    }
+    for (const Message &message : messages)
+        keep(message);
     if (m_ahead.size() > largestGap)
         m_ahead.clear();
     if (m_firstSeq < 0)

@@ -5,6 +5,7 @@
 
 #include <QMap>
 #include <QObject>
+#include <QTimer>
 
 #include <deque>
 
@@ -81,6 +82,7 @@ private:
     void prepend(const QVector<Message> &messages);
     void catchUp();
     void fetch(int before, int count);
+    void keep(const Message &message);
     void takeNewer(const QVector<Message> &messages);
     void appendAhead();
     void append(const QVector<Message> &messages);
@@ -91,7 +93,7 @@ private:
     Link &m_link;
     const QString m_conversation;
     std::deque<Message> m_messages;
-    QMap<int, Message> m_ahead; ///< Newer messages with a gap before them.
+    QMap<int, Message> m_ahead; ///< Newer messages: just arrived, or with a gap before them.
     int m_firstSeq = -1;        ///< Of the first message; -1 before the first page.
     int m_ownCount = 0;         ///< How many messages at the end the server does not have.
     int m_total = 0;            ///< How many messages the server has.
@@ -99,4 +101,5 @@ private:
     int m_daySeq = -1; ///< What loadBackTo() loads back to.
     bool m_isLoading = true;
     bool m_isCatchingUp = false;
+    QTimer m_appendSoon;
 };
