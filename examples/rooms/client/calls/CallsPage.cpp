@@ -49,7 +49,7 @@ CallsPage::CallsPage(Backend *backend, PersonCards *cards, QWidget *parent)
                                u"text-secondary"_s, this))
 {
     setObjectName(u"calls"_s);
-    setCSS(u"$backgroundColors: window;"_s + Looks::listRules());
+    m_list->setCSS(Looks::listRules() + Looks::rowRules());
     m_list->setAccessibleName(tr("Calls"));
     m_list->setMaximumWidth(widest);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);

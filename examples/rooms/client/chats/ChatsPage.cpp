@@ -13,7 +13,7 @@
 #include <QVBoxLayout>
 
 ChatsPage::ChatsPage(Backend *backend, PersonCards *cards, QWidget *parent)
-    : OxaWidget(parent),
+    : Backdrop("divider", parent), // Seen between the two sides.
       m_backend(backend),
       m_list(new ConversationList(backend)),
       m_view(new ConversationView(backend, cards, nullptr))
@@ -27,7 +27,6 @@ ChatsPage::ChatsPage(Backend *backend, PersonCards *cards, QWidget *parent)
     splitter->setSizes({ 320, 800 });
     splitter->setChildrenCollapsible(false);
     splitter->setHandleWidth(1);
-    splitter->setCSS(QStringLiteral("QSplitter::handle { background: $(divider); }"));
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(splitter);

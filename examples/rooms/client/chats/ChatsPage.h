@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <UiElements/widgets/OxaWidget.h>
+#include "shell/Backdrop.h"
 
 class Backend;
 class ConversationList;
@@ -9,7 +9,7 @@ class ConversationView;
 class PersonCards;
 
 /// The conversations at one side, and the one that is open at the other.
-class ChatsPage : public OxaWidget
+class ChatsPage : public Backdrop
 {
     Q_OBJECT
 

@@ -28,13 +28,12 @@ constexpr int chooseMs = 120; ///< Arrow keys that are held down open only the l
 } // namespace
 
 ConversationList::ConversationList(Backend *backend, QWidget *parent)
-    : OxaWidget(parent),
+    : Backdrop("sidebar", parent),
       m_backend(backend),
       m_proxy(new ConversationProxy(this)),
       m_delegate(new ConversationDelegate(backend, this))
 {
     setObjectName(QStringLiteral("conversationList"));
-    setCSS(QStringLiteral("$backgroundColors: sidebar;"));
     setMinimumWidth(200);
     QWidget *filters = makeFilters(); // Before the list, for Tab.
     makeList();
@@ -94,8 +93,7 @@ void ConversationList::makeList()
 {
     m_list = new OxaListView(this);
     m_list->setAccessibleName(tr("Conversations"));
-    m_list->setCSS(QStringLiteral("OxaListView { background: transparent; border: none; "
-                                  "outline: none; }"));
+    m_list->setCSS(Looks::listRules());
     m_list->setModel(m_proxy);
     m_list->setItemDelegate(m_delegate);
     m_list->setUniformItemSizes(true);
@@ -170,7 +168,7 @@ void ConversationList::showEmpty()
 
 void ConversationList::resizeEvent(QResizeEvent *event)
 {
-    OxaWidget::resizeEvent(event);
+    Backdrop::resizeEvent(event);
     m_empty->setGeometry(16, 32, width() - 32, 64);
 }
 

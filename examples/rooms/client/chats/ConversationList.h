@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <UiElements/widgets/OxaWidget.h>
+#include "shell/Backdrop.h"
 
 #include <QTimer>
 
@@ -13,7 +13,7 @@ class OxaListView;
 class OxaTextInput;
 
 /// The conversations, a search among them, and a filter.
-class ConversationList : public OxaWidget
+class ConversationList : public Backdrop
 {
     Q_OBJECT
 

@@ -28,10 +28,9 @@ constexpr int typingMs = 5000;
 } // namespace
 
 ConversationView::ConversationView(Backend *backend, PersonCards *cards, QWidget *parent)
-    : OxaWidget(parent), m_backend(backend)
+    : Backdrop("window", parent), m_backend(backend)
 {
     setObjectName(QStringLiteral("conversationView"));
-    setCSS(QStringLiteral("$backgroundColors: window;"));
     setMinimumWidth(280);
     makeParts(cards);
     connect(m_header, &ConversationHeader::callRequested, this,
@@ -116,13 +115,13 @@ void ConversationView::markRead()
 
 void ConversationView::showEvent(QShowEvent *event)
 {
-    OxaWidget::showEvent(event);
+    Backdrop::showEvent(event);
     markRead();
 }
 
 void ConversationView::changeEvent(QEvent *event)
 {
-    OxaWidget::changeEvent(event);
+    Backdrop::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && m_list)
         markRead();
 }

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "data/Records.h"
-
-#include <UiElements/widgets/OxaWidget.h>
+#include "shell/Backdrop.h"
 
 #include <QMap>
 #include <QTimer>
@@ -17,7 +16,7 @@ class OxaLabel;
 class PersonCards;
 
 /// The conversation that is open.
-class ConversationView : public OxaWidget
+class ConversationView : public Backdrop
 {
     Q_OBJECT
 

@@ -103,8 +103,7 @@ void EmojiPicker::makeGrid()
 {
     m_grid = new OxaListView(this);
     m_grid->setAccessibleName(tr("Emoji"));
-    m_grid->setCSS(QStringLiteral("OxaListView { background: transparent; border: none; "
-                                  "outline: none; }"));
+    m_grid->setCSS(Looks::listRules());
     m_grid->setViewMode(QListView::IconMode);
     m_grid->setMovement(QListView::Static);
     m_grid->setResizeMode(QListView::Adjust);

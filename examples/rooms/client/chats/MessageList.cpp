@@ -7,6 +7,7 @@
 #include "RowHeights.h"
 #include "TimeTexts.h"
 #include "data/Backend.h"
+#include "shell/Looks.h"
 #include "shell/RoomsApplication.h"
 
 #include <UiElements/fonts/FontUtils.h>
@@ -34,8 +35,7 @@ MessageList::MessageList(Backend *backend, PersonCards *cards, QWidget *parent)
               this))
 {
     setAccessibleName(tr("Messages"));
-    setCSS(QStringLiteral(
-            "OxaListWidget { background: transparent; border: none; outline: none; }"));
+    setCSS(Looks::listRules());
     setItemDelegate(m_heights);
     setSelectionMode(NoSelection);
     setVerticalScrollMode(ScrollPerPixel);

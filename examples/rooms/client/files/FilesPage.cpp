@@ -22,7 +22,6 @@
 FilesPage::FilesPage(Backend *backend, QWidget *parent) : OxaWidget(parent), m_backend(backend)
 {
     setObjectName(u"files"_s);
-    setCSS(u"$backgroundColors: window;"_s);
     // A drag has an event loop of its own, which QML's handler must not wait for.
     connect(this, &FilesPage::dragRequested, this, &FilesPage::drag, Qt::QueuedConnection);
     RoomsApplication::get()->getQmlEngine()->rootContext()->setContextProperty(u"files"_s, this);

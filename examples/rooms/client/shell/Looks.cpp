@@ -142,9 +142,10 @@ QVBoxLayout *Looks::makeColumn(QWidget *widget)
     return column;
 }
 
-QString Looks::scrollBarRules()
+QString Looks::listRules()
 {
-    return u"QScrollBar:vertical { width: 12px; background: transparent; }"
+    return u"QAbstractItemView { background: transparent; border: none; outline: none; }"
+           "QScrollBar:vertical { width: 12px; background: transparent; }"
            "QScrollBar:horizontal { height: 12px; background: transparent; }"
            "QScrollBar::handle { border-radius: 4px; margin: 2px;"
            " background: $(scroll-handle); }"
@@ -155,14 +156,12 @@ QString Looks::scrollBarRules()
            "QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }"_s;
 }
 
-QString Looks::listRules()
+QString Looks::rowRules()
 {
-    return u"QAbstractItemView { background: transparent; border: none; outline: none; }"
-           "QAbstractItemView::item { border: 2px solid transparent; border-radius: 8px; }"
+    return u"QAbstractItemView::item { border: 2px solid transparent; border-radius: 8px; }"
            "QAbstractItemView::item:selected { background: $(row.checked); }"
            "QAbstractItemView::item:hover { background: $(row.hovered); }"
-           "QAbstractItemView::item:focus { border-color: $(focus); }"_s
-            + scrollBarRules();
+           "QAbstractItemView::item:focus { border-color: $(focus); }"_s;
 }
 
 QString Looks::sliderRules()

@@ -59,14 +59,14 @@ AlertBanner *makeBanner(AlertBanner::AlertType type, const QString &text, QWidge
 /// The layout of \a widget: one thing below the other, without gaps.
 QVBoxLayout *makeColumn(QWidget *widget);
 
-/// The rules of scroll bars, for the style text of a window.
-QString scrollBarRules();
-
 /// The rules of horizontal sliders. They depend on the direction: Qt mirrors a slider, but not the
 /// parts that rules name.
 QString sliderRules();
 
-/// The rules of lists without a frame, with a hovered and a current row, and of their scroll bars.
+/// The rules of lists without a frame and of their scroll bars.
 QString listRules();
+
+/// The rules of the hovered and the current row of lists whose delegate leaves that to the style.
+QString rowRules();
 
 } // namespace Looks

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "MainWindow.h"
 
+#include "Backdrop.h"
 #include "Looks.h"
 #include "RoomsApplication.h"
 #include "SettingsDialog.h"
@@ -30,9 +31,8 @@ MainWindow::MainWindow(Backend *backend, QWidget *parent)
     setWindowTitle(tr("Rooms"));
     setMinimumSize(560, 400);
     resize(1120, 760);
-    setCSS(u"#mainWindow { background: $(window); }"_s + Looks::scrollBarRules());
 
-    auto *content = new OxaWidget(this);
+    auto *content = new Backdrop("window", this);
     setCentralWidget(content);
     AlertBanner *banner =
             Looks::makeBanner(AlertBanner::AlertType::Warning,

@@ -52,9 +52,6 @@ SettingsDialog::SettingsDialog(QWidget *parent)
 {
     setObjectName(u"settings"_s);
     setWindowTitle(tr("Settings"));
-    setLooks();
-    connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, this,
-            &SettingsDialog::setLooks);
     connect(this, &QDialog::rejected, this, [this] { RoomsApplication::get()->apply(m_before); });
     m_column->setContentsMargins(24, 16, 24, 24);
     m_column->setSpacing(8);
@@ -82,8 +79,6 @@ SettingsDialog::SettingsDialog(QWidget *parent)
             &Settings::webAddress);
     addButtons();
 }
-
-void SettingsDialog::setLooks() { setCSS(u"$backgroundColors: panel;"_s + Looks::sliderRules()); }
 
 void SettingsDialog::addHeading(const QString &text)
 {
@@ -134,6 +129,9 @@ void SettingsDialog::addSlider(const QString &name, int from, int to, int step,
     slider->setValue(m_before.*setting / step);
     slider->setAccessibleName(name);
     slider->setMinimumHeight(24);
+    const auto style = [slider] { slider->setCSS(Looks::sliderRules()); };
+    style();
+    connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, slider, style);
     OxaLabel *shown = Looks::makeLabel(tell(m_before.*setting), OxaFont::Token::BodySecondary,
                                        u"text-secondary"_s, field);
     shown->setFixedWidth(104);

@@ -19,7 +19,6 @@ public:
     explicit SettingsDialog(QWidget *parent = nullptr);
 
 private:
-    void setLooks();
     void addHeading(const QString &text);
     void addRow(const QString &name, QWidget *field);
     template <typename Choice>
