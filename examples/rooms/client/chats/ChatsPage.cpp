@@ -3,42 +3,29 @@
 
 #include "ConversationList.h"
 #include "ConversationView.h"
-#include "SlowMovies.h"
 #include "data/Backend.h"
 #include "data/ConversationModel.h"
-#include "shell/RoomsApplication.h"
-
-#include <UiElements/widgets/OxaSplitter.h>
-
-#include <QVBoxLayout>
 
 ChatsPage::ChatsPage(Backend *backend, PersonCards *cards, QWidget *parent)
-    : OxaWidget(parent),
+    : OxaSplitter(parent),
       m_backend(backend),
       m_list(new ConversationList(backend)),
       m_view(new ConversationView(backend, cards, nullptr))
 {
-    RoomsApplication *application = RoomsApplication::get();
-    application->setMovieProviderSource(new SlowMovies(application));
-    auto *splitter = new OxaSplitter(this);
-    splitter->addWidget(m_list);
-    splitter->addWidget(m_view);
-    splitter->setStretchFactor(1, 1);
-    splitter->setSizes({ 320, 800 });
-    splitter->setChildrenCollapsible(false);
-    splitter->setHandleWidth(1);
-    splitter->setCSS(QStringLiteral("QSplitter::handle { background: $(divider); }"));
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(splitter);
+    addWidget(m_list);
+    addWidget(m_view);
+    setStretchFactor(1, 1);
+    setSizes({ 320, 800 });
+    setChildrenCollapsible(false);
+    setHandleWidth(1);
+    setCSS(QStringLiteral("QSplitter::handle { background: $(divider); }"));
     connect(m_list, &ConversationList::chosen, m_view, &ConversationView::open);
     connect(m_list, &ConversationList::filesDropped, m_view, &ConversationView::sendFiles);
-    connect(m_view, &ConversationView::callRequested, this, &ChatsPage::callRequested);
 }
 
 void ChatsPage::openConversation(const QString &id)
 {
-    if (!m_backend->conversations()->hasRow(id.toStdString()))
+    if (!m_backend->conversations()->find(id).isValid())
         return;
     m_list->setCurrent(id);
     m_view->open(id);

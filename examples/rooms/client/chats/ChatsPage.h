@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <UiElements/widgets/OxaWidget.h>
+#include <UiElements/widgets/OxaSplitter.h>
 
 class Backend;
 class ConversationList;
@@ -9,7 +9,7 @@ class ConversationView;
 class PersonCards;
 
 /// The conversations at one side, and the one that is open at the other.
-class ChatsPage : public OxaWidget
+class ChatsPage : public OxaSplitter
 {
     Q_OBJECT
 
@@ -28,10 +28,6 @@ public:
 
     /// Gives the focus to the search for conversations.
     void focusSearch();
-
-Q_SIGNALS:
-    /// The user wants to call the people of \a conversation.
-    void callRequested(const QString &conversation);
 
 private:
     Backend *const m_backend;

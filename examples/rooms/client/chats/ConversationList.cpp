@@ -38,9 +38,7 @@ ConversationList::ConversationList(Backend *backend, QWidget *parent)
     setMinimumWidth(200);
     QWidget *filters = makeFilters(); // Before the list, for Tab.
     makeList();
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    QVBoxLayout *column = Looks::makeColumn(this);
     column->addWidget(filters);
     column->addWidget(m_list, 1);
     m_empty = Looks::makeLabel(QString(), OxaFont::Token::BodySecondary,

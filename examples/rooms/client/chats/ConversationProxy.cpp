@@ -31,7 +31,7 @@ void ConversationProxy::keep(const QString &id)
 QModelIndex ConversationProxy::indexOf(const QString &id) const
 {
     const auto *model = qobject_cast<const ConversationModel *>(sourceModel());
-    return mapFromSource(model->index(model->getRowIndex(id.toStdString())));
+    return mapFromSource(model->find(id));
 }
 
 bool ConversationProxy::filterAcceptsRow(int row, const QModelIndex &parent) const

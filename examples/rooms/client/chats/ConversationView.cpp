@@ -34,10 +34,6 @@ ConversationView::ConversationView(Backend *backend, PersonCards *cards, QWidget
     setCSS(QStringLiteral("$backgroundColors: window;"));
     setMinimumWidth(280);
     makeParts(cards);
-    connect(m_header, &ConversationHeader::callRequested, this,
-            [this] { Q_EMIT callRequested(m_conversation); });
-    connect(m_header, &ConversationHeader::dayRequested, this,
-            [this](const QDate &day) { m_list->history()->loadBackTo(day); });
     connect(m_list, &MessageList::menuRequested, this, &ConversationView::openMenu);
     connect(m_list, &MessageList::placeChanged, this, &ConversationView::markRead);
     connect(m_composer->field(), &ComposerField::leftUpwards, m_list,
@@ -69,9 +65,7 @@ void ConversationView::makeParts(PersonCards *cards)
     auto *bottom = new QHBoxLayout;
     bottom->setContentsMargins(16, 0, 16, 16);
     bottom->addWidget(m_composer);
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    QVBoxLayout *column = Looks::makeColumn(this);
     column->addWidget(m_header);
     column->addWidget(m_pane, 1);
     column->addWidget(m_typing);
@@ -85,8 +79,7 @@ void ConversationView::open(const QString &id)
     if (id == m_conversation)
         return;
     m_conversation = id;
-    const ConversationModel *model = m_backend->conversations();
-    const QModelIndex index = model->index(model->getRowIndex(id.toStdString()));
+    const QModelIndex index = m_backend->conversations()->find(id);
     const QString title = index.data(Role::TitleRole).toString();
     m_header->setConversation(id, title, index.data(Role::PersonRole).toString());
     m_header->setVisible(true);

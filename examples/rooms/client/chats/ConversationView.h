@@ -31,9 +31,6 @@ public:
     /// Sends files called \a names to \a conversation.
     void sendFiles(const QString &conversation, const QStringList &names);
 
-Q_SIGNALS:
-    void callRequested(const QString &conversation);
-
 protected:
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;

@@ -60,10 +60,9 @@ void ConversationModel::showArrivals()
         m_showing.stop();
     const QHash<QString, Arrival> arrivals = std::exchange(m_arrivals, {});
     for (auto arrival = arrivals.begin(); arrival != arrivals.end(); ++arrival) {
-        const std::string id = arrival.key().toStdString();
         const Message &last = arrival->last;
-        const int unread = data(index(getRowIndex(id)), UnreadRole).toInt() + arrival->unread;
-        setRoleValueForRow(id,
+        const int unread = find(arrival.key()).data(UnreadRole).toInt() + arrival->unread;
+        setRoleValueForRow(arrival.key().toStdString(),
                            { { PreviewRole, last.text.left(200).simplified() },
                              { LastAuthorRole, last.author },
                              { LastAtRole, last.at },
@@ -76,9 +75,8 @@ bool ConversationModel::markRead(const QString &conversation)
 {
     const auto arrival = m_arrivals.find(conversation);
     const bool isArriving = arrival != m_arrivals.end() && std::exchange(arrival->unread, 0) > 0;
-    const std::string id = conversation.toStdString();
-    if (data(index(getRowIndex(id)), UnreadRole).toInt() == 0)
+    if (find(conversation).data(UnreadRole).toInt() == 0)
         return isArriving;
-    setRoleValueForRow(id, { { UnreadRole, 0 } });
+    setRoleValueForRow(conversation.toStdString(), { { UnreadRole, 0 } });
     return true;
 }

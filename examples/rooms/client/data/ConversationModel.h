@@ -31,6 +31,9 @@ public:
     /// Shows the title in Qt's item views.
     QVariant data(const QModelIndex &index, int role) const override;
 
+    /// The index of the conversation \a id, which is not valid if there is none.
+    QModelIndex find(const QString &id) const { return index(getRowIndex(id.toStdString())); }
+
     /// The row of a conversation as the protocol has it.
     static ModelRow row(const QJsonObject &conversation);
 

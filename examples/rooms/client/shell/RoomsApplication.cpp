@@ -2,6 +2,7 @@
 #include "RoomsApplication.h"
 
 #include "QmlLooks.h"
+#include "chats/SlowMovies.h"
 #include "protocol/Literal.h"
 
 #include <UiElements/fonts/OxaFont.h>
@@ -83,7 +84,8 @@ OxaColorSetMap read(const char *name, const OxaColorPalette &palette)
 
 } // namespace
 
-RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc, argv)
+RoomsApplication::RoomsApplication(int &argc, char **argv)
+    : OxaApplication(argc, argv), m_movies(new SlowMovies(this))
 {
     const OxaColorPalette palette = OxaThemeUtils::parseOxaColorsFromJson(
             u":/documents/palette.json"_s);
@@ -146,11 +148,6 @@ void RoomsApplication::registerMainWindowShortcuts(OxaMainWindow *window)
     OxaAppSignals *hub = OxaAppSignals::get();
     if (!hub->shortcutExists(OxaAppSignals::Shortcut::OpenGlobalSearch)) // A second window.
         hub->registerShortcuts(window, OxaShortcut::All);
-}
-
-IOxaMovieProviderSource *RoomsApplication::getMovieProviderSource()
-{
-    return m_movies ? m_movies : OxaApplication::getMovieProviderSource();
 }
 
 void RoomsApplication::showColors()
