@@ -3,9 +3,8 @@
 
 #include "EmojiPicker.h"
 #include "FileDrop.h"
-#include "GifPicker.h"
-#include "MessageText.h"
-#include "Popups.h"
+#include "GifView.h"
+#include "SlowMovies.h"
 #include "data/Backend.h"
 #include "shell/Looks.h"
 
@@ -25,6 +24,7 @@ constexpr int mostLines = 6;
 constexpr int verticalMargin = 6;
 constexpr int typingMs = 3000;
 constexpr int longestText = 20000;
+constexpr int gifColumns = 2;
 
 } // namespace
 
@@ -175,7 +175,7 @@ void Composer::send()
 void Composer::pickEmoji()
 {
     auto *picker = new EmojiPicker;
-    PopupWidget *popup = Popups::show(m_emoji, picker);
+    PopupWidget *popup = Looks::popUp(m_emoji, picker);
     connect(picker, &EmojiPicker::picked, this, [this, popup](const QString &emoji) {
         m_field->insertPlainText(emoji);
         popup->hide();
@@ -185,23 +185,38 @@ void Composer::pickEmoji()
 
 void Composer::pickGif()
 {
-    auto *picker = new GifPicker;
-    PopupWidget *popup = Popups::show(m_gif, picker);
-    connect(picker, &GifPicker::picked, this, [this, popup](const QString &name) {
-        m_backend->send(m_conversation, Message::Kind::Gif, name);
-        Q_EMIT sent();
-        popup->hide();
-        m_field->setFocus(Qt::OtherFocusReason);
-    });
+    auto *picker = new OxaWidget;
+    picker->setAccessibleName(tr("Moving pictures"));
+    auto *grid = new QGridLayout(picker);
+    grid->setContentsMargins(8, 8, 8, 8);
+    grid->setSpacing(8);
+    const QStringList names = SlowMovies::names();
+    for (int i = 0; i < names.size(); ++i) {
+        auto *movie = new GifView(names.at(i), picker);
+        movie->setAccessibleRole(QAccessible::Button);
+        movie->setFocusPolicy(Qt::StrongFocus);
+        movie->setCursor(Qt::PointingHandCursor);
+        connect(movie, &GifView::clicked, this, [this, movie] { sendGif(movie); });
+        grid->addWidget(movie, i / gifColumns, i % gifColumns);
+    }
+    picker->setFocusProxy(picker->findChild<GifView *>());
+    Looks::popUp(m_gif, picker);
+}
+
+void Composer::sendGif(const GifView *movie)
+{
+    m_backend->send(m_conversation, Message::Kind::Gif, movie->name());
+    movie->window()->hide();
+    m_field->setFocus(Qt::OtherFocusReason);
+    Q_EMIT sent();
 }
 
 void Composer::showFocus(bool hasFocus)
 {
     setCSS(QStringLiteral("$backgroundColors: field-background; $borderColors: %1; $borders: all; "
-                          "$borderWidth: %2; $borderRadius: 10;")
+                          "$borderWidth: 1; $borderRadius: 10;")
                    .arg(hasFocus ? QStringLiteral("field-focus-border")
-                                 : QStringLiteral("field-border"))
-                   .arg(1));
+                                 : QStringLiteral("field-border")));
 }
 
 bool Composer::eventFilter(QObject *watched, QEvent *event)

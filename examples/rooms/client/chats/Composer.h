@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 
 class Backend;
+class GifView;
 class OxaSvgPushButton;
 
 /// The field of the composer, which is as high as its text, up to six lines.
@@ -59,6 +60,7 @@ private:
     void send();
     void pickEmoji();
     void pickGif();
+    void sendGif(const GifView *movie);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ConversationHeader.h"
 
-#include "Popups.h"
 #include "data/Backend.h"
 #include "data/History.h"
 #include "people/Avatar.h"
@@ -103,7 +102,7 @@ void ConversationHeader::askForDay()
     row->addWidget(day);
     row->addWidget(go);
     content->setFocusProxy(day);
-    PopupWidget *popup = Popups::show(m_day, content, false);
+    PopupWidget *popup = Looks::popUp(m_day, content, false);
     connect(go, &OxaSvgPushButton::clicked, this, [this, popup, day] {
         m_backend->open(m_id)->loadBackTo(day->date());
         popup->hide();

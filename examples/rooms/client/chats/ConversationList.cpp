@@ -67,7 +67,7 @@ QWidget *ConversationList::makeFilters()
     m_search->setSearchIcon(OxaSvgRenderer::resourcePath(QStringLiteral("search_12")));
     m_search->setFixedHeight(36);
     connect(m_search, &OxaTextInput::textChanged, this, [this](const QString &text) {
-        m_proxy->setSearch(text);
+        m_proxy->setFilterFixedString(text.trimmed());
         showMatches();
     });
     connect(m_search, &OxaTextInput::keyPressed, this, [this](int key) {

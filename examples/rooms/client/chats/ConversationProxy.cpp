@@ -5,12 +5,10 @@
 
 using Role = ConversationModel::Role;
 
-ConversationProxy::ConversationProxy(QObject *parent) : QSortFilterProxyModel(parent) { sort(0); }
-
-void ConversationProxy::setSearch(const QString &text)
+ConversationProxy::ConversationProxy(QObject *parent) : QSortFilterProxyModel(parent)
 {
-    m_search = text.trimmed();
-    invalidateFilter();
+    setFilterCaseSensitivity(Qt::CaseInsensitive);
+    sort(0);
 }
 
 void ConversationProxy::setUnreadOnly(bool isUnreadOnly)
@@ -39,8 +37,7 @@ bool ConversationProxy::filterAcceptsRow(int row, const QModelIndex &parent) con
     const QModelIndex index = sourceModel()->index(row, 0, parent);
     if (m_isUnreadOnly && !countsAsUnread(index))
         return false;
-    return m_search.isEmpty()
-            || index.data(Role::TitleRole).toString().contains(m_search, Qt::CaseInsensitive);
+    return QSortFilterProxyModel::filterAcceptsRow(row, parent);
 }
 
 bool ConversationProxy::lessThan(const QModelIndex &left, const QModelIndex &right) const

@@ -3,19 +3,15 @@
 
 #include "Composer.h"
 #include "ConversationHeader.h"
-#include "EmojiPicker.h"
 #include "FileDrop.h"
 #include "MessageList.h"
-#include "MessageMenu.h"
 #include "MessagePane.h"
-#include "Popups.h"
 #include "data/Backend.h"
 #include "data/ConversationModel.h"
 #include "data/History.h"
 #include "shell/Looks.h"
 
 #include <UiElements/widgets/OxaLabel.h>
-#include <UiElements/widgets/PopupWidget.h>
 
 #include <QVBoxLayout>
 
@@ -154,32 +150,4 @@ void ConversationView::showTyping()
         m_typingEnds.stop();
     else
         m_typingEnds.start();
-}
-
-void ConversationView::openMenu(const Message &message, const QPoint &position)
-{
-    const QString conversation = m_conversation;
-    MessageMenu::Actions actions;
-    actions.react = [this, conversation, seq = message.seq](const QString &emoji) {
-        m_backend->react(conversation, seq, emoji);
-    };
-    actions.chooseReaction = [this, seq = message.seq, position] { chooseReaction(seq, position); };
-    actions.reply = [this, author = message.author](const QString &quote) {
-        m_composer->quote(m_backend->person(author).name, quote);
-    };
-    actions.retry = [this, conversation, key = message.key] {
-        m_backend->retry(conversation, key);
-    };
-    MessageMenu::open(this, message, position, actions);
-}
-
-void ConversationView::chooseReaction(int seq, const QPoint &position)
-{
-    auto *picker = new EmojiPicker;
-    PopupWidget *popup = Popups::show(this, QRect(position, QSize(1, 1)), picker);
-    connect(picker, &EmojiPicker::picked, this,
-            [this, popup, seq, conversation = m_conversation](const QString &emoji) {
-                m_backend->react(conversation, seq, emoji);
-                popup->hide();
-            });
 }

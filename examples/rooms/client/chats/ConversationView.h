@@ -14,6 +14,7 @@ class ConversationHeader;
 class MessageList;
 class MessagePane;
 class OxaLabel;
+class OxaMenu;
 class PersonCards;
 
 /// The conversation that is open.
@@ -41,7 +42,8 @@ private:
     void addTyping(const QString &conversation, const QString &person);
     void showTyping();
     void openMenu(const Message &message, const QPoint &position);
-    void chooseReaction(int seq, const QPoint &position);
+    OxaMenu *makeReactions(QWidget *parent, int seq, const QPoint &position);
+    void addLinks(OxaMenu *menu, const QString &text);
 
     Backend *const m_backend;
     QString m_conversation;

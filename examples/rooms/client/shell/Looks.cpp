@@ -12,6 +12,7 @@
 #include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTextInputFactory.h>
+#include <UiElements/widgets/PopupWidget.h>
 #include <UiElements/widgets/UTContextMenuUtils.h>
 
 #include <QGuiApplication>
@@ -22,6 +23,21 @@ namespace {
 constexpr int buttonHeight = 32;
 
 const char *const buttonNames[] = { "accent", "outline", "quiet", "chosen", "danger" };
+
+WidgetData popupLooks(bool isAbove)
+{
+    return WidgetData(OxaThemeUtils::AppThemeType::Global)
+            .arrowPostion(isAbove ? WidgetData::ArrowPostion::Bottom
+                                  : WidgetData::ArrowPostion::Top)
+            .cornerRadius(WidgetData::PopupSize::Small)
+            .activateOnShow(true);
+}
+
+PopupWidget *deletedWhenHidden(PopupWidget *popup)
+{
+    QObject::connect(popup, &PopupWidget::widgetHidden, popup, &QObject::deleteLater);
+    return popup;
+}
 
 } // namespace
 
@@ -123,6 +139,20 @@ OxaMenu *Looks::makeMenu(QWidget *parent)
     menu->setCSS(UTContextMenuUtils::getContextMenuStyleSheet()
                  + u"QMenu { border: 1px solid $(panel-border); }"_s);
     return menu;
+}
+
+PopupWidget *Looks::popUp(QPushButton *button, QWidget *content, bool isAbove)
+{
+    return deletedWhenHidden(PopupWidget::createAndShow(button, content, popupLooks(isAbove)));
+}
+
+PopupWidget *Looks::popUp(QWidget *parent, const QRect &rect, QWidget *content)
+{
+    auto *popup = new PopupWidget(parent, popupLooks(true));
+    popup->registerWidget(content);
+    popup->showSmooth(rect);
+    content->setFocus();
+    return deletedWhenHidden(popup);
 }
 
 AlertBanner *Looks::makeBanner(AlertBanner::AlertType type, const QString &text, QWidget *parent)
