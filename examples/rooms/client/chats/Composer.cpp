@@ -88,7 +88,7 @@ void ComposerField::fitHeight()
 void ComposerField::colorPlaceholder()
 {
     QPalette colors = palette();
-    const QColor color = OxaThemeUtils::getColorSet("field-placeholder", this).normal;
+    const QColor color = Looks::color("field-placeholder");
     if (colors.color(QPalette::PlaceholderText) == color)
         return;
     colors.setColor(QPalette::PlaceholderText, color);

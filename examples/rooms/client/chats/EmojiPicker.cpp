@@ -39,15 +39,14 @@ public:
         const OxaColorSet row = OxaThemeUtils::getColorSet("row", option.widget);
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
-        const bool hasFocus = option.state & QStyle::State_HasFocus;
-        const QColor focus = OxaThemeUtils::getColorSet("focus", option.widget).normal;
-        painter->setPen(hasFocus ? QPen(focus, 2) : QPen(Qt::NoPen));
+        painter->setPen(Qt::NoPen);
         painter->setBrush(option.state & QStyle::State_MouseOver ? row.hovered : row.normal);
         painter->drawRoundedRect(QRectF(option.rect).adjusted(1, 1, -1, -1), 6, 6);
         EmojiLine::paint(painter, option.rect, index.data().toString(),
-                         OxaFont(OxaFont::Token::Title),
-                         OxaThemeUtils::getColorSet("text-primary", option.widget).normal, true);
+                         OxaFont(OxaFont::Token::Title), Looks::color("text-primary"), true);
         painter->restore();
+        if (option.state & QStyle::State_HasFocus)
+            Looks::paintFocus(painter, option.rect);
     }
 };
 

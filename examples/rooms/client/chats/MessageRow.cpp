@@ -56,8 +56,7 @@ void MessageRow::showText(std::unique_ptr<QTextDocument> *laidOut)
 {
     if (!m_body)
         m_body = new MessageBody(this);
-    const char *set = m_look.isOwn ? "bubble-own-text" : "bubble-other-text";
-    const QColor color = OxaThemeUtils::getColorSet(set, this).normal;
+    const QColor color = Looks::color(m_look.isOwn ? "bubble-own-text" : "bubble-other-text");
     if (laidOut)
         m_body->swapText(laidOut, m_size.width(), color);
     else
@@ -150,10 +149,8 @@ void MessageRow::paintEvent(QPaintEvent *)
     if (m_look.isFirstUnread)
         paintLine(&painter, m_layout.unread, tr("New messages"), "unread-line");
     if (m_message.kind == Message::Kind::Text) {
-        painter.setPen(OxaThemeUtils::getColorSet("bubble-border", this).normal);
-        painter.setBrush(
-                OxaThemeUtils::getColorSet(m_look.isOwn ? "bubble-own" : "bubble-other", this)
-                        .normal);
+        painter.setPen(Looks::color("bubble-border"));
+        painter.setBrush(Looks::color(m_look.isOwn ? "bubble-own" : "bubble-other"));
         painter.setOpacity(m_message.state == Message::State::Waiting ? 0.6 : 1);
         painter.drawRoundedRect(QRectF(mirrored(m_layout.bubble)).adjusted(0.5, 0.5, -0.5, -0.5),
                                 bubbleRadius, bubbleRadius);
@@ -168,7 +165,7 @@ void MessageRow::paintEvent(QPaintEvent *)
     if (!m_look.isOwn)
         rest.setLeft(rest.left() + qMin(rest.width() / 2, m_name->sizeHint().width()) + 8);
     painter.setFont(OxaFont(OxaFont::Token::RadioButtonLabelSecondary));
-    painter.setPen(OxaThemeUtils::getColorSet("text-secondary", this).normal);
+    painter.setPen(Looks::color("text-secondary"));
     painter.drawText(mirrored(rest),
                      int(m_look.isOwn ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter, time);
 }
@@ -179,12 +176,12 @@ void MessageRow::paintLine(QPainter *painter, const QRect &line, const QString &
     const bool isQuiet = qstrcmp(colors, "text-secondary") == 0;
     painter->setFont(OxaFont(OxaFont::Token::BodyTertiary));
     const int textWidth = painter->fontMetrics().horizontalAdvance(text) + 24;
-    painter->setPen(OxaThemeUtils::getColorSet(isQuiet ? "divider" : colors, this).normal);
+    painter->setPen(Looks::color(isQuiet ? "divider" : colors));
     const int y = line.center().y();
     const int half = (line.width() - textWidth) / 2;
     painter->drawLine(line.left(), y, line.left() + half, y);
     painter->drawLine(line.right() - half, y, line.right(), y);
-    painter->setPen(OxaThemeUtils::getColorSet(colors, this).normal);
+    painter->setPen(Looks::color(colors));
     painter->drawText(line, Qt::AlignCenter, text);
 }
 

@@ -16,6 +16,7 @@
 #include <UiElements/widgets/UTContextMenuUtils.h>
 
 #include <QGuiApplication>
+#include <QPainter>
 #include <QVBoxLayout>
 
 namespace {
@@ -40,6 +41,21 @@ PopupWidget *deletedWhenHidden(PopupWidget *popup)
 }
 
 } // namespace
+
+QColor Looks::color(const std::string &name)
+{
+    return OxaThemeUtils::getColorSet(name, OxaThemeUtils::AppThemeType::Global).normal;
+}
+
+void Looks::paintFocus(QPainter *painter, const QRectF &rect, int radius)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(color("focus"), 2));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(rect.adjusted(1, 1, -1, -1), radius, radius);
+    painter->restore();
+}
 
 QString Looks::buttonStyle(Button kind, int radius)
 {

@@ -6,14 +6,19 @@
 
 #include <QString>
 
+#include <string>
+
 class OxaLabel;
 class OxaMenu;
 class OxaSvgPushButton;
 class OxaTextInput;
 class OxaTextInputFactory;
 class PopupWidget;
+class QColor;
+class QPainter;
 class QPushButton;
 class QRect;
+class QRectF;
 class QVBoxLayout;
 class QWidget;
 
@@ -23,6 +28,12 @@ namespace Looks {
 /// What a button is for: the one thing to do, one of several (with or without an outline), one that
 /// is switched on, and one that destroys or ends something.
 enum class Button { Accent, Outline, Quiet, Chosen, Danger };
+
+/// The colour of the set called \a name, for what is painted.
+QColor color(const std::string &name);
+
+/// Paints a frame just inside \a rect around what has the focus.
+void paintFocus(QPainter *painter, const QRectF &rect, int radius = 6);
 
 /// The style text of a button with rounded corners. A checked button changes its kind to
 /// Button::Chosen.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "RoomsApplication.h"
 
+#include "Looks.h"
 #include "QmlLooks.h"
 #include "chats/SlowMovies.h"
 #include "protocol/Literal.h"
@@ -17,7 +18,6 @@
 #include <QCheckBox>
 #include <QFontDatabase>
 #include <QLocale>
-#include <QPainter>
 #include <QProxyStyle>
 #include <QSlider>
 #include <QStyleOption>
@@ -56,12 +56,7 @@ public:
             QProxyStyle::drawPrimitive(element, option, painter, widget);
         } else if (qobject_cast<const QCheckBox *>(widget)
                    || qobject_cast<const QSlider *>(widget)) {
-            painter->save();
-            painter->setRenderHint(QPainter::Antialiasing);
-            painter->setBrush(Qt::NoBrush);
-            painter->setPen(QPen(OxaThemeUtils::getColorSet("focus", widget).normal, 2));
-            painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), 4, 4);
-            painter->restore();
+            Looks::paintFocus(painter, option->rect, 4);
         }
     }
 
