@@ -22,7 +22,6 @@ namespace {
 
 constexpr int mostLines = 6;
 constexpr int verticalMargin = 6;
-constexpr int typingMs = 3000;
 constexpr int longestText = 20000;
 constexpr int gifColumns = 2;
 
@@ -135,7 +134,6 @@ void Composer::setConversation(const QString &conversation, const QString &title
     m_field->setPlaceholderText(tr("Write to %1").arg(title));
     m_field->setAccessibleName(m_field->placeholderText());
     m_conversation = conversation;
-    m_sinceTyping.invalidate();
 }
 
 void Composer::quote(const QString &author, const QString &text)
@@ -155,10 +153,8 @@ void Composer::follow()
     if (m_conversation.isEmpty())
         return;
     m_backend->setDraft(m_conversation, text);
-    if (canSend && (!m_sinceTyping.isValid() || m_sinceTyping.elapsed() > typingMs)) {
-        m_sinceTyping.start();
+    if (canSend)
         m_backend->tellTyping(m_conversation);
-    }
 }
 
 void Composer::send()
@@ -167,7 +163,6 @@ void Composer::send()
     if (text.isEmpty() || m_conversation.isEmpty())
         return;
     m_field->clear();
-    m_sinceTyping.invalidate();
     m_backend->send(m_conversation, Message::Kind::Text, text);
     Q_EMIT sent();
 }

@@ -4,8 +4,6 @@
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaWidget.h>
 
-#include <QElapsedTimer>
-
 class Backend;
 class GifView;
 class OxaSvgPushButton;
@@ -70,5 +68,4 @@ private:
     OxaSvgPushButton *m_emoji = nullptr;
     OxaSvgPushButton *m_gif = nullptr;
     OxaSvgPushButton *m_send = nullptr;
-    QElapsedTimer m_sinceTyping;
 };

@@ -45,6 +45,10 @@ ConversationList::ConversationList(Backend *backend, QWidget *parent)
                                QStringLiteral("text-secondary"), m_list);
     Looks::centre(m_empty);
     m_empty->setWordWrap(true);
+    m_empty->setFixedHeight(64);
+    auto *above = new QVBoxLayout(m_list);
+    above->setContentsMargins(16, 32, 16, 0);
+    above->addWidget(m_empty, 0, Qt::AlignTop);
 
     m_proxy->setSourceModel(backend->conversations());
     connect(m_proxy, &QAbstractItemModel::rowsInserted, this, &ConversationList::showEmpty);
@@ -164,18 +168,6 @@ void ConversationList::showEmpty()
     m_empty->setText(isWaiting ? tr("Loading conversations\u2026")
                                : tr("No conversation matches.\nSearch for another name."));
     m_empty->setVisible(m_proxy->rowCount() == 0);
-}
-
-void ConversationList::resizeEvent(QResizeEvent *event)
-{
-    OxaWidget::resizeEvent(event);
-    m_empty->setGeometry(16, 32, width() - 32, 64);
-}
-
-void ConversationList::onThemeChanged()
-{
-    if (m_list)
-        m_list->viewport()->update();
 }
 
 void ConversationList::refresh()

@@ -22,8 +22,6 @@ constexpr int bubbleRadius = 10;
 
 } // namespace
 
-MessageRow::MessageRow(QWidget *parent) : OxaWidget(parent) { }
-
 void MessageRow::setMessage(const Message &message, const Person &author, const RowLook &look,
                             const QSize &size, PersonCards *cards,
                             std::unique_ptr<QTextDocument> *laidOut)
@@ -145,9 +143,9 @@ void MessageRow::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     if (m_look.hasDay)
         paintLine(&painter, m_layout.day, TimeTexts::day(m_message.at.toLocalTime().date()),
-                  "text-secondary");
+                  "divider", "text-secondary");
     if (m_look.isFirstUnread)
-        paintLine(&painter, m_layout.unread, tr("New messages"), "unread-line");
+        paintLine(&painter, m_layout.unread, tr("New messages"), "unread-line", "unread-line");
     if (m_message.kind == Message::Kind::Text) {
         painter.setPen(Looks::color("bubble-border"));
         painter.setBrush(Looks::color(m_look.isOwn ? "bubble-own" : "bubble-other"));
@@ -163,7 +161,7 @@ void MessageRow::paintEvent(QPaintEvent *)
         time = tr("Sending\u2026");
     QRect rest = m_layout.head;
     if (!m_look.isOwn)
-        rest.setLeft(rest.left() + qMin(rest.width() / 2, m_name->sizeHint().width()) + 8);
+        rest.setLeft(rest.left() + m_name->width() + 8);
     painter.setFont(OxaFont(OxaFont::Token::RadioButtonLabelSecondary));
     painter.setPen(Looks::color("text-secondary"));
     painter.drawText(mirrored(rest),
@@ -171,17 +169,16 @@ void MessageRow::paintEvent(QPaintEvent *)
 }
 
 void MessageRow::paintLine(QPainter *painter, const QRect &line, const QString &text,
-                           const char *colors) const
+                           const char *lineColor, const char *textColor) const
 {
-    const bool isQuiet = qstrcmp(colors, "text-secondary") == 0;
     painter->setFont(OxaFont(OxaFont::Token::BodyTertiary));
     const int textWidth = painter->fontMetrics().horizontalAdvance(text) + 24;
-    painter->setPen(Looks::color(isQuiet ? "divider" : colors));
+    painter->setPen(Looks::color(lineColor));
     const int y = line.center().y();
     const int half = (line.width() - textWidth) / 2;
     painter->drawLine(line.left(), y, line.left() + half, y);
     painter->drawLine(line.right() - half, y, line.right(), y);
-    painter->setPen(Looks::color(colors));
+    painter->setPen(Looks::color(textColor));
     painter->drawText(line, Qt::AlignCenter, text);
 }
 

@@ -62,10 +62,7 @@ QPainterPath shape(Presence presence, const QRectF &rect)
 
 } // namespace
 
-Avatar::Avatar(int size, QWidget *parent) : OxaWidget(parent), m_size(size)
-{
-    setFixedSize(size, size);
-}
+Avatar::Avatar(int size, QWidget *parent) : OxaWidget(parent) { setFixedSize(size, size); }
 
 void Avatar::setPerson(const Person &person, bool isPresenceShown)
 {

@@ -32,13 +32,10 @@ public:
     /// The initials of \a name: of the first and the last word.
     static QString initials(const QString &name);
 
-    QSize sizeHint() const override { return { m_size, m_size }; }
-
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    const int m_size;
     Person m_person;
     bool m_isPresenceShown = false;
 };
