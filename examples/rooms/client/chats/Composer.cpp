@@ -10,7 +10,6 @@
 
 #include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
-#include <UiElements/widgets/PopupWidget.h>
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -170,10 +169,10 @@ void Composer::send()
 void Composer::pickEmoji()
 {
     auto *picker = new EmojiPicker;
-    PopupWidget *popup = Looks::popUp(m_emoji, picker);
-    connect(picker, &EmojiPicker::picked, this, [this, popup](const QString &emoji) {
+    Looks::popUp(m_emoji, picker);
+    connect(picker, &EmojiPicker::picked, this, [this, picker](const QString &emoji) {
         m_field->insertPlainText(emoji);
-        popup->hide();
+        picker->window()->hide();
         m_field->setFocus(Qt::OtherFocusReason);
     });
 }

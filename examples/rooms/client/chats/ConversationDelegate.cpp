@@ -99,7 +99,8 @@ void ConversationDelegate::paintTexts(QPainter *painter, const QRect &rect,
     upper.moveTop(rect.center().y() - (titleHeight + (m_isPreviewShown ? textHeight + 2 : 0)) / 2);
     QRect lower(rect.left(), upper.bottom() + 3, rect.width(), textHeight);
 
-    const QString time = TimeTexts::brief(index.data(Role::LastAtRole).toDateTime());
+    const qint64 at = index.data(Role::LastAtRole).toLongLong();
+    const QString time = TimeTexts::brief(QDateTime::fromMSecsSinceEpoch(at));
     const QColor quiet = rowColor("row-text-secondary", option.state);
     painter->setFont(m_textFont);
     painter->setPen(quiet);

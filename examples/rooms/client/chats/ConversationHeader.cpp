@@ -11,7 +11,6 @@
 #include <UiElements/emoji/OxaEmojiLabel.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/OxaDateTimeEdit.h>
-#include <UiElements/widgets/PopupWidget.h>
 
 #include <QVBoxLayout>
 
@@ -102,9 +101,9 @@ void ConversationHeader::askForDay()
     row->addWidget(day);
     row->addWidget(go);
     content->setFocusProxy(day);
-    PopupWidget *popup = Looks::popUp(m_day, content, false);
-    connect(go, &OxaSvgPushButton::clicked, this, [this, popup, day] {
+    Looks::popUp(m_day, content, false);
+    connect(go, &OxaSvgPushButton::clicked, this, [this, day] {
         m_backend->open(m_id)->loadBackTo(day->date());
-        popup->hide();
+        day->window()->hide();
     });
 }

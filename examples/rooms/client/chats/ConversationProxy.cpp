@@ -45,7 +45,7 @@ bool ConversationProxy::lessThan(const QModelIndex &left, const QModelIndex &rig
     const bool isLeftUnread = countsAsUnread(left);
     if (isLeftUnread != countsAsUnread(right))
         return isLeftUnread;
-    return left.data(Role::ActivityRole).toLongLong() > right.data(Role::ActivityRole).toLongLong();
+    return left.data(Role::LastAtRole).toLongLong() > right.data(Role::LastAtRole).toLongLong();
 }
 
 bool ConversationProxy::countsAsUnread(const QModelIndex &source) const

@@ -10,7 +10,6 @@
 #include "shell/Looks.h"
 
 #include <UiElements/widgets/OxaMenu.h>
-#include <UiElements/widgets/PopupWidget.h>
 
 #include <QClipboard>
 #include <QDesktopServices>
@@ -72,9 +71,10 @@ OxaMenu *ConversationView::makeReactions(QWidget *parent, int seq, const QPoint 
     connect(menu->addAction(tr("Others\u2026")), &QAction::triggered, this,
             [this, react, position] {
                 auto *picker = new EmojiPicker;
-                PopupWidget *popup = Looks::popUp(this, QRect(position, QSize(1, 1)), picker);
+                Looks::popUp(this, QRect(position, QSize(1, 1)), picker);
                 connect(picker, &EmojiPicker::picked, this, react);
-                connect(picker, &EmojiPicker::picked, popup, &QWidget::hide);
+                connect(picker, &EmojiPicker::picked, picker,
+                        [picker] { picker->window()->hide(); });
             });
     return menu;
 }

@@ -19,7 +19,7 @@ QHash<int, QByteArray> ConversationModel::roleNames() const
 {
     return { { IdRole, "id" },           { TitleRole, "title" },           { PersonRole, "person" },
              { PreviewRole, "preview" }, { LastAuthorRole, "lastAuthor" }, { LastAtRole, "lastAt" },
-             { UnreadRole, "unread" },   { ActivityRole, "activity" } };
+             { UnreadRole, "unread" } };
 }
 
 QVariant ConversationModel::data(const QModelIndex &index, int role) const
@@ -31,16 +31,14 @@ QVariant ConversationModel::data(const QModelIndex &index, int role) const
 ModelRow ConversationModel::row(const QJsonObject &conversation)
 {
     const QString id = conversation[u"id"_s].toString();
-    const QDateTime at = timeOf(conversation[u"lastAt"_s]);
     return { id.toStdString(),
              { { IdRole, id },
                { TitleRole, conversation[u"title"_s].toString() },
                { PersonRole, conversation[u"person"_s].toString() },
                { PreviewRole, conversation[u"last"_s].toString().simplified() },
                { LastAuthorRole, conversation[u"lastAuthor"_s].toString() },
-               { LastAtRole, at },
-               { UnreadRole, conversation[u"unread"_s].toInt() },
-               { ActivityRole, at.toMSecsSinceEpoch() } } };
+               { LastAtRole, qint64(conversation[u"lastAt"_s].toDouble()) },
+               { UnreadRole, conversation[u"unread"_s].toInt() } } };
 }
 
 void ConversationModel::arrive(const QString &conversation, const Message &message, bool isUnread)
@@ -65,9 +63,8 @@ void ConversationModel::showArrivals()
         setRoleValueForRow(arrival.key().toStdString(),
                            { { PreviewRole, last.text.left(200).simplified() },
                              { LastAuthorRole, last.author },
-                             { LastAtRole, last.at },
-                             { UnreadRole, unread },
-                             { ActivityRole, last.at.toMSecsSinceEpoch() } });
+                             { LastAtRole, last.at.toMSecsSinceEpoch() },
+                             { UnreadRole, unread } });
     }
 }
 

@@ -19,9 +19,8 @@ public:
         PersonRole,     ///< The id of the other person; empty if there are several.
         PreviewRole,    ///< The text of the last message, on one line.
         LastAuthorRole, ///< The id of its author.
-        LastAtRole,     ///< Its QDateTime.
+        LastAtRole,     ///< When that was, in milliseconds since 1970.
         UnreadRole,     ///< How many messages are unread.
-        ActivityRole,   ///< LastAtRole in milliseconds, for sorting.
     };
 
     explicit ConversationModel(QObject *parent = nullptr);

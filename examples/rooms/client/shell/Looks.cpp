@@ -34,10 +34,9 @@ WidgetData popupLooks(bool isAbove)
             .activateOnShow(true);
 }
 
-PopupWidget *deletedWhenHidden(PopupWidget *popup)
+void deleteWhenHidden(PopupWidget *popup)
 {
     QObject::connect(popup, &PopupWidget::widgetHidden, popup, &QObject::deleteLater);
-    return popup;
 }
 
 } // namespace
@@ -157,18 +156,18 @@ OxaMenu *Looks::makeMenu(QWidget *parent)
     return menu;
 }
 
-PopupWidget *Looks::popUp(QPushButton *button, QWidget *content, bool isAbove)
+void Looks::popUp(QPushButton *button, QWidget *content, bool isAbove)
 {
-    return deletedWhenHidden(PopupWidget::createAndShow(button, content, popupLooks(isAbove)));
+    deleteWhenHidden(PopupWidget::createAndShow(button, content, popupLooks(isAbove)));
 }
 
-PopupWidget *Looks::popUp(QWidget *parent, const QRect &rect, QWidget *content)
+void Looks::popUp(QWidget *parent, const QRect &rect, QWidget *content)
 {
     auto *popup = new PopupWidget(parent, popupLooks(true));
     popup->registerWidget(content);
     popup->showSmooth(rect);
     content->setFocus();
-    return deletedWhenHidden(popup);
+    deleteWhenHidden(popup);
 }
 
 AlertBanner *Looks::makeBanner(AlertBanner::AlertType type, const QString &text, QWidget *parent)

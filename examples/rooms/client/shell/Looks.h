@@ -13,7 +13,6 @@ class OxaMenu;
 class OxaSvgPushButton;
 class OxaTextInput;
 class OxaTextInputFactory;
-class PopupWidget;
 class QColor;
 class QPainter;
 class QPushButton;
@@ -69,10 +68,10 @@ OxaMenu *makeMenu(QWidget *parent);
 
 /// Shows \a content in a popup above \a button, or below it; on the other side for want of room.
 /// The popup deletes itself once it is hidden.
-PopupWidget *popUp(QPushButton *button, QWidget *content, bool isAbove = true);
+void popUp(QPushButton *button, QWidget *content, bool isAbove = true);
 
 /// Likewise beside \a rect, on the screen.
-PopupWidget *popUp(QWidget *parent, const QRect &rect, QWidget *content);
+void popUp(QWidget *parent, const QRect &rect, QWidget *content);
 
 /// A banner with \a text, which is rich.
 AlertBanner *makeBanner(AlertBanner::AlertType type, const QString &text, QWidget *parent);
