@@ -35,11 +35,7 @@ QJsonObject rows(const QJsonObject &request, int total, Row row)
 } // namespace
 
 Server::Server(World &world, const SeededArchive &seeded, const Options &options)
-    : m_world(world),
-      m_seeded(seeded),
-      m_options(options),
-      m_failing(options.failing),
-      m_log(options.log)
+    : m_world(world), m_seeded(seeded), m_options(options), m_log(options.log)
 {
     connect(&m_server, &QLocalServer::newConnection, this, &Server::accept);
     connect(&m_arrivals, &QTimer::timeout, this, &Server::letMessagesArrive);
@@ -76,8 +72,9 @@ void Server::receive(JsonLines *client, const QJsonObject &request)
     if (m_log.isOpen())
         m_log.write(QJsonDocument(request).toJson(QJsonDocument::Compact) + '\n');
     const QString name = request[u"ask"_s].toString();
-    QJsonObject line = m_failing.removeOne(name) ? error(u"This failed because it was asked to."_s)
-                                                 : answer(name, request);
+    QJsonObject line = m_options.failing.removeOne(name)
+            ? error(u"This failed because it was asked to."_s)
+            : answer(name, request);
     line[u"answer"_s] = request[u"id"_s];
     if (!m_options.isLate) {
         send(client, line);
@@ -105,7 +102,7 @@ QJsonObject Server::answer(const QString &name, const QJsonObject &request)
     else if (name == u"leave"_s)
         m_levels.stop();
     else if (name == u"fail"_s)
-        m_failing.append(request[u"name"_s].toString());
+        m_options.failing.append(request[u"name"_s].toString());
     else if (name == u"presence"_s)
         setPresence(request[u"presence"_s].toString());
     else

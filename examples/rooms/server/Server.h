@@ -56,10 +56,9 @@ private:
 
     World &m_world;
     const SeededArchive &m_seeded;
-    const Options m_options;
+    Options m_options;
     QLocalServer m_server;
     QVector<QPointer<JsonLines>> m_clients;
-    QStringList m_failing;
     QString m_presence; ///< The user's; empty until they choose one.
     QStringList m_inCall;
     QElapsedTimer m_joined;

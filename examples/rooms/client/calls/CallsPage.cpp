@@ -2,6 +2,7 @@
 #include "CallsPage.h"
 
 #include "CallWindow.h"
+#include "chats/TimeTexts.h"
 #include "data/Backend.h"
 #include "people/Avatar.h"
 #include "people/PersonCards.h"
@@ -21,14 +22,13 @@ constexpr int widest = 720;
 
 QString timeText(const QDateTime &at)
 {
-    const QLocale locale;
-    const QString time = locale.toString(at.time(), QLocale::ShortFormat);
+    const QString time = TimeTexts::time(at);
     const qint64 days = at.date().daysTo(QDate::currentDate());
     if (days == 0)
         return time;
     if (days == 1)
         return CallsPage::tr("Yesterday, %1").arg(time);
-    return CallsPage::tr("%1, %2").arg(locale.toString(at.date(), u"d MMM"_s), time);
+    return CallsPage::tr("%1, %2").arg(QLocale().toString(at.date(), u"d MMM"_s), time);
 }
 
 QString summary(const Call &call)

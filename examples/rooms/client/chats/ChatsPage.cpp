@@ -3,41 +3,32 @@
 
 #include "ConversationList.h"
 #include "ConversationView.h"
-#include "SlowMovies.h"
 #include "data/Backend.h"
 #include "data/ConversationModel.h"
-#include "shell/RoomsApplication.h"
+#include "shell/Looks.h"
 
-#include <UiElements/widgets/OxaSplitter.h>
-
-#include <QVBoxLayout>
+#include <QPaintEvent>
+#include <QPainter>
 
 ChatsPage::ChatsPage(Backend *backend, PersonCards *cards, QWidget *parent)
-    : Backdrop("divider", parent), // Seen between the two sides.
+    : OxaSplitter(parent),
       m_backend(backend),
       m_list(new ConversationList(backend)),
       m_view(new ConversationView(backend, cards, nullptr))
 {
-    RoomsApplication *application = RoomsApplication::get();
-    application->setMovieProviderSource(new SlowMovies(application));
-    auto *splitter = new OxaSplitter(this);
-    splitter->addWidget(m_list);
-    splitter->addWidget(m_view);
-    splitter->setStretchFactor(1, 1);
-    splitter->setSizes({ 320, 800 });
-    splitter->setChildrenCollapsible(false);
-    splitter->setHandleWidth(1);
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(splitter);
+    addWidget(m_list);
+    addWidget(m_view);
+    setStretchFactor(1, 1);
+    setSizes({ 320, 800 });
+    setChildrenCollapsible(false);
+    setHandleWidth(1);
     connect(m_list, &ConversationList::chosen, m_view, &ConversationView::open);
     connect(m_list, &ConversationList::filesDropped, m_view, &ConversationView::sendFiles);
-    connect(m_view, &ConversationView::callRequested, this, &ChatsPage::callRequested);
 }
 
 void ChatsPage::openConversation(const QString &id)
 {
-    if (!m_backend->conversations()->hasRow(id.toStdString()))
+    if (!m_backend->conversations()->find(id).isValid())
         return;
     m_list->setCurrent(id);
     m_view->open(id);
@@ -55,3 +46,9 @@ void ChatsPage::openPerson(const QString &person)
 const QString &ChatsPage::conversation() const { return m_view->conversation(); }
 
 void ChatsPage::focusSearch() { m_list->focusSearch(); }
+
+/// What is seen between the two sides: a style sheet for the handle would be one for both of them.
+void ChatsPage::paintEvent(QPaintEvent *event)
+{
+    QPainter(this).fillRect(event->rect(), Looks::color("divider"));
+}

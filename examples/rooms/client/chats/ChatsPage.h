@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "shell/Backdrop.h"
+#include <UiElements/widgets/OxaSplitter.h>
 
 class Backend;
 class ConversationList;
@@ -9,7 +9,7 @@ class ConversationView;
 class PersonCards;
 
 /// The conversations at one side, and the one that is open at the other.
-class ChatsPage : public Backdrop
+class ChatsPage : public OxaSplitter
 {
     Q_OBJECT
 
@@ -29,9 +29,8 @@ public:
     /// Gives the focus to the search for conversations.
     void focusSearch();
 
-Q_SIGNALS:
-    /// The user wants to call the people of \a conversation.
-    void callRequested(const QString &conversation);
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     Backend *const m_backend;

@@ -3,15 +3,13 @@
 
 #include "EmojiPicker.h"
 #include "FileDrop.h"
-#include "GifPicker.h"
-#include "MessageText.h"
-#include "Popups.h"
+#include "GifView.h"
+#include "SlowMovies.h"
 #include "data/Backend.h"
 #include "shell/Looks.h"
 
 #include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
-#include <UiElements/widgets/PopupWidget.h>
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -23,8 +21,8 @@ namespace {
 
 constexpr int mostLines = 6;
 constexpr int verticalMargin = 6;
-constexpr int typingMs = 3000;
 constexpr int longestText = 20000;
+constexpr int gifColumns = 2;
 
 } // namespace
 
@@ -88,7 +86,7 @@ void ComposerField::fitHeight()
 void ComposerField::colorPlaceholder()
 {
     QPalette colors = palette();
-    const QColor color = OxaThemeUtils::getColorSet("field-placeholder", this).normal;
+    const QColor color = Looks::color("field-placeholder");
     if (colors.color(QPalette::PlaceholderText) == color)
         return;
     colors.setColor(QPalette::PlaceholderText, color);
@@ -135,7 +133,6 @@ void Composer::setConversation(const QString &conversation, const QString &title
     m_field->setPlaceholderText(tr("Write to %1").arg(title));
     m_field->setAccessibleName(m_field->placeholderText());
     m_conversation = conversation;
-    m_sinceTyping.invalidate();
 }
 
 void Composer::quote(const QString &author, const QString &text)
@@ -155,10 +152,8 @@ void Composer::follow()
     if (m_conversation.isEmpty())
         return;
     m_backend->setDraft(m_conversation, text);
-    if (canSend && (!m_sinceTyping.isValid() || m_sinceTyping.elapsed() > typingMs)) {
-        m_sinceTyping.start();
+    if (canSend)
         m_backend->tellTyping(m_conversation);
-    }
 }
 
 void Composer::send()
@@ -167,7 +162,6 @@ void Composer::send()
     if (text.isEmpty() || m_conversation.isEmpty())
         return;
     m_field->clear();
-    m_sinceTyping.invalidate();
     m_backend->send(m_conversation, Message::Kind::Text, text);
     Q_EMIT sent();
 }
@@ -175,33 +169,48 @@ void Composer::send()
 void Composer::pickEmoji()
 {
     auto *picker = new EmojiPicker;
-    PopupWidget *popup = Popups::show(m_emoji, picker);
-    connect(picker, &EmojiPicker::picked, this, [this, popup](const QString &emoji) {
+    Looks::popUp(m_emoji, picker);
+    connect(picker, &EmojiPicker::picked, this, [this, picker](const QString &emoji) {
         m_field->insertPlainText(emoji);
-        popup->hide();
+        picker->window()->hide();
         m_field->setFocus(Qt::OtherFocusReason);
     });
 }
 
 void Composer::pickGif()
 {
-    auto *picker = new GifPicker;
-    PopupWidget *popup = Popups::show(m_gif, picker);
-    connect(picker, &GifPicker::picked, this, [this, popup](const QString &name) {
-        m_backend->send(m_conversation, Message::Kind::Gif, name);
-        Q_EMIT sent();
-        popup->hide();
-        m_field->setFocus(Qt::OtherFocusReason);
-    });
+    auto *picker = new OxaWidget;
+    picker->setAccessibleName(tr("Moving pictures"));
+    auto *grid = new QGridLayout(picker);
+    grid->setContentsMargins(8, 8, 8, 8);
+    grid->setSpacing(8);
+    const QStringList names = SlowMovies::names();
+    for (int i = 0; i < names.size(); ++i) {
+        auto *movie = new GifView(names.at(i), picker);
+        movie->setAccessibleRole(QAccessible::Button);
+        movie->setFocusPolicy(Qt::StrongFocus);
+        movie->setCursor(Qt::PointingHandCursor);
+        connect(movie, &GifView::clicked, this, [this, movie] { sendGif(movie); });
+        grid->addWidget(movie, i / gifColumns, i % gifColumns);
+    }
+    picker->setFocusProxy(picker->findChild<GifView *>());
+    Looks::popUp(m_gif, picker);
+}
+
+void Composer::sendGif(const GifView *movie)
+{
+    m_backend->send(m_conversation, Message::Kind::Gif, movie->name());
+    movie->window()->hide();
+    m_field->setFocus(Qt::OtherFocusReason);
+    Q_EMIT sent();
 }
 
 void Composer::showFocus(bool hasFocus)
 {
     setCSS(QStringLiteral("$backgroundColors: field-background; $borderColors: %1; $borders: all; "
-                          "$borderWidth: %2; $borderRadius: 10;")
+                          "$borderWidth: 1; $borderRadius: 10;")
                    .arg(hasFocus ? QStringLiteral("field-focus-border")
-                                 : QStringLiteral("field-border"))
-                   .arg(1));
+                                 : QStringLiteral("field-border")));
 }
 
 bool Composer::eventFilter(QObject *watched, QEvent *event)

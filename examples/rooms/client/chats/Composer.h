@@ -4,9 +4,8 @@
 #include <UiElements/widgets/OxaTextEdit.h>
 #include <UiElements/widgets/OxaWidget.h>
 
-#include <QElapsedTimer>
-
 class Backend;
+class GifView;
 class OxaSvgPushButton;
 
 /// The field of the composer, which is as high as its text, up to six lines.
@@ -59,6 +58,7 @@ private:
     void send();
     void pickEmoji();
     void pickGif();
+    void sendGif(const GifView *movie);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -68,5 +68,4 @@ private:
     OxaSvgPushButton *m_emoji = nullptr;
     OxaSvgPushButton *m_gif = nullptr;
     OxaSvgPushButton *m_send = nullptr;
-    QElapsedTimer m_sinceTyping;
 };

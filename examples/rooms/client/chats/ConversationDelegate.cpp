@@ -6,6 +6,7 @@
 #include "data/Backend.h"
 #include "data/ConversationModel.h"
 #include "people/Avatar.h"
+#include "shell/Looks.h"
 #include "shell/RoomsApplication.h"
 
 #include <UiElements/theme/OxaThemeUtils.h>
@@ -20,14 +21,9 @@ constexpr int margin = 8;
 constexpr int avatarSize = 40;
 constexpr int rowMargin = 4; ///< Left and right of a row's ground.
 
-OxaColorSet colors(const char *name)
-{
-    return OxaThemeUtils::getColorSet(name, OxaThemeUtils::AppThemeType::Global);
-}
-
 QColor rowColor(const char *set, QStyle::State state)
 {
-    const OxaColorSet row = colors(set);
+    const OxaColorSet row = OxaThemeUtils::getColorSet(set, OxaThemeUtils::AppThemeType::Global);
     if (state & QStyle::State_Selected)
         return row.checked;
     return state & QStyle::State_MouseOver ? row.hovered : row.normal;
@@ -51,7 +47,6 @@ void ConversationDelegate::refresh()
     m_titleFont = OxaFont(OxaFont::Token::BodySecondary);
     m_unreadFont = OxaFont(OxaFont::Token::SubheaderSecondary);
     m_textFont = OxaFont(OxaFont::Token::RadioButtonLabelSecondary);
-    m_timeFont = m_textFont;
     m_isPreviewShown = RoomsApplication::get()->settings().previewsShown;
 }
 
@@ -73,13 +68,11 @@ void ConversationDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
                                               -margin);
     QRect avatar(inside.topLeft(), QSize(avatarSize, avatarSize));
     avatar.moveTop(inside.center().y() - avatarSize / 2);
-    avatar = mirrored(option, avatar);
     const QString person = index.data(Role::PersonRole).toString();
     const QString id = person.isEmpty() ? index.data(Role::IdRole).toString() : person;
-    Avatar::paint(painter, avatar, id, index.data(Role::TitleRole).toString(), !person.isEmpty());
-    if (!person.isEmpty())
-        Avatar::paintPresence(painter, avatar, m_backend->person(person).presence,
-                              option.direction);
+    const QString title = index.data(Role::TitleRole).toString();
+    Avatar::paint(painter, mirrored(option, avatar),
+                  { id, title, {}, {}, m_backend->person(person).presence }, !person.isEmpty());
     paintTexts(painter, inside.adjusted(avatarSize + 12, 0, 0, 0), option, index);
     painter->restore();
 }
@@ -90,11 +83,8 @@ void ConversationDelegate::paintGround(QPainter *painter, const QStyleOptionView
     painter->setPen(Qt::NoPen);
     painter->setBrush(rowColor("row", option.state));
     painter->drawRoundedRect(ground, 6, 6);
-    if (!(option.state & QStyle::State_HasFocus))
-        return;
-    painter->setPen(QPen(colors("focus").normal, 2));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRoundedRect(ground.adjusted(1, 1, -1, -1), 6, 6);
+    if (option.state & QStyle::State_HasFocus)
+        Looks::paintFocus(painter, ground);
 }
 
 void ConversationDelegate::paintTexts(QPainter *painter, const QRect &rect,
@@ -109,12 +99,13 @@ void ConversationDelegate::paintTexts(QPainter *painter, const QRect &rect,
     upper.moveTop(rect.center().y() - (titleHeight + (m_isPreviewShown ? textHeight + 2 : 0)) / 2);
     QRect lower(rect.left(), upper.bottom() + 3, rect.width(), textHeight);
 
-    const QString time = TimeTexts::brief(index.data(Role::LastAtRole).toDateTime());
+    const qint64 at = index.data(Role::LastAtRole).toLongLong();
+    const QString time = TimeTexts::brief(QDateTime::fromMSecsSinceEpoch(at));
     const QColor quiet = rowColor("row-text-secondary", option.state);
-    painter->setFont(m_timeFont);
+    painter->setFont(m_textFont);
     painter->setPen(quiet);
     painter->drawText(mirrored(option, upper), Qt::AlignRight | Qt::AlignVCenter, time);
-    upper.setRight(upper.right() - QFontMetrics(m_timeFont).horizontalAdvance(time) - 8);
+    upper.setRight(upper.right() - QFontMetrics(m_textFont).horizontalAdvance(time) - 8);
 
     QRect &line = m_isPreviewShown ? lower : upper;
     if (unread > 0)
@@ -130,7 +121,7 @@ void ConversationDelegate::paintTexts(QPainter *painter, const QRect &rect,
 int ConversationDelegate::paintBadge(QPainter *painter, const QRect &line, int count) const
 {
     const QString text = count > 99 ? tr("99+") : QLocale().toString(count);
-    const QFontMetrics metrics(m_timeFont);
+    const QFontMetrics metrics(m_textFont);
     const int height = metrics.height() + 2;
     QRect badge(0, 0, qMax(height, metrics.horizontalAdvance(text) + 10), height);
     badge.moveCenter(line.center());
@@ -139,10 +130,10 @@ int ConversationDelegate::paintBadge(QPainter *painter, const QRect &line, int c
     else
         badge.moveRight(line.right());
     painter->setPen(Qt::NoPen);
-    painter->setBrush(colors("badge").normal);
+    painter->setBrush(Looks::color("badge"));
     painter->drawRoundedRect(badge, height / 2.0, height / 2.0);
-    painter->setPen(colors("badge-text").normal);
-    painter->setFont(m_timeFont);
+    painter->setPen(Looks::color("badge-text"));
+    painter->setFont(m_textFont);
     painter->drawText(badge, Qt::AlignCenter, text);
     return badge.width();
 }

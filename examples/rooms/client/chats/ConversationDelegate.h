@@ -32,6 +32,5 @@ private:
     QFont m_titleFont;
     QFont m_unreadFont;
     QFont m_textFont;
-    QFont m_timeFont;
     bool m_isPreviewShown = true;
 };

@@ -1,37 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "ConversationHeader.h"
 
-#include "Popups.h"
 #include "data/Backend.h"
+#include "data/History.h"
 #include "people/Avatar.h"
 #include "people/PersonCards.h"
 #include "shell/Looks.h"
 
+#include <UiElements/app/OxaAppSignals.h>
 #include <UiElements/emoji/OxaEmojiLabel.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/OxaDateTimeEdit.h>
-#include <UiElements/widgets/PopupWidget.h>
 
 #include <QVBoxLayout>
-
-namespace {
-
-QString stateText(Presence presence)
-{
-    switch (presence) {
-    case Presence::Active:
-        return ConversationHeader::tr("Active");
-    case Presence::Away:
-        return ConversationHeader::tr("Away");
-    case Presence::Busy:
-        return ConversationHeader::tr("Busy");
-    case Presence::Offline:
-        break;
-    }
-    return ConversationHeader::tr("Offline");
-}
-
-} // namespace
 
 ConversationHeader::ConversationHeader(Backend *backend, PersonCards *cards, QWidget *parent)
     : OxaWidget(parent), m_backend(backend), m_cards(cards)
@@ -64,7 +45,7 @@ ConversationHeader::ConversationHeader(Backend *backend, PersonCards *cards, QWi
     row->addWidget(m_day);
     row->addWidget(call);
     connect(m_day, &OxaSvgPushButton::clicked, this, &ConversationHeader::askForDay);
-    connect(call, &OxaSvgPushButton::clicked, this, &ConversationHeader::callRequested);
+    connect(call, &OxaSvgPushButton::clicked, OxaAppSignals::get(), &OxaAppSignals::startAudioCall);
     connect(backend, &Backend::personChanged, this, [this](const QString &person) {
         if (person == m_person)
             showPerson();
@@ -74,6 +55,7 @@ ConversationHeader::ConversationHeader(Backend *backend, PersonCards *cards, QWi
 void ConversationHeader::setConversation(const QString &id, const QString &title,
                                          const QString &person)
 {
+    m_id = id;
     m_person = person;
     m_title->setText(title);
     m_title->setToolTip(title);
@@ -94,9 +76,9 @@ void ConversationHeader::showPerson()
 {
     const Person person = m_backend->person(m_person);
     m_avatar->setPerson(person);
-    m_state->setText(person.title.isEmpty()
-                             ? stateText(person.presence)
-                             : tr("%1 \u00B7 %2").arg(stateText(person.presence), person.title));
+    const QString presence = presenceText(person.presence);
+    m_state->setText(person.title.isEmpty() ? presence
+                                            : tr("%1 \u00B7 %2").arg(presence, person.title));
 }
 
 void ConversationHeader::askForDay()
@@ -119,9 +101,9 @@ void ConversationHeader::askForDay()
     row->addWidget(day);
     row->addWidget(go);
     content->setFocusProxy(day);
-    PopupWidget *popup = Popups::show(m_day, content, false);
-    connect(go, &OxaSvgPushButton::clicked, this, [this, popup, day] {
-        Q_EMIT dayRequested(day->date());
-        popup->hide();
+    Looks::popUp(m_day, content, false);
+    connect(go, &OxaSvgPushButton::clicked, this, [this, day] {
+        m_backend->open(m_id)->loadBackTo(day->date());
+        day->window()->hide();
     });
 }

@@ -21,16 +21,13 @@ public:
     /// Shows the conversation \a id called \a title, with \a person or with several.
     void setConversation(const QString &id, const QString &title, const QString &person);
 
-Q_SIGNALS:
-    void callRequested();
-    void dayRequested(const QDate &day);
-
 private:
     void showPerson();
     void askForDay();
 
     Backend *const m_backend;
     PersonCards *const m_cards;
+    QString m_id;
     QString m_person;
     Avatar *m_avatar = nullptr;
     OxaEmojiLabel *m_title = nullptr;

@@ -37,15 +37,17 @@ ConversationList::ConversationList(Backend *backend, QWidget *parent)
     setMinimumWidth(200);
     QWidget *filters = makeFilters(); // Before the list, for Tab.
     makeList();
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    QVBoxLayout *column = Looks::makeColumn(this);
     column->addWidget(filters);
     column->addWidget(m_list, 1);
     m_empty = Looks::makeLabel(QString(), OxaFont::Token::BodySecondary,
                                QStringLiteral("text-secondary"), m_list);
     Looks::centre(m_empty);
     m_empty->setWordWrap(true);
+    m_empty->setFixedHeight(64);
+    auto *above = new QVBoxLayout(m_list);
+    above->setContentsMargins(16, 32, 16, 0);
+    above->addWidget(m_empty, 0, Qt::AlignTop);
 
     m_proxy->setSourceModel(backend->conversations());
     connect(m_proxy, &QAbstractItemModel::rowsInserted, this, &ConversationList::showEmpty);
@@ -68,7 +70,7 @@ QWidget *ConversationList::makeFilters()
     m_search->setSearchIcon(OxaSvgRenderer::resourcePath(QStringLiteral("search_12")));
     m_search->setFixedHeight(36);
     connect(m_search, &OxaTextInput::textChanged, this, [this](const QString &text) {
-        m_proxy->setSearch(text);
+        m_proxy->setFilterFixedString(text.trimmed());
         showMatches();
     });
     connect(m_search, &OxaTextInput::keyPressed, this, [this](int key) {
@@ -164,18 +166,6 @@ void ConversationList::showEmpty()
     m_empty->setText(isWaiting ? tr("Loading conversations\u2026")
                                : tr("No conversation matches.\nSearch for another name."));
     m_empty->setVisible(m_proxy->rowCount() == 0);
-}
-
-void ConversationList::resizeEvent(QResizeEvent *event)
-{
-    Backdrop::resizeEvent(event);
-    m_empty->setGeometry(16, 32, width() - 32, 64);
-}
-
-void ConversationList::onThemeChanged()
-{
-    if (m_list)
-        m_list->viewport()->update();
 }
 
 void ConversationList::refresh()

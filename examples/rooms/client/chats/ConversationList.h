@@ -31,12 +31,6 @@ Q_SIGNALS:
     /// Files were dropped onto the row of the conversation \a id.
     void filesDropped(const QString &id, const QStringList &names);
 
-protected:
-    void resizeEvent(QResizeEvent *event) override;
-
-protected Q_SLOTS:
-    void onThemeChanged() override;
-
 private:
     QWidget *makeFilters();
     void makeList();

@@ -5,12 +5,10 @@
 
 using Role = ConversationModel::Role;
 
-ConversationProxy::ConversationProxy(QObject *parent) : QSortFilterProxyModel(parent) { sort(0); }
-
-void ConversationProxy::setSearch(const QString &text)
+ConversationProxy::ConversationProxy(QObject *parent) : QSortFilterProxyModel(parent)
 {
-    m_search = text.trimmed();
-    invalidateFilter();
+    setFilterCaseSensitivity(Qt::CaseInsensitive);
+    sort(0);
 }
 
 void ConversationProxy::setUnreadOnly(bool isUnreadOnly)
@@ -31,7 +29,7 @@ void ConversationProxy::keep(const QString &id)
 QModelIndex ConversationProxy::indexOf(const QString &id) const
 {
     const auto *model = qobject_cast<const ConversationModel *>(sourceModel());
-    return mapFromSource(model->index(model->getRowIndex(id.toStdString())));
+    return mapFromSource(model->find(id));
 }
 
 bool ConversationProxy::filterAcceptsRow(int row, const QModelIndex &parent) const
@@ -39,8 +37,7 @@ bool ConversationProxy::filterAcceptsRow(int row, const QModelIndex &parent) con
     const QModelIndex index = sourceModel()->index(row, 0, parent);
     if (m_isUnreadOnly && !countsAsUnread(index))
         return false;
-    return m_search.isEmpty()
-            || index.data(Role::TitleRole).toString().contains(m_search, Qt::CaseInsensitive);
+    return QSortFilterProxyModel::filterAcceptsRow(row, parent);
 }
 
 bool ConversationProxy::lessThan(const QModelIndex &left, const QModelIndex &right) const
@@ -48,7 +45,7 @@ bool ConversationProxy::lessThan(const QModelIndex &left, const QModelIndex &rig
     const bool isLeftUnread = countsAsUnread(left);
     if (isLeftUnread != countsAsUnread(right))
         return isLeftUnread;
-    return left.data(Role::ActivityRole).toLongLong() > right.data(Role::ActivityRole).toLongLong();
+    return left.data(Role::LastAtRole).toLongLong() > right.data(Role::LastAtRole).toLongLong();
 }
 
 bool ConversationProxy::countsAsUnread(const QModelIndex &source) const

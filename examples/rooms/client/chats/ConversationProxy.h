@@ -4,15 +4,13 @@
 #include <QSortFilterProxyModel>
 
 /// The conversations as the user wants them: those with unread messages first, then by activity.
+/// The filter is for their titles.
 class ConversationProxy : public QSortFilterProxyModel
 {
     Q_OBJECT
 
 public:
     explicit ConversationProxy(QObject *parent = nullptr);
-
-    /// Shows only conversations with \a text in their title.
-    void setSearch(const QString &text);
 
     /// Shows only conversations with unread messages.
     void setUnreadOnly(bool isUnreadOnly);
@@ -31,7 +29,6 @@ protected:
 private:
     bool countsAsUnread(const QModelIndex &source) const;
 
-    QString m_search;
     QString m_kept;
     bool m_isKeptUnread = false;
     bool m_isUnreadOnly = false;

@@ -3,19 +3,15 @@
 
 #include "Composer.h"
 #include "ConversationHeader.h"
-#include "EmojiPicker.h"
 #include "FileDrop.h"
 #include "MessageList.h"
-#include "MessageMenu.h"
 #include "MessagePane.h"
-#include "Popups.h"
 #include "data/Backend.h"
 #include "data/ConversationModel.h"
 #include "data/History.h"
 #include "shell/Looks.h"
 
 #include <UiElements/widgets/OxaLabel.h>
-#include <UiElements/widgets/PopupWidget.h>
 
 #include <QVBoxLayout>
 
@@ -33,10 +29,6 @@ ConversationView::ConversationView(Backend *backend, PersonCards *cards, QWidget
     setObjectName(QStringLiteral("conversationView"));
     setMinimumWidth(280);
     makeParts(cards);
-    connect(m_header, &ConversationHeader::callRequested, this,
-            [this] { Q_EMIT callRequested(m_conversation); });
-    connect(m_header, &ConversationHeader::dayRequested, this,
-            [this](const QDate &day) { m_list->history()->loadBackTo(day); });
     connect(m_list, &MessageList::menuRequested, this, &ConversationView::openMenu);
     connect(m_list, &MessageList::placeChanged, this, &ConversationView::markRead);
     connect(m_composer->field(), &ComposerField::leftUpwards, m_list,
@@ -68,9 +60,7 @@ void ConversationView::makeParts(PersonCards *cards)
     auto *bottom = new QHBoxLayout;
     bottom->setContentsMargins(16, 0, 16, 16);
     bottom->addWidget(m_composer);
-    auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    QVBoxLayout *column = Looks::makeColumn(this);
     column->addWidget(m_header);
     column->addWidget(m_pane, 1);
     column->addWidget(m_typing);
@@ -84,8 +74,7 @@ void ConversationView::open(const QString &id)
     if (id == m_conversation)
         return;
     m_conversation = id;
-    const ConversationModel *model = m_backend->conversations();
-    const QModelIndex index = model->index(model->getRowIndex(id.toStdString()));
+    const QModelIndex index = m_backend->conversations()->find(id);
     const QString title = index.data(Role::TitleRole).toString();
     m_header->setConversation(id, title, index.data(Role::PersonRole).toString());
     m_header->setVisible(true);
@@ -160,32 +149,4 @@ void ConversationView::showTyping()
         m_typingEnds.stop();
     else
         m_typingEnds.start();
-}
-
-void ConversationView::openMenu(const Message &message, const QPoint &position)
-{
-    const QString conversation = m_conversation;
-    MessageMenu::Actions actions;
-    actions.react = [this, conversation, seq = message.seq](const QString &emoji) {
-        m_backend->react(conversation, seq, emoji);
-    };
-    actions.chooseReaction = [this, seq = message.seq, position] { chooseReaction(seq, position); };
-    actions.reply = [this, author = message.author](const QString &quote) {
-        m_composer->quote(m_backend->person(author).name, quote);
-    };
-    actions.retry = [this, conversation, key = message.key] {
-        m_backend->retry(conversation, key);
-    };
-    MessageMenu::open(this, message, position, actions);
-}
-
-void ConversationView::chooseReaction(int seq, const QPoint &position)
-{
-    auto *picker = new EmojiPicker;
-    PopupWidget *popup = Popups::show(this, QRect(position, QSize(1, 1)), picker);
-    connect(picker, &EmojiPicker::picked, this,
-            [this, popup, seq, conversation = m_conversation](const QString &emoji) {
-                m_backend->react(conversation, seq, emoji);
-                popup->hide();
-            });
 }

@@ -13,6 +13,7 @@ class ConversationHeader;
 class MessageList;
 class MessagePane;
 class OxaLabel;
+class OxaMenu;
 class PersonCards;
 
 /// The conversation that is open.
@@ -30,9 +31,6 @@ public:
     /// Sends files called \a names to \a conversation.
     void sendFiles(const QString &conversation, const QStringList &names);
 
-Q_SIGNALS:
-    void callRequested(const QString &conversation);
-
 protected:
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -43,7 +41,8 @@ private:
     void addTyping(const QString &conversation, const QString &person);
     void showTyping();
     void openMenu(const Message &message, const QPoint &position);
-    void chooseReaction(int seq, const QPoint &position);
+    OxaMenu *makeReactions(QWidget *parent, int seq, const QPoint &position);
+    void addLinks(OxaMenu *menu, const QString &text);
 
     Backend *const m_backend;
     QString m_conversation;

@@ -23,8 +23,6 @@ constexpr int cell = 36;
 constexpr int columns = 9;
 constexpr int rows = 6;
 
-enum Role { GroupRole = Qt::UserRole + 1 };
-
 class EmojiDelegate : public QStyledItemDelegate
 {
 public:
@@ -41,28 +39,24 @@ public:
         const OxaColorSet row = OxaThemeUtils::getColorSet("row", option.widget);
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
-        const bool hasFocus = option.state & QStyle::State_HasFocus;
-        const QColor focus = OxaThemeUtils::getColorSet("focus", option.widget).normal;
-        painter->setPen(hasFocus ? QPen(focus, 2) : QPen(Qt::NoPen));
+        painter->setPen(Qt::NoPen);
         painter->setBrush(option.state & QStyle::State_MouseOver ? row.hovered : row.normal);
         painter->drawRoundedRect(QRectF(option.rect).adjusted(1, 1, -1, -1), 6, 6);
         EmojiLine::paint(painter, option.rect, index.data().toString(),
-                         OxaFont(OxaFont::Token::Title),
-                         OxaThemeUtils::getColorSet("text-primary", option.widget).normal, true);
+                         OxaFont(OxaFont::Token::Title), Looks::color("text-primary"), true);
         painter->restore();
+        if (option.state & QStyle::State_HasFocus)
+            Looks::paintFocus(painter, option.rect);
     }
 };
 
 } // namespace
 
 EmojiPicker::EmojiPicker(QWidget *parent)
-    : OxaWidget(parent),
-      m_emojis(new QStandardItemModel(this)),
-      m_found(new QSortFilterProxyModel(this))
+    : OxaWidget(parent), m_found(new QSortFilterProxyModel(this))
 {
     setAccessibleName(tr("Emoji"));
-    fill();
-    m_found->setSourceModel(m_emojis);
+    m_found->setSourceModel(EmojiTable::model());
     m_found->setFilterRole(Qt::ToolTipRole);
     m_found->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_search = Looks::makeField(tr("Search emoji"), this);
@@ -85,18 +79,6 @@ EmojiPicker::EmojiPicker(QWidget *parent)
     column->addLayout(makeGroups());
     column->addWidget(m_grid);
     setFocusProxy(m_search->getLineEdit());
-}
-
-void EmojiPicker::fill()
-{
-    for (const Emoji &emoji : EmojiTable::all()) {
-        auto *item = new QStandardItem(emoji.text);
-        item->setToolTip(emoji.name);
-        item->setData(emoji.name, Qt::AccessibleTextRole);
-        item->setData(emoji.group, GroupRole);
-        item->setEditable(false);
-        m_emojis->appendRow(item);
-    }
 }
 
 void EmojiPicker::makeGrid()
@@ -128,20 +110,21 @@ QLayout *EmojiPicker::makeGroups()
     auto *groups = new QHBoxLayout;
     groups->setSpacing(0);
     QString last;
-    for (const Emoji &emoji : EmojiTable::all()) {
-        if (emoji.group == last)
+    for (int row = 0; row < m_found->rowCount(); ++row) {
+        const QModelIndex emoji = m_found->index(row, 0);
+        const QString group = emoji.data(EmojiTable::GroupRole).toString();
+        if (std::exchange(last, group) == group)
             continue;
-        last = emoji.group;
         auto *button = new OxaEmojiPushButton(this, QAccessible::Button);
         button->setFontToken(OxaFont::Token::Default);
         button->setAlignment(Qt::AlignCenter);
         button->setFixedSize(cell, 32);
         button->setFocusPolicy(Qt::TabFocus);
-        button->setToolTip(last);
-        button->setAccessibleName(last);
+        button->setToolTip(group);
+        button->setAccessibleName(group);
         button->setCSS(Looks::buttonStyle(Looks::Button::Quiet));
-        button->setText(emoji.text);
-        connect(button, &OxaEmojiPushButton::clicked, this, [this, last] { showGroup(last); });
+        button->setText(emoji.data().toString());
+        connect(button, &OxaEmojiPushButton::clicked, this, [this, group] { showGroup(group); });
         groups->addWidget(button);
     }
     groups->addStretch(1);
@@ -151,7 +134,8 @@ QLayout *EmojiPicker::makeGroups()
 void EmojiPicker::showGroup(const QString &group)
 {
     m_search->setText(QString());
-    const QModelIndexList first = m_found->match(m_found->index(0, 0), GroupRole, group);
+    const QModelIndexList first = m_found->match(m_found->index(0, 0), EmojiTable::GroupRole,
+                                                 group);
     if (!first.isEmpty())
         m_grid->scrollTo(first.first(), QAbstractItemView::PositionAtTop);
 }

@@ -7,7 +7,6 @@ class OxaListView;
 class OxaTextInput;
 class QLayout;
 class QSortFilterProxyModel;
-class QStandardItemModel;
 
 /// All emoji by group, and a search among them by name.
 class EmojiPicker : public OxaWidget
@@ -21,12 +20,10 @@ Q_SIGNALS:
     void picked(const QString &emoji);
 
 private:
-    void fill();
     void makeGrid();
     QLayout *makeGroups();
     void showGroup(const QString &group);
 
-    QStandardItemModel *const m_emojis;
     QSortFilterProxyModel *const m_found;
     OxaTextInput *m_search = nullptr;
     OxaListView *m_grid = nullptr;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "EmojiTable.h"
 
+#include "protocol/Literal.h"
+
 #include <UiElements/emoji/EmojiTextConverter.h>
 #include <UiElements/fonts/FontUtils.h>
 
@@ -8,15 +10,16 @@
 #include <QDir>
 #include <QFile>
 #include <QSet>
+#include <QStandardItemModel>
 
 namespace {
 
 QSet<QString> artworkStems()
 {
     QSet<QString> stems;
-    const QStringList files = QDir(QStringLiteral(":/emojis")).entryList();
+    const QStringList files = QDir(u":/emojis"_s).entryList();
     for (const QString &file : files)
-        stems += file.section(QLatin1Char('.'), 0, 0);
+        stems += file.section(u'.', 0, 0);
     return stems;
 }
 
@@ -29,60 +32,59 @@ bool isInFont(const QString &text, const QFontMetrics &metrics)
 
 QString stemOf(const QString &text) { return EmojiTextConverter::sequences(text).value(0).stem; }
 
-/// Reads "1F600 ; fully-qualified # 😀 E1.0 grinning face".
-Emoji fromLine(const QString &line)
+void add(QStandardItemModel *emojis, const QString &text, const QString &name, const QString &group)
 {
-    if (!line.contains(QLatin1String("; fully-qualified")))
-        return {};
-    const QString comment = line.section(QLatin1Char('#'), 1).trimmed();
-    return { comment.section(QLatin1Char(' '), 0, 0), comment.section(QLatin1Char(' '), 2), {} };
+    auto *item = new QStandardItem(text);
+    item->setToolTip(name);
+    item->setData(name, Qt::AccessibleTextRole);
+    item->setData(group, EmojiTable::GroupRole);
+    item->setEditable(false);
+    emojis->appendRow(item);
 }
 
-QVector<Emoji> read()
+/// Reads lines as "1F600 ; fully-qualified # 😀 E1.0 grinning face".
+void addListed(QStandardItemModel *emojis)
 {
     const QSet<QString> stems = artworkStems();
     const QFontMetrics metrics = FontUtils::fontMetrics(OxaFont::Token::Title);
-    QFile file(QStringLiteral("/usr/share/unicode/emoji/emoji-test.txt"));
-    QVector<Emoji> emojis;
+    QFile file(u"/usr/share/unicode/emoji/emoji-test.txt"_s);
     QString group;
     const bool isOpen = file.open(QIODevice::ReadOnly);
     while (isOpen && !file.atEnd()) {
         const QString line = QString::fromUtf8(file.readLine());
-        if (line.startsWith(QLatin1String("# group: ")))
+        if (line.startsWith(u"# group: "_s))
             group = line.mid(9).trimmed();
-        Emoji emoji = fromLine(line);
-        emoji.group = group;
-        // Skin tones would be five rows of each hand.
-        if (!emoji.text.isEmpty() && !emoji.name.contains(QLatin1String("skin tone"))
-            && (stems.contains(stemOf(emoji.text)) || isInFont(emoji.text, metrics)))
-            emojis += emoji;
+        if (!line.contains(u"; fully-qualified"_s) || line.contains(u"skin tone"_s))
+            continue; // Skin tones would be five rows of each hand.
+        const QString comment = line.section(u'#', 1).trimmed();
+        const QString text = comment.section(u' ', 0, 0);
+        if (stems.contains(stemOf(text)) || isInFont(text, metrics))
+            add(emojis, text, comment.section(u' ', 2), group);
     }
-    return emojis;
 }
 
-/// The emoji of the artwork, by their file names.
-QVector<Emoji> fromArtwork()
+/// Adds the emoji of the artwork, by their file names.
+void addArtwork(QStandardItemModel *emojis)
 {
-    QVector<Emoji> emojis;
     const QSet<QString> stems = artworkStems();
     for (const QString &stem : stems) {
         QVector<uint> points;
-        const QStringList numbers = stem.split(QLatin1Char('-'));
+        const QStringList numbers = stem.split(u'-');
         for (const QString &number : numbers)
             points += number.toUInt(nullptr, 16);
-        emojis += { QString::fromUcs4(points.constData(), points.size()), stem,
-                    QCoreApplication::translate("EmojiTable", "Emoji") };
+        add(emojis, QString::fromUcs4(points.constData(), points.size()), stem,
+            QCoreApplication::translate("EmojiTable", "Emoji"));
     }
-    return emojis;
 }
 
 } // namespace
 
-const QVector<Emoji> &EmojiTable::all()
+QStandardItemModel *EmojiTable::model()
 {
-    static const QVector<Emoji> emojis = [] {
-        const QVector<Emoji> listed = read();
-        return listed.isEmpty() ? fromArtwork() : listed;
-    }();
+    static auto *const emojis = new QStandardItemModel(QCoreApplication::instance());
+    if (emojis->rowCount() == 0)
+        addListed(emojis);
+    if (emojis->rowCount() == 0)
+        addArtwork(emojis);
     return emojis;
 }

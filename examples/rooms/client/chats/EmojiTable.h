@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QString>
-#include <QVector>
+#include <Qt>
 
-/// An emoji that this client can show.
-struct Emoji
-{
-    QString text;
-    QString name;
-    QString group;
-};
+class QStandardItemModel;
 
 namespace EmojiTable {
 
+/// The group of an emoji. Its name is its tool tip.
+enum Role { GroupRole = Qt::UserRole + 1 };
+
 /// All emoji that there is artwork for or that the font has, in the order of Unicode's list. Read
 /// once. Without that list, those of the artwork.
-const QVector<Emoji> &all();
+QStandardItemModel *model();
 
 } // namespace EmojiTable

@@ -2,8 +2,7 @@
 #include "MessageBody.h"
 
 #include "MessageText.h"
-
-#include <UiElements/theme/OxaThemeUtils.h>
+#include "shell/Looks.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QDesktopServices>
@@ -15,7 +14,7 @@ MessageBody::MessageBody(QWidget *parent) : QWidget(parent) { setMouseTracking(t
 void MessageBody::setText(const QString &text, int width, const QColor &color)
 {
     m_color = color;
-    const QColor link = OxaThemeUtils::getColorSet("button-hyperlink-text", this).normal;
+    const QColor link = Looks::color("button-hyperlink-text");
     MessageText::layOut(m_document.get(), text, width, link, devicePixelRatioF());
     update();
 }

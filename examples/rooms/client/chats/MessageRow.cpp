@@ -22,8 +22,6 @@ constexpr int bubbleRadius = 10;
 
 } // namespace
 
-MessageRow::MessageRow(QWidget *parent) : OxaWidget(parent) { }
-
 void MessageRow::setMessage(const Message &message, const Person &author, const RowLook &look,
                             const QSize &size, PersonCards *cards,
                             std::unique_ptr<QTextDocument> *laidOut)
@@ -56,8 +54,7 @@ void MessageRow::showText(std::unique_ptr<QTextDocument> *laidOut)
 {
     if (!m_body)
         m_body = new MessageBody(this);
-    const char *set = m_look.isOwn ? "bubble-own-text" : "bubble-other-text";
-    const QColor color = OxaThemeUtils::getColorSet(set, this).normal;
+    const QColor color = Looks::color(m_look.isOwn ? "bubble-own-text" : "bubble-other-text");
     if (laidOut)
         m_body->swapText(laidOut, m_size.width(), color);
     else
@@ -146,14 +143,12 @@ void MessageRow::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     if (m_look.hasDay)
         paintLine(&painter, m_layout.day, TimeTexts::day(m_message.at.toLocalTime().date()),
-                  "text-secondary");
+                  "divider", "text-secondary");
     if (m_look.isFirstUnread)
-        paintLine(&painter, m_layout.unread, tr("New messages"), "unread-line");
+        paintLine(&painter, m_layout.unread, tr("New messages"), "unread-line", "unread-line");
     if (m_message.kind == Message::Kind::Text) {
-        painter.setPen(OxaThemeUtils::getColorSet("bubble-border", this).normal);
-        painter.setBrush(
-                OxaThemeUtils::getColorSet(m_look.isOwn ? "bubble-own" : "bubble-other", this)
-                        .normal);
+        painter.setPen(Looks::color("bubble-border"));
+        painter.setBrush(Looks::color(m_look.isOwn ? "bubble-own" : "bubble-other"));
         painter.setOpacity(m_message.state == Message::State::Waiting ? 0.6 : 1);
         painter.drawRoundedRect(QRectF(mirrored(m_layout.bubble)).adjusted(0.5, 0.5, -0.5, -0.5),
                                 bubbleRadius, bubbleRadius);
@@ -166,25 +161,24 @@ void MessageRow::paintEvent(QPaintEvent *)
         time = tr("Sending\u2026");
     QRect rest = m_layout.head;
     if (!m_look.isOwn)
-        rest.setLeft(rest.left() + qMin(rest.width() / 2, m_name->sizeHint().width()) + 8);
+        rest.setLeft(rest.left() + m_name->width() + 8);
     painter.setFont(OxaFont(OxaFont::Token::RadioButtonLabelSecondary));
-    painter.setPen(OxaThemeUtils::getColorSet("text-secondary", this).normal);
+    painter.setPen(Looks::color("text-secondary"));
     painter.drawText(mirrored(rest),
                      int(m_look.isOwn ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter, time);
 }
 
 void MessageRow::paintLine(QPainter *painter, const QRect &line, const QString &text,
-                           const char *colors) const
+                           const char *lineColor, const char *textColor) const
 {
-    const bool isQuiet = qstrcmp(colors, "text-secondary") == 0;
     painter->setFont(OxaFont(OxaFont::Token::BodyTertiary));
     const int textWidth = painter->fontMetrics().horizontalAdvance(text) + 24;
-    painter->setPen(OxaThemeUtils::getColorSet(isQuiet ? "divider" : colors, this).normal);
+    painter->setPen(Looks::color(lineColor));
     const int y = line.center().y();
     const int half = (line.width() - textWidth) / 2;
     painter->drawLine(line.left(), y, line.left() + half, y);
     painter->drawLine(line.right() - half, y, line.right(), y);
-    painter->setPen(OxaThemeUtils::getColorSet(colors, this).normal);
+    painter->setPen(Looks::color(textColor));
     painter->drawText(line, Qt::AlignCenter, text);
 }
 

@@ -23,7 +23,7 @@ class MessageRow : public OxaWidget
     Q_OBJECT
 
 public:
-    explicit MessageRow(QWidget *parent);
+    using OxaWidget::OxaWidget;
 
     /// Shows \a message by \a author, whose content has \a size. Takes its text from \a laidOut, if
     /// that is not null.
@@ -45,8 +45,8 @@ private:
     void showAuthor(const Person &author, PersonCards *cards);
     void showFailure();
     void place();
-    void paintLine(QPainter *painter, const QRect &line, const QString &text,
-                   const char *colors) const;
+    void paintLine(QPainter *painter, const QRect &line, const QString &text, const char *lineColor,
+                   const char *textColor) const;
     QRect mirrored(const QRect &rect) const;
 
     Message m_message;

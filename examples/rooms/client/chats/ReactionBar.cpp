@@ -18,8 +18,6 @@ QSize chipSize()
 
 } // namespace
 
-ReactionBar::ReactionBar(QWidget *parent) : OxaWidget(parent) { }
-
 QSize ReactionBar::room(int count, int width)
 {
     const QSize chip = chipSize();

@@ -11,7 +11,7 @@ class ReactionBar : public OxaWidget
     Q_OBJECT
 
 public:
-    explicit ReactionBar(QWidget *parent);
+    using OxaWidget::OxaWidget;
 
     /// The room that \a count reactions take where there is \a width.
     static QSize room(int count, int width);

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "RowHeights.h"
 
-#include <UiElements/theme/OxaThemeUtils.h>
+#include "shell/Looks.h"
 
 #include <QElapsedTimer>
-#include <QPainter>
 
 RowHeights::RowHeights(Measure measure, QObject *parent)
     : QStyledItemDelegate(parent), m_measure(std::move(measure))
@@ -91,13 +90,8 @@ void RowHeights::take()
 void RowHeights::paint(QPainter *painter, const QStyleOptionViewItem &option,
                        const QModelIndex &) const
 {
-    if (!(option.state & QStyle::State_HasFocus))
-        return;
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(OxaThemeUtils::getColorSet("focus", option.widget).normal, 2));
-    painter->drawRoundedRect(QRectF(option.rect).adjusted(3, 1, -3, -1), 6, 6);
-    painter->restore();
+    if (option.state & QStyle::State_HasFocus)
+        Looks::paintFocus(painter, option.rect.adjusted(2, 0, -2, 0));
 }
 
 QSize RowHeights::sizeHint(const QStyleOptionViewItem &, const QModelIndex &index) const

@@ -202,8 +202,8 @@ History *Backend::open(const QString &conversation)
 void Backend::resume(History *history)
 {
     const QString id = history->conversation();
-    const QModelIndex row = m_conversations->index(m_conversations->getRowIndex(id.toStdString()));
-    history->resume(m_totals.value(id), row.data(ConversationModel::UnreadRole).toInt());
+    history->resume(m_totals.value(id),
+                    m_conversations->find(id).data(ConversationModel::UnreadRole).toInt());
 }
 
 void Backend::send(const QString &conversation, Message::Kind kind, const QString &text)

@@ -19,7 +19,7 @@ QHash<int, QByteArray> ConversationModel::roleNames() const
 {
     return { { IdRole, "id" },           { TitleRole, "title" },           { PersonRole, "person" },
              { PreviewRole, "preview" }, { LastAuthorRole, "lastAuthor" }, { LastAtRole, "lastAt" },
-             { UnreadRole, "unread" },   { ActivityRole, "activity" } };
+             { UnreadRole, "unread" } };
 }
 
 QVariant ConversationModel::data(const QModelIndex &index, int role) const
@@ -31,16 +31,14 @@ QVariant ConversationModel::data(const QModelIndex &index, int role) const
 ModelRow ConversationModel::row(const QJsonObject &conversation)
 {
     const QString id = conversation[u"id"_s].toString();
-    const QDateTime at = timeOf(conversation[u"lastAt"_s]);
     return { id.toStdString(),
              { { IdRole, id },
                { TitleRole, conversation[u"title"_s].toString() },
                { PersonRole, conversation[u"person"_s].toString() },
                { PreviewRole, conversation[u"last"_s].toString().simplified() },
                { LastAuthorRole, conversation[u"lastAuthor"_s].toString() },
-               { LastAtRole, at },
-               { UnreadRole, conversation[u"unread"_s].toInt() },
-               { ActivityRole, at.toMSecsSinceEpoch() } } };
+               { LastAtRole, qint64(conversation[u"lastAt"_s].toDouble()) },
+               { UnreadRole, conversation[u"unread"_s].toInt() } } };
 }
 
 void ConversationModel::arrive(const QString &conversation, const Message &message, bool isUnread)
@@ -60,15 +58,13 @@ void ConversationModel::showArrivals()
         m_showing.stop();
     const QHash<QString, Arrival> arrivals = std::exchange(m_arrivals, {});
     for (auto arrival = arrivals.begin(); arrival != arrivals.end(); ++arrival) {
-        const std::string id = arrival.key().toStdString();
         const Message &last = arrival->last;
-        const int unread = data(index(getRowIndex(id)), UnreadRole).toInt() + arrival->unread;
-        setRoleValueForRow(id,
+        const int unread = find(arrival.key()).data(UnreadRole).toInt() + arrival->unread;
+        setRoleValueForRow(arrival.key().toStdString(),
                            { { PreviewRole, last.text.left(200).simplified() },
                              { LastAuthorRole, last.author },
-                             { LastAtRole, last.at },
-                             { UnreadRole, unread },
-                             { ActivityRole, last.at.toMSecsSinceEpoch() } });
+                             { LastAtRole, last.at.toMSecsSinceEpoch() },
+                             { UnreadRole, unread } });
     }
 }
 
@@ -76,9 +72,8 @@ bool ConversationModel::markRead(const QString &conversation)
 {
     const auto arrival = m_arrivals.find(conversation);
     const bool isArriving = arrival != m_arrivals.end() && std::exchange(arrival->unread, 0) > 0;
-    const std::string id = conversation.toStdString();
-    if (data(index(getRowIndex(id)), UnreadRole).toInt() == 0)
+    if (find(conversation).data(UnreadRole).toInt() == 0)
         return isArriving;
-    setRoleValueForRow(id, { { UnreadRole, 0 } });
+    setRoleValueForRow(conversation.toStdString(), { { UnreadRole, 0 } });
     return true;
 }

@@ -19,9 +19,8 @@ public:
         PersonRole,     ///< The id of the other person; empty if there are several.
         PreviewRole,    ///< The text of the last message, on one line.
         LastAuthorRole, ///< The id of its author.
-        LastAtRole,     ///< Its QDateTime.
+        LastAtRole,     ///< When that was, in milliseconds since 1970.
         UnreadRole,     ///< How many messages are unread.
-        ActivityRole,   ///< LastAtRole in milliseconds, for sorting.
     };
 
     explicit ConversationModel(QObject *parent = nullptr);
@@ -30,6 +29,9 @@ public:
 
     /// Shows the title in Qt's item views.
     QVariant data(const QModelIndex &index, int role) const override;
+
+    /// The index of the conversation \a id, which is not valid if there is none.
+    QModelIndex find(const QString &id) const { return index(getRowIndex(id.toStdString())); }
 
     /// The row of a conversation as the protocol has it.
     static ModelRow row(const QJsonObject &conversation);

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Avatar.h"
 
-#include "protocol/Literal.h"
+#include "shell/Looks.h"
 
 #include <UiElements/fonts/OxaFont.h>
-#include <UiElements/theme/OxaThemeUtils.h>
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -14,11 +13,6 @@
 
 namespace {
 
-QColor color(const std::string &name)
-{
-    return OxaThemeUtils::getColorSet(name, OxaThemeUtils::AppThemeType::Global).normal;
-}
-
 OxaFont::Token tokenFor(int size)
 {
     if (size <= 40)
@@ -27,10 +21,11 @@ OxaFont::Token tokenFor(int size)
 }
 
 /// Where the presence is on a picture of \a rect.
-QRectF presenceRect(const QRectF &rect, Qt::LayoutDirection direction)
+QRectF presenceRect(const QRectF &rect)
 {
     const double size = qBound(8.0, rect.width() * 0.3, 16.0);
-    const double left = direction == Qt::RightToLeft ? rect.left() - 1 : rect.right() + 1 - size;
+    const double left = QGuiApplication::isRightToLeft() ? rect.left() - 1
+                                                         : rect.right() + 1 - size;
     return { left, rect.bottom() + 1 - size, size, size };
 }
 
@@ -67,10 +62,7 @@ QPainterPath shape(Presence presence, const QRectF &rect)
 
 } // namespace
 
-Avatar::Avatar(int size, QWidget *parent) : OxaWidget(parent), m_size(size)
-{
-    setFixedSize(size, size);
-}
+Avatar::Avatar(int size, QWidget *parent) : OxaWidget(parent) { setFixedSize(size, size); }
 
 void Avatar::setPerson(const Person &person, bool isPresenceShown)
 {
@@ -79,36 +71,30 @@ void Avatar::setPerson(const Person &person, bool isPresenceShown)
     update();
 }
 
-void Avatar::paint(QPainter *painter, const QRect &rect, const QString &id, const QString &name,
-                   bool hasPresence)
+void Avatar::paint(QPainter *painter, const QRect &rect, const Person &person, bool isPresenceShown)
 {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
+    const QRectF corner = presenceRect(rect);
     QPainterPath picture = circle(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5));
-    if (hasPresence)
-        picture -= circle(
-                presenceRect(rect, QGuiApplication::layoutDirection()).adjusted(-2, -2, 2, 2));
-    painter->setPen(color("person-border"));
-    painter->setBrush(color("person-" + std::to_string(colorNumber(id))));
+    if (isPresenceShown)
+        picture -= circle(corner.adjusted(-2, -2, 2, 2));
+    painter->setPen(Looks::color("person-border"));
+    painter->setBrush(Looks::color("person-" + std::to_string(colorNumber(person.id))));
     painter->drawPath(picture);
 
     // The picture does not grow with the text.
     QFont font = OxaFont(tokenFor(rect.width()));
     font.setPixelSize(qMin(font.pixelSize(), rect.width() * 3 / 8));
     painter->setFont(font);
-    painter->setPen(color("person-text"));
-    painter->drawText(rect, Qt::AlignCenter, initials(name));
-    painter->restore();
-}
+    painter->setPen(Looks::color("person-text"));
+    painter->drawText(rect, Qt::AlignCenter, initials(person.name));
 
-void Avatar::paintPresence(QPainter *painter, const QRect &rect, Presence presence,
-                           Qt::LayoutDirection direction)
-{
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(color("presence-" + nameOf(presence).toStdString()));
-    painter->drawPath(shape(presence, presenceRect(rect, direction)));
+    if (isPresenceShown) {
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(Looks::color("presence-" + nameOf(person.presence).toStdString()));
+        painter->drawPath(shape(person.presence, corner));
+    }
     painter->restore();
 }
 
@@ -135,8 +121,5 @@ void Avatar::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const int margin = m_isPresenceShown ? 2 : 0;
-    const QRect picture = rect().adjusted(margin, margin, -margin, -margin);
-    paint(&painter, picture, m_person.id, m_person.name, m_isPresenceShown);
-    if (m_isPresenceShown)
-        paintPresence(&painter, picture, m_person.presence, layoutDirection());
+    paint(&painter, rect().adjusted(margin, margin, -margin, -margin), m_person, m_isPresenceShown);
 }

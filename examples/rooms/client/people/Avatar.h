@@ -21,15 +21,10 @@ public:
     /// Shows \a person; without presence if \a isPresenceShown is false.
     void setPerson(const Person &person, bool isPresenceShown = true);
 
-    /// Paints the picture of somebody called \a name into the square \a rect, for delegates. With
-    /// \a hasPresence it leaves room for that.
-    static void paint(QPainter *painter, const QRect &rect, const QString &id, const QString &name,
-                      bool hasPresence = false);
-
-    /// Paints \a presence at the lower trailing corner of the picture in \a rect, as large as fits
-    /// its size.
-    static void paintPresence(QPainter *painter, const QRect &rect, Presence presence,
-                              Qt::LayoutDirection direction);
+    /// Paints the picture of \a person into the square \a rect, for delegates, with their presence
+    /// at its lower trailing corner if \a isPresenceShown.
+    static void paint(QPainter *painter, const QRect &rect, const Person &person,
+                      bool isPresenceShown);
 
     /// The number of the colour set of \a id, "person-1" to "person-6".
     static int colorNumber(const QString &id);
@@ -37,13 +32,10 @@ public:
     /// The initials of \a name: of the first and the last word.
     static QString initials(const QString &name);
 
-    QSize sizeHint() const override { return { m_size, m_size }; }
-
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    const int m_size;
     Person m_person;
     bool m_isPresenceShown = false;
 };

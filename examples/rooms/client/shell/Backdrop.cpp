@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Backdrop.h"
 
-#include <UiElements/theme/OxaThemeUtils.h>
+#include "Looks.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -12,5 +12,5 @@ Backdrop::Backdrop(const std::string &colors, QWidget *parent) : OxaWidget(paren
 
 void Backdrop::paintEvent(QPaintEvent *event)
 {
-    QPainter(this).fillRect(event->rect(), OxaThemeUtils::getColorSet(m_colors, this).normal);
+    QPainter(this).fillRect(event->rect(), Looks::color(m_colors));
 }

@@ -12,9 +12,11 @@
 #include <UiElements/widgets/OxaMenu.h>
 #include <UiElements/widgets/OxaTextInput.h>
 #include <UiElements/widgets/OxaTextInputFactory.h>
+#include <UiElements/widgets/PopupWidget.h>
 #include <UiElements/widgets/UTContextMenuUtils.h>
 
 #include <QGuiApplication>
+#include <QPainter>
 #include <QVBoxLayout>
 
 namespace {
@@ -23,7 +25,36 @@ constexpr int buttonHeight = 32;
 
 const char *const buttonNames[] = { "accent", "outline", "quiet", "chosen", "danger" };
 
+WidgetData popupLooks(bool isAbove)
+{
+    return WidgetData(OxaThemeUtils::AppThemeType::Global)
+            .arrowPostion(isAbove ? WidgetData::ArrowPostion::Bottom
+                                  : WidgetData::ArrowPostion::Top)
+            .cornerRadius(WidgetData::PopupSize::Small)
+            .activateOnShow(true);
+}
+
+void deleteWhenHidden(PopupWidget *popup)
+{
+    QObject::connect(popup, &PopupWidget::widgetHidden, popup, &QObject::deleteLater);
+}
+
 } // namespace
+
+QColor Looks::color(const std::string &name)
+{
+    return OxaThemeUtils::getColorSet(name, OxaThemeUtils::AppThemeType::Global).normal;
+}
+
+void Looks::paintFocus(QPainter *painter, const QRectF &rect, int radius)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(color("focus"), 2));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRoundedRect(rect.adjusted(1, 1, -1, -1), radius, radius);
+    painter->restore();
+}
 
 QString Looks::buttonStyle(Button kind, int radius)
 {
@@ -123,6 +154,20 @@ OxaMenu *Looks::makeMenu(QWidget *parent)
     menu->setCSS(UTContextMenuUtils::getContextMenuStyleSheet()
                  + u"QMenu { border: 1px solid $(panel-border); }"_s);
     return menu;
+}
+
+void Looks::popUp(QPushButton *button, QWidget *content, bool isAbove)
+{
+    deleteWhenHidden(PopupWidget::createAndShow(button, content, popupLooks(isAbove)));
+}
+
+void Looks::popUp(QWidget *parent, const QRect &rect, QWidget *content)
+{
+    auto *popup = new PopupWidget(parent, popupLooks(true));
+    popup->registerWidget(content);
+    popup->showSmooth(rect);
+    content->setFocus();
+    deleteWhenHidden(popup);
 }
 
 AlertBanner *Looks::makeBanner(AlertBanner::AlertType type, const QString &text, QWidget *parent)

@@ -6,11 +6,18 @@
 
 #include <QString>
 
+#include <string>
+
 class OxaLabel;
 class OxaMenu;
 class OxaSvgPushButton;
 class OxaTextInput;
 class OxaTextInputFactory;
+class QColor;
+class QPainter;
+class QPushButton;
+class QRect;
+class QRectF;
 class QVBoxLayout;
 class QWidget;
 
@@ -20,6 +27,12 @@ namespace Looks {
 /// What a button is for: the one thing to do, one of several (with or without an outline), one that
 /// is switched on, and one that destroys or ends something.
 enum class Button { Accent, Outline, Quiet, Chosen, Danger };
+
+/// The colour of the set called \a name, for what is painted.
+QColor color(const std::string &name);
+
+/// Paints a frame just inside \a rect around what has the focus.
+void paintFocus(QPainter *painter, const QRectF &rect, int radius = 6);
 
 /// The style text of a button with rounded corners. A checked button changes its kind to
 /// Button::Chosen.
@@ -52,6 +65,13 @@ OxaTextInput *makeField(const QString &name, QWidget *parent);
 
 /// An empty menu.
 OxaMenu *makeMenu(QWidget *parent);
+
+/// Shows \a content in a popup above \a button, or below it; on the other side for want of room.
+/// The popup deletes itself once it is hidden.
+void popUp(QPushButton *button, QWidget *content, bool isAbove = true);
+
+/// Likewise beside \a rect, on the screen.
+void popUp(QWidget *parent, const QRect &rect, QWidget *content);
 
 /// A banner with \a text, which is rich.
 AlertBanner *makeBanner(AlertBanner::AlertType type, const QString &text, QWidget *parent);

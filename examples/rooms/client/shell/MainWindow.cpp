@@ -119,10 +119,6 @@ void MainWindow::connectAll()
     connect(m_backend, &Backend::failed, this,
             [this](const QString &reason) { Toast::show(reason, this); });
     connect(RoomsApplication::get(), &RoomsApplication::settingsChanged, this, &MainWindow::showMe);
-    connect(m_chats, &ChatsPage::callRequested, this, [this](const QString &id) {
-        const ConversationModel *model = m_backend->conversations();
-        m_calls->start(model->index(model->getRowIndex(id.toStdString())).data().toString());
-    });
     const auto openPerson = [this](const QString &person) {
         showPage(Chats);
         m_chats->openPerson(person);
@@ -134,6 +130,11 @@ void MainWindow::connectAll()
     connect(hub, &OxaAppSignals::selectMessagingTab, this, shows(Chats));
     connect(hub, &OxaAppSignals::selectCallingTab, this, shows(Calls));
     connect(hub, &OxaAppSignals::selectRillsTab, this, shows(Files));
+    connect(hub, &OxaAppSignals::startAudioCall, this, [this] {
+        const QModelIndex open = m_backend->conversations()->find(m_chats->conversation());
+        if (open.isValid())
+            m_calls->start(open.data().toString());
+    });
     connect(hub, &OxaAppSignals::zoomInMessageView, this, [this] { zoom(1); });
     connect(hub, &OxaAppSignals::zoomOutMessageView, this, [this] { zoom(-1); });
     connect(hub, &OxaAppSignals::openGlobalSearch, this, [this] {

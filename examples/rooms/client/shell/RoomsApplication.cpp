@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "RoomsApplication.h"
 
+#include "Looks.h"
 #include "QmlLooks.h"
+#include "chats/SlowMovies.h"
 #include "protocol/Literal.h"
 
 #include <UiElements/fonts/OxaFont.h>
@@ -16,7 +18,6 @@
 #include <QCheckBox>
 #include <QFontDatabase>
 #include <QLocale>
-#include <QPainter>
 #include <QProxyStyle>
 #include <QSlider>
 #include <QStyleOption>
@@ -55,12 +56,7 @@ public:
             QProxyStyle::drawPrimitive(element, option, painter, widget);
         } else if (qobject_cast<const QCheckBox *>(widget)
                    || qobject_cast<const QSlider *>(widget)) {
-            painter->save();
-            painter->setRenderHint(QPainter::Antialiasing);
-            painter->setBrush(Qt::NoBrush);
-            painter->setPen(QPen(OxaThemeUtils::getColorSet("focus", widget).normal, 2));
-            painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), 4, 4);
-            painter->restore();
+            Looks::paintFocus(painter, option->rect, 4);
         }
     }
 
@@ -83,7 +79,8 @@ OxaColorSetMap read(const char *name, const OxaColorPalette &palette)
 
 } // namespace
 
-RoomsApplication::RoomsApplication(int &argc, char **argv) : OxaApplication(argc, argv)
+RoomsApplication::RoomsApplication(int &argc, char **argv)
+    : OxaApplication(argc, argv), m_movies(new SlowMovies(this))
 {
     const OxaColorPalette palette = OxaThemeUtils::parseOxaColorsFromJson(
             u":/documents/palette.json"_s);
@@ -146,11 +143,6 @@ void RoomsApplication::registerMainWindowShortcuts(OxaMainWindow *window)
     OxaAppSignals *hub = OxaAppSignals::get();
     if (!hub->shortcutExists(OxaAppSignals::Shortcut::OpenGlobalSearch)) // A second window.
         hub->registerShortcuts(window, OxaShortcut::All);
-}
-
-IOxaMovieProviderSource *RoomsApplication::getMovieProviderSource()
-{
-    return m_movies ? m_movies : OxaApplication::getMovieProviderSource();
 }
 
 void RoomsApplication::showColors()

@@ -34,9 +34,7 @@ public:
     void registerMainWindowShortcuts(OxaMainWindow *window) override;
     void restart() override { }
 
-    /// The source of the client's movies; an application has one.
-    IOxaMovieProviderSource *getMovieProviderSource() override;
-    void setMovieProviderSource(IOxaMovieProviderSource *source) { m_movies = source; }
+    IOxaMovieProviderSource *getMovieProviderSource() override { return m_movies; }
 
 Q_SIGNALS:
     /// The settings changed, and all that widgets take from the library is shown.
@@ -52,6 +50,6 @@ private:
     OxaColorSetMap m_highContrast;
     bool m_isSystemDark = false;
     Qt::LayoutDirection m_systemDirection = Qt::LeftToRight;
-    IOxaMovieProviderSource *m_movies = nullptr;
+    IOxaMovieProviderSource *const m_movies;
     QPointer<OxaQmlEngine> m_engine;
 };

@@ -80,7 +80,7 @@ bool showConversation(MainWindow *window, const ConversationModel *model, bool i
     qint64 newest = 0;
     for (int row = 1; row < model->rowCount() && !isLong; ++row) {
         const QModelIndex index = model->index(row, 0);
-        const qint64 at = index.data(ConversationModel::ActivityRole).toLongLong();
+        const qint64 at = index.data(ConversationModel::LastAtRole).toLongLong();
         if (at <= newest || index.data(ConversationModel::UnreadRole).toInt() == 0)
             continue;
         newest = at;
