@@ -4,6 +4,8 @@
 #include "AccessibleTexts_p.h"
 #include "AccessibleWidget_p.h"
 
+#include <UiElements/emoji/OxaEmojiPushButton.h>
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -61,6 +63,8 @@ QString AccessibleWidget::name() const
 QString AccessibleWidget::description() const
 {
     QStringList parts { m_qts->text(QAccessible::Description) };
+    if (parts.first().isEmpty()) // Of a list Qt tells no tool tip.
+        parts.first() = widget()->toolTip();
     if (parts.first() == name())
         parts.clear();
     parts += AccessibleTexts::errorOf(*widget());
@@ -142,7 +146,8 @@ bool AccessibleWidget::isClickable() const
 {
     const auto *label = qobject_cast<QLabel *>(widget());
     return label && AccessibleRelations::isClickable(role())
-            && label->textInteractionFlags() != Qt::NoTextInteraction;
+            && (label->textInteractionFlags() != Qt::NoTextInteraction
+                || qobject_cast<const OxaEmojiPushButton *>(label));
 }
 
 void AccessibleWidget::doAction(const QString &name)
