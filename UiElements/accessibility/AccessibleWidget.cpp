@@ -111,7 +111,11 @@ QAccessibleInterface *AccessibleWidget::focusChild() const
                                       : QAccessibleWidget::focusChild();
 }
 
-QAccessibleInterface *AccessibleWidget::child(int index) const { return m_qts->child(index); }
+QAccessibleInterface *AccessibleWidget::child(int index) const
+{
+    // That of a scroll area takes any index.
+    return index >= 0 && index < childCount() ? m_qts->child(index) : nullptr;
+}
 
 QAccessibleInterface *AccessibleWidget::childAt(int x, int y) const { return m_qts->childAt(x, y); }
 

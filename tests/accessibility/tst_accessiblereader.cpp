@@ -115,6 +115,10 @@ private Q_SLOTS:
         QCOMPARE(dynamic_cast<AccessibleWidget *>(Told::of(widget.get())) != nullptr,
                  known->metaObject != &QWidget::staticMetaObject);
         readAll(*Told::of(widget.get()));
+        if (known->metaObject != &QWidget::staticMetaObject) {
+            QVERIFY(!Told::of(widget.get())->child(-1));
+            QVERIFY(!Told::of(widget.get())->child(Told::of(widget.get())->childCount()));
+        }
         window.show();
         widget->show();
         readAll(*Told::of(widget.get()));
