@@ -3,6 +3,8 @@
 #include "AccessibleClasses_p.h"
 #include "AccessibleRelations_p.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QPushButton>
 
 namespace {
@@ -12,6 +14,19 @@ QKeySequence keyOf(const QAbstractButton &button)
 {
     const auto *pushButton = qobject_cast<const QPushButton *>(&button);
     return pushButton && pushButton->isDefault() ? QKeySequence(Qt::Key_Enter) : button.shortcut();
+}
+
+/// Clicks \a button by key: it goes down at once, and up later. QAbstractButton::animateClick()
+/// would use a button that a slot of pressed() has deleted, and click one that was disabled
+/// meanwhile.
+void click(QAbstractButton *button)
+{
+    if (button->isCheckable() && (button->focusPolicy() & Qt::ClickFocus))
+        button->setFocus();
+    QCoreApplication::postEvent(button,
+                                new QKeyEvent(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier));
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+    QCoreApplication::sendEvent(button, &press);
 }
 
 } // namespace
@@ -59,7 +74,7 @@ void AccessibleButton::doAction(const QString &name)
     else if (pushButton && pushButton->menu())
         QMetaObject::invokeMethod(pushButton, &QPushButton::showMenu, Qt::QueuedConnection);
     else
-        button()->animateClick();
+        click(button());
 }
 
 QStringList AccessibleButton::keyBindingsForAction(const QString &name) const

@@ -54,6 +54,9 @@ QString textOf(const QWidget &widget)
     return (static_cast<const Widget &>(widget).*getter)();
 }
 
+constexpr AccessibleClass::Text messageOf =
+        textOf<ContainerWidget, &ContainerWidget::getAccessibleMessage>;
+
 /// An icon without a text is a picture.
 Role iconRole(const QWidget &label)
 {
@@ -116,9 +119,9 @@ constexpr AccessibleClass button(AccessibleClass::Text remark = nullptr)
 }
 
 template <typename Bar>
-constexpr AccessibleClass bar(Role role, Role memberRole)
+constexpr AccessibleClass bar(Role role, Role memberRole, AccessibleClass::Text name = nullptr)
 {
-    AccessibleClass bar = row<Bar>(role);
+    AccessibleClass bar = row<Bar>(role, name);
     bar.memberRole = memberRole;
     return bar;
 }
@@ -162,7 +165,7 @@ constexpr AccessibleClass classes[] = {
     button<OxaPushButton>(AccessibleTexts::badgeOf),
     button<OxaCheckBox>(),
     button<OxaRadioButton>(),
-    bar<OxaTabBar>(QAccessible::PageTabList, QAccessible::PageTab),
+    bar<OxaTabBar>(QAccessible::PageTabList, QAccessible::PageTab, messageOf),
     bar<OxaVMenu>(QAccessible::PopupMenu, QAccessible::MenuItem),
 
     // What is entered.
@@ -178,8 +181,7 @@ constexpr AccessibleClass classes[] = {
     // What has others in it.
     row<OxaWidget>(QAccessible::Pane),
     row<OxaFrame>(QAccessible::Pane),
-    row<ContainerWidget>(QAccessible::Grouping,
-                         textOf<ContainerWidget, &ContainerWidget::getAccessibleMessage>),
+    row<ContainerWidget>(QAccessible::Grouping, messageOf),
     row<OxaListView>(),
     row<OxaListWidget>(),
     row<OxaTreeView>(),

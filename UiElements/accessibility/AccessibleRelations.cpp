@@ -60,15 +60,13 @@ void add(Relations &relations, QWidget *other, QAccessible::Relation relation)
         relations += added;
 }
 
-/// Adds the captions of a field to the part that has its focus, and that part to them.
+/// Adds the captions of a field to it, as Qt does except for a list, and to the part that has its
+/// focus, and that part to them.
 void addParts(Relations &relations, const QWidget &widget)
 {
-    const QWidget *field = fieldOf(widget);
-    if (field != &widget) {
-        const QVector<QLabel *> labels = labelsOf(*field);
-        for (QLabel *label : labels)
-            add(relations, label, QAccessible::Label);
-    }
+    const QVector<QLabel *> labels = labelsOf(*fieldOf(widget));
+    for (QLabel *label : labels)
+        add(relations, label, QAccessible::Label);
     const auto *label = qobject_cast<const QLabel *>(&widget);
     if (label && label->buddy())
         add(relations, label->buddy()->focusProxy(), QAccessible::Labelled);

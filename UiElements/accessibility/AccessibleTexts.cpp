@@ -6,6 +6,7 @@
 #include <UiElements/emoji/OxaEmojiLabel.h>
 #include <UiElements/svg/OxaSvgPushButton.h>
 #include <UiElements/widgets/OxaTextInput.h>
+#include <UiElements/widgets/OxaUnderlineButton.h>
 #include <UiElements/widgets/PopupWidget.h>
 
 #include <QComboBox>
@@ -87,8 +88,10 @@ QString AccessibleTexts::ofPopup(const QWidget &popup)
 
 QString AccessibleTexts::badgeOf(const QWidget &button)
 {
-    const bool hasBadge = static_cast<const OxaPushButton &>(button).isBadgeVisible();
-    return hasBadge ? Translated::tr("Unread") : QString();
+    const auto *dotted = qobject_cast<const OxaUnderlineButton *>(&button);
+    const bool isUnread = static_cast<const OxaPushButton &>(button).isBadgeVisible()
+            || (dotted && dotted->getShowUnreadIndicator());
+    return isUnread ? Translated::tr("Unread") : QString();
 }
 
 QString AccessibleTexts::choiceOf(const QWidget &comboBox)

@@ -21,7 +21,7 @@ QString ofLabelsIn(const QWidget &container);
 /// Returns the header of a popup, or else the accessible name of its content.
 QString ofPopup(const QWidget &popup);
 
-/// Says that a button has a badge.
+/// Says that a button has a badge, or an unread dot.
 QString badgeOf(const QWidget &button);
 
 /// Returns what a combo box shows where that is not its name.

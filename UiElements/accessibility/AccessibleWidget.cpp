@@ -4,6 +4,8 @@
 #include "AccessibleTexts_p.h"
 #include "AccessibleWidget_p.h"
 
+#include <UiElements/emoji/OxaEmojiPushButton.h>
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -61,6 +63,8 @@ QString AccessibleWidget::name() const
 QString AccessibleWidget::description() const
 {
     QStringList parts { m_qts->text(QAccessible::Description) };
+    if (parts.first().isEmpty()) // Of a list Qt tells no tool tip.
+        parts.first() = widget()->toolTip();
     if (parts.first() == name())
         parts.clear();
     parts += AccessibleTexts::errorOf(*widget());
@@ -107,7 +111,11 @@ QAccessibleInterface *AccessibleWidget::focusChild() const
                                       : QAccessibleWidget::focusChild();
 }
 
-QAccessibleInterface *AccessibleWidget::child(int index) const { return m_qts->child(index); }
+QAccessibleInterface *AccessibleWidget::child(int index) const
+{
+    // That of a scroll area takes any index.
+    return index >= 0 && index < childCount() ? m_qts->child(index) : nullptr;
+}
 
 QAccessibleInterface *AccessibleWidget::childAt(int x, int y) const { return m_qts->childAt(x, y); }
 
@@ -142,7 +150,8 @@ bool AccessibleWidget::isClickable() const
 {
     const auto *label = qobject_cast<QLabel *>(widget());
     return label && AccessibleRelations::isClickable(role())
-            && label->textInteractionFlags() != Qt::NoTextInteraction;
+            && (label->textInteractionFlags() != Qt::NoTextInteraction
+                || qobject_cast<const OxaEmojiPushButton *>(label));
 }
 
 void AccessibleWidget::doAction(const QString &name)

@@ -4,6 +4,7 @@
 #include <UiElements/svg/DrawUtils.h>
 #include <UiElements/svg/OxaSvgIcon.h>
 #include <UiElements/theme/StateColor_p.h>
+#include <UiElements/widgets/WidgetParts_p.h>
 
 #include <QPainter>
 #include <QStyleOptionButton>
@@ -53,8 +54,11 @@ bool OxaUnderlineButton::getShowUnreadIndicator() const { return m_showUnreadInd
 
 void OxaUnderlineButton::setShowUnreadIndicator(bool show)
 {
+    const bool isChange = m_showUnreadIndicator != show;
     m_showUnreadIndicator = show;
     update();
+    if (isChange)
+        WidgetParts::tellAccessibility(this, QAccessible::DescriptionChanged);
 }
 
 QImage OxaUnderlineButton::getLeftIcon() const { return m_leftIcon; }

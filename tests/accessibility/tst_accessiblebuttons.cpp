@@ -8,6 +8,7 @@
 
 #include <QAccessibleWidget>
 #include <QMenu>
+#include <QSignalSpy>
 
 namespace {
 
@@ -48,6 +49,8 @@ private Q_SLOTS:
     void tellsItsStatesAndItsKey();
     void doesNothingButItsActions();
     void togglesLikeAClick();
+    void survivesASlotThatDeletesIt();
+    void isNotClickedOnceASlotHasDisabledIt();
     void showsItsMenu();
     void asksFactoriesOfTheApplicationFirst();
     void leavesAllOfItToQt();
@@ -147,6 +150,30 @@ void tst_AccessibleButtons::togglesLikeAClick()
     Told::of(&button)->actionInterface()->doAction(toggle);
     QTRY_VERIFY(button.isChecked());
     QCOMPARE(log.take(), QStringLiteral("toggled | clicked"));
+}
+
+void tst_AccessibleButtons::survivesASlotThatDeletesIt()
+{
+    QPointer<OxaPushButton> button = new OxaPushButton;
+    connect(button, &QPushButton::pressed, this, [button] { delete button; });
+    Told::of(button)->actionInterface()->doAction(press);
+    QVERIFY(!button);
+}
+
+void tst_AccessibleButtons::isNotClickedOnceASlotHasDisabledIt()
+{
+    OxaPushButton button;
+    SignalLog log;
+    log.record(&button, &QPushButton::pressed, QStringLiteral("pressed"));
+    log.record(&button, &QPushButton::released, QStringLiteral("released"));
+    log.record(&button, &QPushButton::clicked, QStringLiteral("clicked"));
+    connect(&button, &QPushButton::pressed, &button, [&button] { button.setEnabled(false); });
+    Told::of(&button)->actionInterface()->doAction(press);
+    OxaPushButton later;
+    QSignalSpy clicks(&later, &QPushButton::clicked);
+    later.animateClick(); // Takes as long as a click may.
+    QVERIFY(clicks.wait(20'000));
+    QCOMPARE(log.take(), QStringLiteral("pressed | released"));
 }
 
 void tst_AccessibleButtons::showsItsMenu()

@@ -122,6 +122,13 @@ const Row rows[] = {
           return makeLabel<OxaEmojiPushButton>(parent, QStringLiteral("text"));
       },
       "Button text", "", "read-only", "Press" },
+    { "an emoji button without text interaction, which can still be clicked",
+      [](QWidget *parent) -> QWidget * {
+          auto *button = makeLabel<OxaEmojiPushButton>(parent, QStringLiteral("text"));
+          button->setTextInteractionFlags(Qt::NoTextInteraction);
+          return button;
+      },
+      "Button text", "", "read-only", "Press" },
     { "an icon",
       [](QWidget *parent) -> QWidget * {
           auto *label = new OxaSvgLabel(parent);
@@ -210,6 +217,13 @@ const Row rows[] = {
     { "an underlined button",
       [](QWidget *parent) -> QWidget * { return makeButton<OxaUnderlineButton>(parent, "a"); },
       "Button a", "", "focusable", "Press SetFocus" },
+    { "an underlined button with an unread dot",
+      [](QWidget *parent) -> QWidget * {
+          auto *button = makeButton<OxaUnderlineButton>(parent, "a");
+          button->setShowUnreadIndicator(true);
+          return button;
+      },
+      "Button a", "Unread", "focusable", "Press SetFocus" },
     { "a button with an animated image",
       [](QWidget *parent) -> QWidget * {
           auto *button = makeGifButton(parent).release();
@@ -231,6 +245,13 @@ const Row rows[] = {
       [](QWidget *parent) -> QWidget * { return makeButton<OxaRadioButton>(parent, "a", true); },
       "RadioButton a", "", "focusable checkable checked", "Toggle SetFocus" },
     { "a tab bar", make<OxaTabBar>, "PageTabList", "", "focusable", "SetFocus" },
+    { "a tab bar with a message",
+      [](QWidget *parent) -> QWidget * {
+          auto *bar = new OxaTabBar(parent);
+          bar->setAccessibleMessage(QStringLiteral("message"));
+          return bar;
+      },
+      "PageTabList message", "", "focusable", "SetFocus" },
     { "a menu of buttons", make<OxaVMenu>, "PopupMenu", "", "focusable", "SetFocus" },
 
     // What is entered.
@@ -291,6 +312,13 @@ const Row rows[] = {
       },
       "Grouping message", "", "", "" },
     { "a list", makeView<OxaListView>, "List tip", "", "focusable", "SetFocus" },
+    { "a list with a name and a tool tip",
+      [](QWidget *parent) -> QWidget * {
+          QWidget *list = makeView<OxaListView>(parent);
+          list->setAccessibleName(QStringLiteral("name"));
+          return list;
+      },
+      "List name", "tip", "focusable", "SetFocus" },
     { "a tree", makeView<OxaTreeView>, "Tree tip", "", "focusable", "SetFocus" },
     { "a list of widgets", make<OxaListWidget>, "List", "", "focusable", "SetFocus" },
     { "a splitter", make<OxaSplitter>, "Splitter", "", "", "" },

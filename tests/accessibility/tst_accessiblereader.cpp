@@ -100,7 +100,11 @@ private Q_SLOTS:
     void asksForAnything()
     {
         FETCH_THEMED_CLASS;
-        const StoreGuard stores(storeWith("#ff0000"));
+        OxaColorSetMap store = storeWith("#ff0000");
+        // Of the pill, which is toggled.
+        const auto checked = QStringLiteral("oxa-contentTabViewButtonChecked-text");
+        store.emplace(checked.toStdString(), ColorSets::make(checked, { "#ff0000" }));
+        const StoreGuard stores(store);
         const Told::Events events;
         QWidget window;
         QVBoxLayout layout(&window);
@@ -111,6 +115,10 @@ private Q_SLOTS:
         QCOMPARE(dynamic_cast<AccessibleWidget *>(Told::of(widget.get())) != nullptr,
                  known->metaObject != &QWidget::staticMetaObject);
         readAll(*Told::of(widget.get()));
+        if (known->metaObject != &QWidget::staticMetaObject) {
+            QVERIFY(!Told::of(widget.get())->child(-1));
+            QVERIFY(!Told::of(widget.get())->child(Told::of(widget.get())->childCount()));
+        }
         window.show();
         widget->show();
         readAll(*Told::of(widget.get()));

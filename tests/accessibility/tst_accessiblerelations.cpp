@@ -64,6 +64,7 @@ private Q_SLOTS:
     void initTestCase();
     void cleanupTestCase();
     void tellsTheCaptionOfAField();
+    void tellsTheCaptionOfAList();
     void tellsTheErrorOfAField();
     void tellsThatThereIsAnErrorWithoutAMessage();
     void tellsTheErrorOfAnyWidget();
@@ -90,6 +91,18 @@ void tst_AccessibleRelations::tellsTheCaptionOfAField()
     QCOMPARE(relationsOf(form.caption, labels),
              QStringLiteral("is the label of Grouping Mail | "
                             "is the label of EditableText Text input field"));
+}
+
+void tst_AccessibleRelations::tellsTheCaptionOfAList()
+{
+    QWidget window;
+    OxaListView list(&window);
+    OxaLabel caption(QStringLiteral("People"), &window);
+    caption.setBuddy(&list);
+    QCOMPARE(relationsOf(list), QStringLiteral("has the label StaticText People"));
+    QCOMPARE(relationsOf(caption), QStringLiteral("is the label of List"));
+    caption.setAccessibleRole(QAccessible::AlertMessage);
+    QCOMPARE(relationsOf(list), QStringLiteral("controls AlertMessage People"));
 }
 
 void tst_AccessibleRelations::tellsTheErrorOfAField()

@@ -189,6 +189,12 @@ void tst_AccessibleStories::tellsOfABadgeOnce()
     QCOMPARE(events.take(), QStringLiteral("DescriptionChanged mail"));
     button.setBadgeVisible(true);
     QCOMPARE(events.take(), QString());
+    OxaUnderlineButton tab;
+    tab.setText(QStringLiteral("chats"));
+    events.take();
+    tab.setShowUnreadIndicator(true);
+    tab.setShowUnreadIndicator(true);
+    QCOMPARE(events.take(), QStringLiteral("DescriptionChanged chats"));
 }
 
 void tst_AccessibleStories::movesASlider()
