@@ -162,6 +162,19 @@ inline bool click(const QQuickItem *item)
 inline QAbstractItemView *list() { return waitFor<QAbstractItemView>("Conversations"); }
 inline QListWidget *messages() { return waitFor<QListWidget>("Messages"); }
 inline QTextEdit *field() { return waitFor<QTextEdit>("Write to *"); }
+
+/// A widget in the messages that the user can point at; null if there is none.
+template <typename Widget>
+Widget *inMessages()
+{
+    const QList<Widget *> all = messages()->viewport()->findChildren<Widget *>();
+    for (Widget *widget : all) {
+        if (widget->visibleRegion().contains(widget->rect().center()))
+            return widget;
+    }
+    return nullptr;
+}
+
 inline QModelIndex row(int number) { return list()->model()->index(number, 0); }
 
 /// The row of the conversation \a title.
