@@ -15,6 +15,8 @@
 #include "support/TestMain.h"
 #include "support/Windows.h"
 
+#include <UiElements/widgets/OxaLabel.h>
+
 #include <QClipboard>
 #include <QComboBox>
 #include <QDesktopServices>
@@ -44,13 +46,15 @@ void passMessage(QtMsgType type, const QMessageLogContext &context, const QStrin
 
 Settings settings() { return RoomsApplication::get()->settings(); }
 
-/// Points at \a anchor, which opens a card, and then at nothing, which closes it.
-bool showsACard(QWidget *anchor)
+/// Points at \a place in \a anchor, which opens a card, and then at nothing, which closes it.
+bool showsACard(const QWidget *anchor, const QPoint &place)
 {
     const auto isClosed = [] { return !shownQuickButton("Profile"); };
-    return pointAt(anchor) && quickButton("Profile") && RealInput::parkPointer()
+    return RealInput::moveTo(*anchor, place) && quickButton("Profile") && RealInput::parkPointer()
             && QTest::qWaitFor(isClosed, longMs);
 }
+
+bool showsACard(const QWidget *anchor) { return showsACard(anchor, anchor->rect().center()); }
 
 /// The first conversation of those without unread messages, which come before it.
 QModelIndex firstRead()
@@ -208,6 +212,9 @@ private Q_SLOTS:
         AWAIT_EQUAL(field()->toPlainText(),
                     QStringLiteral("> Ada Jensen: https://rooms.example/a\n"));
         QVERIFY(press("ctrl+a BackSpace"));
+        QVERIFY(clickRow(messages(), last, 3) && clickAction("React") && clickAction("Others"));
+        QVERIFY(clickRow(waitFor<QAbstractItemView>("Emoji"), 1));
+        AWAIT_EQUAL(requests("react").size(), 3);
     }
 
     void showsWhoSomebodyIs()
@@ -216,6 +223,9 @@ private Q_SLOTS:
         const auto *header = m_window->findChild<QWidget *>(QStringLiteral("conversationHeader"));
         QVERIFY(showsACard(header->findChild<Avatar *>()));
         QVERIFY(showsACard(header->findChild<QLabel *>()));
+        const QRect place = list()->visualRect(list()->currentIndex());
+        QVERIFY(showsACard(list()->viewport(), place.center() - QPoint(place.width() / 2 - 32, 0)));
+        QVERIFY(showsACard(list()->viewport(), place.center() - QPoint(place.width() / 2 - 80, 8)));
         QVERIFY(open("Sailing 2"));
         AWAIT(inMessages<Avatar>());
         auto *avatar = inMessages<Avatar>();
@@ -378,7 +388,7 @@ private Q_SLOTS:
         QVERIFY(waitFor<QLabel>("* has joined") && waitFor<QLabel>("0:0[1-9]"));
         AWAIT(shown<QProgressBar>("How loud*")->value() > 0);
         QVERIFY(QTest::qWaitFor([&] { return isFading("* has joined"); }, longMs));
-        QVERIFY(showsACard(me->findChild<Avatar *>()));
+        QVERIFY(showsACard(me->avatar()) && showsACard(me->name()));
         AWAIT(window->isActiveWindow());
         QVERIFY(press("ctrl+m") && waitFor<QAbstractButton>("Unmute"));
         AWAIT(me->findChildren<QWidget *>().at(2)->isVisible());

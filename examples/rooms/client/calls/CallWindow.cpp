@@ -163,6 +163,7 @@ void CallWindow::add(const QString &id)
     const Person person = m_backend->person(id);
     auto *tile = new ParticipantTile(person, m_stage);
     m_cards->watch(tile->avatar(), id);
+    m_cards->watch(tile->name(), id);
     m_tiles.insert(id, tile);
     m_waiting->hide();
     m_stage->layout()->addWidget(tile);

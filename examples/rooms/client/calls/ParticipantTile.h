@@ -20,6 +20,7 @@ public:
     explicit ParticipantTile(const Person &person, QWidget *parent = nullptr);
 
     Avatar *avatar() const { return m_avatar; }
+    OxaLabel *name() const { return m_name; }
 
     /// Shows a level of 0 to 100.
     void setLevel(int level);

@@ -13,7 +13,7 @@
 ChatsPage::ChatsPage(Backend *backend, PersonCards *cards, QWidget *parent)
     : OxaSplitter(parent),
       m_backend(backend),
-      m_list(new ConversationList(backend)),
+      m_list(new ConversationList(backend, cards)),
       m_view(new ConversationView(backend, cards, nullptr))
 {
     addWidget(m_list);

@@ -64,17 +64,41 @@ void ConversationDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setLayoutDirection(option.direction);
     paintGround(painter, option);
-    const QRect inside = option.rect.adjusted(rowMargin + margin, margin, -rowMargin - margin,
-                                              -margin);
-    QRect avatar(inside.topLeft(), QSize(avatarSize, avatarSize));
-    avatar.moveTop(inside.center().y() - avatarSize / 2);
+    const Parts parts = partsOf(option);
     const QString person = index.data(Role::PersonRole).toString();
     const QString id = person.isEmpty() ? index.data(Role::IdRole).toString() : person;
     const QString title = index.data(Role::TitleRole).toString();
-    Avatar::paint(painter, mirrored(option, avatar),
+    Avatar::paint(painter, mirrored(option, parts.picture),
                   { id, title, {}, {}, m_backend->person(person).presence }, !person.isEmpty());
-    paintTexts(painter, inside.adjusted(avatarSize + 12, 0, 0, 0), option, index);
+    paintTexts(painter, parts, option, index);
     painter->restore();
+}
+
+QRect ConversationDelegate::personAt(const QPoint &position,
+                                     const QStyleOptionViewItem &option) const
+{
+    const Parts parts = partsOf(option);
+    for (const QRect &part : { parts.picture, parts.upper }) {
+        const QRect place = mirrored(option, part);
+        if (place.contains(position))
+            return place;
+    }
+    return {};
+}
+
+ConversationDelegate::Parts ConversationDelegate::partsOf(const QStyleOptionViewItem &option) const
+{
+    const QRect inside = option.rect.adjusted(rowMargin + margin, margin, -rowMargin - margin,
+                                              -margin);
+    QRect picture(inside.topLeft(), QSize(avatarSize, avatarSize));
+    picture.moveTop(inside.center().y() - avatarSize / 2);
+    const int left = picture.right() + 13;
+    const int upperHeight = QFontMetrics(m_unreadFont).height();
+    const int lowerHeight = QFontMetrics(m_textFont).height();
+    QRect upper(left, 0, inside.right() + 1 - left, upperHeight);
+    upper.moveTop(inside.center().y()
+                  - (upperHeight + (m_isPreviewShown ? lowerHeight + 2 : 0)) / 2);
+    return { picture, upper, QRect(left, upper.bottom() + 3, upper.width(), lowerHeight) };
 }
 
 void ConversationDelegate::paintGround(QPainter *painter, const QStyleOptionViewItem &option) const
@@ -87,17 +111,14 @@ void ConversationDelegate::paintGround(QPainter *painter, const QStyleOptionView
         Looks::paintFocus(painter, ground);
 }
 
-void ConversationDelegate::paintTexts(QPainter *painter, const QRect &rect,
+void ConversationDelegate::paintTexts(QPainter *painter, Parts parts,
                                       const QStyleOptionViewItem &option,
                                       const QModelIndex &index) const
 {
     const int unread = index.data(Role::UnreadRole).toInt();
     const QFont &titleFont = unread > 0 ? m_unreadFont : m_titleFont;
-    const int titleHeight = QFontMetrics(m_unreadFont).height();
-    const int textHeight = QFontMetrics(m_textFont).height();
-    QRect upper(rect.left(), 0, rect.width(), titleHeight);
-    upper.moveTop(rect.center().y() - (titleHeight + (m_isPreviewShown ? textHeight + 2 : 0)) / 2);
-    QRect lower(rect.left(), upper.bottom() + 3, rect.width(), textHeight);
+    QRect &upper = parts.upper;
+    QRect &lower = parts.lower;
 
     const qint64 at = index.data(Role::LastAtRole).toLongLong();
     const QString time = TimeTexts::brief(QDateTime::fromMSecsSinceEpoch(at));

@@ -21,9 +21,21 @@ public:
                const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
+    /// Where the picture or the name is that \a position is in; empty if it is in neither.
+    QRect personAt(const QPoint &position, const QStyleOptionViewItem &option) const;
+
 private:
+    /// Where the parts of a row are, from left to right.
+    struct Parts
+    {
+        QRect picture;
+        QRect upper; ///< The line of the name.
+        QRect lower; ///< The line of the last message.
+    };
+
+    Parts partsOf(const QStyleOptionViewItem &option) const;
     void paintGround(QPainter *painter, const QStyleOptionViewItem &option) const;
-    void paintTexts(QPainter *painter, const QRect &rect, const QStyleOptionViewItem &option,
+    void paintTexts(QPainter *painter, Parts parts, const QStyleOptionViewItem &option,
                     const QModelIndex &index) const;
     int paintBadge(QPainter *painter, const QRect &line, int count) const;
     QString preview(const QModelIndex &index) const;

@@ -6,6 +6,7 @@
 #include "FileDrop.h"
 #include "data/Backend.h"
 #include "data/ConversationModel.h"
+#include "people/PersonCards.h"
 #include "shell/Looks.h"
 #include "shell/RoomsApplication.h"
 
@@ -17,7 +18,10 @@
 #include <UiElements/widgets/OxaListView.h>
 #include <UiElements/widgets/OxaTextInput.h>
 
+#include <QMouseEvent>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using Role = ConversationModel::Role;
 
@@ -27,9 +31,10 @@ constexpr int chooseMs = 120; ///< Arrow keys that are held down open only the l
 
 } // namespace
 
-ConversationList::ConversationList(Backend *backend, QWidget *parent)
+ConversationList::ConversationList(Backend *backend, PersonCards *cards, QWidget *parent)
     : Backdrop("sidebar", parent),
       m_backend(backend),
+      m_cards(cards),
       m_proxy(new ConversationProxy(this)),
       m_delegate(new ConversationDelegate(backend, this))
 {
@@ -101,6 +106,7 @@ void ConversationList::makeList()
     m_list->setUniformItemSizes(true);
     m_list->setMouseTracking(true);
     m_list->viewport()->setAttribute(Qt::WA_Hover);
+    m_list->viewport()->installEventFilter(this);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
@@ -172,4 +178,24 @@ void ConversationList::refresh()
 {
     m_delegate->refresh();
     m_list->doItemsLayout();
+}
+
+bool ConversationList::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseMove)
+        pointAt(static_cast<const QMouseEvent *>(event)->pos());
+    return Backdrop::eventFilter(watched, event);
+}
+
+/// Shows the card of a person as soon as the pointer rests on the picture or the name.
+void ConversationList::pointAt(const QPoint &position)
+{
+    const QModelIndex index = m_list->indexAt(position);
+    const QString person = index.data(Role::PersonRole).toString();
+    QStyleOptionViewItem row;
+    row.rect = m_list->visualRect(index);
+    row.direction = layoutDirection();
+    const QRect place = person.isEmpty() ? QRect() : m_delegate->personAt(position, row);
+    if (std::exchange(m_pointedAt, place) != place && place.isValid())
+        m_cards->showCard(m_list->viewport(), place, person);
 }

@@ -7,6 +7,8 @@
 #include <QMap>
 #include <QTimer>
 
+#include <functional>
+
 class Backend;
 class Composer;
 class ConversationHeader;
@@ -42,6 +44,7 @@ private:
     void showTyping();
     void openMenu(const Message &message, const QPoint &position);
     OxaMenu *makeReactions(QWidget *parent, int seq, const QPoint &position);
+    void pickEmoji(const QPoint &position, const std::function<void(const QString &)> &use);
     void addLinks(OxaMenu *menu, const QString &text);
 
     Backend *const m_backend;

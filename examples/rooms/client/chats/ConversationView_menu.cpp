@@ -69,14 +69,27 @@ OxaMenu *ConversationView::makeReactions(QWidget *parent, int seq, const QPoint 
         connect(menu->addAction(text), &QAction::triggered, this,
                 [react, text] { react(text.section(u' ', 0, 0)); });
     connect(menu->addAction(tr("Others\u2026")), &QAction::triggered, this,
-            [this, react, position] {
-                auto *picker = new EmojiPicker;
-                Looks::popUp(this, QRect(position, QSize(1, 1)), picker);
-                connect(picker, &EmojiPicker::picked, this, react);
-                connect(picker, &EmojiPicker::picked, picker,
-                        [picker] { picker->window()->hide(); });
-            });
+            [this, react, position] { pickEmoji(position, react); });
     return menu;
+}
+
+/// Calls \a use with an emoji that the user picks from a popup, which opens once the menus have
+/// given the activation back: a popup hides as its parent is activated.
+void ConversationView::pickEmoji(const QPoint &position,
+                                 const std::function<void(const QString &)> &use)
+{
+    auto *opening = new QObject(this);
+    const auto open = [this, opening, position, use](const QWindow *active) {
+        if (active != window()->windowHandle())
+            return;
+        delete opening;
+        auto *picker = new EmojiPicker;
+        Looks::popUp(this, QRect(position, QSize(1, 1)), picker);
+        connect(picker, &EmojiPicker::picked, this, use);
+        connect(picker, &EmojiPicker::picked, picker, [picker] { picker->window()->hide(); });
+    };
+    connect(qApp, &QGuiApplication::focusWindowChanged, opening, open, Qt::QueuedConnection);
+    open(QGuiApplication::focusWindow());
 }
 
 void ConversationView::addLinks(OxaMenu *menu, const QString &text)

@@ -101,21 +101,23 @@ void PersonCards::showProfile(const QString &person, QWidget *window)
 
 bool PersonCards::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Enter && m_people.contains(watched))
-        showCard(qobject_cast<QWidget *>(watched), m_people.value(watched));
+    if (event->type() == QEvent::Enter && m_people.contains(watched)) {
+        auto *anchor = qobject_cast<QWidget *>(watched);
+        showCard(anchor, anchor->rect(), m_people.value(watched));
+    }
     return QObject::eventFilter(watched, event);
 }
 
-void PersonCards::showCard(QWidget *anchor, const QString &person)
+void PersonCards::showCard(QWidget *widget, const QRect &place, const QString &person)
 {
-    m_window = anchor->window();
+    m_window = widget->window();
     const auto fill = [this, person](OxaQmlController *controller) {
         auto *card = qobject_cast<OxaQmlPopupController *>(controller);
         card->setModel(toQml(m_backend->person(person)));
     };
     m_popups.createQmlPopup(cardSource, m_window->windowHandle(), OxaQmlBalloon::Top, {}, fill);
-    const QRectF place(anchor->mapToGlobal(QPoint()), QSizeF(anchor->size()));
-    m_popups.showQmlPopup(cardSource, place, true, OxaQmlBalloon::Top, fill);
+    const QRectF onScreen(widget->mapToGlobal(place.topLeft()), place.size());
+    m_popups.showQmlPopup(cardSource, onScreen, true, OxaQmlBalloon::Top, fill);
 }
 
 void PersonCards::closeAll()

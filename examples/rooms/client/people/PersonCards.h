@@ -31,6 +31,9 @@ public:
     /// time. Another call for the same anchor replaces the person; an empty one ends it.
     void watch(QWidget *anchor, const QString &person);
 
+    /// Shows the card of \a person when the pointer rests on \a place in \a widget.
+    void showCard(QWidget *widget, const QRect &place, const QString &person);
+
     /// Opens the profile of \a person above \a window.
     void showProfile(const QString &person, QWidget *window);
 
@@ -46,7 +49,6 @@ Q_SIGNALS:
 
 private:
     static QVariantMap nobody();
-    void showCard(QWidget *anchor, const QString &person);
     void closeAll();
 
     Backend *const m_backend;
