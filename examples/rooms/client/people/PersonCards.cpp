@@ -53,7 +53,7 @@ PersonCards::PersonCards(Backend *backend, QObject *parent) : QObject(parent), m
             Qt::QueuedConnection);
     connect(this, &PersonCards::profileClosed, this, &PersonCards::closeAll, Qt::QueuedConnection);
     const auto showChosen = [this](const QString &person) {
-        m_popups.closeAllOxaQuickViews();
+        closeCard();
         if (m_window)
             showProfile(person, m_window);
     };
@@ -122,6 +122,6 @@ void PersonCards::showCard(QWidget *widget, const QRect &place, const QString &p
 
 void PersonCards::closeAll()
 {
-    m_popups.closeAllOxaQuickViews();
+    closeCard();
     m_dialogs.closeAllOxaQuickViews();
 }

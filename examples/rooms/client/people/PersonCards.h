@@ -34,6 +34,9 @@ public:
     /// Shows the card of \a person when the pointer rests on \a place in \a widget.
     void showCard(QWidget *widget, const QRect &place, const QString &person);
 
+    /// Closes the card, or lets none open that was to come.
+    void closeCard() { m_popups.closeAllOxaQuickViews(); }
+
     /// Opens the profile of \a person above \a window.
     void showProfile(const QString &person, QWidget *window);
 
