@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "AccessibleButton_p.h"
 #include "AccessibleClasses_p.h"
+#include "AccessibleLineEdit_p.h"
 #include "AccessibleQuick_p.h"
 #include "AccessibleTexts_p.h"
 #include "AccessibleWidget_p.h"
@@ -118,6 +119,14 @@ constexpr AccessibleClass button(AccessibleClass::Text remark = nullptr)
     return button;
 }
 
+constexpr AccessibleClass lineEdit()
+{
+    AccessibleClass edit = row<OxaLineEdit>(QAccessible::NoRole, nullptr,
+                                            AccessibleTexts::counterOf);
+    edit.make = make<AccessibleLineEdit>;
+    return edit;
+}
+
 template <typename Bar>
 constexpr AccessibleClass bar(Role role, Role memberRole, AccessibleClass::Text name = nullptr)
 {
@@ -170,7 +179,7 @@ constexpr AccessibleClass classes[] = {
 
     // What is entered.
     row<OxaTextInput>(QAccessible::Grouping),
-    row<OxaLineEdit>(QAccessible::NoRole, nullptr, AccessibleTexts::counterOf),
+    lineEdit(),
     row<OxaTextEdit>(QAccessible::NoRole, nullptr,
                      textOf<OxaTextEdit, &QTextEdit::placeholderText>),
     row<OxaComboBox>(QAccessible::NoRole, nullptr, AccessibleTexts::choiceOf),

@@ -406,6 +406,7 @@ private Q_SLOTS:
     void tellsARoleThatIsNoFiller_data();
     void tellsARoleThatIsNoFiller();
     void tellsWhatQtKnows();
+    void findsTheWordAtTheEndOfALine();
     void isDeletedWithItsWidget();
     void translatesItsOwnTexts();
 
@@ -492,6 +493,29 @@ void tst_AccessibleClasses::tellsWhatQtKnows()
     QCOMPARE(Told::of(list.get())->tableInterface()->rowCount(), 2);
     OxaComboBox box;
     QCOMPARE(Told::children(Told::of(&box)), QStringLiteral("List"));
+}
+
+void tst_AccessibleClasses::findsTheWordAtTheEndOfALine()
+{
+    OxaLineEdit edit;
+    edit.setText(QStringLiteral("one two"));
+    const auto wordAt = [&edit](int offset) {
+        int start = 0;
+        int end = 0;
+        const QString word =
+                Told::of(&edit)->textInterface()->textAtOffset(offset, QAccessible::WordBoundary,
+                                                               &start, &end);
+        return QStringLiteral("%1 %2-%3").arg(word).arg(start).arg(end);
+    };
+    for (const int end : { 7, -1, -2 }) // The caret, -2, is there.
+        QCOMPARE(wordAt(end), QStringLiteral("two 4-7"));
+    QCOMPARE(wordAt(5), QStringLiteral("two 4-7"));
+    QCOMPARE(wordAt(0), QStringLiteral("one 0-3"));
+    edit.clear();
+    QCOMPARE(wordAt(0), QStringLiteral(" -1--1"));
+    edit.setText(QStringLiteral("secret"));
+    edit.setEchoMode(QLineEdit::Password);
+    QCOMPARE(wordAt(6), QStringLiteral(" -1--1"));
 }
 
 void tst_AccessibleClasses::isDeletedWithItsWidget()
