@@ -1,75 +1,66 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "AccessibleLineEdit_p.h"
 
-void *AccessibleLineEdit::interface_cast(QAccessible::InterfaceType type)
+void LineText::selection(int index, int *start, int *end) const
 {
-    return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface *>(this)
-                                              : AccessibleWidget::interface_cast(type);
+    m_qts->selection(index, start, end);
 }
 
-void AccessibleLineEdit::selection(int index, int *start, int *end) const
+int LineText::selectionCount() const { return m_qts->selectionCount(); }
+
+void LineText::addSelection(int start, int end) { m_qts->addSelection(start, end); }
+
+void LineText::removeSelection(int index) { m_qts->removeSelection(index); }
+
+void LineText::setSelection(int index, int start, int end)
 {
-    qtsText()->selection(index, start, end);
+    m_qts->setSelection(index, start, end);
 }
 
-int AccessibleLineEdit::selectionCount() const { return qtsText()->selectionCount(); }
+int LineText::cursorPosition() const { return m_qts->cursorPosition(); }
 
-void AccessibleLineEdit::addSelection(int start, int end) { qtsText()->addSelection(start, end); }
+void LineText::setCursorPosition(int position) { m_qts->setCursorPosition(position); }
 
-void AccessibleLineEdit::removeSelection(int index) { qtsText()->removeSelection(index); }
+QString LineText::text(int start, int end) const { return m_qts->text(start, end); }
 
-void AccessibleLineEdit::setSelection(int index, int start, int end)
+QString LineText::textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary, int *start,
+                                   int *end) const
 {
-    qtsText()->setSelection(index, start, end);
+    return m_qts->textBeforeOffset(offset, boundary, start, end);
 }
 
-int AccessibleLineEdit::cursorPosition() const { return qtsText()->cursorPosition(); }
-
-void AccessibleLineEdit::setCursorPosition(int position) { qtsText()->setCursorPosition(position); }
-
-QString AccessibleLineEdit::text(int start, int end) const { return qtsText()->text(start, end); }
-
-QString AccessibleLineEdit::textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary,
-                                             int *start, int *end) const
+QString LineText::textAfterOffset(int offset, QAccessible::TextBoundaryType boundary, int *start,
+                                  int *end) const
 {
-    return qtsText()->textBeforeOffset(offset, boundary, start, end);
+    return m_qts->textAfterOffset(offset, boundary, start, end);
 }
 
-QString AccessibleLineEdit::textAfterOffset(int offset, QAccessible::TextBoundaryType boundary,
-                                            int *start, int *end) const
-{
-    return qtsText()->textAfterOffset(offset, boundary, start, end);
-}
-
-QString AccessibleLineEdit::textAtOffset(int offset, QAccessible::TextBoundaryType boundary,
-                                         int *start, int *end) const
+QString LineText::textAtOffset(int offset, QAccessible::TextBoundaryType boundary, int *start,
+                               int *end) const
 {
     const int count = characterCount();
     const int wanted = offset == -2 ? cursorPosition() : offset;
     const bool isSearched = boundary == QAccessible::WordBoundary
             || boundary == QAccessible::SentenceBoundary;
     const bool isAtEnd = isSearched && count > 0 && (wanted == -1 || wanted == count);
-    return qtsText()->textAtOffset(isAtEnd ? count - 1 : offset, boundary, start, end);
+    return m_qts->textAtOffset(isAtEnd ? count - 1 : offset, boundary, start, end);
 }
 
-int AccessibleLineEdit::characterCount() const { return qtsText()->characterCount(); }
+int LineText::characterCount() const { return m_qts->characterCount(); }
 
-QRect AccessibleLineEdit::characterRect(int offset) const
+QRect LineText::characterRect(int offset) const { return m_qts->characterRect(offset); }
+
+int LineText::offsetAtPoint(const QPoint &point) const { return m_qts->offsetAtPoint(point); }
+
+void LineText::scrollToSubstring(int start, int end) { m_qts->scrollToSubstring(start, end); }
+
+QString LineText::attributes(int offset, int *start, int *end) const
 {
-    return qtsText()->characterRect(offset);
+    return m_qts->attributes(offset, start, end);
 }
 
-int AccessibleLineEdit::offsetAtPoint(const QPoint &point) const
+void *AccessibleLineEdit::interface_cast(QAccessible::InterfaceType type)
 {
-    return qtsText()->offsetAtPoint(point);
-}
-
-void AccessibleLineEdit::scrollToSubstring(int start, int end)
-{
-    qtsText()->scrollToSubstring(start, end);
-}
-
-QString AccessibleLineEdit::attributes(int offset, int *start, int *end) const
-{
-    return qtsText()->attributes(offset, start, end);
+    return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface *>(&m_text)
+                                              : AccessibleWidget::interface_cast(type);
 }

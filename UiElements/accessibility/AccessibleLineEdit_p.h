@@ -3,14 +3,13 @@
 
 #include "AccessibleWidget_p.h"
 
-/// What assistive technology is told of a line edit: what Qt tells, but for the last word or
-/// sentence, for which Qt 5.15 would search without an end.
-class AccessibleLineEdit : public AccessibleWidget, public QAccessibleTextInterface
+/// The text of a line edit as Qt tells it, but for the last word or sentence, for which Qt 5.15
+/// would search without an end.
+class LineText final : public QAccessibleTextInterface
 {
 public:
-    using AccessibleWidget::AccessibleWidget;
-
-    void *interface_cast(QAccessible::InterfaceType type) override;
+    /// Asks \a qts, which has to outlive this.
+    explicit LineText(QAccessibleTextInterface *qts) : m_qts(qts) { }
 
     void selection(int index, int *start, int *end) const override;
     int selectionCount() const override;
@@ -19,7 +18,6 @@ public:
     void setSelection(int index, int start, int end) override;
     int cursorPosition() const override;
     void setCursorPosition(int position) override;
-    using AccessibleWidget::text;
     QString text(int start, int end) const override;
     QString textBeforeOffset(int offset, QAccessible::TextBoundaryType boundary, int *start,
                              int *end) const override;
@@ -37,5 +35,20 @@ public:
     QString attributes(int offset, int *start, int *end) const override;
 
 private:
-    QAccessibleTextInterface *qtsText() const { return qts()->textInterface(); }
+    QAccessibleTextInterface *const m_qts;
+};
+
+/// What assistive technology is told of a line edit.
+class AccessibleLineEdit : public AccessibleWidget
+{
+public:
+    AccessibleLineEdit(QWidget *widget, QAccessibleInterface *qts)
+        : AccessibleWidget(widget, qts), m_text(qts->textInterface())
+    {
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override;
+
+private:
+    LineText m_text;
 };
