@@ -4,7 +4,7 @@
 #include <UiElements/app/ApplicationObject_p.h>
 #include <UiElements/app/OxaApplication.h>
 
-#include <QPixmap>
+#include <QPixmapCache>
 
 QString AppUtils::getAppSvgIconPath()
 {
@@ -23,8 +23,14 @@ QIcon AppUtils::getDialogIcon(bool transparent)
     if (!transparent)
         return QIcon(getAppPngIconPath());
 
-    QPixmap pixmap(32, 32);
-    pixmap.fill(Qt::transparent);
+    // One for all: Qt keeps the pixmap of each other icon that it has drawn.
+    static const QString key = QStringLiteral("UiElements::transparentIcon");
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = QPixmap(32, 32);
+        pixmap.fill(Qt::transparent);
+        QPixmapCache::insert(key, pixmap);
+    }
     return QIcon(pixmap);
 }
 

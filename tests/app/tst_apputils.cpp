@@ -36,6 +36,9 @@ void tst_AppUtils::makesATransparentDialogIcon()
     QImage expected(32, 32, QImage::Format_ARGB32_Premultiplied);
     expected.fill(Qt::transparent);
     QCOMPARE(icon.pixmap(32, 32).toImage().convertToFormat(expected.format()), expected);
+    // Qt keeps each pixmap that it has drawn: a client opens dialogs all day.
+    QCOMPARE(AppUtils::getDialogIcon(true).pixmap(32, 32).cacheKey(),
+             icon.pixmap(32, 32).cacheKey());
 }
 
 void tst_AppUtils::makesNoDialogIconWithoutALogo()
