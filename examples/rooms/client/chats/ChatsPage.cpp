@@ -7,7 +7,6 @@
 #include "data/ConversationModel.h"
 #include "shell/Looks.h"
 
-#include <QPaintEvent>
 #include <QPainter>
 
 ChatsPage::ChatsPage(Backend *backend, PersonCards *cards, QWidget *parent)
@@ -48,7 +47,7 @@ const QString &ChatsPage::conversation() const { return m_view->conversation(); 
 void ChatsPage::focusSearch() { m_list->focusSearch(); }
 
 /// What is seen between the two sides: a style sheet for the handle would be one for both of them.
-void ChatsPage::paintEvent(QPaintEvent *event)
+void ChatsPage::paintEvent(QPaintEvent *)
 {
-    QPainter(this).fillRect(event->rect(), Looks::color("divider"));
+    QPainter(this).fillRect(handle(1)->geometry(), Looks::color("divider"));
 }
