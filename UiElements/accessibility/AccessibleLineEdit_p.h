@@ -7,6 +7,8 @@
 /// would search without an end.
 class LineText final : public QAccessibleTextInterface
 {
+    Q_DISABLE_COPY_MOVE(LineText)
+
 public:
     /// Asks \a qts, which has to outlive this.
     explicit LineText(QAccessibleTextInterface *qts) : m_qts(qts) { }
