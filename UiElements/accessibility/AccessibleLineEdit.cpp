@@ -61,6 +61,7 @@ QString LineText::attributes(int offset, int *start, int *end) const
 
 void *AccessibleLineEdit::interface_cast(QAccessible::InterfaceType type)
 {
-    return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface *>(&m_text)
-                                              : AccessibleWidget::interface_cast(type);
+    void *const qts = AccessibleWidget::interface_cast(type); // A client's own may have no text.
+    const bool isText = qts && type == QAccessible::TextInterface;
+    return isText ? static_cast<QAccessibleTextInterface *>(&m_text) : qts;
 }

@@ -227,7 +227,7 @@ private Q_SLOTS:
         while (row(known).data(Role::PersonRole).toString().isEmpty())
             ++known;
         const QRect place = list()->visualRect(row(known));
-        for (const QPoint offset : { QPoint(32, 0), QPoint(80, -8) })
+        for (const QPoint offset : { QPoint(32, 0), QPoint(36, 2), QPoint(80, -8) })
             QVERIFY(showsACard(list()->viewport(),
                                QPoint(place.left(), place.center().y()) + offset));
         QVERIFY(open("Sailing 2"));

@@ -184,6 +184,8 @@ bool ConversationList::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::MouseMove)
         pointAt(static_cast<const QMouseEvent *>(event)->pos());
+    else if (event->type() == QEvent::Leave)
+        m_pointedAt = QRect();
     else if (event->type() == QEvent::MouseButtonPress)
         m_cards->closeCard(); // It would take the keys from the conversation that opens.
     return Backdrop::eventFilter(watched, event);
